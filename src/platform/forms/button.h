@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string_view>
+
+#include "platform/forms/control.h"
+
+namespace awizo {
+
+/// A button with a caption ("&" before the mnemonic letter). Takes the focus when clicked.
+class Button : public Control {
+ public:
+  Button(Form& form, std::string name, std::string_view caption = "")
+      : Button(form, std::move(name), ControlKind::button, caption) {}
+
+  const std::string& caption() const { return caption_; }
+  void setCaption(std::string_view caption);
+
+  Event onClick;
+  Event onDoubleClick;
+  /// On a button whose double click is an event of its own, the double click raises no Click.
+  bool doubleClickAlone = false;
+
+  /// Takes the focus (a picture button doesn't), then raises Click.
+  void userClick();
+  /// Raises Click without moving the focus, as Enter, Escape and menu keys do.
+  void userPress();
+  /// Click first, then the double click, unless the latter stands alone.
+  void userDoubleClick();
+
+ protected:
+  Button(Form& form, std::string name, ControlKind kind, std::string_view caption)
+      : Control(form, std::move(name), kind), caption_(caption) {}
+
+ private:
+  std::string caption_;
+};
+
+/// A picture that serves as a button: it takes no focus. The caption is its tip.
+class PictureButton : public Button {
+ public:
+  PictureButton(Form& form, std::string name, std::string_view tip = "")
+      : Button(form, std::move(name), ControlKind::pictureButton, tip) {}
+};
+
+}  // namespace awizo

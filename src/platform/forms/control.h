@@ -1,0 +1,126 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+namespace awizo {
+
+class Form;
+
+/// What a user can't do now: the control is hidden or disabled, its form lies behind another or
+/// isn't shown, a box is open, the list has no such row. Nothing has changed.
+class Refused : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+enum class ControlKind {
+  label,
+  textField,
+  button,
+  pictureButton,
+  dropDownList,
+  datePicker,
+  timePicker,
+  spinButtons,
+  table,
+  driveList,
+  folderList,
+  fileList,
+  frame,
+};
+
+/// A place on a form, in twips.
+struct Place {
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+};
+
+/// What of a control has changed; the face of the control reads the new state from the model.
+enum class Aspect {
+  visible,
+  enabled,
+  place,
+  focus,      ///< the control got or lost the focus
+  content,    ///< text, caption, date, time, limits, path
+  rows,       ///< rows of a list or table came, went or changed
+  selection,  ///< index of a list; current cell or marked range of a table
+  cell,       ///< one cell's text or look (row and column given)
+  layout,     ///< widths and heights of a table
+  scroll,     ///< first row shown of a table
+  redraw,     ///< a table's redrawing went off or on
+};
+
+struct Change {
+  Aspect aspect;
+  int row = -1;
+  int column = -1;
+};
+
+/// An event procedure; empty when nobody handles the event.
+using Event = std::function<void()>;
+
+/// What every visible part has. Events are raised with raise(): an error that leaves the event
+/// procedure shows a critical box with its description under the title "VIRD" and ends the event.
+class Control {
+ public:
+  Control(Form& form, std::string name, ControlKind kind);
+  virtual ~Control() = default;
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  const std::string& name() const { return name_; }
+  ControlKind kind() const { return kind_; }
+  Form& form() const { return form_; }
+
+  bool visible() const { return visible_; }
+  void setVisible(bool visible);
+  bool enabled() const { return enabled_; }
+  void setEnabled(bool enabled);
+  /// The place that the logic has set, or none where the layout is the host's.
+  const std::optional<Place>& place() const { return place_; }
+  void move(const Place& place);
+
+  bool hasFocus() const;
+  /// Whether the kind can have the focus at all; labels, frames and pictures can't.
+  bool isFocusable() const;
+  /// A focus call by code: no validation; the left control's LostFocus, then GotFocus. Does
+  /// nothing where the control can't take it (hidden, disabled, form not shown).
+  void setFocus();
+
+  Event onGotFocus;
+  Event onLostFocus;
+  Event onValidate;
+
+  /// The user moves the focus here, by Tab or a click: Validate and LostFocus of the left control
+  /// first, then GotFocus. Refused where the user can't act on the control.
+  void userFocus();
+  /// Throws Refused, with a text for people, when the user can't act on the control now.
+  void requireUser() const;
+
+  /// Called after every change of the model. At most one; a host sets it.
+  std::function<void(const Change&)> observer;
+
+  void raise(const Event& event);
+
+ protected:
+  void changed(Aspect aspect, int row = -1, int column = -1) {
+    if (observer) observer({aspect, row, column});
+  }
+
+ private:
+  friend class Form;
+
+  Form& form_;
+  std::string name_;
+  ControlKind kind_;
+  bool visible_ = true;
+  bool enabled_ = true;
+  std::optional<Place> place_;
+};
+
+}  // namespace awizo

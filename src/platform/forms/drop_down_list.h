@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "platform/forms/control.h"
+
+namespace awizo {
+
+enum class ListStyle {
+  freeTyping,     ///< any text may be typed or set
+  listOnly,       ///< a row is picked, nothing is typed
+  matchRequired,  ///< typed, but the field can't be left with a text that is no row
+};
+
+/// A drop-down list with a text of its own. The text's value decides about Change: it is raised
+/// when the text really changes, by user or code, never for an equal text.
+class DropDownList : public Control {
+ public:
+  DropDownList(Form& form, std::string name, std::string_view caption = "",
+               ListStyle style = ListStyle::freeTyping);
+
+  const std::string& caption() const { return caption_; }
+  ListStyle style() const { return style_; }
+  void setStyle(ListStyle style);
+
+  const std::vector<std::string>& rows() const { return rows_; }
+  int count() const { return static_cast<int>(rows_.size()); }
+  /// Raises nothing and selects nothing.
+  void addRow(std::string_view text);
+  void setRows(std::vector<std::string> rows);
+  /// Removes all rows and empties the text.
+  void clear();
+
+  const std::string& text() const { return text_; }
+  int index() const { return index_; }
+  /// By code. The first row of exactly this text becomes the index; without one the index is -1
+  /// and the text stays, where the list allows typing; else error 380 (the empty text always
+  /// selects nothing). Raises Change if the text differs.
+  void setText(std::string_view text);
+  /// By code. Out of range is error 380. An index of 0 or more takes the row's text, raises Change
+  /// if the text differs, then Click. -1 empties the text unless the index was -1 already.
+  void setIndex(int index);
+  /// No row and no text, whatever stood there; raises Change if the text differs.
+  void clearSelection();
+
+  Event onChange;
+  Event onClick;
+  std::function<void(std::int16_t& code)> onKeyPress;
+
+  /// The user puts the focus here and replaces the text by typing. Refused by a list-only list.
+  void userType(std::string_view text);
+  /// The user puts the focus here and picks a row: Change if the text differs, then Click. -1
+  /// picks none.
+  void userChoose(int row);
+  void userKey(std::int16_t code, bool shift = false);
+
+  /// Whether the user may leave the list: false when a match is required and missing.
+  bool mayBeLeft() const;
+
+ private:
+  int find(std::string_view text) const;
+  void become(int index, std::string_view text);
+
+  std::string caption_;
+  ListStyle style_;
+  std::vector<std::string> rows_;
+  std::string text_;
+  int index_ = -1;
+};
+
+}  // namespace awizo

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/files.h"
+#include "platform/forms/control.h"
+
+namespace awizo {
+
+/// A list of the machine's drives, one of which is chosen.
+class DriveList : public Control {
+ public:
+  DriveList(Form& form, std::string name, Files& files)
+      : Control(form, std::move(name), ControlKind::driveList), files_(files) {}
+
+  std::vector<std::string> rows() const { return files_.drives(); }
+  /// "c:", with whatever was behind it when it was set.
+  const std::string& drive() const { return drive_; }
+  /// By code; a drive that isn't there is error 68. Raises Change if it differs.
+  void setDrive(std::string_view drive);
+
+  Event onChange;
+
+  void userChoose(std::string_view drive);
+
+ private:
+  Files& files_;
+  std::string drive_;
+};
+
+/// A list of the folders in one folder.
+class FolderList : public Control {
+ public:
+  FolderList(Form& form, std::string name, Files& files)
+      : Control(form, std::move(name), ControlKind::folderList), files_(files) {}
+
+  /// No backslash at the end, except a root.
+  const std::string& path() const { return path_; }
+  /// By code; a folder that isn't there is error 76. Raises Change if it differs.
+  void setPath(std::string_view path);
+  /// Names of the folders in it; read anew at each call.
+  std::vector<std::string> rows() const;
+
+  Event onChange;
+
+  /// The user opens a folder by its whole path.
+  void userOpen(std::string_view path);
+
+ private:
+  Files& files_;
+  std::string path_;
+};
+
+/// A list of the files in a folder that fit a pattern; at most one is selected.
+class FileList : public Control {
+ public:
+  FileList(Form& form, std::string name, Files& files, std::string_view ending)
+      : Control(form, std::move(name), ControlKind::fileList), files_(files), ending_(ending) {}
+
+  const std::string& path() const { return path_; }
+  /// By code; error 76 for a folder that isn't there. Selects nothing.
+  void setPath(std::string_view path);
+  const std::vector<std::string>& rows() const { return rows_; }
+  int index() const { return index_; }
+  /// The selected file's name without a path, empty when nothing is selected.
+  std::string fileName() const;
+  /// Reads the folder anew; the selected name stays selected if it is still there.
+  void refresh();
+
+  Event onClick;
+  Event onDoubleClick;
+
+  void userChoose(int row);
+  /// Double-clicks the selected row.
+  void userDoubleClick();
+
+ private:
+  void read();
+
+  Files& files_;
+  std::string ending_;
+  std::string path_;
+  std::vector<std::string> rows_;
+  int index_ = -1;
+};
+
+}  // namespace awizo

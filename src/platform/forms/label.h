@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string_view>
+
+#include "platform/forms/control.h"
+
+namespace awizo {
+
+/// A text that the user can't change. Value labels are set by code, others keep their caption.
+class Label : public Control {
+ public:
+  Label(Form& form, std::string name, std::string_view caption = "")
+      : Control(form, std::move(name), ControlKind::label), caption_(caption) {}
+
+  const std::string& caption() const { return caption_; }
+  void setCaption(std::string_view caption);
+
+ private:
+  std::string caption_;
+};
+
+/// A frame with a heading around other controls.
+class Frame : public Control {
+ public:
+  Frame(Form& form, std::string name, std::string_view caption = "")
+      : Control(form, std::move(name), ControlKind::frame), caption_(caption) {}
+
+  const std::string& caption() const { return caption_; }
+
+ private:
+  std::string caption_;
+};
+
+}  // namespace awizo

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "platform/forms/control.h"
+
+namespace awizo {
+
+enum class Alignment { left, centre, right };
+
+/// A one-line text field.
+class TextField : public Control {
+ public:
+  /// `limit`: most characters that the field takes, 0 for no limit.
+  TextField(Form& form, std::string name, std::string_view caption = "", int limit = 0,
+            Alignment alignment = Alignment::left)
+      : Control(form, std::move(name), ControlKind::textField),
+        caption_(caption),
+        limit_(limit),
+        alignment_(alignment) {}
+
+  /// The caption that stands beside the field.
+  const std::string& caption() const { return caption_; }
+  const std::string& text() const { return text_; }
+  /// By code: a longer text is cut to the limit; raises Change if the text differs.
+  void setText(std::string_view text);
+  int limit() const { return limit_; }
+  Alignment alignment() const { return alignment_; }
+  /// Place of the caret, in characters; past the end means at the end.
+  int caret() const { return caret_; }
+  void setCaret(int caret);
+  /// A mark that the form's designer set; "Mandatory" for a required field.
+  std::string tag;
+
+  Event onChange;
+  /// Key codes as the platform numbers them: 13 Enter, 27 Escape, 38 Up, 40 Down.
+  std::function<void(std::int16_t code, bool shift)> onKeyDown;
+  /// May change the character code; 0 swallows the key.
+  std::function<void(std::int16_t& code)> onKeyPress;
+
+  /// The user puts the focus here and replaces the whole text: one change. Line breaks and other
+  /// control characters don't enter the one-line field.
+  void userType(std::string_view text);
+  /// The user presses a key in the field (it takes the focus if it hasn't it): KeyDown, then, for
+  /// a key that stands for a character (Enter included), KeyPress.
+  void userKey(std::int16_t code, bool shift = false);
+
+ private:
+  void assign(std::string_view text);
+
+  std::string caption_;
+  int limit_;
+  Alignment alignment_;
+  std::string text_;
+  int caret_ = 0;
+};
+
+}  // namespace awizo

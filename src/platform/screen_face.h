@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+
+namespace awizo {
+
+class Form;
+
+enum class BoxIcon { none, critical, question, exclamation, information };
+enum class BoxButtons { ok, yesNo };
+enum class Answer { ok, yes, no };
+
+/// A message box. Its text may hold line breaks: carriage return and line feed, or the first alone.
+struct MessageBox {
+  std::string text;
+  std::string title;
+  BoxIcon icon = BoxIcon::none;
+  BoxButtons buttons = BoxButtons::ok;
+};
+
+/// A mouse cursor's handle.
+enum class Cursor { normal, wait };
+
+/// What a host does to show forms, boxes and the cursor. The calls that wait return when the user
+/// is done, and may run other events meanwhile.
+class ScreenFace {
+ public:
+  virtual ~ScreenFace() = default;
+  virtual Answer ask(const MessageBox& box) = 0;
+  /// Shows the form and returns when it has hidden.
+  virtual void runModal(Form& form) = 0;
+  virtual void cursorChanged(Cursor cursor) = 0;
+  /// Lets events that wait run, without waiting for new ones.
+  virtual void letEventsRun() = 0;
+  /// Ends the whole program.
+  virtual void endProgram() = 0;
+};
+
+}  // namespace awizo
