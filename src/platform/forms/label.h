@@ -9,14 +9,17 @@ namespace awizo {
 /// A text that the user can't change. Value labels are set by code, others keep their caption.
 class Label : public Control {
  public:
-  Label(Form& form, std::string name, std::string_view caption = "")
-      : Control(form, std::move(name), ControlKind::label), caption_(caption) {}
+  /// `heading`: the fixed words that stand before a value label.
+  Label(Form& form, std::string name, std::string_view caption = "", std::string_view heading = "")
+      : Control(form, std::move(name), ControlKind::label), caption_(caption), heading_(heading) {}
 
   const std::string& caption() const { return caption_; }
+  const std::string& heading() const { return heading_; }
   void setCaption(std::string_view caption);
 
  private:
   std::string caption_;
+  std::string heading_;
 };
 
 /// A frame with a heading around other controls.
