@@ -1,0 +1,124 @@
+#include "linedialog/dlg_iso_codes.h"
+
+#include "linedialog/iso_countries.h"
+#include "platform/narrow.h"
+#include "platform/text.h"
+
+namespace awizo {
+namespace {
+
+constexpr std::int16_t shiftKey = 16;
+constexpr int rowCount = 237;
+
+}  // namespace
+
+DlgIsoCodes::DlgIsoCodes(Screen& screen, SessionState& session)
+    : Form(screen, "DlgIsoCodes"),
+      grdISO(*this, "grdISO", 2, rowCount),
+      btnAccept(*this, "btnAccept", "&Добавить"),
+      btnCancel(*this, "btnCancel", "&Назад"),
+      session_(session) {
+  setCaption("ISO коды стран.");
+  acceptButton = &btnAccept;
+  closeButton = &btnCancel;
+  onClose = [this] { btnCancel_Click(); };
+  btnAccept.onClick = [this] { btnAccept_Click(); };
+  btnCancel.onClick = [this] { btnCancel_Click(); };
+  grdISO.onKeyDown = [this](std::int16_t code, bool shift) {
+    if (shift || code == shiftKey) hold(ShiftHeld);
+  };
+  grdISO.onKeyUp = [this](std::int16_t, bool) { release(ShiftHeld); };
+  grdISO.onMouseDown = [this] { hold(MouseHeld); };
+  grdISO.onMouseUp = [this] { release(MouseHeld); };
+  grdISO.onSelectionChange = [this] { keepOneRow(); };
+}
+
+DlgIsoCodes& DlgIsoCodes::touch() {
+  if (!loaded_) {
+    loaded_ = true;
+    Form_Load();
+  }
+  return *this;
+}
+
+void DlgIsoCodes::Form_Load() {
+  session_.IsoResult.clear();
+  grdISO.selectsRows = true;
+  grdISO.setColumnWidth(0, 3000);
+  grdISO.setColumnAlignment(1, Alignment::centre);
+  grdISO.setCell(0, "Название");
+  grdISO.setCell(1, "код ISO");
+  for (int column = 0; column < grdISO.columns(); ++column) {
+    CellLook look = grdISO.look(0, column);
+    look.bold = true;
+    grdISO.setLook(0, column, look);
+  }
+  int index = firstCode;
+  for (const IsoCountry& country : isoCountries()) {
+    grdISO.setCell(index - 1, country.name);
+    grdISO.setCell(index, country.code);
+    index += 2;
+  }
+}
+
+void DlgIsoCodes::btnAccept_Click() {
+  session_.IsoResult.clear();
+  PickedIndex = narrow16(grdISO.row() * 2 + 1);
+  const std::string code = replaceAll(grdISO.cell(PickedIndex), " ", "");
+  session_.IsoResult = countryEntry(code, grdISO.cell(PickedIndex - 1));
+  hide();
+}
+
+void DlgIsoCodes::btnCancel_Click() { hide(); }
+
+void DlgIsoCodes::hold(bool& mark) {
+  grdISO.setRedraw(false);
+  mark = true;
+}
+
+void DlgIsoCodes::release(bool& mark) {
+  grdISO.setRedraw(true);
+  mark = false;
+}
+
+// A range marked over several rows falls back to the whole of the current one.
+void DlgIsoCodes::keepOneRow() {
+  if (!ShiftHeld && !MouseHeld) return;
+  grdISO.setColumn(0);
+  grdISO.setRowSel(grdISO.row());
+  grdISO.setColumnSel(grdISO.columns() - 1);
+}
+
+void CheckIsoCountry(SessionState& session, DlgIsoCodes& dialog, const Locale& locale,
+                     std::string& text) {
+  session.IsoCheckOk = false;
+  text = locale.upper(text);
+  if (text.empty()) {
+    session.IsoCheckOk = true;
+    session.IsoCheckCode.clear();
+    return;
+  }
+  std::string code = text;
+  if (countCharacters(text) > 2) {
+    code = firstCharacters(text, 4);
+    if (countCharacters(code) == 4) code = replaceAll(replaceAll(code, "(", ""), ")", "");
+  }
+  if (countCharacters(code) != 2) return;
+  const Table& table = dialog.touch().grdISO;
+  for (int index = DlgIsoCodes::firstCode; index <= DlgIsoCodes::lastCode; index += 2) {
+    if (replaceAll(table.cell(index), " ", "") != code) continue;
+    session.IsoCheckOk = true;
+    session.IsoCheckCode = code;
+    return;
+  }
+}
+
+std::string countryEntry(std::string_view code, std::string_view name) {
+  std::string entry = "(";
+  entry += code;
+  entry += ")";
+  entry += name;
+  return entry;
+}
+
+}  // namespace awizo

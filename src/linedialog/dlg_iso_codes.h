@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/forms/button.h"
+#include "platform/forms/form.h"
+#include "platform/forms/table.h"
+#include "platform/locale.h"
+#include "session/record/session_state.h"
+
+namespace awizo {
+
+/// The modal list of all countries. Its table is also what a typed country is checked against.
+class DlgIsoCodes : public Form {
+ public:
+  DlgIsoCodes(Screen& screen, SessionState& session);
+
+  Table grdISO;
+  Button btnAccept, btnCancel;
+
+  /// Runs Form_Load at the first call: every reader of the table goes through here.
+  DlgIsoCodes& touch();
+  bool loaded() const { return loaded_; }
+
+  /// Flat indexes of the codes in grdISO: the odd cells from the first to the last, the country's
+  /// name in the cell before each.
+  static constexpr int firstCode = 3;
+  static constexpr int lastCode = 473;
+
+  std::int16_t PickedIndex = 0;  ///< flat index of the code picked last
+  bool ShiftHeld = false;
+  bool MouseHeld = false;
+
+ private:
+  void Form_Load();
+  void btnAccept_Click();
+  void btnCancel_Click();
+  void hold(bool& mark);
+  void release(bool& mark);
+  void keepOneRow();
+
+  SessionState& session_;
+  bool loaded_ = false;
+};
+
+/// Checks a typed country against the table. `text` becomes upper case; IsoCheckOk and
+/// IsoCheckCode of the session hold the outcome. The empty text is a right country without code.
+void CheckIsoCountry(SessionState& session, DlgIsoCodes& dialog, const Locale& locale,
+                     std::string& text);
+
+/// "(RU)Россия": a country as the lists of countries show it.
+std::string countryEntry(std::string_view code, std::string_view name);
+
+}  // namespace awizo
