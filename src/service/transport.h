@@ -1,0 +1,23 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/xml.h"
+#include "session/record/editor.h"
+
+namespace awizo {
+
+/// The text of the first node that the path selects from `node`. Where there is none, or anything
+/// fails (a node that is none, an invalid path), the answer is the empty text if `blankOnMissing`,
+/// else "-1". A node that is there and empty gives the empty text either way. Raises nothing.
+std::string GetNodeValue(const XmlNode& node, std::string_view xpath, bool blankOnMissing);
+
+/// Posts the document to the service under the session's cookie and returns the reply, parsed. An
+/// empty document means that no reply could be parsed; an HTTP status is not looked at. Each step
+/// that fails shows a critical box, and the next step runs all the same. Raises nothing.
+std::unique_ptr<XmlDocument> SendXMLDOMRequest(Editor& editor, std::string_view url,
+                                               XmlDocument& request);
+
+}  // namespace awizo
