@@ -1,0 +1,82 @@
+#include "platform/text.h"
+
+#include <algorithm>
+
+namespace awizo {
+namespace {
+
+bool startsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
+
+}  // namespace
+
+std::size_t countCharacters(std::string_view text) {
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), startsCharacter));
+}
+
+std::string_view firstCharacters(std::string_view text, std::size_t count) {
+  std::size_t seen = 0;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (startsCharacter(text[at]) && seen++ == count) return text.substr(0, at);
+  }
+  return text;
+}
+
+std::string_view lastCharacters(std::string_view text, std::size_t count) {
+  const std::size_t all = countCharacters(text);
+  if (all <= count) return text;
+  return text.substr(firstCharacters(text, all - count).size());
+}
+
+std::string_view trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::vector<std::string> split(std::string_view text, std::string_view separator) {
+  std::vector<std::string> pieces;
+  if (text.empty()) return pieces;
+  std::size_t from = 0;
+  while (true) {
+    const std::size_t to = text.find(separator, from);
+    pieces.emplace_back(text.substr(from, to - from));
+    if (to == std::string_view::npos) return pieces;
+    from = to + separator.size();
+  }
+}
+
+std::string join(const std::vector<std::string>& pieces, std::string_view separator) {
+  std::string joined;
+  for (std::size_t i = 0; i < pieces.size(); ++i) {
+    if (i > 0) joined += separator;
+    joined += pieces[i];
+  }
+  return joined;
+}
+
+std::string replaceAll(std::string_view text, std::string_view from, std::string_view to) {
+  std::string replaced;
+  if (from.empty()) return std::string(text);
+  std::size_t start = 0;
+  while (true) {
+    const std::size_t found = text.find(from, start);
+    replaced += text.substr(start, found - start);
+    if (found == std::string_view::npos) return replaced;
+    replaced += to;
+    start = found + from.size();
+  }
+}
+
+std::string characterText(char32_t codePoint) {
+  const auto tail = [&](unsigned shift) {
+    return static_cast<char>(0x80U | ((codePoint >> shift) & 0x3FU));
+  };
+  if (codePoint < 0x80) return {static_cast<char>(codePoint)};
+  if (codePoint < 0x800) return {static_cast<char>(0xC0U | (codePoint >> 6)), tail(0)};
+  if (codePoint < 0x10000) {
+    return {static_cast<char>(0xE0U | (codePoint >> 12)), tail(6), tail(0)};
+  }
+  return {static_cast<char>(0xF0U | (codePoint >> 18)), tail(12), tail(6), tail(0)};
+}
+
+}  // namespace awizo

@@ -1,0 +1,60 @@
+#include "platform/text.h"
+
+namespace awizo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(Text, LengthsCountCharactersNotBytes) {
+  EXPECT_EQ(countCharacters(""), 0U);
+  EXPECT_EQ(countCharacters("abc"), 3U);
+  EXPECT_EQ(countCharacters("Штукa"), 5U);
+  EXPECT_EQ(countCharacters("№€𝄞"), 3U);
+}
+
+TEST(Text, FirstAndLastCharactersNeverCutACharacterInTwo) {
+  EXPECT_EQ(firstCharacters("Паллета", 3), "Пал");
+  EXPECT_EQ(firstCharacters("Паллета", 0), "");
+  EXPECT_EQ(firstCharacters("Паллета", 7), "Паллета");
+  EXPECT_EQ(firstCharacters("Паллета", 99), "Паллета");
+  EXPECT_EQ(lastCharacters("Паллета", 2), "та");
+  EXPECT_EQ(lastCharacters("Паллета", 0), "");
+  EXPECT_EQ(lastCharacters("Паллета", 99), "Паллета");
+}
+
+TEST(Text, OnlyBlanksAreTrimmed) {
+  EXPECT_EQ(trimmed("  a b  "), "a b");
+  EXPECT_EQ(trimmed("   "), "");
+  EXPECT_EQ(trimmed(""), "");
+  EXPECT_EQ(trimmed("\ta\u00A0"), "\ta\u00A0");
+}
+
+TEST(Text, SplittingTheEmptyTextGivesNoPieces) {
+  EXPECT_THAT(split("", "$"), IsEmpty());
+  EXPECT_THAT(split("$", "$"), ElementsAre("", ""));
+  EXPECT_THAT(split("a$$b$", "$"), ElementsAre("a", "", "b", ""));
+  EXPECT_THAT(split("a\r\nb\r", "\r\n"), ElementsAre("a", "b\r"));
+}
+
+TEST(Text, JoinPutsTheSeparatorBetweenPieces) {
+  EXPECT_EQ(join({}, "@"), "");
+  EXPECT_EQ(join({"2", "", "1"}, "@"), "2@@1");
+}
+
+TEST(Text, ReplaceAllDoesNotLookAtWhatItHasWritten) {
+  EXPECT_EQ(replaceAll("a/b/c", "/", "_"), "a_b_c");
+  EXPECT_EQ(replaceAll("aa", "a", "aa"), "aaaa");
+  EXPECT_EQ(replaceAll("aaa", "aa", ""), "a");
+  EXPECT_EQ(replaceAll("abc", "", "x"), "abc");
+}
+
+TEST(Text, CharacterTextWritesEveryLengthOfUtf8) {
+  EXPECT_EQ(characterText(U'a'), "a");
+  EXPECT_EQ(characterText(U'Ж'), "Ж");
+  EXPECT_EQ(characterText(U'€'), "€");
+  EXPECT_EQ(characterText(U'𝄞'), "𝄞");
+}
+
+}  // namespace
+}  // namespace awizo
