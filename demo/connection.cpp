@@ -1,0 +1,71 @@
+#include "demo/connection.h"
+
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace awizo::demo {
+
+ssize_t Connection::read(char* target, size_t size) {
+  if (bufferStart_ == bufferEnd_) {
+    const ssize_t count = ::recv(socket_, buffer_.data(), buffer_.size(), 0);
+    if (count <= 0) return count;
+    bufferStart_ = 0;
+    bufferEnd_ = static_cast<size_t>(count);
+  }
+  const size_t count = std::min(size, bufferEnd_ - bufferStart_);
+  std::memcpy(target, buffer_.data() + bufferStart_, count);
+  bufferStart_ += count;
+  return static_cast<ssize_t>(count);
+}
+
+ssize_t Connection::write(const char* data, size_t size) {
+  if (!begun_) {
+    begun_ = true;
+    const std::string noReply = "HTTP/1.1 " + std::to_string(statusOfNoReply) + " ";
+    silent_ = std::string_view(data, size).starts_with(noReply);
+  }
+  if (silent_) return static_cast<ssize_t>(size);
+  return ::send(socket_, data, size, MSG_NOSIGNAL);
+}
+
+void Connection::get_remote_ip_and_port(std::string& address, int& port) const {
+  address = "127.0.0.1";
+  port = 0;
+}
+
+void Connection::get_local_ip_and_port(std::string& address, int& port) const {
+  get_remote_ip_and_port(address, port);
+}
+
+bool OneShotServer::process_and_close_socket(socket_t socket) {
+  {
+    const std::lock_guard lock(mutex_);
+    open_.insert(socket);
+    if (ended_) ::shutdown(socket, SHUT_RDWR);
+  }
+  // Head and body of a reply are written apart; the second must not wait for the client's receipt.
+  const int on = 1;
+  ::setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+  Connection connection(socket);
+  bool connectionClosed = false;
+  const bool done = process_request(connection, true, connectionClosed, nullptr);
+  const std::lock_guard lock(mutex_);
+  open_.erase(socket);
+  ::shutdown(socket, SHUT_RDWR);
+  ::close(socket);
+  return done;
+}
+
+void OneShotServer::endAll() {
+  stop();
+  const std::lock_guard lock(mutex_);
+  ended_ = true;
+  for (const socket_t socket : open_) ::shutdown(socket, SHUT_RDWR);
+}
+
+}  // namespace awizo::demo
