@@ -1,0 +1,53 @@
+#pragma once
+
+#include <unordered_set>
+
+#include "adapters/libxml2/handles.h"
+#include "adapters/libxml2/loading.h"
+#include "adapters/libxml2/selecting.h"
+#include "adapters/libxml2/writing.h"
+#include "platform/xml.h"
+
+namespace awizo::libxml2 {
+
+/// One document; the handle of a node is libxml2's node.
+class Document final : public XmlDocument {
+ public:
+  Document();
+  ~Document() override;
+  Document(const Document&) = delete;
+  Document& operator=(const Document&) = delete;
+
+  bool loadText(std::string_view text) override;
+  bool loadBytes(std::string_view bytes) override;
+  std::string fileBytes() const override;
+
+  XmlNode node() override;
+  XmlNode root() override;
+  XmlNode createElement(std::string_view name) override;
+  void keepOnly(const XmlNode& element) override;
+
+  std::string nameOf(void* node) const override;
+  std::string textOf(void* node) const override;
+  void setTextOf(void* node, std::string_view text) override;
+  std::string xmlOf(void* node) const override;
+  void* firstChildOf(void* node) const override;
+  void* nextSiblingOf(void* node) const override;
+  void* selectSingleOf(void* node, std::string_view path) const override;
+  std::vector<void*> selectAllOf(void* node, std::string_view path) const override;
+  void appendTo(void* parent, const XmlNode& child) override;
+
+ private:
+  bool load(std::string_view bytes, Decoding decoding);
+  /// Takes the document's place; none stands for an empty one.
+  void take(Owned<xmlDoc> document, Declaration declaration);
+  void freeLoose();
+
+  Owned<xmlDoc> document_;
+  Declaration declaration_;
+  /// Elements that were created and not yet put anywhere.
+  std::unordered_set<xmlNode*> loose_;
+  mutable Selecting selecting_;
+};
+
+}  // namespace awizo::libxml2

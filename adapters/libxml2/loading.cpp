@@ -1,0 +1,180 @@
+#include "adapters/libxml2/loading.h"
+
+#include <libxml/SAX2.h>
+#include <libxml/encoding.h>
+#include <libxml/parserInternals.h>
+
+#include <limits>
+#include <string>
+#include <utility>
+
+#include "platform/run_time_error.h"
+
+namespace awizo::libxml2 {
+namespace {
+
+/// What one load knows beside libxml2's parser context; the context's `_private` points to it.
+struct Loading {
+  /// Blanks at the start of a text, held back until it is known whether more text follows. Blanks
+  /// that turn out to stand between two nodes are thus never made into a node.
+  std::string heldBlanks;
+  /// Entities bring in nodes behind the parser's back; the tree is then swept as a whole.
+  bool usesEntities = false;
+  bool refused = false;
+};
+
+xmlParserCtxt* contextOf(void* context) { return static_cast<xmlParserCtxt*>(context); }
+
+Loading& loadingOf(void* context) { return *static_cast<Loading*>(contextOf(context)->_private); }
+
+void writeHeldBlanks(void* context) {
+  std::string& held = loadingOf(context).heldBlanks;
+  if (held.empty()) return;
+  xmlSAX2Characters(context, bytesOf(held.data()), static_cast<int>(held.size()));
+  held.clear();
+}
+
+void onCharacters(void* context, const xmlChar* text, int length) {
+  Loading& loading = loadingOf(context);
+  if (!loading.usesEntities && isBlank(*text)) {
+    const std::string_view view(reinterpret_cast<const char*>(text),
+                                static_cast<std::size_t>(length));
+    const xmlNode* node = contextOf(context)->node;
+    const bool startsText = !node || !node->last || node->last->type != XML_TEXT_NODE;
+    if (startsText && isBlank(view)) {
+      loading.heldBlanks += view;
+      return;
+    }
+  }
+  writeHeldBlanks(context);
+  xmlSAX2Characters(context, text, length);
+}
+
+void onStartElement(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri,
+                    int namespaceCount, const xmlChar** namespaces, int attributeCount,
+                    int defaultedCount, const xmlChar** attributes) {
+  loadingOf(context).heldBlanks.clear();
+  xmlSAX2StartElementNs(context, name, prefix, uri, namespaceCount, namespaces, attributeCount,
+                        defaultedCount, attributes);
+}
+
+void onEndElement(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri) {
+  const xmlNode* node = contextOf(context)->node;
+  if (node && !node->children) writeHeldBlanks(context);
+  loadingOf(context).heldBlanks.clear();
+  xmlSAX2EndElementNs(context, name, prefix, uri);
+}
+
+void onComment(void* context, const xmlChar* text) {
+  loadingOf(context).heldBlanks.clear();
+  xmlSAX2Comment(context, text);
+}
+
+void onInstruction(void* context, const xmlChar* target, const xmlChar* data) {
+  loadingOf(context).heldBlanks.clear();
+  xmlSAX2ProcessingInstruction(context, target, data);
+}
+
+void onCData(void* context, const xmlChar* text, int length) {
+  loadingOf(context).heldBlanks.clear();
+  xmlSAX2CDataBlock(context, text, length);
+}
+
+/// Only what the document itself declares may be referred to.
+xmlEntity* admit(void* context, xmlEntity* entity) {
+  const bool inside = entity && (entity->etype == XML_INTERNAL_GENERAL_ENTITY ||
+                                 entity->etype == XML_INTERNAL_PARAMETER_ENTITY ||
+                                 entity->etype == XML_INTERNAL_PREDEFINED_ENTITY);
+  if (inside) return entity;
+  loadingOf(context).refused = true;
+  contextOf(context)->wellFormed = 0;
+  contextOf(context)->disableSAX = 1;
+  return nullptr;
+}
+
+xmlEntity* onGetEntity(void* context, const xmlChar* name) {
+  Loading& loading = loadingOf(context);
+  if (!loading.usesEntities) {
+    writeHeldBlanks(context);
+    loading.usesEntities = true;
+  }
+  return admit(context, xmlSAX2GetEntity(context, name));
+}
+
+xmlEntity* onGetParameterEntity(void* context, const xmlChar* name) {
+  return admit(context, xmlSAX2GetParameterEntity(context, name));
+}
+
+xmlParserInput* onResolveEntity(void*, const xmlChar*, const xmlChar*) { return nullptr; }
+
+void hook(xmlSAXHandler& events) {
+  events.characters = onCharacters;
+  events.ignorableWhitespace = onCharacters;
+  events.startElementNs = onStartElement;
+  events.endElementNs = onEndElement;
+  events.comment = onComment;
+  events.processingInstruction = onInstruction;
+  events.cdataBlock = onCData;
+  events.getEntity = onGetEntity;
+  events.getParameterEntity = onGetParameterEntity;
+  events.resolveEntity = onResolveEntity;
+  events.externalSubset = nullptr;
+}
+
+/// The next node in document order below `top`; children of declarations are not entered.
+xmlNode* nextBelow(xmlNode* node, const xmlNode* top) {
+  if (node->type == XML_ELEMENT_NODE && node->children) return node->children;
+  while (node != top && !node->next) node = node->parent;
+  return node == top ? nullptr : node->next;
+}
+
+void dropBlanks(xmlNode* top) {
+  for (xmlNode* node = top; node;) {
+    xmlNode* const following = nextBelow(node, top);
+    const bool alone = !node->prev && !node->next;
+    if (node->type == XML_TEXT_NODE && !alone && isBlank(viewOf(node->content))) {
+      xmlUnlinkNode(node);
+      xmlFreeNode(node);
+    }
+    node = following;
+  }
+}
+
+/// Text starting like another encoding than UTF-8 would be decoded as that.
+bool looksLikeUtf8(std::string_view text) {
+  if (text.size() < 4) return true;
+  const auto* start = reinterpret_cast<const unsigned char*>(text.data());
+  const xmlCharEncoding guess = xmlDetectCharEncoding(start, 4);
+  return guess == XML_CHAR_ENCODING_NONE || guess == XML_CHAR_ENCODING_UTF8;
+}
+
+Owned<xmlDoc> parseWellFormed(std::string_view bytes, int options) {
+  const Owned<xmlParserCtxt> context(xmlNewParserCtxt());
+  if (!context) throw errors::outOfMemory();
+  Loading loading;
+  context->_private = &loading;
+  hook(*context->sax);
+  Owned<xmlDoc> document(xmlCtxtReadMemory(
+      context.get(), bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr, options));
+  if (!document || loading.refused || !context->nsWellFormed) return nullptr;
+  xmlNode* root = xmlDocGetRootElement(document.get());
+  if (root && loading.usesEntities) dropBlanks(root);
+  return root ? std::move(document) : nullptr;
+}
+
+}  // namespace
+
+Parsed parse(std::string_view bytes, Decoding decoding) {
+  if (bytes.empty() || bytes.size() > std::numeric_limits<int>::max()) return {};
+  int options = XML_PARSE_NONET | XML_PARSE_NOENT | XML_PARSE_NOERROR | XML_PARSE_NOWARNING |
+                XML_PARSE_COMPACT;
+  if (decoding == Decoding::utf8) {
+    if (!looksLikeUtf8(bytes)) return {};
+    options |= XML_PARSE_IGNORE_ENC;
+  }
+  Owned<xmlDoc> document = parseWellFormed(bytes, options);
+  if (!document) return {};
+  return {std::move(document), declarationOf(bytes)};
+}
+
+}  // namespace awizo::libxml2

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string_view>
+
+#include "adapters/libxml2/declaration.h"
+#include "adapters/libxml2/handles.h"
+
+namespace awizo::libxml2 {
+
+enum class Decoding { utf8, byDeclaration };
+
+struct Parsed {
+  Owned<xmlDoc> document;  ///< none when the load failed
+  Declaration declaration;
+};
+
+/// Parses a document and drops the white space between its nodes. It fails when the bytes are
+/// not well-formed, pass libxml2's limits, or refer to anything outside themselves.
+Parsed parse(std::string_view bytes, Decoding decoding);
+
+}  // namespace awizo::libxml2
