@@ -98,7 +98,7 @@ void CheckIsoCountry(SessionState& session, DlgIsoCodes& dialog, const Locale& l
     session.IsoCheckCode.clear();
     return;
   }
-  std::string code = text;
+  std::string code(text);
   if (countCharacters(text) > 2) {
     code = firstCharacters(text, 4);
     if (countCharacters(code) == 4) code = replaceAll(replaceAll(code, "(", ""), ")", "");

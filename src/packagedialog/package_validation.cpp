@@ -32,7 +32,7 @@ bool DlgSzczegoly::checkTypeAndDescription() {
   if (cboxPackageType.index() < 0) {
     return refuse("В поле 'Тип упаковки' не указана величина", &cboxPackageType);
   }
-  const std::string description = trimmed(txtPackageDesc.text());
+  const std::string description(trimmed(txtPackageDesc.text()));
   if (description.empty()) {
     return refuse("В поле 'Описание упаковки' не указана величина", &txtPackageDesc);
   }
@@ -45,7 +45,7 @@ bool DlgSzczegoly::checkTypeAndDescription() {
 
 // The length is a lower bound only. A text of blanks passes: the second rule doesn't trim.
 bool DlgSzczegoly::checkDeliveryPlace() {
-  const std::string iln = trimmed(cboxILNLokalizacji.text());
+  const std::string_view iln = trimmed(cboxILNLokalizacji.text());
   if (!iln.empty() && (countCharacters(iln) < 13 || !editor_.conversions.isNumeric(iln))) {
     return refuse("Неправильно количество в поле 'ILN места доставки'", &cboxILNLokalizacji);
   }
@@ -92,7 +92,7 @@ bool DlgSzczegoly::refuse(std::string_view message, Control* focus) {
 }
 
 void DlgSzczegoly::measure_Validate(TextField& field) {
-  field.setText(editor_.conversions.NormalizeDecimal(trimmed(field.text()), 3));
+  field.setText(editor_.conversions.NormalizeDecimal(std::string(trimmed(field.text())), 3));
 }
 
 bool DlgSzczegoly::CheckMandatory(std::string_view caption, TextField& field) {

@@ -2,6 +2,8 @@
 
 #include "formats/row_check.h"
 #include "platform/forms/report_errors.h"
+#include "platform/narrow.h"
+#include "platform/text.h"
 #include "tables/columns.h"
 #include "tables/flat_index.h"
 #include "tables/totals.h"
@@ -43,7 +45,7 @@ void tidyQuantity(Editor& editor) {
 
 void EditGridCell(Table& grid, TextField& edit, std::int16_t key) {
   if (key < 0 || key > 32) {
-    edit.setText(characterOf(key));
+    edit.setText(characterText(static_cast<char32_t>(static_cast<std::uint16_t>(key))));
     edit.setCaret(1);
   } else {
     edit.setText(grid.text());

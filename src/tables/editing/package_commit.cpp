@@ -1,0 +1,197 @@
+#include "tables/editing/package_commit.h"
+
+#include "formats/row_check.h"
+#include "platform/forms/report_errors.h"
+#include "platform/narrow.h"
+#include "tables/columns.h"
+#include "tables/editing/in_table_editing.h"
+#include "tables/flat_index.h"
+
+namespace awizo {
+namespace {
+
+void closeOpenEdits(Editor& editor) {
+  grdOpakowania_LeaveCell(editor);
+  grdPozycje_LeaveCell(editor);
+  grdSuma_LeaveCell(editor);
+}
+
+const std::string& packageCell(const Editor& editor, std::int16_t row, std::int16_t column) {
+  return editor.form.grdOpakowania.cell(IndexGrdOpak(editor, row, column));
+}
+
+void setPackageCell(Editor& editor, std::int16_t row, std::int16_t column, std::string_view text) {
+  editor.form.grdOpakowania.setCell(IndexGrdOpak(editor, row, column), text);
+}
+
+void prepareForNew(Editor& editor, DlgSzczegoly& dialog) {
+  const std::int16_t last = editor.form.LastPackageSerial;
+  dialog.ParentSerial.clear();
+  dialog.lbIDValue.setCaption(std::to_string(narrow16(last + 1)));
+  dialog.lblIDLowValue.setCaption(std::to_string(last));
+  dialog.txtPackageDesc.setText("");
+  dialog.txtPackageDesc.setEnabled(true);
+  for (TextField* field :
+       {&dialog.txtPackageWeight, &dialog.txtPackageHeight, &dialog.txtPackageWidth,
+        &dialog.txtSerialNumberN, &dialog.txtPackageLength}) {
+    field->setText("");
+  }
+  dialog.cboxPackageType.setIndex(0);
+  dialog.cboxILNLokalizacji.clearSelection();
+  dialog.cboxLokalizacja.clearSelection();
+  dialog.cboxParentPackage.addRow("");
+}
+
+// Every row of the parent's description is selected in turn, so the last of equal ones stays; the
+// list's own event takes the parent's serial and level from it.
+void selectParent(DlgSzczegoly& dialog, const std::string& description) {
+  DropDownList& parents = dialog.cboxParentPackage;
+  for (int i = 0; i < parents.count(); ++i) {
+    if (parents.rows()[static_cast<std::size_t>(i)] == description) parents.setIndex(i);
+  }
+}
+
+void fillForEdit(Editor& editor, DlgSzczegoly& dialog, std::int16_t row) {
+  const auto text = [&](std::int16_t column) { return packageCell(editor, row, column); };
+  dialog.ParentSerial = text(GRD_OPAK_PARENT_SERIAL);
+  selectParent(dialog, text(GRD_OPAK_PARENT_DESC));
+  dialog.lblLevelValue.setCaption(text(GRD_OPAK_LEVEL));
+  dialog.lbIDValue.setCaption(text(GRD_OPAK_SERIAL));
+  dialog.lblIDLowValue.setCaption(text(GRD_OPAK_ID_LOW));
+  dialog.txtPackageDesc.setText(text(GRD_OPAK_DESC));
+  dialog.txtPackageDesc.setEnabled(false);
+  dialog.txtPackageWeight.setText(text(GRD_OPAK_WEIGHT));
+  dialog.txtPackageWidth.setText(text(GRD_OPAK_WIDTH));
+  dialog.txtPackageHeight.setText(text(GRD_OPAK_HEIGHT));
+  dialog.txtPackageLength.setText(text(GRD_OPAK_LENGTH));
+  dialog.cboxPackageType.setIndex(indexPackageType(editor.platform.locale, text(GRD_OPAK_TYPE)));
+  dialog.txtSerialNumberN.setText(text(GRD_OPAK_SERIAL_NUMBER));
+  dialog.cboxILNLokalizacji.setText(text(GRD_OPAK_LOCATION_ILN));
+  dialog.cboxILNLokalizacji_Change_PublicWrapper();
+}
+
+std::int16_t addPackageRow(Editor& editor) {
+  Table& grid = editor.form.grdOpakowania;
+  std::int16_t& count = editor.session.IloscPozycjiOpak;
+  if (count != 0) {
+    count = narrow16(count + 1);
+    grid.addItem(std::to_string(count));
+    grid.setRows(narrow16(count + 1));
+  } else {
+    count = 1;
+    grid.setRows(2);
+    setPackageCell(editor, 1, GRD_OPAK_LP, "1");
+  }
+  return count;
+}
+
+void paintWhite(Editor& editor, std::int16_t row) {
+  for (int column = 1; column <= GRD_OPAK_SERIAL; ++column) {
+    editor.form.grdOpakowania.setBackground(row, column, white);
+  }
+}
+
+}  // namespace
+
+void PreparePackageArrays(Editor& editor, std::string_view) {
+  SessionState& session = editor.session;
+  const auto count = static_cast<std::size_t>(session.IloscPozycjiOpak);
+  session.ParentSerials.assign(count + 1, "");
+  session.ParentDescriptions.assign(count + 1, "");
+  session.ParentLevels.assign(count + 1, 0);
+  DebugLog& log = session.log;
+  log.WriteDebugLine("btnDodajOpak_Click: IloscPozycjiOpak = " +
+                     std::to_string(session.IloscPozycjiOpak));
+  for (std::size_t i = 0; i < count; ++i) {
+    const auto row = static_cast<std::int16_t>(i + 1);
+    session.ParentSerials[i] = packageCell(editor, row, GRD_OPAK_SERIAL);
+    session.ParentDescriptions[i] = packageCell(editor, row, GRD_OPAK_DESC);
+    const std::string& level = packageCell(editor, row, GRD_OPAK_LEVEL);
+    if (log.writes(4)) {
+      log.WriteDebugLine("btnDodajOpak_Click: i - 1 = " + std::to_string(i) +
+                         ", level =  " + level);
+    }
+    session.ParentLevels[i] = editor.conversions.toInt16(level);
+  }
+}
+
+void btnDodajOpak_Click(Editor& editor, DlgSzczegoly& dialog) {
+  reportErrors(editor.screen(), "Произошла ошибка в btnDodajOpak_Click()", [&] {
+    closeOpenEdits(editor);
+    editor.form.setEnabled(false);
+    dialog.touch();
+    dialog.AddMode = true;
+    dialog.setCaption("Добавить упаковку");
+    dialog.btnDodaj.setCaption("&Добавить");
+    PreparePackageArrays(editor);
+    dialog.PreparePackages(false);
+    prepareForNew(editor, dialog);
+    dialog.showModal();
+    editor.form.setEnabled(true);
+    Table& grid = editor.form.grdOpakowania;
+    if (dialog.DialogResult == 1) {
+      grid.setRedraw(false);
+      ZatwierdzPozycjeOpak(editor, dialog, addPackageRow(editor), true);
+      grid.setRedraw(true);
+    }
+    grid.refresh();
+  });
+}
+
+void btnEdytujOpak_Click(Editor& editor, DlgSzczegoly& dialog) {
+  if (editor.session.IloscPozycjiOpak < 1) return;
+  reportErrors(editor.screen(), "Произошла ошибка в btnEdytujOpak_Click()", [&] {
+    Table& grid = editor.form.grdOpakowania;
+    const std::int16_t row = narrow16(grid.row());
+    closeOpenEdits(editor);
+    editor.form.setEnabled(false);
+    dialog.touch();
+    dialog.AddMode = false;
+    dialog.setCaption("Изменить упаковку");
+    dialog.btnDodaj.setCaption("&Подтвердить");
+    PreparePackageArrays(editor);
+    dialog.PreparePackages(true);
+    fillForEdit(editor, dialog, row);
+    PreparePackageArrays(editor);
+    dialog.showModal();
+    if (dialog.DialogResult == 1) {
+      grid.setRedraw(false);
+      ZatwierdzPozycjeOpak(editor, dialog, row, false);
+      paintWhite(editor, row);
+      grid.setRedraw(true);
+    }
+    editor.form.setEnabled(true);
+  });
+}
+
+void ZatwierdzPozycjeOpak(Editor& editor, DlgSzczegoly& dialog, std::int16_t row, bool isNew) {
+  reportErrors(editor.screen(), "Произошла ошибка в ZatwierdzPozycjeOpak()", [&] {
+    const auto write = [&](std::int16_t column, std::string_view text) {
+      setPackageCell(editor, row, column, text);
+    };
+    const auto measure = [&](const TextField& field) {
+      return editor.conversions.FormatFixed(field.text(), 3);
+    };
+    const bool isTop = dialog.ParentSerial.empty();
+    write(GRD_OPAK_PARENT_SERIAL, isTop ? "1" : dialog.ParentSerial);
+    write(GRD_OPAK_PARENT_DESC, dialog.cboxParentPackage.text());
+    write(GRD_OPAK_LEVEL, isTop ? "1" : dialog.lblLevelValue.caption());
+    write(GRD_OPAK_SERIAL, dialog.lbIDValue.caption());
+    if (isNew) {
+      editor.form.LastPackageSerial = narrow16(editor.form.LastPackageSerial + 1);
+    }
+    write(GRD_OPAK_ID_LOW, dialog.lblIDLowValue.caption());
+    write(GRD_OPAK_DESC, dialog.txtPackageDesc.text());
+    write(GRD_OPAK_WEIGHT, measure(dialog.txtPackageWeight));
+    write(GRD_OPAK_WIDTH, measure(dialog.txtPackageWidth));
+    write(GRD_OPAK_HEIGHT, measure(dialog.txtPackageHeight));
+    write(GRD_OPAK_TYPE, symbolPackageType(narrow16(dialog.cboxPackageType.index())));
+    write(GRD_OPAK_SERIAL_NUMBER, dialog.txtSerialNumberN.text());
+    write(GRD_OPAK_LOCATION_ILN, dialog.cboxILNLokalizacji.text());
+    write(GRD_OPAK_LENGTH, measure(dialog.txtPackageLength));
+    editor.form.grdOpakowania.setRow(row);
+    CountValidRows(editor);
+  });
+}
+
+}  // namespace awizo

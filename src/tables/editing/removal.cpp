@@ -1,0 +1,86 @@
+#include "tables/editing/removal.h"
+
+#include "formats/row_check.h"
+#include "platform/forms/report_errors.h"
+#include "platform/narrow.h"
+#include "tables/columns.h"
+#include "tables/editing/clear_form.h"
+#include "tables/editing/in_table_editing.h"
+#include "tables/editing/package_subtree.h"
+#include "tables/flat_index.h"
+#include "tables/package_references.h"
+
+namespace awizo {
+namespace {
+
+void removePackagesOfCurrentRow(Editor& editor, std::vector<std::string>& delSerials) {
+  Table& grid = editor.form.grdOpakowania;
+  DebugLog& log = editor.session.log;
+  GetPackagesRec(editor, narrow16(grid.row()), delSerials);
+  log.WriteDebugLine("After GetPackagesRec");
+  log.WriteDebugLine("delSerials.Count = " + std::to_string(delSerials.size()));
+  removePackageRows(editor, delSerials);
+  grid.setRow(1);
+  grid.setColumn(1);
+}
+
+// Every line is rewritten, whether it held one of the packages or not.
+void removeReferences(Editor& editor, const std::vector<std::string>& delSerials) {
+  Table& grid = editor.form.grdPozycje;
+  DebugLog& log = editor.session.log;
+  for (std::int16_t m = 1; m <= editor.session.LineCount; ++m) {
+    log.WriteDebugLine("Usuwanie opak - usuwanie ref przed m = " + std::to_string(m));
+    const std::int16_t references = IndexGrdPozycje(editor, m, GRD_POZ_PACK_REFS);
+    grid.setCell(references, RemoveOldPackRef(editor, grid.cell(references), delSerials));
+    grid.setCell(IndexGrdPozycje(editor, m, GRD_POZ_PACKED_QTY),
+                 GetPackedQuantity(editor, grid.cell(references)));
+    log.WriteDebugLine("Usuwanie opak - usuwanie ref po m = " + std::to_string(m));
+  }
+}
+
+}  // namespace
+
+void btnUsun_Click(Editor& editor) {
+  if (editor.session.LineCount == 0) return;
+  reportErrors(editor.screen(), "Произошла ошибка в btnUsun_Click()", [&] {
+    Table& grid = editor.form.grdPozycje;
+    grdPozycje_LeaveCell(editor);
+    grdSuma_LeaveCell(editor);
+    grid.setRedraw(false);
+    std::int16_t& count = editor.session.LineCount;
+    if (count != 1) {
+      count = narrow16(count - 1);
+      grid.removeItem(grid.row());
+      grid.setRows(count + 1);
+    } else {
+      count = 0;
+      ClearForm(editor);
+    }
+    CountValidRows(editor);
+    grid.refresh();
+    grid.setRedraw(true);
+  });
+}
+
+void btnUsunOpak_Click(Editor& editor) {
+  if (editor.session.IloscPozycjiOpak == 0) return;
+  reportErrors(editor.screen(), "Произошла ошибка в btnUsunOpak_Click()", [&] {
+    Table& grid = editor.form.grdOpakowania;
+    grdOpakowania_LeaveCell(editor);
+    grdPozycje_LeaveCell(editor);
+    grdSuma_LeaveCell(editor);
+    grid.setRedraw(false);
+    Cursor earlier = editor.screen().setCursor(editor.session.WaitCursor);
+    std::vector<std::string> delSerials;
+    removePackagesOfCurrentRow(editor, delSerials);
+    editor.screen().setCursor(earlier);
+    CountValidRows(editor);
+    grid.refresh();
+    grid.setRedraw(true);
+    earlier = editor.screen().setCursor(editor.session.WaitCursor);
+    removeReferences(editor, delSerials);
+    editor.screen().setCursor(earlier);
+  });
+}
+
+}  // namespace awizo
