@@ -1,0 +1,53 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/xml.h"
+
+namespace awizo {
+
+/// Everything of the hosting page's address up to and including the last "/" but one; the empty
+/// text for an address with fewer than two.
+std::string GetBaseUrl(std::string_view url);
+
+// Addresses of the exchanges. The doubled slash that some of them get behind a base address is
+// what the service expects; the partner's piece brings its own path form.
+std::string partnersUrl(std::string_view baseUrl);
+std::string uploadUrl(std::string_view baseUrl, std::string_view partnerUrl);
+std::string orderDataUrl(std::string_view baseUrl, std::string_view partnerUrl);
+std::string productCatalogueUrl(std::string_view baseUrl);
+std::string localizationCatalogueUrl(std::string_view baseUrl);
+
+// Request documents. They are built as text without escaping, so that an ILN with a character
+// that is special in XML gives an empty document.
+std::unique_ptr<XmlDocument> partnerInfoRequest(const Xml& xml, std::string_view buyerIln);
+std::unique_ptr<XmlDocument> productCatalogueRequest(const Xml& xml, std::string_view buyerIln);
+std::unique_ptr<XmlDocument> localizationCatalogueRequest(const Xml& xml,
+                                                          std::string_view buyerIln);
+std::unique_ptr<XmlDocument> orderRequest(const Xml& xml);
+
+// What stands where in the replies.
+inline constexpr std::string_view partnerInfoPath = "/partner-info-response/partner-info/info";
+inline constexpr std::string_view catalogueStatusPath = "/document-response/status";
+inline constexpr std::string_view cataloguePath =
+    "/document-response/document-content/Document-ProductCatalogue";
+inline constexpr std::string_view localizationStatusPath = "/dictionary-response/status";
+inline constexpr std::string_view orderPath =
+    "/receive-document-response/document-content/Document-Order";
+inline constexpr std::string_view submissionStatusPath =
+    "/send-document-response/submission-status";
+/// Where the answer about the catalogue is searched for an error's description. It is a path of
+/// another reply, so a well-formed answer holds nothing there.
+inline constexpr std::string_view catalogueErrorPath = "/dictionary-response/description";
+/// Below the document element of the user's file and of the partner's file alike.
+inline constexpr std::string_view identityPath = "partner-info/info";
+
+// Files of the local folder, by classic paths.
+std::string userInfoFile(std::string_view folder);
+std::string partnerInfoFile(std::string_view folder, std::string_view sellerIln,
+                            std::string_view buyerIln);
+std::string debugLogFile(std::string_view folder, std::string_view partnerName);
+
+}  // namespace awizo
