@@ -27,7 +27,10 @@ class ScreenFace {
  public:
   virtual ~ScreenFace() = default;
   virtual Answer ask(const MessageBox& box) = 0;
-  /// Shows the form and returns when it has hidden.
+  /// A form, the main form included, now stands on the screen; told before the form's first events
+  /// and before runModal.
+  virtual void formOpened(Form& form) { static_cast<void>(form); }
+  /// Lets the user act on the form, over all others, and returns when it has hidden.
   virtual void runModal(Form& form) = 0;
   virtual void cursorChanged(Cursor cursor) = 0;
   /// Lets events that wait run, without waiting for new ones.

@@ -7,6 +7,14 @@ namespace {
 
 bool startsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
 
+// Control characters of ASCII and of Latin-1 (C2 80 to C2 9F), line and paragraph separator.
+bool isControlCharacter(std::string_view character) {
+  const auto first = static_cast<unsigned char>(character.front());
+  if (character.size() == 1) return first < 0x20 || first == 0x7F;
+  if (character == "\u2028" || character == "\u2029") return true;
+  return character.size() == 2 && first == 0xC2 && static_cast<unsigned char>(character[1]) < 0xA0;
+}
+
 }  // namespace
 
 std::size_t countCharacters(std::string_view text) {
@@ -65,6 +73,19 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
     replaced += to;
     start = found + from.size();
   }
+}
+
+std::string withoutControlCharacters(std::string_view text) {
+  std::string kept;
+  kept.reserve(text.size());
+  for (std::size_t at = 0; at < text.size();) {
+    std::size_t next = at + 1;
+    while (next < text.size() && !startsCharacter(text[next])) ++next;
+    const std::string_view character = text.substr(at, next - at);
+    if (!isControlCharacter(character)) kept += character;
+    at = next;
+  }
+  return kept;
 }
 
 std::string characterText(char32_t codePoint) {

@@ -32,6 +32,9 @@ std::string join(const std::vector<std::string>& pieces, std::string_view separa
 /// The text with every `from` replaced by `to`; unchanged where `from` is empty.
 std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
 
+/// The text as a one-line field takes it: without line breaks and other control characters.
+std::string withoutControlCharacters(std::string_view text);
+
 /// The UTF-8 form of a code point.
 std::string characterText(char32_t codePoint);
 

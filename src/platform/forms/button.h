@@ -26,12 +26,17 @@ class Button : public Control {
   void userPress();
   /// Click first, then the double click, unless the latter stands alone.
   void userDoubleClick();
+  /// Enter and the blank press the button that has the focus.
+  void userKey(std::int16_t code, bool shift = false) override;
 
  protected:
   Button(Form& form, std::string name, ControlKind kind, std::string_view caption)
       : Control(form, std::move(name), kind), caption_(caption) {}
 
  private:
+  /// Answers whether the click goes on.
+  bool takeClick();
+
   std::string caption_;
 };
 

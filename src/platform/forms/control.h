@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <stdexcept>
@@ -38,6 +39,7 @@ struct Place {
   int y = 0;
   int width = 0;
   int height = 0;
+  bool operator==(const Place&) const = default;
 };
 
 /// What of a control has changed; the face of the control reads the new state from the model.
@@ -99,6 +101,10 @@ class Control {
   /// The user moves the focus here, by Tab or a click: Validate and LostFocus of the left control
   /// first, then GotFocus. Refused where the user can't act on the control.
   void userFocus();
+  /// The user presses a key in the control; it takes the focus if it hasn't it. Tab moves the
+  /// focus on, Enter and Escape press the form's accepting and closing button; what is left is the
+  /// control's own. `code` numbers keys as the platform does: see keys.h.
+  virtual void userKey(std::int16_t code, bool shift = false);
   /// Throws Refused, with a text for people, when the user can't act on the control now.
   void requireUser() const;
 
@@ -107,13 +113,28 @@ class Control {
 
   void raise(const Event& event);
 
+  /// Whether the user may move the focus elsewhere.
+  virtual bool mayBeLeft() const { return true; }
+  /// Whether the user can act on the control now.
+  bool takesInput() const;
+
  protected:
+  /// Begins what a user does to a control that takes the focus: refuses, or moves the focus here
+  /// with all its events. Answers whether the action goes on: an event procedure may have hidden
+  /// or disabled the control, opened a form or sent the focus elsewhere.
+  bool takeUserFocus();
+  /// Begins a key: takes the focus and does what the key means to the form. Answers whether the
+  /// key is left for the control.
+  bool takeUserKey(std::int16_t code, bool shift);
+
   void changed(Aspect aspect, int row = -1, int column = -1) {
     if (observer) observer({aspect, row, column});
   }
 
  private:
   friend class Form;
+
+  bool canTakeFocus() const;
 
   Form& form_;
   std::string name_;

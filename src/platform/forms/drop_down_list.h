@@ -20,7 +20,10 @@ enum class ListStyle {
 class DropDownList : public Control {
  public:
   DropDownList(Form& form, std::string name, std::string_view caption = "",
-               ListStyle style = ListStyle::freeTyping);
+               ListStyle style = ListStyle::freeTyping)
+      : Control(form, std::move(name), ControlKind::dropDownList),
+        caption_(caption),
+        style_(style) {}
 
   const std::string& caption() const { return caption_; }
   ListStyle style() const { return style_; }
@@ -30,6 +33,7 @@ class DropDownList : public Control {
   int count() const { return static_cast<int>(rows_.size()); }
   /// Raises nothing and selects nothing.
   void addRow(std::string_view text);
+  /// Replaces all rows. Raises nothing; the text stays, and the index if its row has that text.
   void setRows(std::vector<std::string> rows);
   /// Removes all rows and empties the text.
   void clear();
@@ -53,12 +57,13 @@ class DropDownList : public Control {
   /// The user puts the focus here and replaces the text by typing. Refused by a list-only list.
   void userType(std::string_view text);
   /// The user puts the focus here and picks a row: Change if the text differs, then Click. -1
-  /// picks none.
+  /// picks none: no row, no text, no Click. Refused: a row that isn't there.
   void userChoose(int row);
-  void userKey(std::int16_t code, bool shift = false);
+  /// KeyPress for a key that stands for a character.
+  void userKey(std::int16_t code, bool shift = false) override;
 
-  /// Whether the user may leave the list: false when a match is required and missing.
-  bool mayBeLeft() const;
+  /// False when a match is required and the text, unless it is empty, is no row.
+  bool mayBeLeft() const override;
 
  private:
   int find(std::string_view text) const;

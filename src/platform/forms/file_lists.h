@@ -16,9 +16,10 @@ class DriveList : public Control {
       : Control(form, std::move(name), ControlKind::driveList), files_(files) {}
 
   std::vector<std::string> rows() const { return files_.drives(); }
-  /// "c:", with whatever was behind it when it was set.
+  /// "c:" as it stands among the rows; empty until one is set.
   const std::string& drive() const { return drive_; }
-  /// By code; a drive that isn't there is error 68. Raises Change if it differs.
+  /// By code; what stands behind the colon doesn't matter. A drive that isn't there is error 68.
+  /// Raises Change if it differs.
   void setDrive(std::string_view drive);
 
   Event onChange;
@@ -26,6 +27,10 @@ class DriveList : public Control {
   void userChoose(std::string_view drive);
 
  private:
+  /// The row of this drive, case ignored; empty if there is none.
+  std::string find(std::string_view drive) const;
+  void assign(std::string drive);
+
   Files& files_;
   std::string drive_;
 };
@@ -38,17 +43,21 @@ class FolderList : public Control {
 
   /// No backslash at the end, except a root.
   const std::string& path() const { return path_; }
-  /// By code; a folder that isn't there is error 76. Raises Change if it differs.
+  /// By code; a folder that isn't there is error 76, a drive that isn't there 68. A drive alone is
+  /// its root, "/" is as good as "\", and without a drive the path is on the drive of the present
+  /// one. Raises Change if it differs.
   void setPath(std::string_view path);
   /// Names of the folders in it; read anew at each call.
   std::vector<std::string> rows() const;
 
   Event onChange;
 
-  /// The user opens a folder by its whole path.
+  /// The user opens a folder by its whole path. Refused: a folder that isn't there.
   void userOpen(std::string_view path);
 
  private:
+  void assign(std::string path);
+
   Files& files_;
   std::string path_;
 };
@@ -60,7 +69,8 @@ class FileList : public Control {
       : Control(form, std::move(name), ControlKind::fileList), files_(files), ending_(ending) {}
 
   const std::string& path() const { return path_; }
-  /// By code; error 76 for a folder that isn't there. Selects nothing.
+  /// By code; the errors and forms of a path are those of a folder list. Reads the folder anew and
+  /// selects nothing.
   void setPath(std::string_view path);
   const std::vector<std::string>& rows() const { return rows_; }
   int index() const { return index_; }
@@ -72,13 +82,12 @@ class FileList : public Control {
   Event onClick;
   Event onDoubleClick;
 
+  /// Selects a row, then Click. Refused: a row that isn't there.
   void userChoose(int row);
-  /// Double-clicks the selected row.
+  /// Double-clicks the selected row: Click first, then the double click. Refused without one.
   void userDoubleClick();
 
  private:
-  void read();
-
   Files& files_;
   std::string ending_;
   std::string path_;

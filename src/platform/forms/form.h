@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/forms/control.h"
@@ -8,11 +10,13 @@
 
 namespace awizo {
 
+class Button;
+
 /// A form: the controls on it, which of them has the focus, whether it is shown.
 class Form {
  public:
   Form(Screen& screen, std::string name);
-  virtual ~Form() = default;
+  virtual ~Form();
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
 
@@ -31,8 +35,9 @@ class Form {
   /// Whether a user's input reaches the form now.
   bool takesInput() const { return shown_ && enabled_ && screen_.takesInput(*this); }
 
-  /// Shows the form over all others and returns when it has hidden. The focus goes to the control
-  /// that had it last, else to the first that can take it.
+  /// Shows the form over all others and returns when it has hidden; nothing happens where it is
+  /// shown already. Activate comes first. Then the focus is with the control that had it last, for
+  /// which nothing is raised, else it goes to the first that can take it.
   void showModal();
   /// Shows the main form and returns at once.
   void showMain();
@@ -44,28 +49,39 @@ class Form {
 
   /// Raised at every showing, after the form stands on the screen.
   Event onActivate;
-  /// What the window frame's close does: the form's own closing procedure.
+  /// What the window frame's close does; without it, the closing button is pressed.
   Event onClose;
-  /// The user closes the form by its window frame. Refused when the form doesn't take input.
+  /// The user closes the form by its window frame. Refused when the form doesn't take input or
+  /// has no way of closing.
   void userClose();
 
-  /// Buttons that Enter and Escape press; null for none.
-  Control* acceptButton = nullptr;
-  Control* closeButton = nullptr;
+  /// Throws Refused, with a text for people, when no input reaches the form now.
+  void requireInput() const;
 
-  /// Told when caption, enabled, shown or focus change. At most one; a host sets it.
+  /// Buttons that Enter and Escape press; null for none.
+  Button* acceptButton = nullptr;
+  Button* closeButton = nullptr;
+
+  /// Told when caption (content), enabled, shown (visible) or focus change. At most one; a host
+  /// sets it.
   std::function<void(const Change&)> observer;
 
-  /// Runs an event procedure; an error that leaves it shows the box "VIRD".
+  /// Runs an event procedure, if there is one, as Screen::runEvent does.
   void raise(const Event& event);
 
  private:
   friend class Control;
+  friend class Screen;
 
   enum class FocusCause { user, code };
   void add(Control& control) { controls_.push_back(&control); }
   void moveFocus(Control& control, FocusCause cause);
+  /// What the user must pass before the focus leaves its control.
+  bool validateFocus();
   void leave(Control& control);
+  /// Does what a key means to the whole form; answers whether it meant something.
+  bool pressKey(const Control& control, std::int16_t code, bool shift);
+  void tabFrom(const Control& control, bool backwards);
   void activate();
   void changed(Aspect aspect) {
     if (observer) observer({aspect});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +26,13 @@ class Screen {
   void showMain(Form& form);
   /// Shows a form over all others; returns when it has hidden. Used by Form::showModal.
   void runModal(Form& form);
+  /// Drops a form that ends its life.
+  void forget(const Form& form);
+
+  /// Runs an event procedure. A run-time error that leaves it, want of memory included, shows a
+  /// critical box with its description under the title "VIRD" and ends this event alone. An event
+  /// that would be nested too deep isn't run: error 28 (Out of stack space) goes to its cause.
+  void runEvent(const std::function<void()>& procedure);
 
   /// Shows a cursor and returns the earlier one.
   Cursor setCursor(Cursor cursor);
@@ -40,8 +48,12 @@ class Screen {
   bool takesInput(const Form& form) const { return top() == &form && openBox() == nullptr; }
 
  private:
+  /// Far more than honest work nests, few enough for the stack.
+  static constexpr int mostNestedEvents = 250;
+
   ScreenFace& face_;
   Cursor cursor_ = Cursor::normal;
+  int runningEvents_ = 0;
   std::vector<Form*> forms_;
   std::vector<const MessageBox*> boxes_;
 };

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,14 +38,17 @@ class Table : public Control {
  public:
   static constexpr int normalRowHeight = 240;
   static constexpr int normalColumnWidth = 960;
+  static constexpr int normalRowsShown = 10;
 
   Table(Form& form, std::string name, int columns, int rows = 2, int fixedRows = 1);
 
   int rows() const { return static_cast<int>(lines_.size()); }
   int columns() const { return columns_; }
   int fixedRows() const { return fixedRows_; }
-  /// Growing adds empty rows; shrinking drops rows at the end and holds the current row within.
+  /// Growing adds empty rows; shrinking drops rows at the end and holds the current row within,
+  /// without events of a cell. Below 0 is error 30009, no row but fixed ones error 30016.
   void setRows(int rows);
+  /// Below 0 is error 30009, no fewer than there are rows error 30016.
   void setFixedRows(int fixedRows);
 
   // Cells by flat index; out of range is error 381.
@@ -66,7 +70,8 @@ class Table : public Control {
   /// Removes a row with its colours; the current row's number stays unless it lies past the end.
   /// A heading row is error 30000, the last other row 30015, a row that isn't there 30009.
   void removeItem(int row);
-  /// Empties texts and looks of all cells, headings too; counts and sizes stay.
+  /// Empties texts and looks of all cells, headings too; counts, sizes and the alignment of columns
+  /// stay, so every cell is aligned as its column again.
   void clear();
 
   int row() const { return row_; }
@@ -99,16 +104,18 @@ class Table : public Control {
 
   /// The first data row shown.
   int topRow() const { return topRow_; }
-  /// Scrolls by code or user; raises Scroll if it changes.
+  /// Scrolls by code; raises Scroll if it changes. A row that can't be scrolled to is error 30009.
   void setTopRow(int row);
-  /// What a host shows of the table; decides what is scrolled into view.
-  void setViewSize(int width, int height);
+  /// How high the part of the table is that a host shows, fixed rows included; decides what is
+  /// scrolled into view. Ten rows and the heading where no host says otherwise.
+  void setViewHeight(int height);
 
-  // The current cell's place within the table; reading it scrolls the cell into view.
+  // The current cell's place within the table; reading left or top scrolls the cell into view,
+  // which raises Scroll if something had to move.
   int cellLeft();
   int cellTop();
-  int cellWidth();
-  int cellHeight();
+  int cellWidth() const { return columnWidth(column_); }
+  int cellHeight() const { return rowHeight(row_); }
 
   Event onClick;
   Event onDoubleClick;
@@ -121,16 +128,20 @@ class Table : public Control {
   std::function<void(std::int16_t code, bool shift)> onKeyUp;
   std::function<void(std::int16_t& code)> onKeyPress;
 
-  /// The user clicks a cell: the focus first, then the cell changes, is scrolled into view, then
-  /// Click. Refused: a heading row, a column of no width, a cell that isn't there.
+  /// The user clicks a cell: the focus first, then mouse down, the cell changes and is scrolled
+  /// into view, mouse up, Click. Refused: a heading row, a column of no width, a cell that isn't
+  /// there.
   void userCell(int row, int column);
-  /// The user double-clicks the current cell.
+  /// The user double-clicks the current cell: what a click raises, then the double click.
   void userDoubleClick();
   /// A key in the table: KeyDown, then the move of arrows, Home, End and page keys over the shown
-  /// columns, then KeyPress for keys that stand for a character, then KeyUp.
-  void userKey(std::int16_t code, bool shift = false);
-  /// The user marks a range with the mouse held down, from the first cell to the second.
+  /// columns, then KeyPress for keys that stand for a character, then KeyUp. With the Shift key
+  /// held the moving keys move the other corner of the marked range instead of the current cell.
+  void userKey(std::int16_t code, bool shift = false) override;
+  /// The user marks a range with the mouse held down: mouse down, the first cell becomes current,
+  /// the mark reaches out to the second, mouse up.
   void userSelect(int row, int column, int rowSel, int columnSel);
+  /// Scrolls without taking the focus. Refused: a row that can't be scrolled to.
   void userScroll(int topRow);
 
  private:
@@ -140,23 +151,51 @@ class Table : public Control {
     int height = normalRowHeight;
   };
 
+  struct Corner {
+    int row;
+    int column;
+    bool operator==(const Corner&) const = default;
+  };
+  enum class Scrolling { none, intoView };
+
+  Line& line(int row) const { return *lines_[static_cast<std::size_t>(row)]; }
+  /// Row and column of a flat index; error 381.
+  Corner at(int index) const;
   void requireCell(int row, int column) const;
-  void moveTo(int row, int column);
-  void showCurrentCell();
-  Line makeLine() const;
+  void requireRow(int row) const;
+  void requireColumn(int column) const;
+  void requireClickable(int row, int column) const;
+  bool hasCell(Corner corner) const;
+  CellLook& lookOf(int row, int column);
+  void assign(Corner corner, std::string_view text);
+
+  /// One change of the current cell, which ends the marked range.
+  void moveTo(Corner corner, Scrolling scrolling);
+  void markTo(Corner corner);
+  /// Whether a key moves the current cell, and where to.
+  bool moves(std::int16_t code) const;
+  Corner keyTarget(Corner from, std::int16_t code) const;
+  int shownColumn(int from, int step) const;
+  int pageFrom(int row, int direction) const;
+  void press(Corner corner);
+
+  int heightOf(int from, int to) const;
+  void showCell(Corner corner);
+  void holdWithin();
+  std::unique_ptr<Line> makeLine() const;
 
   int columns_;
   int fixedRows_;
-  std::vector<Line> lines_;
+  /// Rows by handle, so that taking one out moves no cells.
+  std::vector<std::unique_ptr<Line>> lines_;
   std::vector<int> widths_;
   std::vector<Alignment> columnAlignments_;
   int row_ = 0;
   int column_ = 0;
   int rowSel_ = 0;
   int columnSel_ = 0;
-  int topRow_ = 1;
-  int viewWidth_ = 0;
-  int viewHeight_ = 0;
+  int topRow_ = 0;
+  int viewHeight_;
   bool redraw_ = true;
 };
 

@@ -23,18 +23,19 @@ class TextField : public Control {
   /// The caption that stands beside the field.
   const std::string& caption() const { return caption_; }
   const std::string& text() const { return text_; }
-  /// By code: a longer text is cut to the limit; raises Change if the text differs.
+  /// By code: a longer text is cut to the limit; raises Change if the text differs, and then puts
+  /// the caret at the start.
   void setText(std::string_view text);
   int limit() const { return limit_; }
   Alignment alignment() const { return alignment_; }
-  /// Place of the caret, in characters; past the end means at the end.
+  /// Place of the caret, in characters; past the end means at the end. Before the start is error
+  /// 380.
   int caret() const { return caret_; }
   void setCaret(int caret);
   /// A mark that the form's designer set; "Mandatory" for a required field.
   std::string tag;
 
   Event onChange;
-  /// Key codes as the platform numbers them: 13 Enter, 27 Escape, 38 Up, 40 Down.
   std::function<void(std::int16_t code, bool shift)> onKeyDown;
   /// May change the character code; 0 swallows the key.
   std::function<void(std::int16_t& code)> onKeyPress;
@@ -44,10 +45,11 @@ class TextField : public Control {
   void userType(std::string_view text);
   /// The user presses a key in the field (it takes the focus if it hasn't it): KeyDown, then, for
   /// a key that stands for a character (Enter included), KeyPress.
-  void userKey(std::int16_t code, bool shift = false);
+  void userKey(std::int16_t code, bool shift = false) override;
 
  private:
-  void assign(std::string_view text);
+  std::string_view withinLimit(std::string_view text) const;
+  void assign(std::string_view text, int caret);
 
   std::string caption_;
   int limit_;

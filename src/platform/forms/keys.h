@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+
+namespace awizo {
+
+/// Key codes as the platform numbers them. Letters and digits have the codes of their capital
+/// letters and digits.
+namespace keys {
+
+inline constexpr std::int16_t backspace = 8;
+inline constexpr std::int16_t tab = 9;
+inline constexpr std::int16_t enter = 13;
+inline constexpr std::int16_t shift = 16;
+inline constexpr std::int16_t escape = 27;
+inline constexpr std::int16_t blank = 32;
+inline constexpr std::int16_t pageUp = 33;
+inline constexpr std::int16_t pageDown = 34;
+inline constexpr std::int16_t end = 35;
+inline constexpr std::int16_t home = 36;
+inline constexpr std::int16_t left = 37;
+inline constexpr std::int16_t up = 38;
+inline constexpr std::int16_t right = 39;
+inline constexpr std::int16_t down = 40;
+
+/// The character code that KeyPress gets for a key, 0 for a key that stands for none. Enter, Escape
+/// and Backspace stand for one. Codes of 256 and more are no keys of a keyboard but characters
+/// typed in another way, and stand for themselves.
+std::int16_t characterOf(std::int16_t code, bool shifted);
+
+}  // namespace keys
+}  // namespace awizo

@@ -1,0 +1,198 @@
+// The current cell of a table, its marked range, what is scrolled into view, and what a user does
+// to them.
+
+#include <algorithm>
+#include <numeric>
+
+#include "platform/forms/form.h"
+#include "platform/forms/keys.h"
+#include "platform/forms/table.h"
+#include "platform/run_time_error.h"
+
+namespace awizo {
+
+void Table::setRow(int row) {
+  requireRow(row);
+  if (row != row_) moveTo({row, column_}, Scrolling::none);
+}
+
+void Table::setColumn(int column) {
+  requireColumn(column);
+  if (column != column_) moveTo({row_, column}, Scrolling::none);
+}
+
+void Table::setRowSel(int row) {
+  requireRow(row);
+  markTo({row, columnSel_});
+}
+
+void Table::setColumnSel(int column) {
+  requireColumn(column);
+  markTo({rowSel_, column});
+}
+
+void Table::markTo(Corner corner) {
+  if (corner == Corner{rowSel_, columnSel_}) return;
+  rowSel_ = corner.row;
+  columnSel_ = corner.column;
+  changed(Aspect::selection);
+  raise(onSelectionChange);
+}
+
+void Table::moveTo(Corner corner, Scrolling scrolling) {
+  const bool moved = corner != Corner{row_, column_};
+  if (moved) raise(onLeaveCell);
+  // The event procedure may have taken rows away.
+  if (!hasCell(corner)) return;
+  const bool marked = corner != Corner{rowSel_, columnSel_};
+  row_ = rowSel_ = corner.row;
+  column_ = columnSel_ = corner.column;
+  if (moved || marked) changed(Aspect::selection);
+  if (scrolling == Scrolling::intoView) showCell(corner);
+  if (moved || marked) raise(onSelectionChange);
+}
+
+void Table::setTopRow(int row) {
+  if (row < fixedRows_ || row >= rows()) throw errors::invalidRow();
+  if (row == topRow_) return;
+  topRow_ = row;
+  changed(Aspect::scroll);
+  raise(onScroll);
+}
+
+void Table::setViewHeight(int height) { viewHeight_ = height; }
+
+/// The height of the rows from the first to before the second.
+int Table::heightOf(int from, int to) const {
+  int height = 0;
+  for (int row = from; row < to; ++row) height += line(row).height;
+  return height;
+}
+
+void Table::showCell(Corner corner) {
+  if (corner.row < fixedRows_) return;
+  int top = std::min(topRow_, corner.row);
+  const int room = viewHeight_ - heightOf(0, fixedRows_);
+  int height = heightOf(top, corner.row + 1);
+  while (top < corner.row && height > room) height -= line(top++).height;
+  setTopRow(top);
+}
+
+int Table::cellLeft() {
+  showCell({row_, column_});
+  return std::accumulate(widths_.begin(), widths_.begin() + column_, 0);
+}
+
+int Table::cellTop() {
+  showCell({row_, column_});
+  if (row_ < fixedRows_) return heightOf(0, row_);
+  return heightOf(0, fixedRows_) + heightOf(topRow_, row_);
+}
+
+void Table::requireClickable(int row, int column) const {
+  if (!hasCell({row, column})) throw Refused(name() + " has no such cell");
+  if (row < fixedRows_) throw Refused("a heading row of " + name() + " can't be clicked");
+  if (columnWidth(column) == 0) throw Refused("the column isn't shown in " + name());
+}
+
+/// The mouse goes down on a cell, which becomes the current one.
+void Table::press(Corner corner) {
+  raise(onMouseDown);
+  if (hasCell(corner)) moveTo(corner, Scrolling::intoView);
+}
+
+void Table::userCell(int row, int column) {
+  requireUser();
+  requireClickable(row, column);
+  if (!takeUserFocus()) return;
+  press({row, column});
+  raise(onMouseUp);
+  if (takesInput()) raise(onClick);
+}
+
+void Table::userDoubleClick() {
+  requireUser();
+  requireClickable(row_, column_);
+  if (!takeUserFocus()) return;
+  press({row_, column_});
+  raise(onMouseUp);
+  if (takesInput()) raise(onClick);
+  if (takesInput()) raise(onDoubleClick);
+}
+
+void Table::userSelect(int row, int column, int rowSel, int columnSel) {
+  requireUser();
+  requireClickable(row, column);
+  requireClickable(rowSel, columnSel);
+  if (!takeUserFocus()) return;
+  press({row, column});
+  if (takesInput() && hasCell({rowSel, columnSel})) {
+    markTo({rowSel, columnSel});
+    showCell({rowSel, columnSel});
+  }
+  raise(onMouseUp);
+}
+
+void Table::userScroll(int topRow) {
+  requireUser();
+  if (topRow < fixedRows_ || topRow >= rows()) throw Refused(name() + " has no such row");
+  setTopRow(topRow);
+}
+
+void Table::userKey(std::int16_t code, bool shift) {
+  if (!takeUserKey(code, shift)) return;
+  const auto stillHere = [this] { return hasFocus() && takesInput(); };
+  if (onKeyDown) raise([&] { onKeyDown(code, shift); });
+  if (moves(code) && stillHere()) {
+    if (shift) {
+      const Corner target = keyTarget({rowSel_, columnSel_}, code);
+      markTo(target);
+      showCell(target);
+    } else {
+      moveTo(keyTarget({row_, column_}, code), Scrolling::intoView);
+    }
+  }
+  std::int16_t character = keys::characterOf(code, shift);
+  if (character != 0 && onKeyPress && stillHere()) raise([&] { onKeyPress(character); });
+  // Where the focus has gone elsewhere, the key comes up there.
+  if (onKeyUp && stillHere()) raise([&] { onKeyUp(code, shift); });
+}
+
+bool Table::moves(std::int16_t code) const { return code >= keys::pageUp && code <= keys::down; }
+
+/// The next column with a width, from `from` in steps of `step`; -1 if there is none.
+int Table::shownColumn(int from, int step) const {
+  for (int column = from; column >= 0 && column < columns_; column += step) {
+    if (widths_[static_cast<std::size_t>(column)] > 0) return column;
+  }
+  return -1;
+}
+
+/// The row that lies one page further: as many rows as there is room for, at least one.
+int Table::pageFrom(int row, int direction) const {
+  int room = viewHeight_ - heightOf(0, fixedRows_) - line(row).height;
+  int target = row;
+  while (target + direction >= fixedRows_ && target + direction < rows()) {
+    room -= line(target + direction).height;
+    if (room < 0 && target != row) break;
+    target += direction;
+  }
+  return target;
+}
+
+Table::Corner Table::keyTarget(Corner from, std::int16_t code) const {
+  int row = from.row;
+  int column = -1;
+  if (code == keys::up) --row;
+  if (code == keys::down) ++row;
+  if (code == keys::pageUp) row = pageFrom(row, -1);
+  if (code == keys::pageDown) row = pageFrom(row, 1);
+  if (code == keys::left) column = shownColumn(from.column - 1, -1);
+  if (code == keys::right) column = shownColumn(from.column + 1, 1);
+  if (code == keys::home) column = shownColumn(0, 1);
+  if (code == keys::end) column = shownColumn(columns_ - 1, -1);
+  // The keys never enter a heading row.
+  return {std::clamp(row, fixedRows_, rows() - 1), column < 0 ? from.column : column};
+}
+
+}  // namespace awizo
