@@ -30,7 +30,7 @@ class DebugLog {
   bool writes(std::int16_t level) const { return LogStream != nullptr && level <= LogLevel; }
 
  private:
-  std::string stamped(std::string_view message) const;
+  void writeStamped(std::string_view message);
 
   const Clock& clock_;
   const Locale& locale_;
