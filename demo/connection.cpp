@@ -7,8 +7,26 @@
 
 #include <algorithm>
 #include <cstring>
+#include <sstream>
+#include <string_view>
+#include <utility>
 
 namespace awizo::demo {
+
+namespace {
+
+// The library forgets headers without a value; an empty cookie is to be told from none.
+void addEmptyHeaders(const std::string& head, httplib::Request& request) {
+  std::istringstream lines(head);
+  for (std::string line; std::getline(lines, line);) {
+    const auto colon = line.find(':');
+    if (colon == std::string::npos || colon == 0) continue;
+    if (line.find_first_not_of(" \t\r", colon + 1) != std::string::npos) continue;
+    request.headers.emplace(line.substr(0, colon), "");
+  }
+}
+
+}  // namespace
 
 ssize_t Connection::read(char* target, size_t size) {
   if (bufferStart_ == bufferEnd_) {
@@ -20,7 +38,13 @@ ssize_t Connection::read(char* target, size_t size) {
   const size_t count = std::min(size, bufferEnd_ - bufferStart_);
   std::memcpy(target, buffer_.data() + bufferStart_, count);
   bufferStart_ += count;
+  if (inHead_) head_.append(target, count);
   return static_cast<ssize_t>(count);
+}
+
+std::string Connection::takeHead() {
+  inHead_ = false;
+  return std::move(head_);
 }
 
 ssize_t Connection::write(const char* data, size_t size) {
@@ -53,7 +77,9 @@ bool OneShotServer::process_and_close_socket(socket_t socket) {
   ::setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
   Connection connection(socket);
   bool connectionClosed = false;
-  const bool done = process_request(connection, true, connectionClosed, nullptr);
+  const bool done = process_request(
+      connection, true, connectionClosed,
+      [&](httplib::Request& request) { addEmptyHeaders(connection.takeHead(), request); });
   const std::lock_guard lock(mutex_);
   open_.erase(socket);
   ::shutdown(socket, SHUT_RDWR);

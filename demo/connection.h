@@ -25,8 +25,14 @@ class Connection : public httplib::Stream {
   void get_local_ip_and_port(std::string& address, int& port) const override;
   socket_t socket() const override { return socket_; }
 
+  // What was read so far: called when the head of a request has come, the head as it stood.
+  // Nothing is kept of what is read after it.
+  std::string takeHead();
+
  private:
   socket_t socket_;
+  std::string head_;
+  bool inHead_ = true;
   std::array<char, 4096> buffer_{};
   size_t bufferStart_ = 0;
   size_t bufferEnd_ = 0;
