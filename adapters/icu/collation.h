@@ -1,0 +1,24 @@
+#pragma once
+
+#include <unicode/coll.h>
+#include <unicode/locid.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace awizo::icu_locale {
+
+/// The locale's order of texts, blind to case, with punctuation counting.
+class Collation {
+ public:
+  explicit Collation(const icu::Locale& locale);
+
+  /// Bytes that compare as the texts do.
+  std::string key(std::string_view text) const;
+
+ private:
+  std::unique_ptr<icu::Collator> collator_;
+};
+
+}  // namespace awizo::icu_locale

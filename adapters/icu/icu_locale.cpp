@@ -1,0 +1,76 @@
+#include "adapters/icu/icu_locale.h"
+
+#include <unicode/bytestream.h>
+#include <unicode/casemap.h>
+
+#include "adapters/icu/collation.h"
+#include "adapters/icu/formats.h"
+#include "adapters/icu/locale_name.h"
+#include "adapters/icu/single_byte.h"
+
+namespace awizo {
+
+using icu_locale::localeNamed;
+using icu_locale::writesCyrillic;
+
+struct IcuLocale::Parts {
+  explicit Parts(const icu::Locale& named)
+      : locale(named),
+        formats(named),
+        collation(named),
+        singleByte(writesCyrillic(named) ? "windows-1251" : "windows-1252") {}
+
+  icu::Locale locale;
+  icu_locale::Formats formats;
+  icu_locale::Collation collation;
+  icu_locale::SingleByteEncoding singleByte;
+};
+
+IcuLocale::IcuLocale(std::string_view name)
+    : parts_(std::make_unique<const Parts>(localeNamed(name))) {
+  icu_locale::readNumberFacts(parts_->locale, facts_);
+  facts_.dateOrder = parts_->formats.dateOrder();
+  facts_.dotSeparatesDates = parts_->formats.dotSeparatesDates();
+}
+
+IcuLocale::~IcuLocale() = default;
+
+std::string IcuLocale::shortDate(Date date) const { return parts_->formats.shortDate(date); }
+
+std::string IcuLocale::shortTime(TimeOfDay time) const { return parts_->formats.shortTime(time); }
+
+std::string IcuLocale::longDate(Date date) const { return parts_->formats.longDate(date); }
+
+std::string IcuLocale::upper(std::string_view text) const {
+  std::string result;
+  icu::StringByteSink<std::string> sink(&result);
+  UErrorCode status = U_ZERO_ERROR;
+  icu::CaseMap::utf8ToUpper(parts_->locale.getName(), 0,
+                            {text.data(), static_cast<int32_t>(text.size())}, sink, nullptr,
+                            status);
+  return result;
+}
+
+std::string IcuLocale::lower(std::string_view text) const {
+  std::string result;
+  icu::StringByteSink<std::string> sink(&result);
+  UErrorCode status = U_ZERO_ERROR;
+  icu::CaseMap::utf8ToLower(parts_->locale.getName(), 0,
+                            {text.data(), static_cast<int32_t>(text.size())}, sink, nullptr,
+                            status);
+  return result;
+}
+
+std::string IcuLocale::collationKey(std::string_view text) const {
+  return parts_->collation.key(text);
+}
+
+std::string IcuLocale::toSingleByte(std::string_view text) const {
+  return parts_->singleByte.encode(text);
+}
+
+std::string IcuLocale::fromSingleByte(std::string_view bytes) const {
+  return parts_->singleByte.decode(bytes);
+}
+
+}  // namespace awizo
