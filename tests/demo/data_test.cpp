@@ -1,5 +1,8 @@
 // The demo's documents are what the editor is tried and tested with: they must stay as told here.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <set>
 

@@ -1,5 +1,7 @@
 #include "demo/options.h"
 
+#include <gtest/gtest.h>
+
 namespace awizo::demo {
 namespace {
 
