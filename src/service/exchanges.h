@@ -38,9 +38,6 @@ inline constexpr std::string_view orderPath =
     "/receive-document-response/document-content/Document-Order";
 inline constexpr std::string_view submissionStatusPath =
     "/send-document-response/submission-status";
-/// Where the answer about the catalogue is searched for an error's description. It is a path of
-/// another reply, so a well-formed answer holds nothing there.
-inline constexpr std::string_view catalogueErrorPath = "/dictionary-response/description";
 /// Below the document element of the user's file and of the partner's file alike.
 inline constexpr std::string_view identityPath = "partner-info/info";
 

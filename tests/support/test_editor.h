@@ -1,0 +1,61 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "adapters/icu/icu_locale.h"
+#include "adapters/libxml2/libxml2.h"
+#include "platform/forms/screen.h"
+#include "platform/platform.h"
+#include "session/record/awizo_form.h"
+#include "session/record/editor.h"
+#include "session/record/session_state.h"
+#include "support/fake_host.h"
+#include "support/fake_http.h"
+#include "support/memory_files.h"
+#include "support/scripted_screen.h"
+
+namespace awizo::test {
+
+/// The surroundings of a control: XML and locale are the real ones, all else is played. A test
+/// reads and sets the parts directly.
+struct TestSurroundings {
+  /// `localeName`: "ru_RU", "en_US", ...
+  explicit TestSurroundings(std::string_view localeName = "ru_RU");
+
+  ScriptedScreen face;  ///< the user: boxes seen, answers to come
+  Screen screen{face};
+  Libxml2 xml;
+  IcuLocale locale;
+  FakeHttp http;
+  FakePage page;  ///< no page until its texts are set
+  FakeBag bag;
+  FakeControlHost host;
+  MemorySettings settings;
+  MemoryFiles files;
+  FixedClock clock;  ///< 21 November 2026, 10:15
+  Platform platform;
+
+  /// A document from text; the test fails when the text is no XML.
+  std::unique_ptr<XmlDocument> document(std::string_view text) const;
+};
+
+/// A whole editor on played surroundings, as it is between the user's actions: the main form is
+/// shown, the decimal separator is known, and everything else is as a new record has it. Without
+/// the control, no event of the form is connected: call the procedures.
+struct TestEditor : TestSurroundings {
+  explicit TestEditor(std::string_view localeName = "ru_RU");
+
+  SessionState session;
+  AwizoForm form;
+  Editor editor;
+
+  /// Puts rows of texts into a table from row 1 on, from column 0 on; the table has as many rows
+  /// then (an empty one where there are none). Counters are the test's to set.
+  static void fill(Table& table, const std::vector<std::vector<std::string>>& rows);
+  /// Texts of one data row.
+  static std::vector<std::string> row(const Table& table, int row);
+};
+
+}  // namespace awizo::test
