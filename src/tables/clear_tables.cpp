@@ -1,0 +1,40 @@
+#include "tables/clear_tables.h"
+
+#include "tables/flat_index.h"
+
+namespace awizo {
+namespace {
+
+void emptyFirstRow(Table& table) {
+  for (std::int16_t column = 0; column < table.columns(); ++column) {
+    table.setCell(flatIndex(table, 1, column), "");
+  }
+}
+
+}  // namespace
+
+void ClearGrdPozycje(Editor& editor) {
+  Table& table = editor.form.grdPozycje;
+  table.setRows(2);
+  table.setRow(1);
+  emptyFirstRow(table);
+  for (int column = 1; column < table.columns(); ++column) table.setBackground(1, column, white);
+  editor.session.LineCount = 0;
+  editor.form.ValidLineCount = 0;
+}
+
+void ClearGrdOpakowania(Editor& editor) {
+  Table& table = editor.form.grdOpakowania;
+  table.setRows(2);
+  table.setRow(1);
+  emptyFirstRow(table);
+  editor.session.IloscPozycjiOpak = 0;
+}
+
+void ClearGrdSuma(Editor& editor) {
+  Table& table = editor.form.grdSuma;
+  table.setRows(2);
+  emptyFirstRow(table);
+}
+
+}  // namespace awizo

@@ -1,0 +1,215 @@
+#include "tables/package_references.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/forms/report_errors.h"
+#include "platform/narrow.h"
+#include "platform/text.h"
+#include "tables/flat_index.h"
+
+namespace awizo {
+namespace {
+
+constexpr std::string_view referenceSeparator = "$";
+constexpr std::string_view fieldSeparator = "@";
+constexpr std::size_t fieldCount = 4;
+constexpr std::size_t quantityField = 3;
+constexpr std::array<std::string_view, 5> headings{"№ п.п", "ID упаковки", "Описание упаковки",
+                                                   "Уровень", "Количество"};
+
+std::vector<std::string> referencesOf(std::string_view text) {
+  return split(text, referenceSeparator);
+}
+
+/// The fields of a reference; an empty reference has none, not even the serial.
+std::vector<std::string> fieldsOf(std::string_view reference) {
+  return split(reference, fieldSeparator);
+}
+
+const std::string& serialOf(const std::vector<std::string>& fields) {
+  if (fields.empty()) throw errors::subscriptOutOfRange();
+  return fields.front();
+}
+
+void logReferences(Editor& editor, std::string_view what, std::string_view text) {
+  DebugLog& log = editor.session.log;
+  if (log.writes(4)) log.WriteDebugLine(std::string(what).append(text), 4);
+}
+
+std::string gridText(const Table& table) {
+  if (table.rows() == 2 && table.cell(flatIndex(table, 1, 1)).empty()) return "";
+  std::string text;
+  const std::int16_t last = narrow16(table.rows() - 1);
+  for (std::int16_t row = 1; row <= last; ++row) {
+    if (row > 1) text.append(referenceSeparator);
+    for (std::int16_t column = 1; column <= static_cast<std::int16_t>(fieldCount); ++column) {
+      if (column > 1) text.append(fieldSeparator);
+      text.append(table.cell(flatIndex(table, row, column)));
+    }
+  }
+  return text;
+}
+
+void writeHeadings(Table& table) {
+  table.clear();
+  table.setRows(2);
+  for (std::int16_t column = 0; column < static_cast<std::int16_t>(headings.size()); ++column) {
+    table.setCell(flatIndex(table, 0, column), headings[static_cast<std::size_t>(column)]);
+    CellLook look = table.look(0, column);
+    look.alignment = Alignment::centre;
+    look.wrap = true;
+    table.setLook(0, column, look);
+  }
+}
+
+void fillGrid(Table& table, std::string_view text) {
+  writeHeadings(table);
+  const std::vector<std::string> references = referencesOf(text);
+  if (references.empty()) return;
+  table.setRows(narrow16(static_cast<std::int64_t>(references.size()) + 1));
+  std::int16_t row = 0;
+  for (const std::string& reference : references) {
+    ++row;
+    const std::vector<std::string> fields = fieldsOf(reference);
+    table.setCell(flatIndex(table, row, 1), serialOf(fields));
+    const auto last = static_cast<std::int16_t>(std::min(fields.size(), fieldCount));
+    for (std::int16_t column = 2; column <= last; ++column) {
+      table.setCell(flatIndex(table, row, column), fields[static_cast<std::size_t>(column) - 1]);
+    }
+  }
+}
+
+/// The kept references. The separator before one is decided by its place in the old string, so
+/// that one stands in front when the first reference went and a later one stayed.
+template <class Contains>
+std::string keptReferences(std::string_view text, const Contains& isDeleted) {
+  std::string kept;
+  bool first = true;
+  for (const std::string& reference : referencesOf(text)) {
+    const std::vector<std::string> fields = fieldsOf(reference);
+    if (!isDeleted(serialOf(fields))) {
+      if (!first) kept.append(referenceSeparator);
+      const std::size_t count = std::min(fields.size(), fieldCount);
+      for (std::size_t i = 0; i < count; ++i) {
+        if (i > 0) kept.append(fieldSeparator);
+        kept.append(fields[i]);
+      }
+    }
+    first = false;
+  }
+  return kept;
+}
+
+template <class Contains>
+std::string removeReferences(Editor& editor, std::string_view text, const Contains& isDeleted) {
+  std::string result;
+  const bool done = reportErrors(editor.screen(), "Произошла ошибка в RemoveOldPackRef", [&] {
+    logReferences(editor, "RemoveOldPackRef - INPUT: ", text);
+    result = keptReferences(text, isDeleted);
+    if (result.starts_with(referenceSeparator)) {
+      logReferences(editor, "RemoveOldPackRef - separator z przodu: ", result);
+      result.erase(0, referenceSeparator.size());
+    }
+    logReferences(editor, "RemoveOldPackRef - OUTPUT: ", result);
+  });
+  return done ? result : "";
+}
+
+std::string xmlOf(std::string_view text) {
+  std::string xml;
+  for (const std::string& reference : referencesOf(text)) {
+    const std::vector<std::string> fields = fieldsOf(reference);
+    xml.append("<Package-Reference><PackageId>").append(serialOf(fields)).append("</PackageId>");
+    if (fields.size() > quantityField) {
+      xml.append("<Quantity>").append(Conversions::CommaToDot(fields[quantityField]));
+      xml.append("</Quantity>");
+    }
+    xml.append("</Package-Reference>");
+  }
+  return xml;
+}
+
+std::string textAt(const XmlNode& node, std::string_view path) {
+  const XmlNode found = node.selectSingle(path);
+  return found ? found.text() : "";
+}
+
+std::string textOfElements(const Xml& xml, std::string_view elements) {
+  const std::unique_ptr<XmlDocument> document = xml.createDocument();
+  if (!document->loadText(std::string("<root>").append(elements).append("</root>"))) return "";
+  std::string text;
+  bool first = true;
+  for (const XmlNode& reference : document->node().selectAll("/root/Package-Reference")) {
+    if (!first) text.append(referenceSeparator);
+    first = false;
+    text.append(textAt(reference, "PackageId")).append(fieldSeparator);
+    // The path starts at the root, which is another element, so the description stays empty.
+    text.append(textAt(reference, "/Goods-Identity/Range/ID-Begin")).append(fieldSeparator);
+    text.append(textAt(reference, "Quantity"));
+  }
+  return text;
+}
+
+/// For procedures that end at an error without a word and give the empty text.
+template <class Body>
+std::string emptyOnError(Body&& body) {
+  try {
+    return body();
+  } catch (const RunTimeError&) {
+    return "";
+  }
+}
+
+}  // namespace
+
+std::string GridToString(const Table& table) {
+  return emptyOnError([&] { return gridText(table); });
+}
+
+void StringToGrid(Table& table, std::string_view text) {
+  try {
+    fillGrid(table, text);
+  } catch (const RunTimeError&) {
+    // What is in the table stays there.
+  }
+}
+
+std::string RemoveOldPackRef(Editor& editor, std::string_view text,
+                             const std::vector<std::string>& delSerials) {
+  return removeReferences(editor, text, [&](const std::string& serial) {
+    return std::find(delSerials.begin(), delSerials.end(), serial) != delSerials.end();
+  });
+}
+
+std::string RemoveOldPackRef(Editor& editor, std::string_view text, const SerialSet& delSerials) {
+  return removeReferences(editor, text,
+                          [&](const std::string& serial) { return delSerials.contains(serial); });
+}
+
+std::string GetPackedQuantity(Editor& editor, std::string_view text) {
+  std::string result;
+  reportErrors(editor.screen(), "Произошла ошибка в GetPackedQuantity", [&] {
+    const Conversions& conversions = editor.conversions;
+    logReferences(editor, "GetPackedQuantity - INPUT: ", text);
+    double total = 0;
+    for (const std::string& reference : referencesOf(text)) {
+      const std::vector<std::string> fields = fieldsOf(reference);
+      if (fields.size() > quantityField) total += conversions.toDouble(fields[quantityField]);
+    }
+    const std::string plain = conversions.plainNumber(total);
+    logReferences(editor, "GetPackedQuantity - OUTPUT: ", plain);
+    result = conversions.NormalizeDecimal(std::string(plain), 3);
+  });
+  return result;
+}
+
+std::string PackageRefsToXml(std::string_view text) {
+  return emptyOnError([&] { return xmlOf(text); });
+}
+
+std::string PackageRefsFromXml(const Xml& xml, std::string_view text) {
+  return emptyOnError([&] { return textOfElements(xml, text); });
+}
+
+}  // namespace awizo

@@ -1,0 +1,77 @@
+#include "tables/totals.h"
+
+#include "platform/forms/report_errors.h"
+#include "tables/clear_tables.h"
+#include "tables/columns.h"
+#include "tables/flat_index.h"
+
+namespace awizo {
+namespace {
+
+/// Number in the column of the current row, 0 for an empty cell. The cell becomes the current one.
+double numberOfCurrentRow(const Editor& editor, Table& lines, int column) {
+  lines.setColumn(column);
+  const std::string& text = lines.text();
+  return text.empty() ? 0 : editor.conversions.toDouble(text);
+}
+
+void writeTotal(Editor& editor, std::int16_t column, std::string_view text) {
+  editor.form.grdSuma.setCell(IndexGrdSuma(editor, 1, column), text);
+}
+
+}  // namespace
+
+void PoprawGrdSuma(Editor& editor) {
+  reportErrors(editor.screen(), "Произошла ошибка в  PoprawGrdSuma()", [&] {
+    const std::int16_t count = editor.session.LineCount;
+    if (count < 1) return;
+    ClearGrdSuma(editor);
+    writeTotal(editor, GRD_SUMA_LINE_COUNT, std::to_string(count));
+    Table& lines = editor.form.grdPozycje;
+    double despatched = 0;
+    double netAmount = 0;
+    for (int row = 1; row <= count; ++row) {
+      lines.setRow(row);
+      despatched += numberOfCurrentRow(editor, lines, GRD_POZ_QTY_DESPATCHED);
+      netAmount += numberOfCurrentRow(editor, lines, GRD_POZ_NET_AMOUNT);
+    }
+    const Conversions& conversions = editor.conversions;
+    writeTotal(editor, GRD_SUMA_QTY_DESPATCHED,
+               conversions.FormatFixed(conversions.plainNumber(despatched), 3));
+    writeTotal(editor, GRD_SUMA_NET_AMOUNT,
+               conversions.FormatFixed(conversions.plainNumber(netAmount), 2));
+  });
+}
+
+std::string MyCalculateWeight(Editor& editor) {
+  AwizoForm& form = editor.form;
+  form.WeightComplete = true;
+  double total = 0;
+  for (int row = 1; row <= editor.session.LineCount; ++row) {
+    form.grdPozycje.setRow(row);
+    const auto line = static_cast<std::int16_t>(row);
+    std::string quantity =
+        form.grdPozycje.cell(IndexGrdPozycje(editor, line, GRD_POZ_QTY_DESPATCHED));
+    std::string weight = form.grdPozycje.cell(IndexGrdPozycje(editor, line, GRD_POZ_WEIGHT));
+    total += MyCalculatePartWeight(editor, quantity, weight);
+  }
+  form.lblNiepelnaWagaKom.setCaption(form.WeightComplete ? "" : "Не для всех позиций указан вес");
+  return editor.conversions.plainNumber(total);
+}
+
+double MyCalculatePartWeight(Editor& editor, std::string& quantity, std::string& weight) {
+  const Conversions& conversions = editor.conversions;
+  try {
+    const double q = conversions.toDouble(conversions.NormalizeDecimal(quantity, 3));
+    const double w = conversions.toDouble(conversions.NormalizeDecimal(weight, 2));
+    if (w > 0) {
+      return conversions.toDouble(conversions.NormalizeDecimal(conversions.plainNumber(q * w), 3));
+    }
+  } catch (const RunTimeError&) {
+    // A text that is no number is a line without a weight.
+  }
+  editor.form.WeightComplete = false;
+  return 0;
+}
+
+}  // namespace awizo
