@@ -49,6 +49,11 @@ TEST(Text, ReplaceAllDoesNotLookAtWhatItHasWritten) {
   EXPECT_EQ(replaceAll("abc", "", "x"), "abc");
 }
 
+TEST(Text, OneLineTextHasNoLineBreaksAndControlCharacters) {
+  EXPECT_EQ(withoutControlCharacters("a\r\nб\t\x7F\u0085\u2028\u2029№\u00A0"), "aб№\u00A0");
+  EXPECT_EQ(withoutControlCharacters(""), "");
+}
+
 TEST(Text, CharacterTextWritesEveryLengthOfUtf8) {
   EXPECT_EQ(characterText(U'a'), "a");
   EXPECT_EQ(characterText(U'Ж'), "Ж");
