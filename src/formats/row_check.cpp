@@ -1,0 +1,70 @@
+#include "formats/row_check.h"
+
+#include <string>
+
+#include "formats/customs_number.h"
+#include "tables/columns.h"
+#include "tables/flat_index.h"
+#include "tables/totals.h"
+
+namespace awizo {
+namespace {
+
+constexpr int firstPaintedColumn = 1;
+constexpr int lastPaintedColumn = 21;
+
+bool fails(Editor& editor, std::string_view columnName) {
+  editor.form.BadColumnName = columnName;
+  return false;
+}
+
+/// A cell of the table that may stay empty.
+bool isEmptyOrNumber(const Editor& editor, const std::string& text) {
+  return text.empty() || editor.conversions.isNumeric(text);
+}
+
+void paintWhite(Table& table, int row) {
+  for (int column = firstPaintedColumn; column <= lastPaintedColumn; ++column) {
+    table.setBackground(row, column, white);
+  }
+}
+
+}  // namespace
+
+bool CheckGridRow(Editor& editor, std::int16_t row) {
+  const auto cell = [&](int column) -> const std::string& {
+    return editor.form.grdPozycje.cell(
+        IndexGrdPozycje(editor, row, static_cast<std::int16_t>(column)));
+  };
+  const Conversions& conversions = editor.conversions;
+  if (!conversions.isNumeric(cell(GRD_POZ_EAN))) return fails(editor, "EAN");
+  if (!isEmptyOrNumber(editor, cell(GRD_POZ_QTY_ORDERED))) return fails(editor, "Zamowiona ilosc");
+  if (!conversions.isNumeric(Conversions::DotToComma(cell(GRD_POZ_QTY_DESPATCHED)))) {
+    return fails(editor, "Potwierdzana ilosc");
+  }
+  if (!isEmptyOrNumber(editor, cell(GRD_POZ_PRICE))) return fails(editor, "Cena netto");
+  if (!isEmptyOrNumber(editor, cell(GRD_POZ_NET_AMOUNT))) return fails(editor, "Wartosc netto");
+  const std::string faulty = faultyCustomsNumberField(editor, cell(GRD_POZ_CDN));
+  return faulty.empty() || fails(editor, faulty);
+}
+
+void RepaintValidRows(Editor& editor) {
+  for (std::int16_t row = 1; row <= editor.session.LineCount; ++row) {
+    if (CheckGridRow(editor, row)) paintWhite(editor.form.grdPozycje, row);
+  }
+}
+
+void CountValidRows(Editor& editor) {
+  AwizoForm& form = editor.form;
+  form.ValidLineCount = 0;
+  for (std::int16_t line = 1; line <= editor.session.LineCount; ++line) {
+    if (CheckGridRow(editor, line)) ++form.ValidLineCount;
+  }
+  const int row = form.grdPozycje.row();
+  const int column = form.grdPozycje.column();
+  PoprawGrdSuma(editor);
+  form.grdPozycje.setRow(row);
+  form.grdPozycje.setColumn(column);
+}
+
+}  // namespace awizo

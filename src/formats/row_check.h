@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstdint>
+
+#include "session/record/editor.h"
+
+namespace awizo {
+
+/// Whether the line in this row of grdPozycje can leave in a document. The first cell that fails
+/// gives its name to BadColumnName. Error 6 beyond the last row that the cell index reaches.
+bool CheckGridRow(Editor& editor, std::int16_t row);
+
+/// Paints every line that passes white. Failing lines keep their colours; the current cell stays.
+void RepaintValidRows(Editor& editor);
+
+/// Counts the lines that pass into ValidLineCount and brings the totals up to date. The current
+/// cell stays.
+void CountValidRows(Editor& editor);
+
+}  // namespace awizo
