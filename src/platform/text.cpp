@@ -15,6 +15,26 @@ bool isControlCharacter(std::string_view character) {
   return character.size() == 2 && first == 0xC2 && static_cast<unsigned char>(character[1]) < 0xA0;
 }
 
+/// What may follow a first byte: how many bytes, and from which to which the first of them.
+struct Followers {
+  std::size_t count;
+  unsigned char low;
+  unsigned char high;
+};
+
+constexpr Followers none{0, 1, 0};
+
+Followers followersOf(unsigned char first) {
+  if (first >= 0xC2 && first <= 0xDF) return {1, 0x80, 0xBF};
+  if (first == 0xE0) return {2, 0xA0, 0xBF};
+  if (first == 0xED) return {2, 0x80, 0x9F};
+  if (first >= 0xE1 && first <= 0xEF) return {2, 0x80, 0xBF};
+  if (first == 0xF0) return {3, 0x90, 0xBF};
+  if (first >= 0xF1 && first <= 0xF3) return {3, 0x80, 0xBF};
+  if (first == 0xF4) return {3, 0x80, 0x8F};
+  return none;
+}
+
 }  // namespace
 
 std::size_t countCharacters(std::string_view text) {
@@ -86,6 +106,22 @@ std::string withoutControlCharacters(std::string_view text) {
     at = next;
   }
   return kept;
+}
+
+bool isUtf8(std::string_view bytes) {
+  for (std::size_t at = 0; at < bytes.size(); ++at) {
+    const auto first = static_cast<unsigned char>(bytes[at]);
+    if (first < 0x80) continue;
+    const Followers followers = followersOf(first);
+    if (followers.count == 0 || bytes.size() - at <= followers.count) return false;
+    const auto second = static_cast<unsigned char>(bytes[at + 1]);
+    if (second < followers.low || second > followers.high) return false;
+    for (std::size_t i = 2; i <= followers.count; ++i) {
+      if (startsCharacter(bytes[at + i])) return false;
+    }
+    at += followers.count;
+  }
+  return true;
 }
 
 std::string characterText(char32_t codePoint) {

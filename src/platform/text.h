@@ -35,6 +35,9 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
 /// The text as a one-line field takes it: without line breaks and other control characters.
 std::string withoutControlCharacters(std::string_view text);
 
+/// Whether the bytes are well-formed UTF-8: no overlong form, no surrogate, nothing cut off.
+bool isUtf8(std::string_view bytes);
+
 /// The UTF-8 form of a code point.
 std::string characterText(char32_t codePoint);
 

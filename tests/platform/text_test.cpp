@@ -54,6 +54,21 @@ TEST(Text, OneLineTextHasNoLineBreaksAndControlCharacters) {
   EXPECT_EQ(withoutControlCharacters(""), "");
 }
 
+TEST(Text, WellFormedUtf8IsKnown) {
+  for (const char* text : {"", "a", "я", "€", "\uFFFD", "😀", "\xF4\x8F\xBF\xBF", "aя€😀"}) {
+    EXPECT_TRUE(isUtf8(text)) << text;
+  }
+}
+
+TEST(Text, BytesThatAreNoUtf8AreKnown) {
+  for (const char* bytes :
+       {"\x80", "\xFF", "\xC3", "a\xD1", "\xC0\x80", "\xC1\xBF", "\xE0\x80\x80", "\xE2\x82",
+        "\xED\xA0\x80", "\xF0\x8F\xBF\xBF", "\xF0\x9F\x98", "\xF4\x90\x80\x80", "\xF5\x80\x80\x80",
+        "\xD1\x41", "\xE2\x82\x41", "\xE2\x41\x82"}) {
+    EXPECT_FALSE(isUtf8(bytes)) << bytes;
+  }
+}
+
 TEST(Text, CharacterTextWritesEveryLengthOfUtf8) {
   EXPECT_EQ(characterText(U'a'), "a");
   EXPECT_EQ(characterText(U'Ж'), "Ж");

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/files.h"
+
+namespace awizo {
+
+/// The machine's files. The one drive "c:" is the root; a name in a folder that isn't text, or that
+/// holds a backslash, can't be said in classic paths and is not listed; nor are hidden ones.
+/// Lists go by name, the letters A to Z case-blind.
+class PosixFiles final : public Files {
+ public:
+  std::string readAll(std::string_view path) override;
+  void replace(std::string_view path, std::string_view bytes) override;
+  std::unique_ptr<TextStream> createText(std::string_view path) override;
+  bool folderExists(std::string_view path) override;
+  void makeFolder(std::string_view path) override;
+  std::vector<std::string> folders(std::string_view path) override;
+  std::vector<std::string> files(std::string_view path, std::string_view ending) override;
+  std::vector<std::string> drives() override;
+};
+
+}  // namespace awizo
