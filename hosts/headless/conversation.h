@@ -1,0 +1,53 @@
+#pragma once
+
+#include <functional>
+#include <iosfwd>
+#include <string>
+
+#include "hosts/headless/line_stream.h"
+#include "hosts/headless/procedures/json.h"
+#include "platform/screen_face.h"
+
+namespace awizo::headless {
+
+/// Input ended while a box or a modal form was open: all that runs is given up. No std::exception,
+/// so that nothing on the way takes it for an error to report.
+struct InputEnded {};
+
+/// The system ended the whole program.
+struct ProgramEnded {};
+
+/// The talk with the user's program: takes line by line, gives each to `act` and answers it. It is
+/// also the screen: a box or a modal form reads further lines until it is answered or has hidden.
+class Conversation : public ScreenFace {
+ public:
+  Conversation(std::istream& in, std::ostream& out) : lines_(in, out) {}
+
+  /// Does what a line asks that is no answer to a box. What it returns stands in the closing line
+  /// ("value", "args"). Throws BadLine, Refused or RunTimeError; nothing has changed then but what
+  /// a procedure did before its error. While a box is open only lines that get something come here.
+  std::function<Json(const Json& line)> act;
+
+  /// Tells from now on when the form is shown modally and when it hides.
+  void watch(Form& dialog);
+  /// Serves lines until the end of input.
+  void run();
+  /// Writes an event; nothing is told any more once the input has ended under an open box or form.
+  void emit(const Json& event);
+
+  Answer ask(const MessageBox& box) override;
+  /// Serves lines until the form has hidden.
+  void runModal(Form& form) override;
+  void cursorChanged(Cursor) override {}
+  void letEventsRun() override {}
+  [[noreturn]] void endProgram() override;
+
+ private:
+  std::string nextLine();
+  void serve(const std::string& text);
+
+  LineStream lines_;
+  bool givenUp_ = false;
+};
+
+}  // namespace awizo::headless

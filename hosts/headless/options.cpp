@@ -1,0 +1,80 @@
+#include "hosts/headless/options.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include "hosts/headless/procedures/value_texts.h"
+
+namespace awizo::headless {
+
+const std::string_view usage =
+    "usage: awizo-headless [--property NAME=VALUE]... [--page-url URL] [--cookie TEXT]\n"
+    "                      [--settings FILE] [--offline-path DIR] [--locale NAME]\n"
+    "                      [--now YYYY-MM-DDTHH:MM:SS]\n";
+
+namespace {
+
+constexpr std::array<std::string_view, 5> propertyNames{"OnLine", "DebugLevel", "PartnerName",
+                                                        "PartnerILN", "PartnerURL"};
+
+void takeProperty(Options& options, const std::string& entry) {
+  const std::size_t equals = entry.find('=');
+  const std::string name = entry.substr(0, equals);
+  if (equals == std::string::npos ||
+      std::ranges::find(propertyNames, name) == propertyNames.end()) {
+    throw BadArguments("no such property: " + entry);
+  }
+  options.properties[name] = entry.substr(equals + 1);
+}
+
+/// "ru", "ru_RU", "ru_RU.UTF-8".
+void takeLocale(Options& options, const std::string& name) {
+  const bool plain = !name.empty() && std::ranges::all_of(name, [](char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
+           c == '-' || c == '.' || c == '@' || c == '=';
+  });
+  if (!plain) throw BadArguments("no such locale: " + name);
+  options.locale = name;
+}
+
+void takeNow(Options& options, const std::string& text) {
+  options.now = parseMoment(text);
+  if (!options.now) throw BadArguments("no such moment: " + text);
+}
+
+void takeOption(Options& options, const std::string& name, const std::string& value) {
+  if (name == "--property") return takeProperty(options, value);
+  if (name == "--locale") return takeLocale(options, value);
+  if (name == "--now") return takeNow(options, value);
+  if (name == "--page-url") {
+    options.pageUrl = value;
+  } else if (name == "--cookie") {
+    options.cookie = value;
+  } else if (name == "--settings") {
+    options.settingsFile = value;
+  } else if (name == "--offline-path") {
+    options.offLinePath = value;
+  } else {
+    throw BadArguments("no such option: " + name);
+  }
+}
+
+}  // namespace
+
+Options parseOptions(const std::vector<std::string>& arguments) {
+  Options options;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& argument = arguments[i];
+    const std::size_t equals = argument.find('=');
+    if (equals != std::string::npos) {
+      takeOption(options, argument.substr(0, equals), argument.substr(equals + 1));
+      continue;
+    }
+    if (i + 1 == arguments.size()) throw BadArguments("no value for: " + argument);
+    takeOption(options, argument, arguments[++i]);
+  }
+  return options;
+}
+
+}  // namespace awizo::headless

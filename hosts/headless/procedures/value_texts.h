@@ -1,0 +1,25 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/date.h"
+
+namespace awizo::headless {
+
+// Dates and times as lines of JSON hold them.
+
+/// "2026-11-30".
+std::string dateText(Date date);
+/// "10:30".
+std::string timeText(TimeOfDay time);
+
+/// "2026-11-30"; none for a text that is no such day.
+std::optional<Date> parseDate(std::string_view text);
+/// "10:30" or "10:30:15"; none for a text that is no such time.
+std::optional<TimeOfDay> parseTime(std::string_view text);
+/// "2026-11-30T10:30:15"; none for a text that is no such moment.
+std::optional<Moment> parseMoment(std::string_view text);
+
+}  // namespace awizo::headless
