@@ -38,7 +38,7 @@ void DlgSzczegoly::readLocalizations(const XmlNode& catalogue) {
     LocalizationOrder[i] = narrow32(static_cast<std::int64_t>(i));
     LocalizationIlns[i] = GetNodeValue(place, "iln", false);
   }
-  Sorter(screen(), editor_.platform.locale)
+  Sorter(screen(), editor_.conversions)
       .QuickSortU(LocalizationNumbers, LocalizationOrder, 0,
                   narrow32(static_cast<std::int64_t>(entries.size()) - 1),
                   narrow32(static_cast<std::int64_t>(entries.size())));

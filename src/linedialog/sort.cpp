@@ -1,0 +1,164 @@
+#include "linedialog/sort.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "platform/forms/report_errors.h"
+
+namespace awizo {
+namespace {
+
+void requireSegment(const Sorter::Keys& keys, const Sorter::Index& index, std::int32_t left,
+                    std::int32_t right) {
+  const auto size = static_cast<std::int64_t>(index.size());
+  if (left < 0 || right >= size) throw errors::subscriptOutOfRange();
+  for (std::int32_t i = left; i <= right; ++i) {
+    const std::int32_t entry = index[static_cast<std::size_t>(i)];
+    if (entry < 0 || static_cast<std::size_t>(entry) >= keys.size()) {
+      throw errors::subscriptOutOfRange();
+    }
+  }
+}
+
+}  // namespace
+
+void Sorter::ReDimSplitArrays(std::int32_t n) {
+  if (n < -1) throw errors::subscriptOutOfRange();
+  SplitLeft.assign(static_cast<std::size_t>(n) + 1, 0);
+  SplitRight.assign(static_cast<std::size_t>(n) + 1, 0);
+}
+
+void Sorter::QuickSortU(const Keys& keys, Index& index, std::int32_t left, std::int32_t right,
+                        std::int32_t size) {
+  ReDimSplitArrays(size + 1);
+  QuickSort(keys, index, left, right);
+}
+
+void Sorter::QuickSort(const Keys& keys, Index& index, std::int32_t left, std::int32_t right) {
+  reportErrors(screen_, "Произошла ошибка в  QuickSort()", [&] {
+    prepare(keys, index, left, right);
+    SplitTop = -1;
+    PutSplitAreas(left, right);
+    while (SplitTop >= 0) {
+      const auto [from, to] = GetSplitAreas();
+      IQuickSort(keys, index, from, to);
+    }
+  });
+  ranked_ = false;
+}
+
+void Sorter::PutSplitAreas(std::int32_t left, std::int32_t right) {
+  reportErrors(screen_, "Произошла ошибка в  PutSplitAreas()", [&] {
+    const auto top = static_cast<std::size_t>(SplitTop + 1);
+    if (top >= SplitLeft.size() || top >= SplitRight.size()) throw errors::subscriptOutOfRange();
+    SplitTop = SplitTop + 1;
+    SplitLeft[top] = left;
+    SplitRight[top] = right;
+  });
+}
+
+std::pair<std::int32_t, std::int32_t> Sorter::GetSplitAreas() {
+  std::pair<std::int32_t, std::int32_t> area{0, 0};
+  reportErrors(screen_, "Произошла ошибка в  GetSplitAreas()", [&] {
+    const auto top = static_cast<std::size_t>(SplitTop);
+    if (SplitTop < 0 || top >= SplitLeft.size()) throw errors::subscriptOutOfRange();
+    area = {SplitLeft[top], SplitRight[top]};
+    SplitTop = SplitTop - 1;
+  });
+  return area;
+}
+
+void Sorter::IQuickSort(const Keys& keys, Index& index, std::int32_t left, std::int32_t right) {
+  reportErrors(screen_, "Произошла ошибка в  IQuickSort()", [&] {
+    if (left >= right) return;
+    const std::int32_t pivot = Partition(keys, index, left, right);
+    if (pivot < 0) return;
+    PutSplitAreas(pivot + 1, right);
+    PutSplitAreas(left, pivot - 1);
+  });
+}
+
+std::int32_t Sorter::Partition(const Keys& keys, Index& index, std::int32_t left,
+                               std::int32_t right) {
+  std::int32_t pivot = -1;
+  reportErrors(screen_, "Произошла ошибка в  Partition()", [&] {
+    const bool alone = !ranked_;
+    if (alone) prepare(keys, index, left, right);
+    if (alone) requireSegment(keys, index, left, right);
+    pivot = partitionRanked(index, left, right);
+    if (alone) ranked_ = false;
+  });
+  return pivot;
+}
+
+// Makes each text's key once, and numbers the texts of the segment by their order: equal texts
+// get equal ranks. A segment that isn't there is left to Partition to report.
+void Sorter::prepare(const Keys& keys, const Index& index, std::int32_t left, std::int32_t right) {
+  ranked_ = false;
+  if (left >= right) return;
+  try {
+    requireSegment(keys, index, left, right);
+  } catch (const RunTimeError&) {
+    return;
+  }
+  const auto first = static_cast<std::size_t>(left);
+  const auto count = static_cast<std::size_t>(right - left) + 1;
+  std::vector<std::string> collationKeys(count);
+  for (std::size_t i = 0; i < count; ++i) {
+    collationKeys[i] =
+        conversions_.locale().collationKey(keys[static_cast<std::size_t>(index[first + i])]);
+  }
+  std::vector<std::int32_t> order(count);
+  std::iota(order.begin(), order.end(), 0);
+  const auto keyOf = [&](std::int32_t i) -> const std::string& {
+    return collationKeys[static_cast<std::size_t>(i)];
+  };
+  std::sort(order.begin(), order.end(),
+            [&](std::int32_t a, std::int32_t b) { return keyOf(a) < keyOf(b); });
+  ranks_.assign(first + count, 0);
+  lastPlace_.clear();
+  for (std::size_t i = 0; i < count; ++i) {
+    const bool isNew = i == 0 || keyOf(order[i]) != keyOf(order[i - 1]);
+    if (isNew) lastPlace_.push_back(0);
+    lastPlace_.back() = left + static_cast<std::int32_t>(i);
+    ranks_[first + static_cast<std::size_t>(order[i])] =
+        static_cast<std::int32_t>(lastPlace_.size()) - 1;
+  }
+  ranked_ = true;
+}
+
+// The walk swaps each key above the pivot, met from the left, with a key not above it, met from the
+// right; the pivot then goes behind its equals. A segment always holds the very elements whose
+// sorted places it covers, so the pivot's place is known beforehand. Hence only the shorter side is
+// searched for keys that stand wrong, and the other side just as far as their partners: a sorted, a
+// reversed and an all-equal list take one step per element.
+std::int32_t Sorter::partitionRanked(Index& index, std::int32_t left, std::int32_t right) {
+  const auto rank = [&](std::int32_t place) -> std::int32_t& {
+    return ranks_[static_cast<std::size_t>(place)];
+  };
+  const auto swapPlaces = [&](std::int32_t a, std::int32_t b) {
+    std::swap(index[static_cast<std::size_t>(a)], index[static_cast<std::size_t>(b)]);
+    std::swap(rank(a), rank(b));
+  };
+  const std::int32_t pivotRank = rank(left);
+  const std::int32_t pivot = std::min(lastPlace_[static_cast<std::size_t>(pivotRank)], right);
+  if (pivot - left <= right - pivot) {
+    std::int32_t j = right;
+    for (std::int32_t i = left + 1; i <= pivot; ++i) {
+      if (rank(i) <= pivotRank) continue;
+      while (rank(j) > pivotRank) --j;
+      swapPlaces(i, j--);
+    }
+  } else {
+    std::int32_t i = left + 1;
+    for (std::int32_t j = right; j > pivot; --j) {
+      if (rank(j) > pivotRank) continue;
+      while (rank(i) <= pivotRank) ++i;
+      swapPlaces(i++, j);
+    }
+  }
+  swapPlaces(left, pivot);
+  return pivot;
+}
+
+}  // namespace awizo
