@@ -1,0 +1,111 @@
+#include "bulkfill/bulk_fill.h"
+
+#include <algorithm>
+
+#include "formats/row_check.h"
+#include "platform/forms/report_errors.h"
+#include "platform/narrow.h"
+#include "platform/text.h"
+#include "session/record/header_panel.h"
+#include "tables/columns.h"
+#include "tables/flat_index.h"
+
+namespace awizo {
+namespace {
+
+bool isBlank(std::string_view cell) { return cell.empty() || cell == "-1"; }
+
+bool userAgrees(Editor& editor, std::string_view question) {
+  return editor.screen().messageBox({std::string(question), "VIRD", BoxIcon::question,
+                                     BoxButtons::yesNo}) == Answer::yes;
+}
+
+// Runs `fill` for every line whose cell is to be written.
+template <class Fill>
+void forLinesToFill(Editor& editor, std::int16_t column, bool overwrite, Fill fill) {
+  for (std::int16_t row = 1; row <= editor.session.LineCount; ++row) {
+    const std::int16_t index = IndexGrdPozycje(editor, row, column);
+    if (overwrite || isBlank(editor.form.grdPozycje.cell(index))) fill(row, index);
+  }
+}
+
+// "(PL)Польша" of a two-letter code; the bare code where the table doesn't know it.
+std::string listRow(DlgIsoCodes& isoCodes, const std::string& code) {
+  const Table& table = isoCodes.touch().grdISO;
+  for (int index = DlgIsoCodes::firstCode; index <= DlgIsoCodes::lastCode; index += 2) {
+    if (table.cell(index) == code) return countryEntry(code, table.cell(index - 1));
+  }
+  return code;
+}
+
+void fillCountry(Editor& editor, DlgIsoCodes& isoCodes, DlgDodaj& lineDialog, bool overwrite) {
+  DropDownList& countries = editor.form.comboCountry;
+  std::string country = countries.text();
+  CheckIsoCountry(editor.session, isoCodes, editor.platform.locale, country);
+  if (!editor.session.IsoCheckOk) {
+    editor.screen().showExclamation("The value of ISO code is not allowed", "VIRD");
+    return;
+  }
+  countries.setText(editor.session.IsoCheckCode);
+  FillLines2(editor, overwrite);
+  if (countCharacters(countries.text()) != 2) return;
+  const std::string row = listRow(isoCodes, countries.text());
+  const std::vector<std::string>& rows = countries.rows();
+  if (std::find(rows.begin(), rows.end(), row) != rows.end()) return;
+  countries.addRow(row);
+  lineDialog.touch().comboCountry.addRow(row);
+}
+
+}  // namespace
+
+void FillLines(Editor& editor, bool overwrite) {
+  if (editor.session.LineCount == 0) return;
+  reportErrors(editor.screen(), "Ошибка в FillLines()", [&] {
+    if (!userAgrees(editor,
+                    overwrite
+                        ? "Вы уверены, что хотите заполнить все поля для НДС выбранной ставкой?\r"
+                          "В этом случае текущие значения будут изменены."
+                        : "Пустые поля для НДС будут заполнены.")) {
+      return;
+    }
+    const std::string rate = editor.form.comboStawkaVAT.text();
+    Table& grid = editor.form.grdPozycje;
+    forLinesToFill(editor, GRD_POZ_TAX_RATE, overwrite, [&](std::int16_t row, std::int16_t index) {
+      grid.setCell(index, rate);
+      grid.setCell(IndexGrdPozycje(editor, row, GRD_POZ_TAX_CATEGORY), rate.empty() ? "" : "S");
+    });
+    CountValidRows(editor);
+  });
+}
+
+void FillLines2(Editor& editor, bool overwrite) {
+  if (editor.session.LineCount == 0) return;
+  reportErrors(editor.screen(), "Ошибка в FillLines2()", [&] {
+    if (!userAgrees(editor, overwrite
+                                ? "Вы уверены, что хотите заполнить все поля для 'Код страны "
+                                  "производителя'?\r"
+                                  "В этом случае текущие значения будут изменены."
+                                : "Пустые поля для 'Код страны производителя' будут заполнены.")) {
+      return;
+    }
+    const DropDownList& countries = editor.form.comboCountry;
+    const std::string country = symbolKraj(narrow16(countries.index()), countries.text());
+    forLinesToFill(editor, GRD_POZ_COUNTRY, overwrite, [&](std::int16_t, std::int16_t index) {
+      editor.form.grdPozycje.setCell(index, country);
+    });
+  });
+}
+
+void btnUzupelnij_Click(Editor& editor) { FillLines(editor, false); }
+
+void btnNadpisz_Click(Editor& editor) { FillLines(editor, true); }
+
+void btnUzupelnij2_Click(Editor& editor, DlgIsoCodes& isoCodes, DlgDodaj& lineDialog) {
+  fillCountry(editor, isoCodes, lineDialog, false);
+}
+
+void btnNadpisz2_Click(Editor& editor, DlgIsoCodes& isoCodes, DlgDodaj& lineDialog) {
+  fillCountry(editor, isoCodes, lineDialog, true);
+}
+
+}  // namespace awizo

@@ -1,0 +1,207 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "linedialog/dlg_iso_codes.h"
+#include "linedialog/dlgdodaj_pule.h"
+#include "linedialog/sort.h"
+#include "platform/forms/button.h"
+#include "platform/forms/drop_down_list.h"
+#include "platform/forms/form.h"
+#include "platform/forms/label.h"
+#include "platform/forms/pickers.h"
+#include "platform/forms/table.h"
+#include "platform/forms/text_field.h"
+#include "session/record/editor.h"
+
+namespace awizo {
+
+/// The product catalogue as the dialog keeps it: element i belongs to the i-th catalogue line.
+/// The texts never move; the index vectors give each list's order.
+struct ProductDictionary {
+  std::vector<std::string> ProdEAN, ProdName, ProdSupplierCode, ProdBuyerCode, ProdUnit,
+      ProdPackSize, ProdTaxRate, ProdPrice, ProdTaxCategory, ProdPeriod, ProdPeriodFormat,
+      ProdWeight;
+  std::vector<std::int32_t> IdxEAN, IdxName, IdxSupplierCode, IdxBuyerCode;
+};
+
+/// The modal dialog of one line. It is hidden and never unloaded, so its fields keep their last
+/// values. The main form fills it, shows it, and reads it when DlgResult is 1.
+class DlgDodaj : public Form {
+ public:
+  DlgDodaj(Editor& editor, DlgIsoCodes& isoCodes, DlgdodajPule& quantityDialog);
+
+  // Product. The lists lie over the text fields; without a catalogue they are hidden.
+  Label lblPozycjaTow;
+  Label lblNazwaProd;
+  DropDownList cboxNazwaProd;
+  TextField txtNazwaProdWart;
+  Label lblEANProd;
+  DropDownList cboxEANProd;
+  TextField txtlEANProdWart;
+  Label lblKodKup;
+  DropDownList cboxKodAPP;
+  TextField txtKodKup;
+  Label lblKodSprzed;
+  DropDownList cboxKodSprzed;
+  TextField txtKodSprzed;
+  Label lblJednostkaMiary;
+  DropDownList cboxJednostkaMiary;
+
+  // Quantities and amounts.
+  Label lblIloscZam;
+  TextField txtIloscZam;
+  Label lblIloscPotw;
+  TextField txtIloscPotw;
+  Label lblCenaNetto;
+  TextField txtCenaNetto;
+  Label Label7;
+  TextField txtAmount;
+  Label Label8;
+  DropDownList cboxStawkaVAT;
+  Label Label10;
+  DropDownList cboxKodVAT;
+
+  // Dates, country, customs number.
+  Label Label5;
+  DatePicker dtProdDate;
+  Label lblExpiryDate;
+  DatePicker dtExpiryDate;
+  Label lblContryOfOryginCode;
+  DropDownList comboCountry;
+  PictureButton btnISOcodes;
+  Label Label9;
+  TextField txtCDN1;
+  DatePicker dpCDN2;
+  TextField txtCDN3;
+  TextField txtCDN4;
+
+  // Packages of the line.
+  Label Label4;
+  Label lblPackedQuantity, lblPackedQuantityValue;
+  Table grdPozycje;
+  Table grdPozycjeN;  ///< stands on the form; nothing reads or writes it
+  Button Command1, Command2, Command3;
+
+  Button btnDodaj, btnZamknij;
+
+  // Members that the main form reads and writes.
+  std::int16_t DlgResult = 0;  ///< 1 accepted, 0 not
+  std::string LinePartnerName;
+  std::string LinePeriod, LinePeriodFormat;
+  bool LineFromOrder = false;
+  std::string LineOrderNumber;
+  std::string LineWeight;
+
+  /// Runs Form_Load at the first call after allowLoading().
+  DlgDodaj& touch();
+  /// The start-up has fetched the catalogue: the next touch may load the dialog.
+  void allowLoading() { mayLoad_ = true; }
+  bool loaded() const { return loaded_; }
+
+  // Rows of the fixed lists and their codes. Index -1 stands for the list's own text.
+  std::string symbolJednostkiMiary(std::int16_t index) const;
+  std::int16_t indexJednostkiMiary(std::string_view code) const;
+  /// Any unknown index of a category gives "E".
+  std::string symbolKodVAT(std::int16_t index) const;
+  std::int16_t indexKodVAT(std::string_view code) const;
+  std::string symbolStawkaVAT(std::int16_t index) const;
+  std::int16_t indexStawkaVAT(std::string_view rate) const;
+
+  /// Whether the line may be accepted; tells the user the first fault.
+  bool Walidacja();
+  /// Keeps category "E" and a rate above 0 from standing together: 0 after the category changed, 1
+  /// after the rate changed.
+  void CheckVAT(std::int16_t which);
+  /// Net amount, screen number with 2 decimals; empty where quantity or price is no number.
+  std::string MyCalculateAmount() const;
+  /// "yyyy-mm-dd" or empty.
+  std::string MyCalculateExpiryDate() const;
+  /// Fills the line's fields from a row of the EAN list.
+  void setFieldsValues(int index);
+
+  /// What can still be put into packages; negative when too much lies in them.
+  double GetMaxQuantity();
+  void UpdatePackedQuantity();
+  void SetButtons();
+  /// Flat index of the table of packages; error 6 beyond 16 bits.
+  std::int16_t IndexGrdPozycje(std::int16_t row, std::int16_t column) const;
+  void StringToGrid(std::string_view text);
+  std::string GridToString() const;
+
+  Sorter& sorter() { return sorter_; }
+  const ProductDictionary& dictionary() const { return products_; }
+
+  std::int16_t ProductChangeSource = 0;  ///< the list at which a chain of changes began, 0 for none
+
+ private:
+  void wireFields();
+  void wireLists();
+  void wireButtons();
+
+  void Form_Load();
+  void fillFixedLists();
+  void setUpPackageTable();
+  void readCatalogue();
+  void readCatalogueLine(const XmlNode& line, std::size_t place);
+  void sortCatalogue(std::int32_t last);
+  void fillCatalogueLists();
+
+  void btnDodaj_Click();
+  void btnZamknij_Click();
+  void btnISOcodes_Click();
+  void addCountryOfCode();
+  void tellWhatIsUnpacked();
+
+  void cboxEANProd_Change();
+  void cboxKodAPP_Change();
+  void cboxKodSprzed_Change();
+  void cboxNazwaProd_Change();
+  void followList(DropDownList& list, std::int16_t mark, TextField& field,
+                  const std::function<void()>& onward);
+  void takeProduct(std::size_t line);
+  void forgetProduct();
+  void showExpiryDate(const std::string& isoDate);
+
+  bool checkProductAndQuantities();
+  bool checkPackedQuantity();
+  bool checkAmounts();
+  bool checkCustomsNumber();
+  bool checkCountry();
+  bool refuse(std::string_view message, Control* focus);
+  bool warn(std::string_view message, Control* focus);
+
+  void txtIloscZam_Validate();
+  void txtIloscPotw_Validate();
+  void txtCenaNetto_Validate();
+  void txtAmount_Validate();
+  void txtCDN1_Validate();
+  void txtCDN3_Validate();
+
+  void Command1_Click();
+  void Command2_Click();
+  void Command3_Click();
+  int packageBound() const;
+  void offerQuantity(double most, double offered);
+  void writeAssignment(int row);
+
+  Editor& editor_;
+  DlgIsoCodes& isoCodes_;
+  DlgdodajPule& quantityDialog_;
+  Sorter sorter_;
+  ProductDictionary products_;
+  bool mayLoad_ = false;
+  bool loaded_ = false;
+};
+
+/// Adds the entry at the end unless a row is the same but for case.
+void addMissingRow(DropDownList& list, const std::string& entry, const Locale& locale);
+/// Writes the five headings of a line's packages into row 0.
+void writePackageHeadings(Table& table, const CellLook& look);
+/// The ten countries of the fixed list, as the lists show them.
+const std::vector<std::string>& fixedCountries();
+
+}  // namespace awizo

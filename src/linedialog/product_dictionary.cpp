@@ -1,0 +1,118 @@
+#include "linedialog/dlg_dodaj.h"
+#include "platform/forms/report_errors.h"
+#include "platform/narrow.h"
+#include "service/transport.h"
+
+namespace awizo {
+namespace {
+
+constexpr std::string_view formLoadTitle = "Произошла ошибка в Form_Load() (Dodaj)";
+
+std::vector<std::string> inOrder(const std::vector<std::string>& texts,
+                                 const std::vector<std::int32_t>& order) {
+  std::vector<std::string> rows;
+  rows.reserve(order.size());
+  for (const std::int32_t line : order) rows.push_back(texts[static_cast<std::size_t>(line)]);
+  return rows;
+}
+
+}  // namespace
+
+// A failure in one part is told to the user and doesn't stop the rest.
+void DlgDodaj::Form_Load() {
+  DebugLog& log = editor_.session.log;
+  editor_.session.IsoCheckOk = true;
+  ProductChangeSource = 0;
+  log.WriteDebugLine("Form_Load start");
+  const Cursor earlier = screen().setCursor(editor_.session.WaitCursor);
+  reportErrors(screen(), formLoadTitle, [&] { fillFixedLists(); });
+  reportErrors(screen(), formLoadTitle, [&] { setUpPackageTable(); });
+  log.WriteDebugLine("Form_Load utworzono obiekty MSXML2 ");
+  if (editor_.session.ProductCatalogLoaded) {
+    reportErrors(screen(), formLoadTitle, [&] { readCatalogue(); });
+  } else {
+    for (DropDownList* list : {&cboxNazwaProd, &cboxEANProd, &cboxKodAPP, &cboxKodSprzed}) {
+      list->setVisible(false);
+    }
+  }
+  screen().setCursor(earlier);
+  log.WriteDebugLine("Form_Load zmiana kursora na poczatkowy");
+}
+
+void DlgDodaj::readCatalogue() {
+  DebugLog& log = editor_.session.log;
+  log.WriteDebugLine("Form_Load start przetwarzania slownika produktow");
+  const XmlNode catalogue =
+      editor_.session.ProductCatalogDom->node().selectSingle("Document-ProductCatalogue");
+  if (catalogue) {
+    const std::vector<XmlNode> lines =
+        catalogue.selectSingle("ProductCatalogue-Lines").children();
+    const std::size_t size = lines.empty() ? 1 : lines.size();
+    ProductDictionary& p = products_;
+    for (auto* texts :
+         {&p.ProdEAN, &p.ProdName, &p.ProdSupplierCode, &p.ProdBuyerCode, &p.ProdUnit,
+          &p.ProdPackSize, &p.ProdTaxRate, &p.ProdPrice, &p.ProdTaxCategory, &p.ProdPeriod,
+          &p.ProdPeriodFormat, &p.ProdWeight}) {
+      texts->assign(size, "");
+    }
+    for (auto* order : {&p.IdxEAN, &p.IdxName, &p.IdxSupplierCode, &p.IdxBuyerCode}) {
+      order->assign(size, 0);
+    }
+    // The counter has 16 bits: beyond it every line is reported and takes the last place anew.
+    std::int16_t i = 0;
+    for (const XmlNode& line : lines) {
+      readCatalogueLine(line, static_cast<std::size_t>(i));
+      reportErrors(screen(), formLoadTitle, [&] { i = narrow16(i + 1); });
+    }
+    sortCatalogue(i - 1);
+    fillCatalogueLists();
+  }
+  log.WriteDebugLine("Form_Load przetworzono slownik produktow");
+}
+
+void DlgDodaj::readCatalogueLine(const XmlNode& line, std::size_t place) {
+  // A child that is no line has none of the values.
+  const XmlNode source = line.name() == "Line" ? line : XmlNode{};
+  const auto orEmpty = [&](std::string_view path) { return GetNodeValue(source, path, true); };
+  const auto orMarker = [&](std::string_view path) { return GetNodeValue(source, path, false); };
+  ProductDictionary& p = products_;
+  p.ProdEAN[place] = orMarker("Line-Item/EAN");
+  p.ProdName[place] = orMarker("Line-Item/ItemDescription");
+  p.ProdSupplierCode[place] = orEmpty("Line-Item/SupplierItemCode");
+  p.ProdBuyerCode[place] = orEmpty("Line-Item/BuyerItemCode");
+  p.ProdUnit[place] = orMarker("Line-Item/UnitOfMeasure");
+  if (p.ProdUnit[place] == "-1") p.ProdUnit[place].clear();
+  p.ProdPackSize[place] = orEmpty("Line-Item/PackDetails/UnitPacksize");
+  if (p.ProdPackSize[place].empty()) p.ProdPackSize[place] = "1";
+  p.ProdTaxRate[place] = orEmpty("Line-Item/TaxRate");
+  p.ProdPrice[place] =
+      editor_.conversions.NormalizeDecimal(orEmpty("Line-Item/UnitNetPrice"), 2);
+  p.ProdTaxCategory[place] =
+      editor_.conversions.NormalizeDecimal(orEmpty("Line-Item/TaxCategoryCode"), 2);
+  p.ProdPeriod[place] = orEmpty("Line-Item/ProductLifespan/Period");
+  p.ProdPeriodFormat[place] = orEmpty("Line-Item/ProductLifespan/PeriodFormat");
+  p.ProdWeight[place] = orEmpty("Line-Item/PackDetails/Weight");
+  for (auto* order : {&p.IdxEAN, &p.IdxName, &p.IdxSupplierCode, &p.IdxBuyerCode}) {
+    (*order)[place] = narrow32(static_cast<std::int64_t>(place));
+  }
+}
+
+void DlgDodaj::sortCatalogue(std::int32_t last) {
+  ProductDictionary& p = products_;
+  sorter_.ReDimSplitArrays(last + 2);
+  sorter_.QuickSort(p.ProdEAN, p.IdxEAN, 0, last);
+  sorter_.QuickSort(p.ProdName, p.IdxName, 0, last);
+  sorter_.QuickSort(p.ProdSupplierCode, p.IdxSupplierCode, 0, last);
+  sorter_.QuickSort(p.ProdBuyerCode, p.IdxBuyerCode, 0, last);
+}
+
+// Empty texts get a row too, so that a list's index is a place in its index vector.
+void DlgDodaj::fillCatalogueLists() {
+  const ProductDictionary& p = products_;
+  cboxNazwaProd.setRows(inOrder(p.ProdName, p.IdxName));
+  cboxEANProd.setRows(inOrder(p.ProdEAN, p.IdxEAN));
+  cboxKodSprzed.setRows(inOrder(p.ProdSupplierCode, p.IdxSupplierCode));
+  cboxKodAPP.setRows(inOrder(p.ProdBuyerCode, p.IdxBuyerCode));
+}
+
+}  // namespace awizo

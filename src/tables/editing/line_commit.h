@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "linedialog/dlg_dodaj.h"
+#include "session/record/editor.h"
+
+namespace awizo {
+
+/// Adds a line: opens the dialog and, when the user confirms, writes a new row.
+void btnDodaj_Click(Editor& editor, DlgDodaj& dialog);
+/// Changes the line in the current row.
+void btnEdytuj_Click(Editor& editor, DlgDodaj& dialog);
+/// Writes the dialog's fields into a row of grdPozycje.
+void ZatwierdzPozycje(Editor& editor, DlgDodaj& dialog, std::int16_t row);
+/// Symbol of a unit by its name, case ignored; an unknown name comes back as it is.
+std::string JednostkiMiaryNazwaToSymbol(const Locale& locale, std::string_view name);
+
+}  // namespace awizo
