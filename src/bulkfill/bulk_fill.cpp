@@ -16,8 +16,8 @@ namespace {
 bool isBlank(std::string_view cell) { return cell.empty() || cell == "-1"; }
 
 bool userAgrees(Editor& editor, std::string_view question) {
-  return editor.screen().messageBox({std::string(question), "VIRD", BoxIcon::question,
-                                     BoxButtons::yesNo}) == Answer::yes;
+  return editor.screen().messageBox(
+             {std::string(question), "VIRD", BoxIcon::question, BoxButtons::yesNo}) == Answer::yes;
 }
 
 // Runs `fill` for every line whose cell is to be written.

@@ -144,8 +144,7 @@ void DlgDodaj::tellWhatIsUnpacked() {
   for (int row = 1; row < grdPozycje.rows(); ++row) {
     const std::string& cell = grdPozycje.cell(row, 4);
     if (cell.empty()) continue;
-    packed += conversions.toDouble(
-        conversions.NormalizeDecimal(Conversions::CommaToDot(cell), 2));
+    packed += conversions.toDouble(conversions.NormalizeDecimal(Conversions::CommaToDot(cell), 2));
   }
   if (conversions.MyDouble(std::string(txtIloscPotw.text())) > packed) {
     screen().messageBox({"Отгруженный товар упакован не полностью", ""});

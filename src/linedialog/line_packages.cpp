@@ -34,8 +34,7 @@ void DlgDodaj::setUpPackageTable() {
 
 double DlgDodaj::GetMaxQuantity() {
   DebugLog& log = editor_.session.log;
-  log.WriteDebugLine("GetMaxQuantity lblPackedQuantityValue = " +
-                     lblPackedQuantityValue.caption());
+  log.WriteDebugLine("GetMaxQuantity lblPackedQuantityValue = " + lblPackedQuantityValue.caption());
   log.WriteDebugLine("GetMaxQuantity txtIloscPotw = " + txtIloscPotw.text());
   const Conversions& conversions = editor_.conversions;
   return conversions.MyDouble(std::string(trimmed(txtIloscPotw.text()))) -
@@ -81,8 +80,8 @@ std::int16_t DlgDodaj::IndexGrdPozycje(std::int16_t row, std::int16_t column) co
 void DlgDodaj::offerQuantity(double most, double offered) {
   quantityDialog_.UpDown1.setMin(1);
   quantityDialog_.UpDown1.setMax(wholeNumber(most));
-  quantityDialog_.txtQuantity.setText(editor_.conversions.NormalizeDecimal(
-      editor_.conversions.plainNumber(offered), 0));
+  quantityDialog_.txtQuantity.setText(
+      editor_.conversions.NormalizeDecimal(editor_.conversions.plainNumber(offered), 0));
 }
 
 void DlgDodaj::Command1_Click() {

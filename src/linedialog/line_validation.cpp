@@ -127,8 +127,7 @@ void DlgDodaj::txtIloscZam_Validate() {
 
 void DlgDodaj::txtIloscPotw_Validate() {
   txtIloscPotw.setText(std::string(trimmed(txtIloscPotw.text())));
-  txtIloscPotw.setText(
-      editor_.conversions.NormalizeDecimal(std::string(txtIloscPotw.text()), 3));
+  txtIloscPotw.setText(editor_.conversions.NormalizeDecimal(std::string(txtIloscPotw.text()), 3));
 }
 
 void DlgDodaj::txtCenaNetto_Validate() {

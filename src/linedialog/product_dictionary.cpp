@@ -45,14 +45,12 @@ void DlgDodaj::readCatalogue() {
   const XmlNode catalogue =
       editor_.session.ProductCatalogDom->node().selectSingle("Document-ProductCatalogue");
   if (catalogue) {
-    const std::vector<XmlNode> lines =
-        catalogue.selectSingle("ProductCatalogue-Lines").children();
+    const std::vector<XmlNode> lines = catalogue.selectSingle("ProductCatalogue-Lines").children();
     const std::size_t size = lines.empty() ? 1 : lines.size();
     ProductDictionary& p = products_;
-    for (auto* texts :
-         {&p.ProdEAN, &p.ProdName, &p.ProdSupplierCode, &p.ProdBuyerCode, &p.ProdUnit,
-          &p.ProdPackSize, &p.ProdTaxRate, &p.ProdPrice, &p.ProdTaxCategory, &p.ProdPeriod,
-          &p.ProdPeriodFormat, &p.ProdWeight}) {
+    for (auto* texts : {&p.ProdEAN, &p.ProdName, &p.ProdSupplierCode, &p.ProdBuyerCode, &p.ProdUnit,
+                        &p.ProdPackSize, &p.ProdTaxRate, &p.ProdPrice, &p.ProdTaxCategory,
+                        &p.ProdPeriod, &p.ProdPeriodFormat, &p.ProdWeight}) {
       texts->assign(size, "");
     }
     for (auto* order : {&p.IdxEAN, &p.IdxName, &p.IdxSupplierCode, &p.IdxBuyerCode}) {
@@ -85,8 +83,7 @@ void DlgDodaj::readCatalogueLine(const XmlNode& line, std::size_t place) {
   p.ProdPackSize[place] = orEmpty("Line-Item/PackDetails/UnitPacksize");
   if (p.ProdPackSize[place].empty()) p.ProdPackSize[place] = "1";
   p.ProdTaxRate[place] = orEmpty("Line-Item/TaxRate");
-  p.ProdPrice[place] =
-      editor_.conversions.NormalizeDecimal(orEmpty("Line-Item/UnitNetPrice"), 2);
+  p.ProdPrice[place] = editor_.conversions.NormalizeDecimal(orEmpty("Line-Item/UnitNetPrice"), 2);
   p.ProdTaxCategory[place] =
       editor_.conversions.NormalizeDecimal(orEmpty("Line-Item/TaxCategoryCode"), 2);
   p.ProdPeriod[place] = orEmpty("Line-Item/ProductLifespan/Period");

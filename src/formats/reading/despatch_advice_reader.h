@@ -18,8 +18,4 @@ bool LoadDocument(Editor& editor, XmlDocument& document, std::string_view path);
 /// Whether the document is a despatch advice.
 bool IsDespatchAdvice(XmlDocument& document);
 
-/// The reference string of a line that was read. The references are looked for where the writer
-/// doesn't put them, so it is empty for our own documents.
-std::string ReadLinePackRefs(const Editor& editor, const XmlNode& line);
-
 }  // namespace awizo

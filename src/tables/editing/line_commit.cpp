@@ -87,8 +87,7 @@ class LineWriter {
     write(GRD_POZ_CODE_BY_BUYER, dialog_.txtKodKup.text());
     write(GRD_POZ_CODE_BY_SELLER, dialog_.txtKodSprzed.text());
     write(GRD_POZ_WEIGHT, dialog_.LineWeight);
-    write(GRD_POZ_UNIT,
-          dialog_.symbolJednostkiMiary(narrow16(dialog_.cboxJednostkaMiary.index())));
+    write(GRD_POZ_UNIT, dialog_.symbolJednostkiMiary(narrow16(dialog_.cboxJednostkaMiary.index())));
     write(GRD_POZ_ORDER_LINE, dialog_.LineOrderNumber);
   }
 
@@ -103,9 +102,9 @@ class LineWriter {
     const DropDownList& country = dialog_.comboCountry;
     write(GRD_POZ_COUNTRY, symbolKraj(narrow16(country.index()), country.text()));
     if (read(GRD_POZ_COUNTRY).empty()) write(GRD_POZ_COUNTRY, country.text());
-    write(GRD_POZ_CDN, JoinCDN(dialog_.txtCDN1.text(),
-                               FormatCDNDate(editor_, dialog_.dpCDN2.date().value()),
-                               dialog_.txtCDN3.text(), dialog_.txtCDN4.text()));
+    write(GRD_POZ_CDN,
+          JoinCDN(dialog_.txtCDN1.text(), FormatCDNDate(editor_, dialog_.dpCDN2.date().value()),
+                  dialog_.txtCDN3.text(), dialog_.txtCDN4.text()));
     write(GRD_POZ_PRODUCTION_DATE, pickedDate(dialog_.dtProdDate));
     write(GRD_POZ_PERIOD, dialog_.LinePeriod);
     write(GRD_POZ_PERIOD_FORMAT, dialog_.LinePeriodFormat);

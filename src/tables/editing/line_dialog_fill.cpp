@@ -21,15 +21,13 @@ void showNoDate(DatePicker& picker, Date today) {
 }
 
 void emptyProductFields(DlgDodaj& dialog) {
-  for (DropDownList* list :
-       {&dialog.cboxNazwaProd, &dialog.cboxEANProd, &dialog.cboxKodAPP, &dialog.cboxKodSprzed,
-        &dialog.cboxStawkaVAT, &dialog.cboxKodVAT}) {
+  for (DropDownList* list : {&dialog.cboxNazwaProd, &dialog.cboxEANProd, &dialog.cboxKodAPP,
+                             &dialog.cboxKodSprzed, &dialog.cboxStawkaVAT, &dialog.cboxKodVAT}) {
     list->clearSelection();
   }
   for (TextField* field :
-       {&dialog.txtNazwaProdWart, &dialog.txtlEANProdWart, &dialog.txtKodSprzed,
-        &dialog.txtKodKup, &dialog.txtIloscZam, &dialog.txtIloscPotw, &dialog.txtCenaNetto,
-        &dialog.txtAmount}) {
+       {&dialog.txtNazwaProdWart, &dialog.txtlEANProdWart, &dialog.txtKodSprzed, &dialog.txtKodKup,
+        &dialog.txtIloscZam, &dialog.txtIloscPotw, &dialog.txtCenaNetto, &dialog.txtAmount}) {
     field->setText("");
   }
   dialog.cboxJednostkaMiary.clearSelection();

@@ -1,0 +1,287 @@
+#include "formats/reading/despatch_advice_reader.h"
+
+#include "formats/catalogue_completion.h"
+#include "formats/reading/line_reader.h"
+#include "platform/forms/report_errors.h"
+#include "platform/narrow.h"
+#include "service/transport.h"
+#include "session/record/header_panel.h"
+#include "tables/columns.h"
+#include "tables/editing/clear_form.h"
+#include "tables/editing/in_table_editing.h"
+#include "tables/flat_index.h"
+#include "tables/totals.h"
+
+namespace awizo {
+namespace {
+
+// How far a file was taken into the form.
+enum class Outcome {
+  refused,     // the user has been told
+  failed,      // an error ended the reading
+  incomplete,  // something required was missing
+  complete,
+};
+
+bool usable(std::string_view text) { return !text.empty() && text != "-1"; }
+
+void showPlain(Editor& editor, std::string_view text) {
+  editor.screen().messageBox({std::string(text), ""});
+}
+
+Outcome refuse(Editor& editor, std::string_view text) {
+  editor.screen().showExclamation(text, "VIRD");
+  return Outcome::refused;
+}
+
+int packageDescriptionIndex(std::string_view code) {
+  if (code == "09") return 0;
+  if (code == "201") return 1;
+  if (code == "PK") return 2;
+  return -1;
+}
+
+// A file that can't be read is a document that can't be loaded.
+bool loadFile(Files& files, XmlDocument& document, std::string_view path) {
+  try {
+    return document.loadBytes(files.readAll(path));
+  } catch (const RunTimeError&) {
+    return false;
+  }
+}
+
+// Reads one document into the form, part by part.
+class DocumentReader {
+ public:
+  DocumentReader(Editor& editor, XmlDocument& document)
+      : editor_(editor), form_(editor.form), document_(document) {}
+
+  Outcome read() {
+    if (value("DespatchAdvice-Parties/Seller/ILN", true) != editor_.session.SellerILN) {
+      return refuse(editor_, "Неправильный ILN номер продавца");
+    }
+    form_.txtCodeByBuyer.setText(value("DespatchAdvice-Parties/Seller/CodeByBuyer", true));
+    if (value("DespatchAdvice-Parties/Buyer/ILN", true) != editor_.session.BuyerILN) {
+      return refuse(editor_, "Неправильный ILN номер покупателя.");
+    }
+    readHeader();
+    readDelivery();
+    readPackageHeader();
+    form_.btnEdytuj.setVisible(true);
+    showPlain(editor_, "break1");
+    readPackages();
+    readLines();
+    return complete_ ? Outcome::complete : Outcome::incomplete;
+  }
+
+ private:
+  std::string value(std::string_view path, bool blankOnMissing) {
+    return GetNodeValue(document_.node(), std::string("/Document-DespatchAdvice/").append(path),
+                        blankOnMissing);
+  }
+  std::optional<TimeOfDay> timeAt(std::string_view path) {
+    const std::string text = value(path, true);
+    if (text.empty()) return std::nullopt;
+    return editor_.conversions.toTime(text);
+  }
+  Date dateOrToday(std::string_view path) {
+    const std::string text = value(path, false);
+    return usable(text) ? editor_.conversions.toDate(text) : editor_.platform.clock.today();
+  }
+  void requiredText(TextField& field, std::string_view path) {
+    const std::string text = value(path, false);
+    if (usable(text)) {
+      field.setText(text);
+    } else {
+      complete_ = false;
+    }
+  }
+
+  void readHeader() {
+    requiredText(form_.txtNrAwiza, "DespatchAdvice-Header/DespatchAdviceNumber");
+    form_.txtDataAwiza.setDate(dateOrToday("DespatchAdvice-Header/DespatchAdviceDate"));
+    requiredText(form_.txtNrZam, "DespatchAdvice-Header/BuyerOrderNumber");
+    const std::string orderDate = value("DespatchAdvice-Header/OrderDate", true);
+    form_.dpDataZam.setDate(orderDate.empty() ? std::optional<Date>()
+                                              : editor_.conversions.toDate(orderDate));
+    form_.txtEstimatedDeliveryDate.setDate(
+        dateOrToday("DespatchAdvice-Header/EstimatedDeliveryDate"));
+    form_.txtEstimatedDeliveryTime.setTime(timeAt("DespatchAdvice-Header/EstimatedDeliveryTime"));
+    form_.txtDespatchAdviceTime.setTime(timeAt("DespatchAdvice-Header/DespatchAdviceTime"));
+  }
+
+  void readDelivery() {
+    const std::string iln = value("DespatchAdvice-Parties/DeliveryPoint/ILN", false);
+    form_.DeliveryILN = usable(iln) ? iln : editor_.session.BuyerILN;
+    form_.lblILNMiejscaDostValue.setCaption(form_.DeliveryILN);
+    CompleteFromLocalizationCatalog(editor_, form_.DeliveryILN);
+  }
+
+  void readPackageHeader() {
+    const std::string below = "DespatchAdvice-Consignment/Packing-Sequence/Package-Identification/";
+    form_.cboxPackageDescription.setIndex(
+        packageDescriptionIndex(value(below + "PackageDescription", true)));
+    form_.txtGoodsIdentity.setText(value(below + "GoodsIdentity", true));
+  }
+
+  // The rows appear, but the count of packages stays what it was.
+  void readPackages() {
+    const XmlNode consignment =
+        document_.node().selectSingle("/Document-DespatchAdvice/DespatchAdvice-Consignment");
+    if (!consignment) {
+      showPlain(editor_, "break3");
+      complete_ = false;
+      return;
+    }
+    Table& grid = form_.grdOpakowania;
+    const std::vector<XmlNode> packages = consignment.selectAll("Packing-Sequence");
+    grid.setFixedRows(1);
+    grid.setRows(packages.empty() ? 2 : static_cast<int>(packages.size()) + 1);
+    grid.setRedraw(false);
+    for (std::size_t i = 0; i < packages.size(); ++i) {
+      const std::int16_t row = narrow16(static_cast<std::int64_t>(i) + 1);
+      grid.setCell(IndexGrdOpak(editor_, row, GRD_OPAK_LP), std::to_string(row));
+      const std::string id = GetNodeValue(packages[i], "PackageId", true);
+      showPlain(editor_, id);
+      grid.setCell(IndexGrdOpak(editor_, row, GRD_OPAK_ID_LOW), id);
+    }
+    grid.setRow(1);
+    grid.setColumn(1);
+    grid.setRedraw(true);
+  }
+
+  void readLines() {
+    const XmlNode parent =
+        document_.node().selectSingle("/Document-DespatchAdvice/DespatchAdvice-Lines");
+    Table& grid = form_.grdPozycje;
+    if (!parent) {
+      complete_ = false;
+    } else {
+      const std::vector<XmlNode> lines = parent.selectAll("Line");
+      grid.setFixedRows(1);
+      grid.setRows(lines.empty() ? 2 : static_cast<int>(lines.size()) + 1);
+      editor_.session.LineCount = narrow16(static_cast<std::int64_t>(lines.size()));
+      grid.setRedraw(false);
+      std::int16_t row = 0;
+      for (const XmlNode& line : lines) readDespatchLine(editor_, line, ++row);
+    }
+    grid.setRow(1);
+    grid.setColumn(1);
+    grid.setRedraw(true);
+    form_.grdSuma.setColumn(1);
+    grid.setRow(1);
+    form_.grdSuma.setRedraw(true);
+  }
+
+  Editor& editor_;
+  AwizoForm& form_;
+  XmlDocument& document_;
+  bool complete_ = true;
+};
+
+// An error while the document is read counts as a document that isn't complete.
+Outcome readInto(Editor& editor, XmlDocument& document) {
+  try {
+    return DocumentReader(editor, document).read();
+  } catch (const RunTimeError&) {
+    return Outcome::failed;
+  }
+}
+
+void showParties(Editor& editor) {
+  AwizoForm& form = editor.form;
+  form.lblILNKupWart.setCaption(editor.session.BuyerILN);
+  form.lblNameKupWart.setCaption(editor.session.BuyerName);
+  form.lblILNSprzedWart.setCaption(editor.session.SellerILN);
+  form.lblNameSprzedWart.setCaption(editor.session.SellerName);
+}
+
+// The document's own totals stand over the computed ones, where it has them.
+void takeTotals(Editor& editor, XmlDocument& document) {
+  Table& totals = editor.form.grdSuma;
+  totals.setRedraw(false);
+  const auto take = [&](std::string_view path, int column) {
+    const std::string total = GetNodeValue(document.node(), path, true);
+    if (total.empty()) return;
+    totals.setCell(IndexGrdSuma(editor, 1, narrow16(column)),
+                   editor.conversions.NormalizeDecimal(std::string(total), 2));
+  };
+  take("/Document-DespatchAdvice/DespatchAdvice-Summary/TotalQuantity", GRD_SUMA_QTY_DESPATCHED);
+  take("/Document-DespatchAdvice/DespatchAdvice-Summary/TotalAmount", GRD_SUMA_NET_AMOUNT);
+  totals.setRedraw(true);
+}
+
+// A document from a file never answers an order, whatever it refers to.
+void finish(Editor& editor, XmlDocument& document) {
+  PoprawGrdSuma(editor);
+  takeTotals(editor, document);
+  editor.form.OrderAnswer = false;
+  editor.form.lblNiepelnaWagaKom.setCaption("");
+  editor.form.btnUsun.setEnabled(true);
+  editor.form.btnEdytuj.setEnabled(true);
+}
+
+void closeOpenEdits(Editor& editor) {
+  grdPozycje_LeaveCell(editor);
+  grdSuma_LeaveCell(editor);
+}
+
+// The form is emptied before the file is looked at, and stays so when the file is refused.
+void readFile(Editor& editor, const std::string& path) {
+  closeOpenEdits(editor);
+  SetHeader(editor);
+  ClearForm(editor);
+  showParties(editor);
+  const std::unique_ptr<XmlDocument> document = editor.platform.xml.createDocument();
+  if (!LoadDocument(editor, *document, path)) {
+    refuse(editor, "Неправильный формат файла XML.");
+    return;
+  }
+  if (!IsDespatchAdvice(*document)) {
+    refuse(editor, "Документ не соответствует спецификации подтверждения закза.");
+    return;
+  }
+  const Outcome outcome = readInto(editor, *document);
+  if (outcome == Outcome::refused) return;
+  if (outcome != Outcome::failed) finish(editor, *document);
+  if (outcome != Outcome::complete) {
+    editor.screen().showCritical(
+        "Переписанный документ подтверждения заказа неправилен либо не содержит всех необходимых "
+        "позиций.",
+        "VIRD");
+  }
+}
+
+}  // namespace
+
+void btnWczytaj_Click(Editor& editor, DlgWczytajZapisz& dialog) {
+  reportErrors(editor.screen(), "Произошла ошибка в btnWczytaj_Click()", [&] {
+    closeOpenEdits(editor);
+    editor.form.setEnabled(false);
+    dialog.setUpForReading();
+    dialog.showModal();
+    const std::string path = editor.session.LastFilePath;
+    if (!path.empty()) readFile(editor, path);
+    editor.form.setEnabled(true);
+    editor.form.grdPozycje.refresh();
+  });
+  editor.form.setEnabled(true);
+}
+
+bool LoadDocument(Editor& editor, XmlDocument& document, std::string_view path) {
+  bool loaded = false;
+  reportErrors(editor.screen(), "Произошла ошибка вLoadDocument()", [&] {
+    Files& files = editor.platform.files;
+    loaded = loadFile(files, document, path);
+    if (loaded) return;
+    const std::string text = editor.platform.locale.fromSingleByte(files.readAll(path));
+    loaded = document.loadText("<?xml version=\"1.0\" encoding=\"UTF-8\"?>" + text);
+  });
+  return loaded;
+}
+
+bool IsDespatchAdvice(XmlDocument& document) {
+  return static_cast<bool>(document.node().selectSingle("/Document-DespatchAdvice"));
+}
+
+}  // namespace awizo

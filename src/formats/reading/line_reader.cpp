@@ -1,0 +1,79 @@
+#include "formats/reading/line_reader.h"
+
+#include <array>
+
+#include "service/transport.h"
+#include "tables/columns.h"
+#include "tables/flat_index.h"
+#include "tables/package_references.h"
+
+namespace awizo {
+namespace {
+
+constexpr int columnCount = 22;
+constexpr int asItStands = -1;
+
+// Path below `Line`, empty for a column that the document doesn't fill, and a number's decimals.
+struct Source {
+  std::string_view path;
+  int decimals = asItStands;
+};
+
+constexpr std::array<Source, columnCount> sources = [] {
+  std::array<Source, columnCount> all{};
+  all[GRD_POZ_EAN] = {"Line-Item/EAN"};
+  all[GRD_POZ_NAME] = {"Line-Item/ItemDescription"};
+  all[GRD_POZ_QTY_ORDERED] = {"Line-Item/OrderedQuantity", 3};
+  all[GRD_POZ_QTY_DESPATCHED] = {"Line-Item/DespatchedQuantity", 3};
+  all[GRD_POZ_PRICE] = {"Line-Item/UnitNetPrice", 2};
+  all[GRD_POZ_CODE_BY_BUYER] = {"Line-Item/BuyerItemCode"};
+  all[GRD_POZ_CODE_BY_SELLER] = {"Line-Item/SupplierItemCode"};
+  all[GRD_POZ_UNIT] = {"Line-Item/UnitOfMeasure"};
+  all[GRD_POZ_ORDER_LINE] = {"Line-Item/LineNumber", 0};
+  all[GRD_POZ_NET_AMOUNT] = {"Line-Item/NetAmount", 2};
+  all[GRD_POZ_TAX_RATE] = {"Line-Item/TaxRate", 0};
+  all[GRD_POZ_COUNTRY] = {"Line-Item/CountryOfOriginCode"};
+  return all;
+}();
+
+std::string sourceText(Editor& editor, const XmlNode& line, const Source& source) {
+  if (source.path.empty()) return {};
+  std::string text = GetNodeValue(line, source.path, true);
+  if (source.decimals == asItStands || text.empty()) return text;
+  return editor.conversions.NormalizeDecimal(std::move(text), source.decimals);
+}
+
+std::string cellText(Editor& editor, const XmlNode& line, std::int16_t row, int column) {
+  switch (column) {
+    case GRD_POZ_LP:
+      return std::to_string(row);
+    case GRD_POZ_PRODUCTION_DATE:
+      return editor.platform.locale.shortDate(editor.platform.clock.today());
+    case GRD_POZ_PACK_REFS:
+      return ReadLinePackRefs(editor, line);
+    case GRD_POZ_PACKED_QTY:
+      return editor.conversions.NormalizeDecimal(std::string("0"), 3);
+    default:
+      return sourceText(editor, line, sources[static_cast<std::size_t>(column)]);
+  }
+}
+
+}  // namespace
+
+void readDespatchLine(Editor& editor, const XmlNode& line, std::int16_t row) {
+  for (std::int16_t column = 0; column < columnCount; ++column) {
+    editor.form.grdPozycje.setCell(IndexGrdPozycje(editor, row, column),
+                                   cellText(editor, line, row, column));
+  }
+}
+
+std::string ReadLinePackRefs(const Editor& editor, const XmlNode& line) {
+  try {
+    const XmlNode found = line.selectSingle("Package-Identification");
+    return found ? PackageRefsFromXml(editor.platform.xml, found.xml()) : std::string();
+  } catch (const RunTimeError&) {
+    return {};
+  }
+}
+
+}  // namespace awizo
