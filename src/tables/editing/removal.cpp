@@ -25,7 +25,7 @@ void removePackagesOfCurrentRow(Editor& editor, std::vector<std::string>& delSer
 }
 
 // Every line is rewritten, whether it held one of the packages or not.
-void removeReferences(Editor& editor, const std::vector<std::string>& delSerials) {
+void removeReferences(Editor& editor, const SerialSet& delSerials) {
   Table& grid = editor.form.grdPozycje;
   DebugLog& log = editor.session.log;
   for (std::int16_t m = 1; m <= editor.session.LineCount; ++m) {
@@ -78,7 +78,7 @@ void btnUsunOpak_Click(Editor& editor) {
     grid.refresh();
     grid.setRedraw(true);
     earlier = editor.screen().setCursor(editor.session.WaitCursor);
-    removeReferences(editor, delSerials);
+    removeReferences(editor, SerialSet(delSerials));
     editor.screen().setCursor(earlier);
   });
 }
