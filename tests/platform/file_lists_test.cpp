@@ -82,6 +82,14 @@ TEST_F(FileLists, FolderPathWithSlashesIsOnThePresentDrive) {
   EXPECT_EQ(errorOf([&] { folders.setPath("/home"); }), "76 Path not found");
 }
 
+TEST_F(FileLists, FolderNameAloneLiesInThePresentFolder) {
+  folders.setPath("c:\\");
+  folders.userOpen("home");
+  EXPECT_EQ(folders.path(), "c:\\home");
+  folders.userOpen("anna");
+  EXPECT_EQ(folders.path(), "c:\\home\\anna");
+}
+
 TEST_F(FileLists, FolderThatIsNotThereIsAnError) {
   folders.setPath("c:\\home");
   takeEvents();

@@ -32,7 +32,11 @@ std::string presentDrive(std::string_view presentPath, Files& files) {
 std::string folderPath(std::string_view path, std::string_view presentPath, Files& files) {
   std::string kept(path);
   std::replace(kept.begin(), kept.end(), '/', '\\');
-  if (kept.starts_with('\\')) kept.insert(0, presentDrive(presentPath, files));
+  if (kept.starts_with('\\')) {
+    kept.insert(0, presentDrive(presentPath, files));
+  } else if (!kept.empty() && !namesDrive(kept) && !presentPath.empty()) {
+    kept.insert(0, presentPath.ends_with('\\') ? "" : "\\").insert(0, presentPath);
+  }
   while (kept.ends_with('\\')) kept.pop_back();
   if (kept.size() == 2 && namesDrive(kept)) kept += '\\';
   return kept;

@@ -44,8 +44,8 @@ class FolderList : public Control {
   /// No backslash at the end, except a root.
   const std::string& path() const { return path_; }
   /// By code; a folder that isn't there is error 76, a drive that isn't there 68. A drive alone is
-  /// its root, "/" is as good as "\", and without a drive the path is on the drive of the present
-  /// one. Raises Change if it differs.
+  /// its root, "/" is as good as "\"; a path without a drive is on that of the present one, a
+  /// name alone lies in the present one. Raises Change if it differs.
   void setPath(std::string_view path);
   /// Names of the folders in it; read anew at each call.
   std::vector<std::string> rows() const;
