@@ -1,6 +1,7 @@
 #include "foundation/conversions.h"
 
-#include "foundation/locale_facts.h"
+#include "adapters/icu/icu_locale.h"
+#include "foundation/date_text.h"
 #include "platform/run_time_error.h"
 
 namespace awizo::test {
@@ -8,19 +9,19 @@ namespace {
 
 /// The conversions of a session whose start has found out the separator.
 struct Session {
-  explicit Session(LocaleFacts facts) : locale(std::move(facts)) {
+  explicit Session(std::string_view localeName) : locale(localeName) {
     separator = conversions.GetDecimalSeparator();
   }
 
-  FactsLocale locale;
+  IcuLocale locale;
   std::string separator;
   Conversions conversions{locale, separator};
 };
 
 class ConversionsTest : public testing::Test {
  protected:
-  Session russian{russianFacts()};
-  Session american{americanFacts()};
+  Session russian{"ru_RU"};
+  Session american{"en_US"};
   const Conversions& ru = russian.conversions;
   const Conversions& us = american.conversions;
 };
@@ -38,8 +39,14 @@ std::int32_t errorOf(Body&& body) {
 TEST_F(ConversionsTest, TheDecimalSeparatorIsTheLocales) {
   EXPECT_EQ(ru.GetDecimalSeparator(), ",");
   EXPECT_EQ(us.GetDecimalSeparator(), ".");
-  const Session arabic({"\u066B", {}, "", DateOrder::dayMonthYear, false});
-  EXPECT_EQ(arabic.conversions.GetDecimalSeparator(), "\u066B");
+}
+
+TEST_F(ConversionsTest, BeforeTheSeparatorIsKnownCommasAndPointsAreDropped) {
+  const std::string unknown;
+  const Conversions early(russian.locale, unknown);
+  EXPECT_EQ(early.NormalizeDecimal("1,5", 2), "15,00");
+  std::string text = "1,5";
+  EXPECT_EQ(early.FormatForXml(text, 2), "1,50");
 }
 
 TEST_F(ConversionsTest, CommasAndPointsAreReplacedOverTheWholeText) {
@@ -268,8 +275,20 @@ TEST_F(ConversionsTest, DatesAndTimesAreReadByTheLocale) {
   EXPECT_EQ(ru.toDate("11.10.2026"), makeDate(2026, 10, 11));
   EXPECT_EQ(us.toDate("11/10/2026"), makeDate(2026, 11, 10));
   EXPECT_EQ(errorOf([&] { ru.toDate("ABC"); }), 13);
+  EXPECT_EQ(ru.toTime("10:15"), (TimeOfDay{10, 15}));
   EXPECT_EQ(us.toTime("10:15 PM"), (TimeOfDay{22, 15}));
   EXPECT_EQ(errorOf([&] { us.toTime("25:00"); }), 13);
+}
+
+TEST_F(ConversionsTest, AShortDateReadsBackAsTheSameDay) {
+  for (const Session* session : {&russian, &american}) {
+    for (const Date day : {makeDate(2026, 11, 21), makeDate(1930, 1, 2), makeDate(2001, 2, 3)}) {
+      EXPECT_EQ(session->conversions.toDate(session->locale.shortDate(day)), day);
+      EXPECT_EQ(session->conversions.toDate(isoDate(day)), day);
+    }
+    EXPECT_EQ(session->conversions.toTime(session->locale.shortTime({22, 15})),
+              (TimeOfDay{22, 15}));
+  }
 }
 
 }  // namespace
