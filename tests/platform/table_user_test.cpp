@@ -150,6 +150,13 @@ TEST_F(TableUser, PageKeysMoveByTheRowsThatHaveRoom) {
   EXPECT_EQ(after(keys::pageUp), "1,0");
 }
 
+TEST_F(TableUser, PageKeysMoveARowThatIsHigherThanTheView) {
+  table.setViewHeight(5 * 240);
+  table.setRowHeight(2, 2400);
+  EXPECT_EQ(after(keys::pageDown), "2,0");
+  EXPECT_EQ(after(keys::pageDown), "3,0");
+}
+
 TEST_F(TableUser, PageKeysMoveTenRowsWhereNoHostSaysWhatIsShown) {
   table.setRows(40);
   EXPECT_EQ(after(keys::pageDown), "10,0");

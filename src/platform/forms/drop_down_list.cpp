@@ -36,8 +36,6 @@ void DropDownList::clear() {
 
 void DropDownList::setText(std::string_view text) {
   if (text.empty()) return become(-1, text);
-  // An equal text leaves its row, which among equal rows needn't be the first.
-  if (index_ >= 0 && text == text_) return;
   const int row = find(text);
   if (row < 0 && style_ == ListStyle::listOnly) throw errors::listValueRefused();
   become(row, text);
@@ -84,6 +82,7 @@ bool DropDownList::mayBeLeft() const {
 }
 
 int DropDownList::find(std::string_view text) const {
+  // An equal text keeps its row, which among equal rows needn't be the first.
   if (index_ >= 0 && text == text_) return index_;
   const auto found = std::find(rows_.begin(), rows_.end(), text);
   return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
