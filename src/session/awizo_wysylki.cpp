@@ -25,7 +25,7 @@ AwizoWysylki::AwizoWysylki(const Platform& platform, SessionState& session)
       dlgdodajPule(platform.screen, editor.conversions),
       dlgDodaj(editor, dlgIsoCodes, dlgdodajPule),
       dlgSzczegoly(editor),
-      dlgWczytajZapisz(platform, session) {
+      dlgWczytajZapisz(platform.screen, platform.files, platform.settings, session) {
   connectEvents();
 }
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "formats/file_dialog.h"
 #include "linedialog/dlg_dodaj.h"
@@ -11,6 +12,7 @@
 #include "packagedialog/dlg_szczegoly.h"
 #include "session/record/awizo_form.h"
 #include "session/record/editor.h"
+#include "tables/array_remove_item.h"
 
 namespace awizo {
 
@@ -55,8 +57,27 @@ class AwizoWysylki {
   /// Keeps the local folder for the next run. An unsaved document is lost.
   void UserControl_Terminate();
 
+  // Methods that the system itself doesn't call and a host may. Errors that leave them reach the
+  // host.
+  std::string MyCalculateWeight();
+  double MyCalculatePartWeight(std::string& quantity, std::string& weight);
+  std::string JednostkiMiaryNazwaToSymbol(std::string_view name) const;
+  static void ArrayRemoveItem(HostValue& array, std::int32_t index);
+  static std::string GridToString(const Table& table);
+  static void StringToGrid(Table& table, std::string_view text);
+  std::string RemoveOldPackRef(std::string_view text, const std::vector<std::string>& delSerials);
+  std::string GetPackedQuantity(std::string_view text);
+  std::int16_t IndexGrdPozycje(std::int16_t row, std::int16_t col) const;
+  std::int16_t IndexGrdOpak(std::int16_t row, std::int16_t col) const;
+  std::int16_t IndexGrdSuma(std::int16_t row, std::int16_t col) const;
+
  private:
   void connectEvents();
+  void connectLineButtons();
+  void connectPackageButtons();
+  void connectDocumentButtons();
+  void connectTables();
+  void connectTableEditor();
   void showOnLine();
 };
 

@@ -1,7 +1,7 @@
 #include "session/on_line_start.h"
 
-#include "formats/catalogue_completion.h"
 #include "formats/order_reader.h"
+#include "formats/row_check.h"
 #include "platform/narrow.h"
 #include "service/exchanges.h"
 #include "service/transport.h"
