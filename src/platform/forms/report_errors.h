@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <new>
 #include <string_view>
 #include <utility>
@@ -10,19 +11,26 @@
 namespace awizo {
 
 /// Runs the body of a procedure that has an error handler of its own: a run-time error ends the
-/// body and shows a critical box with the error's description under `title`. Answers whether the
-/// body ran to its end.
-template <class Body>
-bool reportErrors(Screen& screen, std::string_view title, Body&& body) {
+/// body and shows a critical box with the error's description. The title is made when the error
+/// has happened, so that it can tell how far the body came. Answers whether the body ran to its
+/// end.
+template <std::invocable Title, class Body>
+bool reportErrors(Screen& screen, Title&& title, Body&& body) {
   try {
     std::forward<Body>(body)();
     return true;
   } catch (const RunTimeError& error) {
-    screen.showCritical(error.description(), title);
+    screen.showCritical(error.description(), title());
   } catch (const std::bad_alloc&) {
-    screen.showCritical(errors::outOfMemory().description(), title);
+    screen.showCritical(errors::outOfMemory().description(), title());
   }
   return false;
+}
+
+/// The same under a title that is always the same.
+template <class Body>
+bool reportErrors(Screen& screen, std::string_view title, Body&& body) {
+  return reportErrors(screen, [title] { return title; }, std::forward<Body>(body));
 }
 
 }  // namespace awizo
