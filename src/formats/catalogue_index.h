@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "platform/xml.h"
+
+namespace awizo {
+
+/// Finds lines of a product catalogue by EAN, as this path does:
+/// /Document-ProductCatalogue/ProductCatalogue-Lines/Line[Line-Item/EAN=`ean`]
+/// The EAN isn't quoted there, so that numbers are compared ("0123" is "123"), and an EAN that is
+/// no number is a path of its own. The catalogue is read once, at the first EAN that is a plain
+/// number; it must not change meanwhile.
+class CatalogueIndex {
+ public:
+  explicit CatalogueIndex(XmlDocument& catalogue) : catalogue_(catalogue) {}
+
+  /// The first line in document order, or none. Error -2147467259 where the path is invalid, as for
+  /// an empty EAN.
+  XmlNode find(std::string_view ean);
+
+ private:
+  void readCatalogue();
+
+  XmlDocument& catalogue_;
+  bool read_ = false;
+  std::unordered_map<std::int64_t, XmlNode> lines_;
+};
+
+/// The value of a text as XPath 1.0 takes it for a number: blanks, a minus, digits with or without
+/// a fraction, blanks. None for any other text.
+std::optional<double> xpathNumber(std::string_view text);
+
+}  // namespace awizo
