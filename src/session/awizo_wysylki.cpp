@@ -1,0 +1,92 @@
+#include "session/awizo_wysylki.h"
+
+#include "session/set_up.h"
+#include "session/start_up.h"
+
+namespace awizo {
+namespace {
+
+/// Runs one statement of a procedure that ignores errors.
+template <class Statement>
+void ignoreErrors(Statement&& statement) {
+  try {
+    statement();
+  } catch (const RunTimeError&) {
+    // The field stays as it was, and the next statement runs.
+  }
+}
+
+}  // namespace
+
+AwizoWysylki::AwizoWysylki(const Platform& platform, SessionState& session)
+    : form(platform.screen, platform.clock),
+      editor(platform, session, form),
+      dlgIsoCodes(platform.screen, session),
+      dlgdodajPule(platform.screen, editor.conversions),
+      dlgDodaj(editor, dlgIsoCodes, dlgdodajPule),
+      dlgSzczegoly(editor),
+      dlgWczytajZapisz(platform.screen, platform.files, platform.settings, session) {
+  connectEvents();
+}
+
+void AwizoWysylki::setOnLine(std::string_view value) {
+  form.OnLine = value;
+  editor.platform.host.propertyChanged("OnLine");
+  showOnLine();
+}
+
+std::string AwizoWysylki::DebugLevel() const {
+  return debugLevel(editor) ? form.DebugLevel : std::string();
+}
+
+void AwizoWysylki::setDebugLevel(std::string_view value) {
+  form.DebugLevel = value;
+  editor.platform.host.propertyChanged("DebugLevel");
+}
+
+void AwizoWysylki::UserControl_Initialize() { setUpControl(editor); }
+
+void AwizoWysylki::UserControl_ReadProperties() {
+  PropertyBag& bag = editor.platform.bag;
+  ignoreErrors([&] { form.OnLine = bag.read("OnLine"); });
+  ignoreErrors([&] { showOnLine(); });
+  ignoreErrors([&] { form.DebugLevel = bag.read("DebugLevel"); });
+  ignoreErrors([&] { form.PartnerName = bag.read("PartnerName"); });
+  ignoreErrors([&] { dlgDodaj.LinePartnerName = form.PartnerName; });
+  ignoreErrors([&] { form.PartnerILN = bag.read("PartnerILN"); });
+  ignoreErrors([&] { editor.session.BuyerILN = form.PartnerILN; });
+  ignoreErrors([&] { form.PartnerURL = bag.read("PartnerURL"); });
+}
+
+void AwizoWysylki::UserControl_Show() {
+  form.showMain();
+  awizo::UserControl_Show(editor, dlgDodaj);
+  // Only now is there a catalogue that the line dialog can read when it loads.
+  dlgDodaj.allowLoading();
+}
+
+void AwizoWysylki::UserControl_WriteProperties() {
+  PropertyBag& bag = editor.platform.bag;
+  ignoreErrors([&] { bag.write("OnLine", form.OnLine); });
+  ignoreErrors([&] { bag.write("DebugLevel", form.DebugLevel); });
+}
+
+void AwizoWysylki::UserControl_Paint() {
+  form.grdPozycje.refresh();
+  form.grdSuma.refresh();
+}
+
+void AwizoWysylki::UserControl_Terminate() {
+  form.raise([this] {
+    editor.platform.settings.write("VIRD", "VirdActiveX", "OffLinePath",
+                                   editor.session.OffLinePathValue);
+  });
+}
+
+void AwizoWysylki::showOnLine() {
+  const bool offLine = form.OnLine == "Off";
+  form.lblOnLineStatus.setCaption(offLine ? "Off-Line" : "On-Line");
+  form.btnPrzeslij.setVisible(!offLine);
+}
+
+}  // namespace awizo

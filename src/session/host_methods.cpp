@@ -1,0 +1,50 @@
+#include "session/awizo_wysylki.h"
+#include "tables/editing/line_commit.h"
+#include "tables/flat_index.h"
+#include "tables/package_references.h"
+#include "tables/totals.h"
+
+namespace awizo {
+
+std::string AwizoWysylki::MyCalculateWeight() { return awizo::MyCalculateWeight(editor); }
+
+double AwizoWysylki::MyCalculatePartWeight(std::string& quantity, std::string& weight) {
+  return awizo::MyCalculatePartWeight(editor, quantity, weight);
+}
+
+std::string AwizoWysylki::JednostkiMiaryNazwaToSymbol(std::string_view name) const {
+  return awizo::JednostkiMiaryNazwaToSymbol(editor.platform.locale, name);
+}
+
+void AwizoWysylki::ArrayRemoveItem(HostValue& array, std::int32_t index) {
+  awizo::ArrayRemoveItem(array, index);
+}
+
+std::string AwizoWysylki::GridToString(const Table& table) { return awizo::GridToString(table); }
+
+void AwizoWysylki::StringToGrid(Table& table, std::string_view text) {
+  awizo::StringToGrid(table, text);
+}
+
+std::string AwizoWysylki::RemoveOldPackRef(std::string_view text,
+                                           const std::vector<std::string>& delSerials) {
+  return awizo::RemoveOldPackRef(editor, text, delSerials);
+}
+
+std::string AwizoWysylki::GetPackedQuantity(std::string_view text) {
+  return awizo::GetPackedQuantity(editor, text);
+}
+
+std::int16_t AwizoWysylki::IndexGrdPozycje(std::int16_t row, std::int16_t col) const {
+  return awizo::IndexGrdPozycje(editor, row, col);
+}
+
+std::int16_t AwizoWysylki::IndexGrdOpak(std::int16_t row, std::int16_t col) const {
+  return awizo::IndexGrdOpak(editor, row, col);
+}
+
+std::int16_t AwizoWysylki::IndexGrdSuma(std::int16_t row, std::int16_t col) const {
+  return awizo::IndexGrdSuma(editor, row, col);
+}
+
+}  // namespace awizo

@@ -1,0 +1,59 @@
+#include "session/identity.h"
+
+#include "service/exchanges.h"
+#include "service/transport.h"
+
+namespace awizo {
+namespace {
+
+/// Whether the file is there and is XML. The document is empty otherwise.
+bool loadFile(Files& files, XmlDocument& document, std::string_view path) {
+  try {
+    return document.loadBytes(files.readAll(path));
+  } catch (const RunTimeError&) {
+    document.loadText("");
+    return false;
+  }
+}
+
+void readSeller(SessionState& session) {
+  session.SellerILN.clear();
+  const XmlNode info = session.UserInfoDom->root().selectSingle(identityPath);
+  if (!info) return;
+  session.SellerILN = GetNodeValue(info, "iln", true);
+  session.SellerNIP = GetNodeValue(info, "nip", true);
+  session.SellerName = GetNodeValue(info, "name", true);
+  session.SellerAccount = GetNodeValue(info, "account", true);
+}
+
+/// Whether the partner's file tells who the partner is.
+bool readPartner(Editor& editor) {
+  SessionState& session = editor.session;
+  const std::string path =
+      partnerInfoFile(session.OffLinePathValue, session.SellerILN, session.BuyerILN);
+  session.PartnerInfoLoaded = loadFile(editor.platform.files, *session.PartnerInfoDom, path);
+  if (!session.PartnerInfoLoaded) return false;
+  const XmlNode info = session.PartnerInfoDom->root().selectSingle(identityPath);
+  if (!info) return false;
+  session.BuyerNIP = GetNodeValue(info, "nip", true);
+  session.BuyerName = GetNodeValue(info, "name", true);
+  session.BuyerAccount = GetNodeValue(info, "account", true);
+  return true;
+}
+
+}  // namespace
+
+std::string_view readIdentity(Editor& editor) {
+  SessionState& session = editor.session;
+  session.UserInfoLoaded =
+      loadFile(editor.platform.files, *session.UserInfoDom, userInfoFile(session.OffLinePathValue));
+  if (!session.UserInfoLoaded) return "Нет или неправильный формат файла XML о пользователе.";
+  readSeller(session);
+  // On line the service will tell who the partner is.
+  if (!readPartner(editor) && editor.form.OnLine == "Off") {
+    return "Нет или неправильный формат файла XML о партнёре.";
+  }
+  return "";
+}
+
+}  // namespace awizo

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string_view>
+
+#include "session/record/editor.h"
+
+namespace awizo {
+
+/// Reads who the user's firm and the partner are from the two files of the local folder. The
+/// answer is the text that tells the user why the editor can't work; empty where it can.
+std::string_view readIdentity(Editor& editor);
+
+}  // namespace awizo

@@ -1,0 +1,145 @@
+#include "session/on_line_start.h"
+
+#include "formats/order_reader.h"
+#include "formats/row_check.h"
+#include "platform/narrow.h"
+#include "service/exchanges.h"
+#include "service/transport.h"
+#include "tables/columns.h"
+
+namespace awizo {
+namespace {
+
+/// The whole reply; none, on which every selection raises error 91, where there is no reply.
+XmlNode nodeOf(const std::unique_ptr<XmlDocument>& reply) {
+  return reply ? reply->node() : XmlNode();
+}
+
+/// Finds out where the service is and as whom to talk to it. The answer is the base address.
+std::string readPage(Editor& editor) {
+  AwizoForm& form = editor.form;
+  const std::string base = GetBaseUrl(editor.platform.page.url());
+  form.PartnersUrl = partnersUrl(base);
+  form.UploadUrl = uploadUrl(base, form.PartnerURL);
+  form.OrderDataUrl = orderDataUrl(base, form.PartnerURL);
+  editor.session.SessionCookie = editor.platform.page.cookie();
+  return base;
+}
+
+/// Whether the service knows the partner. What it answers becomes the partner's file.
+bool fetchPartner(Editor& editor) {
+  SessionState& session = editor.session;
+  const Platform& platform = editor.platform;
+  const auto request = partnerInfoRequest(platform.xml, session.BuyerILN);
+  auto reply = SendXMLDOMRequest(editor, editor.form.PartnersUrl, *request);
+  const XmlNode info = nodeOf(reply).selectSingle(partnerInfoPath);
+  if (!info) return false;
+
+  session.PartnerInfoDom = std::move(reply);
+  session.PartnerInfoLoaded = true;
+  session.BuyerNIP = GetNodeValue(info, "nip", true);
+  session.BuyerName = GetNodeValue(info, "name", true);
+  session.BuyerAccount = GetNodeValue(info, "account", true);
+  platform.files.replace(
+      partnerInfoFile(session.OffLinePathValue, session.SellerILN, session.BuyerILN),
+      session.PartnerInfoDom->fileBytes());
+  return true;
+}
+
+void showParties(Editor& editor) {
+  const SessionState& session = editor.session;
+  AwizoForm& form = editor.form;
+  form.HeaderBuyerILN = session.BuyerILN;
+  form.HeaderBuyerName = session.BuyerName;
+  form.HeaderSellerILN = session.SellerILN;
+  form.HeaderSellerName = session.SellerName;
+  form.lblILNKupWart.setCaption(form.HeaderBuyerILN);
+  form.lblNameKupWart.setCaption(form.HeaderBuyerName);
+  form.lblILNSprzedWart.setCaption(form.HeaderSellerILN);
+  form.lblNameSprzedWart.setCaption(form.HeaderSellerName);
+}
+
+/// Without a catalogue the dialogs work all the same, so nothing here is told to the user.
+void fetchProductCatalogue(Editor& editor, std::string_view base) {
+  SessionState& session = editor.session;
+  const auto request = productCatalogueRequest(editor.platform.xml, session.BuyerILN);
+  auto reply = SendXMLDOMRequest(editor, productCatalogueUrl(base), *request);
+  const std::string status = GetNodeValue(nodeOf(reply), catalogueStatusPath, true);
+  if (status == "ERROR") {
+    // The service's description isn't shown to anybody; the control is only made usable.
+    editor.form.setEnabled(true);
+  } else if (status == "CHANGED") {
+    const XmlNode catalogue = nodeOf(reply).selectSingle(cataloguePath);
+    session.ProductCatalogLoaded = static_cast<bool>(catalogue);
+    if (!catalogue) return;
+    // The catalogue can be many megabytes: it stays the document that it came in.
+    reply->keepOnly(catalogue);
+    session.ProductCatalogDom = std::move(reply);
+  }
+}
+
+void fetchLocalizations(Editor& editor, std::string_view base) {
+  SessionState& session = editor.session;
+  session.LocalizationsLoaded = false;
+  const auto request = localizationCatalogueRequest(editor.platform.xml, session.BuyerILN);
+  auto reply = SendXMLDOMRequest(editor, localizationCatalogueUrl(base), *request);
+  if (GetNodeValue(nodeOf(reply), localizationStatusPath, true) != "CHANGED") return;
+  session.LocalizationsDom = std::move(reply);
+  session.LocalizationsLoaded = true;
+}
+
+/// The document of a waiting order; none where no order waits.
+std::unique_ptr<XmlDocument> fetchOrder(Editor& editor) {
+  const auto request = orderRequest(editor.platform.xml);
+  auto reply = SendXMLDOMRequest(editor, editor.form.OrderDataUrl, *request);
+  const XmlNode order = nodeOf(reply).selectSingle(orderPath);
+  if (!order) return nullptr;
+  reply->keepOnly(order);
+  return reply;
+}
+
+/// Counts the lines that pass the check and paints the others.
+void checkLines(Editor& editor) {
+  Table& lines = editor.form.grdPozycje;
+  editor.form.ValidLineCount = 0;
+  const Cursor earlier = editor.screen().setCursor(editor.session.WaitCursor);
+  for (int row = 1; row <= editor.session.LineCount; ++row) {
+    lines.setRow(row);
+    if (CheckGridRow(editor, narrow16(row))) {
+      editor.form.ValidLineCount = narrow16(editor.form.ValidLineCount + 1);
+    } else {
+      for (int column = GRD_POZ_EAN; column <= GRD_POZ_PACKED_QTY; ++column) {
+        lines.setBackground(row, column, pink);
+      }
+    }
+  }
+  lines.setRow(1);
+  lines.setColumn(GRD_POZ_EAN);
+  editor.screen().setCursor(earlier);
+}
+
+}  // namespace
+
+bool HasHostDocument(HostPage& page) {
+  try {
+    page.cookie();
+    return true;
+  } catch (const RunTimeError&) {
+    return false;
+  }
+}
+
+std::string_view startOnLine(Editor& editor) {
+  const std::string base = readPage(editor);
+  if (!fetchPartner(editor)) return "Неправильный формат XML партнёр инфо.";
+  showParties(editor);
+  fetchProductCatalogue(editor, base);
+  fetchLocalizations(editor, base);
+  if (auto order = fetchOrder(editor)) {
+    Wczytaj_Zamowienie(editor, order);
+    checkLines(editor);
+  }
+  return "";
+}
+
+}  // namespace awizo

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string_view>
+
+#include "session/record/editor.h"
+
+namespace awizo {
+
+/// Whether a page hosts the control: whether its cookie can be read.
+bool HasHostDocument(HostPage& page);
+
+/// Fetches partner info, both catalogues and a waiting order from the service, and fills the form
+/// from the order. The answer is the text that tells the user why the editor can't work; empty
+/// where it can. A page whose address or cookie can't be read raises that error.
+std::string_view startOnLine(Editor& editor);
+
+}  // namespace awizo
