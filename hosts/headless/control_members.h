@@ -1,14 +1,16 @@
 #pragma once
 
-#include <optional>
-#include <string>
-
 #include "hosts/headless/procedures/json.h"
-#include "session/record/awizo_form.h"
+#include "session/awizo_wysylki.h"
 
 namespace awizo::headless {
 
-/// Members of the control by their names.
-Json controlMembers(const AwizoForm& form);
+/// Properties and members of the control by their names, and whether it is enabled.
+Json controlMembers(const AwizoWysylki& control);
+
+// Public members of the dialogs by their names. Reading them loads no dialog.
+Json membersOf(const DlgDodaj& dialog);
+Json membersOf(const DlgdodajPule& dialog);
+Json membersOf(const DlgSzczegoly& dialog);
 
 }  // namespace awizo::headless

@@ -12,12 +12,6 @@ std::string readOf(const std::optional<std::string>& value) {
   return *value;
 }
 
-std::string keyOf(std::string_view application, std::string_view section, std::string_view key) {
-  std::string path(application);
-  path.append("\n").append(section).append("\n").append(key);
-  return path;
-}
-
 }  // namespace
 
 std::string OptionsPage::url() { return readOf(options_.pageUrl); }
@@ -31,17 +25,6 @@ std::string OptionsBag::read(std::string_view name) {
 
 void OptionsBag::write(std::string_view name, std::string_view value) {
   written_[std::string(name)] = value;
-}
-
-std::string MemorySettings::read(std::string_view application, std::string_view section,
-                                 std::string_view key, std::string_view defaultValue) {
-  const auto found = values_.find(keyOf(application, section, key));
-  return found == values_.end() ? std::string(defaultValue) : found->second;
-}
-
-void MemorySettings::write(std::string_view application, std::string_view section,
-                           std::string_view key, std::string_view value) {
-  values_[keyOf(application, section, key)] = value;
 }
 
 }  // namespace awizo::headless

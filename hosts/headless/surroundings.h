@@ -7,9 +7,7 @@
 #include <utility>
 
 #include "hosts/headless/options.h"
-#include "platform/clock.h"
 #include "platform/host.h"
-#include "platform/settings.h"
 
 namespace awizo::headless {
 
@@ -47,28 +45,6 @@ class ReportingHost : public ControlHost {
 
  private:
   std::function<void(std::string_view)> report_;
-};
-
-/// Settings that end with the program.
-class MemorySettings : public SettingsStore {
- public:
-  std::string read(std::string_view application, std::string_view section, std::string_view key,
-                   std::string_view defaultValue) override;
-  void write(std::string_view application, std::string_view section, std::string_view key,
-             std::string_view value) override;
-
- private:
-  std::map<std::string, std::string> values_;
-};
-
-/// A clock that stands still.
-class StillClock : public Clock {
- public:
-  explicit StillClock(const Moment& moment) : moment_(moment) {}
-  Moment now() const override { return moment_; }
-
- private:
-  Moment moment_;
 };
 
 }  // namespace awizo::headless

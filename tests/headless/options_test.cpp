@@ -63,13 +63,5 @@ TEST(Bag, KeepsWhatTheControlWroteApartFromWhatItWasGiven) {
   EXPECT_EQ(bag.written().at("OnLine"), "On");
 }
 
-TEST(Settings, InMemoryKeepTheirValuesByAllThreeNames) {
-  MemorySettings settings;
-  EXPECT_EQ(settings.read("A", "B", "C", "default"), "default");
-  settings.write("A", "B", "C", "value");
-  EXPECT_EQ(settings.read("A", "B", "C", "default"), "value");
-  EXPECT_EQ(settings.read("A", "B", "D", ""), "");
-}
-
 }  // namespace
 }  // namespace awizo::headless

@@ -36,13 +36,17 @@ void fromJson(const Json& json, double& value) {
 }
 
 void fromJson(const Json& json, Date& value) {
-  const std::optional<Date> read = parseDate(textOf(json, what));
+  const std::string text = textOf(json, what);
+  const std::optional<Moment> moment = parseMoment(text);
+  const std::optional<Date> read = moment ? std::optional(moment->date) : parseDate(text);
   if (!read) throw BadLine("An argument must be a date of the form yyyy-mm-dd.");
   value = *read;
 }
 
 void fromJson(const Json& json, TimeOfDay& value) {
-  const std::optional<TimeOfDay> read = parseTime(textOf(json, what));
+  const std::string text = textOf(json, what);
+  const std::optional<Moment> moment = parseMoment(text);
+  const std::optional<TimeOfDay> read = moment ? std::optional(moment->time) : parseTime(text);
   if (!read) throw BadLine("An argument must be a time of the form hh:mm.");
   value = *read;
 }

@@ -31,6 +31,8 @@ void fromJson(const Json& json, std::int32_t& value);
 void fromJson(const Json& json, double& value);
 void fromJson(const Json& json, Date& value);
 void fromJson(const Json& json, TimeOfDay& value);
+/// Any value, as it is.
+inline void fromJson(const Json& json, Json& value) { value = json; }
 
 template <class Value>
 void fromJson(const Json& json, std::vector<Value>& value) {

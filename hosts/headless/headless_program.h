@@ -1,0 +1,19 @@
+#pragma once
+
+#include <iosfwd>
+
+#include "hosts/headless/options.h"
+
+namespace awizo::headless {
+
+// Exit statuses.
+inline constexpr int exitDone = 0;
+inline constexpr int exitEndedBySystem = 1;  ///< the control couldn't be set up
+inline constexpr int exitBadArguments = 2;
+inline constexpr int exitInputEndedEarly = 3;  ///< under an open box or modal form
+
+/// Creates the control, serves the lines of `in` and takes the control down at their end. Gives
+/// the exit status. Throws RunTimeError where the settings asked for can't be kept.
+int runHeadless(const Options& options, std::istream& in, std::ostream& out);
+
+}  // namespace awizo::headless

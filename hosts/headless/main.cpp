@@ -1,0 +1,24 @@
+// The control without a screen: takes what a user does as lines of JSON from standard input.
+
+#include <csignal>
+#include <exception>
+#include <iostream>
+
+#include "hosts/headless/headless_program.h"
+
+int main(int argumentCount, char** arguments) {
+  using namespace awizo::headless;
+  // Who no longer reads what is said must not end the program half-way.
+  std::signal(SIGPIPE, SIG_IGN);
+  std::ios::sync_with_stdio(false);
+  std::cin.tie(nullptr);
+  try {
+    return runHeadless(parseOptions({arguments + 1, arguments + argumentCount}), std::cin,
+                       std::cout);
+  } catch (const BadArguments& error) {
+    std::cerr << "awizo-headless: " << error.what() << '\n' << usage;
+  } catch (const std::exception& error) {
+    std::cerr << "awizo-headless: " << error.what() << '\n';
+  }
+  return exitBadArguments;
+}

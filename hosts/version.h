@@ -1,0 +1,11 @@
+#pragma once
+
+#include "platform/platform.h"
+
+namespace awizo {
+
+/// The program's version, as the build knows it.
+inline constexpr ProgramVersion programVersion{AWIZO_VERSION_MAJOR, AWIZO_VERSION_MINOR,
+                                               AWIZO_VERSION_PATCH};
+
+}  // namespace awizo
