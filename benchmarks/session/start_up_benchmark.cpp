@@ -1,0 +1,107 @@
+#include <benchmark/benchmark.h>
+#include <malloc.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <memory>
+
+#include "benchmarks/support/full_size.h"
+#include "tests/session/test_control.h"
+
+namespace awizo::benchmarks {
+namespace {
+
+/// A control whose host page is there, and a service that answers from memory.
+std::unique_ptr<test::TestControl> preparedControl(const std::string& catalogue,
+                                                   const std::string& order) {
+  auto made = std::make_unique<test::TestControl>();
+  made->prepareFolder();
+  made->preparePage();
+  made->create();
+  made->http.reply(test::TestControl::partnerInfo("ООО Покупатель"));
+  made->http.reply(catalogue);
+  made->http.reply("<dictionary-response><status>UNCHANGED</status></dictionary-response>");
+  made->http.reply(order);
+  return made;
+}
+
+void requireFinished(const test::TestControl& control, int orderLines) {
+  if (control.session.LineCount != orderLines || !control.session.ProductCatalogLoaded) {
+    std::abort();
+  }
+}
+
+template <class Work>
+double secondsOf(Work&& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+/// A figure of this process in kilobytes: "VmRSS", "VmHWM".
+double memoryFigure(const std::string& name) {
+  std::ifstream status("/proc/self/status");
+  for (std::string line; std::getline(status, line);) {
+    if (line.starts_with(name + ":")) return std::stod(line.substr(name.size() + 1));
+  }
+  std::abort();
+}
+
+/// What the process held at most while it worked, over what it held before.
+template <class Work>
+double peakKilobytesOf(Work&& work) {
+  malloc_trim(0);
+  std::ofstream("/proc/self/clear_refs") << "5";  // forgets the highest figure so far
+  const double before = memoryFigure("VmRSS");
+  work();
+  return memoryFigure("VmHWM") - before;
+}
+
+/// The start on line up to the end of UserControl_Show, against bare parsing of the same bytes.
+void StartingOnLine(benchmark::State& state) {
+  const int part = static_cast<int>(state.range(0));
+  const std::string reply = catalogueReply(catalogue(mostCatalogueLines / part));
+  const std::string order = orderReply(mostOrderLines / part, mostCatalogueLines / part);
+  double ours = 0;
+  double bare = 0;
+  for ([[maybe_unused]] const auto turn : state) {
+    bare += secondsOf([&] {
+      parseBare(reply);
+      parseBare(order);
+    });
+    const auto control = preparedControl(reply, order);
+    const double seconds = secondsOf([&] { control->control.UserControl_Show(); });
+    requireFinished(*control, mostOrderLines / part);
+    ours += seconds;
+    state.SetIterationTime(seconds);
+  }
+  state.counters["ratio"] = ours / bare;
+}
+BENCHMARK(StartingOnLine)->Arg(8)->Arg(4)->Arg(2)->Arg(1)->UseManualTime();
+
+/// The same work's peak memory; the bytes themselves count on both sides.
+void MemoryOfStartingOnLine(benchmark::State& state) {
+  const std::string reply = catalogueReply(catalogue(mostCatalogueLines));
+  const std::string order = orderReply(mostOrderLines, mostCatalogueLines);
+  double ours = 0;
+  double bare = 0;
+  for ([[maybe_unused]] const auto turn : state) {
+    bare += peakKilobytesOf([&] {
+      const std::string bytes = reply;
+      parseBare(bytes);
+      parseBare(order);
+    });
+    ours += peakKilobytesOf([&] {
+      const auto control = preparedControl(reply, order);
+      control->control.UserControl_Show();
+      requireFinished(*control, mostOrderLines);
+    });
+  }
+  state.counters["ratio"] = ours / bare;
+  state.counters["megabytes"] = ours / 1024 / static_cast<double>(state.iterations());
+}
+BENCHMARK(MemoryOfStartingOnLine)->Iterations(3);
+
+}  // namespace
+}  // namespace awizo::benchmarks
