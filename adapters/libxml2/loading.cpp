@@ -15,11 +15,14 @@ namespace {
 
 /// What one load knows beside libxml2's parser context; the context's `_private` points to it.
 struct Loading {
+  /// libxml2 doesn't count what parameter entities cost that are made of one another.
+  static constexpr int mostParameterEntities = 1000;
   /// Blanks at the start of a text, held back until it is known whether more text follows. Blanks
   /// that turn out to stand between two nodes are thus never made into a node.
   std::string heldBlanks;
   /// Entities bring in nodes behind the parser's back; the tree is then swept as a whole.
   bool usesEntities = false;
+  int parameterEntities = 0;
   bool refused = false;
 };
 
@@ -80,15 +83,19 @@ void onCData(void* context, const xmlChar* text, int length) {
   xmlSAX2CDataBlock(context, text, length);
 }
 
+void refuse(void* context) {
+  loadingOf(context).refused = true;
+  contextOf(context)->wellFormed = 0;
+  contextOf(context)->disableSAX = 1;
+}
+
 /// Only what the document itself declares may be referred to.
 xmlEntity* admit(void* context, xmlEntity* entity) {
   const bool inside = entity && (entity->etype == XML_INTERNAL_GENERAL_ENTITY ||
                                  entity->etype == XML_INTERNAL_PARAMETER_ENTITY ||
                                  entity->etype == XML_INTERNAL_PREDEFINED_ENTITY);
   if (inside) return entity;
-  loadingOf(context).refused = true;
-  contextOf(context)->wellFormed = 0;
-  contextOf(context)->disableSAX = 1;
+  refuse(context);
   return nullptr;
 }
 
@@ -102,12 +109,23 @@ xmlEntity* onGetEntity(void* context, const xmlChar* name) {
 }
 
 xmlEntity* onGetParameterEntity(void* context, const xmlChar* name) {
+  if (++loadingOf(context).parameterEntities > Loading::mostParameterEntities) {
+    refuse(context);
+    return nullptr;
+  }
   return admit(context, xmlSAX2GetParameterEntity(context, name));
 }
 
 xmlParserInput* onResolveEntity(void*, const xmlChar*, const xmlChar*) { return nullptr; }
 
+/// The first error decides; without this, bytes of nonsense would cost an error message each.
+void onError(void*, xmlError* error) {
+  if (error->domain != XML_FROM_PARSER || error->level != XML_ERR_FATAL || !error->ctxt) return;
+  contextOf(error->ctxt)->instate = XML_PARSER_EOF;
+}
+
 void hook(xmlSAXHandler& events) {
+  events.serror = onError;
   events.characters = onCharacters;
   events.ignorableWhitespace = onCharacters;
   events.startElementNs = onStartElement;

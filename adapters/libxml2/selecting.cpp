@@ -84,7 +84,23 @@ xmlNode* walkStart(xmlNode* start, const Steps& steps) {
   return hasElements ? start : nullptr;
 }
 
-void keepSilent(void*, xmlError*) {}
+void ignoreError(void*, xmlError*) {}
+void ignoreMessage(void*, const char*, ...) {}
+
+/// Some messages of an evaluation go past the context's handler to the one of the whole thread.
+class Silence {
+ public:
+  Silence() : handler_(xmlGenericError), context_(xmlGenericErrorContext) {
+    xmlSetGenericErrorFunc(nullptr, ignoreMessage);
+  }
+  ~Silence() { xmlSetGenericErrorFunc(context_, handler_); }
+  Silence(const Silence&) = delete;
+  Silence& operator=(const Silence&) = delete;
+
+ private:
+  xmlGenericErrorFunc handler_;
+  void* context_;
+};
 
 }  // namespace
 
@@ -110,9 +126,10 @@ std::vector<xmlNode*> Selecting::evaluate(xmlNode* start, std::string_view path)
   if (!context_) {
     context_.reset(xmlXPathNewContext(start->doc));
     if (!context_) throw errors::outOfMemory();
-    context_->error = keepSilent;
+    context_->error = ignoreError;
     context_->opLimit = maximumOperations;
   }
+  const Silence silence;
   context_->opCount = 0;
   const std::string text(path);
   const Owned<xmlXPathCompExpr> expression(
