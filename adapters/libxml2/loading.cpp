@@ -13,6 +13,11 @@
 namespace awizo::libxml2 {
 namespace {
 
+/// All different names of a document together. libxml2 compares names of attributes and of
+/// declarations each with each, so that many of them would hold it up for hours; a document of
+/// ours has some hundred.
+constexpr std::size_t mostBytesOfNames = 256 * 1024;
+
 /// What one load knows beside libxml2's parser context; the context's `_private` points to it.
 struct Loading {
   /// libxml2 doesn't count what parameter entities cost that are made of one another.
@@ -169,12 +174,15 @@ bool looksLikeUtf8(std::string_view text) {
 Owned<xmlDoc> parseWellFormed(std::string_view bytes, int options) {
   const Owned<xmlParserCtxt> context(xmlNewParserCtxt());
   if (!context) throw errors::outOfMemory();
+  xmlDictSetLimit(context->dict, mostBytesOfNames);
   Loading loading;
   context->_private = &loading;
   hook(*context->sax);
   Owned<xmlDoc> document(xmlCtxtReadMemory(
       context.get(), bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr, options));
   if (!document || loading.refused || !context->nsWellFormed) return nullptr;
+  // What is put into the document afterwards is our own.
+  xmlDictSetLimit(document->dict, 0);
   xmlNode* root = xmlDocGetRootElement(document.get());
   if (root && loading.usesEntities) dropBlanks(root);
   return root ? std::move(document) : nullptr;

@@ -187,6 +187,27 @@ TEST(Sizes, OneTextOfAHundredMegabytesDoesNoHarm) {
   expectAnyOutcomeWithinBounds("<a>" + std::string(100'000'000, ' ') + "x</a>");
 }
 
+TEST(Sizes, TooManyDifferentNamesAreRefused) {
+  std::string elements = "<a>";
+  std::string attributes = "<a";
+  std::string declarations = "<!DOCTYPE a [";
+  for (int i = 0; i < 1'000'000; ++i) {
+    const std::string number = std::to_string(i);
+    elements.append("<x").append(number).append("/>");
+    attributes.append(" x").append(number).append("=''");
+    declarations.append("<!ATTLIST a x").append(number).append(" CDATA ''>");
+  }
+  expectRefusedWithinBounds(elements + "</a>");
+  expectRefusedWithinBounds(attributes + "/>");
+  expectRefusedWithinBounds(declarations + "]><a/>");
+}
+
+TEST(Sizes, AThousandDifferentNamesAreFine) {
+  std::string text = "<a>";
+  for (int i = 0; i < 1000; ++i) text += "<name" + std::to_string(i) + "/>";
+  EXPECT_EQ(loadedXml(text + "</a>"), text + "</a>");
+}
+
 TEST(Sizes, CutOffAnywhereItIsRefused) {
   const std::string whole =
       "<?xml version=\"1.0\"?><!DOCTYPE a [<!ENTITY e 'x'>]><a b=\"1\">&e;<![CDATA[x]]><!-- c "
