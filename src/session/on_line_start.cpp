@@ -98,11 +98,11 @@ std::unique_ptr<XmlDocument> fetchOrder(Editor& editor) {
   return reply;
 }
 
-/// Counts the lines that pass the check and paints the others.
+/// Counts the lines that pass the check and paints the others. Error 6 for more lines than the cell
+/// index reaches.
 void checkLines(Editor& editor) {
   Table& lines = editor.form.grdPozycje;
   editor.form.ValidLineCount = 0;
-  const Cursor earlier = editor.screen().setCursor(editor.session.WaitCursor);
   for (int row = 1; row <= editor.session.LineCount; ++row) {
     lines.setRow(row);
     if (CheckGridRow(editor, narrow16(row))) {
@@ -115,6 +115,17 @@ void checkLines(Editor& editor) {
   }
   lines.setRow(1);
   lines.setColumn(GRD_POZ_EAN);
+}
+
+void checkLinesWaiting(Editor& editor) {
+  const Cursor earlier = editor.screen().setCursor(editor.session.WaitCursor);
+  try {
+    checkLines(editor);
+  } catch (...) {
+    // The control stays usable after an error, so the cursor must not go on to say "wait".
+    editor.screen().setCursor(earlier);
+    throw;
+  }
   editor.screen().setCursor(earlier);
 }
 
@@ -137,7 +148,7 @@ std::string_view startOnLine(Editor& editor) {
   fetchLocalizations(editor, base);
   if (auto order = fetchOrder(editor)) {
     Wczytaj_Zamowienie(editor, order);
-    checkLines(editor);
+    checkLinesWaiting(editor);
   }
   return "";
 }

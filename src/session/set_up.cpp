@@ -2,6 +2,7 @@
 
 #include <initializer_list>
 #include <map>
+#include <new>
 
 #include "session/record/header_panel.h"
 
@@ -50,16 +51,22 @@ void setUp(Editor& editor) {
   form.lblVersion.setCaption(versionText(editor.platform.version));
 }
 
+void endAfter(Screen& screen, const RunTimeError& error) {
+  screen.showCritical(
+      error.description() + "\rУверьтесь, что все необходимые компоненты заинсталированы.",
+      "Bі№d w UserControl_Initialize()");
+  screen.endProgram();
+}
+
 }  // namespace
 
 void setUpControl(Editor& editor) {
   try {
     setUp(editor);
   } catch (const RunTimeError& error) {
-    editor.screen().showCritical(
-        error.description() + "\rУверьтесь, что все необходимые компоненты заинсталированы.",
-        "Bі№d w UserControl_Initialize()");
-    editor.screen().endProgram();
+    endAfter(editor.screen(), error);
+  } catch (const std::bad_alloc&) {
+    endAfter(editor.screen(), errors::outOfMemory());
   }
 }
 

@@ -109,6 +109,13 @@ TEST_F(Initialize, EndsTheProgramAfterAnError) {
   EXPECT_TRUE(face.programEnded);
 }
 
+TEST_F(Initialize, EndsTheProgramForWantOfMemory) {
+  form.lblVersion.observer = [](const Change&) { throw std::bad_alloc(); };
+  control.UserControl_Initialize();
+  EXPECT_THAT(face.texts(), ElementsAre(::testing::StartsWith("Out of memory\r")));
+  EXPECT_TRUE(face.programEnded);
+}
+
 TEST_F(Initialize, GoesOnWithTheProgramWithoutAnError) {
   control.UserControl_Initialize();
   EXPECT_FALSE(face.programEnded);
@@ -274,6 +281,21 @@ TEST_F(LastEvents, TerminationKeepsTheLocalFolder) {
   session.OffLinePathValue = "c:\\other\\VIRD";
   control.UserControl_Terminate();
   EXPECT_EQ(settings.values["VIRD\\VirdActiveX\\OffLinePath"], "c:\\other\\VIRD");
+}
+
+TEST_F(LastEvents, AFolderThatCantBeKeptIsToldInABox) {
+  class BrokenSettings : public MemorySettings {
+    void write(std::string_view, std::string_view, std::string_view, std::string_view) override {
+      throw errors::diskFull();
+    }
+  };
+  BrokenSettings broken;
+  const Platform surroundings{xml,   http,  page,   bag,    host,     broken,
+                              files, clock, locale, screen, {1, 2, 3}};
+  SessionState record(surroundings);
+  AwizoWysylki other(surroundings, record);
+  other.UserControl_Terminate();
+  EXPECT_THAT(boxes(), ElementsAre("VIRD|critical|OK|Disk full"));
 }
 
 TEST_F(LastEvents, AnUnsavedDocumentIsLostWithoutAQuestion) {

@@ -209,6 +209,51 @@ TEST_F(OnLineStart, HasNoCatalogueAtAnyOtherStatus) {
   }
 }
 
+TEST_F(OnLineStart, MakesTheControlUsableWhenTheServiceReportsAnErrorOfTheCatalogue) {
+  for (const bool isError : {true, false}) {
+    TestControl other;
+    other.prepareFolder();
+    other.preparePage();
+    other.http.reply(partnerInfo("ООО Покупатель"));
+    other.http.reply("<document-response><status>" + std::string(isError ? "ERROR" : "NONE") +
+                     "</status></document-response>");
+    other.http.reply("<none/>");
+    other.http.reply("<none/>");
+    other.create();
+    other.form.setEnabled(false);
+    other.control.UserControl_Show();
+    EXPECT_EQ(other.control.Enabled(), isError);
+  }
+}
+
+TEST_F(OnLineStart, HasNoCatalogueAfterAHostileReply) {
+  std::string deep;
+  for (int level = 0; level < 1'000'000; ++level) deep += "<a>";
+  const std::string bomb =
+      "<!DOCTYPE d [<!ENTITY a \"aaaaaaaaaaaaaaaaaaaa\">"
+      "<!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;\">"
+      "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;\">"
+      "<!ENTITY e \"&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;\">"
+      "<!ENTITY f \"&e;&e;&e;&e;&e;&e;&e;&e;&e;&e;&e;&e;&e;&e;&e;&e;&e;&e;&e;&e;\">"
+      "<!ENTITY g \"&f;&f;&f;&f;&f;&f;&f;&f;&f;&f;&f;&f;&f;&f;&f;&f;&f;&f;&f;&f;\">"
+      "]><document-response><status>CHANGED</status><document-content>"
+      "<Document-ProductCatalogue>&g;</Document-ProductCatalogue></document-content>"
+      "</document-response>";
+  for (const std::string& reply : {deep, bomb}) {
+    TestControl other;
+    other.prepareFolder();
+    other.preparePage();
+    other.http.reply(partnerInfo("ООО Покупатель"));
+    other.http.reply(reply);
+    other.http.reply(placesReply);
+    other.http.reply("<none/>");
+    other.start();
+    EXPECT_FALSE(other.session.ProductCatalogLoaded);
+    EXPECT_TRUE(other.session.LocalizationsLoaded);
+    EXPECT_THAT(other.boxes(), IsEmpty());
+  }
+}
+
 TEST_F(OnLineStart, HasNoCatalogueWhenNoneFollowsTheStatus) {
   startWith("<document-response><status>CHANGED</status></document-response>", "<none/>",
             "<none/>");
@@ -361,6 +406,28 @@ TEST_F(OnLineStart, AnOrderThatCantBeReadIsToldAndTheStartUpGoesOn) {
   EXPECT_THAT(boxes(), ElementsAre("Произошла ошибка в Wczytaj_Zamowienie()|critical|OK|"
                                    "Object variable or With block variable not set"));
   EXPECT_TRUE(control.Enabled());
+  EXPECT_TRUE(finished());
+}
+
+TEST_F(OnLineStart, AnOrderOfMoreLinesThanTheTableHoldsEndsItWithItsLinesStanding) {
+  std::string lines;
+  for (int line = 0; line < 1424; ++line) lines += orderLine("4607000000116", "1");
+  startWith("<none/>", "<none/>", orderReply(lines));
+  EXPECT_THAT(boxes(), ElementsAre("Произошла ошибка в Wczytaj_Zamowienie()|critical|OK|Overflow",
+                                   "Произошла ошибка в UserControl_Show()|critical|OK|Overflow"));
+  EXPECT_EQ(form.grdPozycje.cell(1423, GRD_POZ_EAN), "4607000000116");
+  EXPECT_EQ(form.ValidLineCount, 1423);
+  EXPECT_TRUE(control.Enabled());
+  EXPECT_FALSE(finished());
+  EXPECT_EQ(screen.cursor(), Cursor::normal);
+}
+
+TEST_F(OnLineStart, TakesAnOrderOfAsManyLinesAsTheTableHolds) {
+  std::string lines;
+  for (int line = 0; line < 1423; ++line) lines += orderLine("4607000000116", "1");
+  startWith("<none/>", "<none/>", orderReply(lines));
+  EXPECT_THAT(boxes(), IsEmpty());
+  EXPECT_EQ(form.ValidLineCount, 1423);
   EXPECT_TRUE(finished());
 }
 

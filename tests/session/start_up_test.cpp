@@ -191,6 +191,28 @@ TEST_F(StartUp, ReadsAUsersFileInItsDeclaredEncoding) {
   EXPECT_EQ(session.SellerName, "ООО Поставщик");
 }
 
+TEST_F(StartUp, ReadsAUsersFileInUtf16ByItsByteOrderMark) {
+  prepareOffLine();
+  std::string bytes = "\xFF\xFE";
+  for (const char letter : std::string("<u><partner-info><info><iln>9520001000010</iln>"
+                                       "<name>Firma</name></info></partner-info></u>")) {
+    bytes += {letter, '\0'};
+  }
+  files.put("c:\\VIRD\\userinfo.xml", bytes);
+  start();
+  EXPECT_THAT(boxes(), IsEmpty());
+  EXPECT_EQ(session.SellerName, "Firma");
+}
+
+TEST_F(StartUp, IsFatalWithAUsersFileThatReachesOutside) {
+  prepareOffLine();
+  files.put("c:\\VIRD\\userinfo.xml",
+            "<!DOCTYPE u [<!ENTITY x SYSTEM \"file:///etc/hostname\">]>"
+            "<u><partner-info><info><name>&x;</name></info></partner-info></u>");
+  start();
+  expectFatal("Нет или неправильный формат файла XML о пользователе.");
+}
+
 TEST_F(StartUp, AUsersFileWithoutTheFirmIsNoError) {
   bag.values["OnLine"] = "Off";
   files.put("c:\\VIRD\\userinfo.xml", "<user><other/></user>");
