@@ -7,6 +7,7 @@
 #include "formats/order_row.h"
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
+#include "session/record/header_panel.h"
 #include "tables/columns.h"
 #include "tables/flat_index.h"
 
@@ -15,14 +16,6 @@ namespace {
 
 std::string headerValue(const XmlNode& order, std::string_view path, Missing missing) {
   return orderValue(order, std::string("/Document-Order/").append(path), missing);
-}
-
-void showParties(Editor& editor) {
-  AwizoForm& form = editor.form;
-  form.lblILNKupWart.setCaption(editor.session.BuyerILN);
-  form.lblNameKupWart.setCaption(editor.session.BuyerName);
-  form.lblILNSprzedWart.setCaption(editor.session.SellerILN);
-  form.lblNameSprzedWart.setCaption(editor.session.SellerName);
 }
 
 /// The day when the buyer expects the goods; today where the order doesn't tell.

@@ -5,13 +5,11 @@
 #include "formats/customs_number.h"
 #include "tables/columns.h"
 #include "tables/flat_index.h"
+#include "tables/row_colour.h"
 #include "tables/totals.h"
 
 namespace awizo {
 namespace {
-
-constexpr int firstPaintedColumn = 1;
-constexpr int lastPaintedColumn = 21;
 
 bool fails(Editor& editor, std::string_view columnName) {
   editor.form.BadColumnName = columnName;
@@ -21,12 +19,6 @@ bool fails(Editor& editor, std::string_view columnName) {
 /// A cell of the table that may stay empty.
 bool isEmptyOrNumber(const Editor& editor, const std::string& text) {
   return text.empty() || editor.conversions.isNumeric(text);
-}
-
-void paintWhite(Table& table, int row) {
-  for (int column = firstPaintedColumn; column <= lastPaintedColumn; ++column) {
-    table.setBackground(row, column, white);
-  }
 }
 
 }  // namespace
@@ -50,7 +42,7 @@ bool CheckGridRow(Editor& editor, std::int16_t row) {
 
 void RepaintValidRows(Editor& editor) {
   for (std::int16_t row = 1; row <= editor.session.LineCount; ++row) {
-    if (CheckGridRow(editor, row)) paintWhite(editor.form.grdPozycje, row);
+    if (CheckGridRow(editor, row)) paintRow(editor.form.grdPozycje, row, GRD_POZ_PACKED_QTY, white);
   }
 }
 

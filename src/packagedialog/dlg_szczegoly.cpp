@@ -106,15 +106,19 @@ void DlgSzczegoly::cboxParentPackage_Click() {
 }
 
 bool DlgSzczegoly::IsKnownSerial(std::string_view text) const {
-  for (const std::string& serial : editor_.session.ParentSerials) {
-    if (editor_.platform.locale.sameIgnoringCase(serial, text)) return true;
-  }
-  return false;
+  return isKnown(editor_.session.ParentSerials, text);
 }
 
 bool DlgSzczegoly::IsKnownDescription(std::string_view text) const {
-  for (const std::string& description : editor_.session.ParentDescriptions) {
-    if (editor_.platform.locale.sameIgnoringCase(description, text)) return true;
+  return isKnown(editor_.session.ParentDescriptions, text);
+}
+
+// The last element stands for no package.
+bool DlgSzczegoly::isKnown(const std::vector<std::string>& entries, std::string_view text) const {
+  const Locale& locale = editor_.platform.locale;
+  const std::string key = locale.collationKey(text);
+  for (std::size_t i = 0; i + 1 < entries.size(); ++i) {
+    if (entries[i] == text || locale.collationKey(entries[i]) == key) return true;
   }
   return false;
 }

@@ -68,6 +68,7 @@ class DlgSzczegoly : public Form {
   void btnZamknij_Click();
   void measure_Validate(TextField& field);
 
+  bool isKnown(const std::vector<std::string>& entries, std::string_view text) const;
   bool checkTypeAndDescription();
   bool checkDeliveryPlace();
   bool checkMeasures();

@@ -6,6 +6,7 @@
 #include "service/exchanges.h"
 #include "service/transport.h"
 #include "tables/columns.h"
+#include "tables/row_colour.h"
 
 namespace awizo {
 namespace {
@@ -108,9 +109,7 @@ void checkLines(Editor& editor) {
     if (CheckGridRow(editor, narrow16(row))) {
       editor.form.ValidLineCount = narrow16(editor.form.ValidLineCount + 1);
     } else {
-      for (int column = GRD_POZ_EAN; column <= GRD_POZ_PACKED_QTY; ++column) {
-        lines.setBackground(row, column, pink);
-      }
+      paintRow(lines, row, GRD_POZ_PACKED_QTY, pink);
     }
   }
   lines.setRow(1);

@@ -1,5 +1,7 @@
 #include "formats/reading/despatch_advice_reader.h"
 
+#include <new>
+
 #include "formats/catalogue_completion.h"
 #include "formats/reading/line_reader.h"
 #include "platform/forms/report_errors.h"
@@ -124,6 +126,22 @@ class DocumentReader {
     form_.txtGoodsIdentity.setText(value(below + "GoodsIdentity", true));
   }
 
+  // The heading and a row for each element; an empty table has a row too.
+  static int rowsFor(const std::vector<XmlNode>& elements) {
+    return elements.empty() ? 2 : static_cast<int>(elements.size()) + 1;
+  }
+  static std::int16_t requireCount(const std::vector<XmlNode>& elements) {
+    return narrow16(static_cast<std::int64_t>(elements.size()));
+  }
+
+  void readPackage(const XmlNode& package, std::int16_t row) {
+    Table& grid = form_.grdOpakowania;
+    grid.setCell(IndexGrdOpak(editor_, row, GRD_OPAK_LP), std::to_string(row));
+    const std::string id = GetNodeValue(package, "PackageId", true);
+    showPlain(editor_, id);
+    grid.setCell(IndexGrdOpak(editor_, row, GRD_OPAK_ID_LOW), id);
+  }
+
   // The rows appear, but the count of packages stays what it was.
   void readPackages() {
     const XmlNode consignment =
@@ -136,15 +154,11 @@ class DocumentReader {
     Table& grid = form_.grdOpakowania;
     const std::vector<XmlNode> packages = consignment.selectAll("Packing-Sequence");
     grid.setFixedRows(1);
-    grid.setRows(packages.empty() ? 2 : static_cast<int>(packages.size()) + 1);
+    grid.setRows(rowsFor(packages));
     grid.setRedraw(false);
-    for (std::size_t i = 0; i < packages.size(); ++i) {
-      const std::int16_t row = narrow16(static_cast<std::int64_t>(i) + 1);
-      grid.setCell(IndexGrdOpak(editor_, row, GRD_OPAK_LP), std::to_string(row));
-      const std::string id = GetNodeValue(packages[i], "PackageId", true);
-      showPlain(editor_, id);
-      grid.setCell(IndexGrdOpak(editor_, row, GRD_OPAK_ID_LOW), id);
-    }
+    requireCount(packages);
+    std::int16_t row = 0;
+    for (const XmlNode& package : packages) readPackage(package, ++row);
     grid.setRow(1);
     grid.setColumn(1);
     grid.setRedraw(true);
@@ -159,8 +173,8 @@ class DocumentReader {
     } else {
       const std::vector<XmlNode> lines = parent.selectAll("Line");
       grid.setFixedRows(1);
-      grid.setRows(lines.empty() ? 2 : static_cast<int>(lines.size()) + 1);
-      editor_.session.LineCount = narrow16(static_cast<std::int64_t>(lines.size()));
+      grid.setRows(rowsFor(lines));
+      editor_.session.LineCount = requireCount(lines);
       grid.setRedraw(false);
       std::int16_t row = 0;
       for (const XmlNode& line : lines) readDespatchLine(editor_, line, ++row);
@@ -185,15 +199,9 @@ Outcome readInto(Editor& editor, XmlDocument& document) {
     return DocumentReader(editor, document).read();
   } catch (const RunTimeError&) {
     return Outcome::failed;
+  } catch (const std::bad_alloc&) {
+    return Outcome::failed;
   }
-}
-
-void showParties(Editor& editor) {
-  AwizoForm& form = editor.form;
-  form.lblILNKupWart.setCaption(editor.session.BuyerILN);
-  form.lblNameKupWart.setCaption(editor.session.BuyerName);
-  form.lblILNSprzedWart.setCaption(editor.session.SellerILN);
-  form.lblNameSprzedWart.setCaption(editor.session.SellerName);
 }
 
 // The document's own totals stand over the computed ones, where it has them.
@@ -219,11 +227,6 @@ void finish(Editor& editor, XmlDocument& document) {
   editor.form.lblNiepelnaWagaKom.setCaption("");
   editor.form.btnUsun.setEnabled(true);
   editor.form.btnEdytuj.setEnabled(true);
-}
-
-void closeOpenEdits(Editor& editor) {
-  grdPozycje_LeaveCell(editor);
-  grdSuma_LeaveCell(editor);
 }
 
 // The form is emptied before the file is looked at, and stays so when the file is refused.

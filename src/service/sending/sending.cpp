@@ -18,12 +18,6 @@ bool isConfirmed(Editor& editor, std::string_view question, BoxIcon icon) {
          Answer::yes;
 }
 
-/// A value that is still being typed gets into its cell.
-void closeTableEditors(Editor& editor) {
-  grdPozycje_LeaveCell(editor);
-  grdSuma_LeaveCell(editor);
-}
-
 /// Whether the document may be built: header, lines, and the user's will to send it as packed.
 bool mayBeBuilt(Editor& editor) {
   if (!ValidateHeader(editor)) return false;
@@ -80,7 +74,7 @@ void post(Editor& editor, XmlDocument& document) {
 void btnPrzeslij_Click(Editor& editor) {
   std::optional<Cursor> earlier;
   reportErrors(editor.screen(), "Произошла ошибка в btnPrzeslij_Click()", [&] {
-    closeTableEditors(editor);
+    closeOpenEdits(editor);
     if (!mayBeBuilt(editor)) return;
     earlier = editor.screen().setCursor(editor.session.WaitCursor);
     editor.form.setEnabled(false);

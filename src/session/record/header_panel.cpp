@@ -87,14 +87,18 @@ void UstawNaglowki(Editor& editor) {
   });
 }
 
+void showParties(Editor& editor) {
+  const SessionState& session = editor.session;
+  editor.form.lblILNKupWart.setCaption(session.BuyerILN);
+  editor.form.lblNameKupWart.setCaption(session.BuyerName);
+  editor.form.lblILNSprzedWart.setCaption(session.SellerILN);
+  editor.form.lblNameSprzedWart.setCaption(session.SellerName);
+}
+
 void SetHeader(Editor& editor) {
   reportErrors(editor.screen(), "Произошла ошибка в : SetHeader()", [&] {
     AwizoForm& form = editor.form;
-    const SessionState& session = editor.session;
-    form.lblILNKupWart.setCaption(session.BuyerILN);
-    form.lblNameKupWart.setCaption(session.BuyerName);
-    form.lblILNSprzedWart.setCaption(session.SellerILN);
-    form.lblNameSprzedWart.setCaption(session.SellerName);
+    showParties(editor);
     form.txtDataAwiza.setDate(editor.platform.clock.today());
     form.txtDespatchAdviceTime.setTime(std::nullopt);
     form.cboxPackageDescription.setIndex(2);

@@ -18,6 +18,9 @@ std::int16_t indexKraj(std::string_view code);
 /// Writes the headings of the three tables. An error is shown and the rest is left out.
 void UstawNaglowki(Editor& editor);
 
+/// Shows buyer and seller of the session in their labels.
+void showParties(Editor& editor);
+
 /// Shows the parties, today as the document's date and the defaults of the header. An error is
 /// shown and leaves the header as far as it got.
 void SetHeader(Editor& editor);

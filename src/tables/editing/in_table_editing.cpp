@@ -119,8 +119,14 @@ void grdSuma_LeaveCell(Editor& editor) {
   edit.setVisible(false);
 }
 
-// The packages have no in-table editing; the buttons call all three handlers alike.
+// The packages have no in-table editing.
 void grdOpakowania_LeaveCell(Editor&) {}
+
+void closeOpenEdits(Editor& editor) {
+  grdOpakowania_LeaveCell(editor);
+  grdPozycje_LeaveCell(editor);
+  grdSuma_LeaveCell(editor);
+}
 
 void grdPozycje_GotFocus(Editor& editor) {
   grdSuma_LeaveCell(editor);

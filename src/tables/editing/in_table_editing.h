@@ -26,6 +26,8 @@ bool CheckNumber(Editor& editor, std::string_view text);
 void grdPozycje_LeaveCell(Editor& editor);
 void grdSuma_LeaveCell(Editor& editor);
 void grdOpakowania_LeaveCell(Editor& editor);
+/// Closes an edit that is still open, before a button does its work.
+void closeOpenEdits(Editor& editor);
 void grdPozycje_GotFocus(Editor& editor);
 void grdPozycje_Scroll(Editor& editor);
 /// `editLine` opens the line dialog, as btnEdytuj_Click does.

@@ -13,14 +13,10 @@
 #include "tables/editing/package_commit.h"
 #include "tables/flat_index.h"
 #include "tables/package_references.h"
+#include "tables/row_colour.h"
 
 namespace awizo {
 namespace {
-
-void closeOpenEdits(Editor& editor) {
-  grdPozycje_LeaveCell(editor);
-  grdSuma_LeaveCell(editor);
-}
 
 // Countries that were added in the dialog reach the main form, also after a cancelled dialog.
 void copyCountries(Editor& editor, const DlgDodaj& dialog) {
@@ -41,12 +37,6 @@ std::int16_t addLineRow(Editor& editor) {
     grid.setCell(IndexGrdPozycje(editor, 1, GRD_POZ_LP), "1");
   }
   return count;
-}
-
-void paintWhite(Table& grid, int row) {
-  for (int column = 1; column <= GRD_POZ_PACKED_QTY; ++column) {
-    grid.setBackground(row, column, white);
-  }
 }
 
 std::string pickedDate(const DatePicker& picker) {
@@ -171,7 +161,7 @@ void btnEdytuj_Click(Editor& editor, DlgDodaj& dialog) {
     if (dialog.DlgResult == 1) {
       grid.setRedraw(false);
       ZatwierdzPozycje(editor, dialog, narrow16(grid.row()));
-      paintWhite(grid, grid.row());
+      paintRow(grid, grid.row(), GRD_POZ_PACKED_QTY, white);
       grid.setRedraw(true);
     }
     editor.form.setEnabled(true);

@@ -6,15 +6,10 @@
 #include "tables/columns.h"
 #include "tables/editing/in_table_editing.h"
 #include "tables/flat_index.h"
+#include "tables/row_colour.h"
 
 namespace awizo {
 namespace {
-
-void closeOpenEdits(Editor& editor) {
-  grdOpakowania_LeaveCell(editor);
-  grdPozycje_LeaveCell(editor);
-  grdSuma_LeaveCell(editor);
-}
 
 const std::string& packageCell(const Editor& editor, std::int16_t row, std::int16_t column) {
   return editor.form.grdOpakowania.cell(IndexGrdOpak(editor, row, column));
@@ -85,12 +80,6 @@ std::int16_t addPackageRow(Editor& editor) {
   return count;
 }
 
-void paintWhite(Editor& editor, std::int16_t row) {
-  for (int column = 1; column <= GRD_OPAK_SERIAL; ++column) {
-    editor.form.grdOpakowania.setBackground(row, column, white);
-  }
-}
-
 }  // namespace
 
 void PreparePackageArrays(Editor& editor, std::string_view) {
@@ -157,7 +146,7 @@ void btnEdytujOpak_Click(Editor& editor, DlgSzczegoly& dialog) {
     if (dialog.DialogResult == 1) {
       grid.setRedraw(false);
       ZatwierdzPozycjeOpak(editor, dialog, row, false);
-      paintWhite(editor, row);
+      paintRow(grid, row, GRD_OPAK_SERIAL, white);
       grid.setRedraw(true);
     }
     editor.form.setEnabled(true);

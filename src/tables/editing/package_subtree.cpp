@@ -6,6 +6,7 @@
 #include "tables/clear_tables.h"
 #include "tables/columns.h"
 #include "tables/flat_index.h"
+#include "tables/package_references.h"
 
 namespace awizo {
 namespace {
@@ -15,10 +16,8 @@ const std::string& packageCell(const Editor& editor, std::int16_t row, std::int1
 }
 
 // A chain of parents longer than there are packages runs in a circle.
-void checkDepth(const Editor& editor, std::size_t depth) {
-  if (depth > static_cast<std::size_t>(editor.session.IloscPozycjiOpak)) {
-    throw errors::outOfStackSpace();
-  }
+bool isTooDeep(const Editor& editor, std::size_t depth) {
+  return depth > static_cast<std::size_t>(editor.session.IloscPozycjiOpak);
 }
 
 void logParent(DebugLog& log, std::int16_t row, const std::string& parent) {
@@ -30,7 +29,7 @@ void logParent(DebugLog& log, std::int16_t row, const std::string& parent) {
 // Every scan goes into the log, row by row.
 void scanAllRows(Editor& editor, std::int16_t row, std::vector<std::string>& delSerials,
                  std::size_t depth) {
-  checkDepth(editor, depth);
+  if (isTooDeep(editor, depth)) throw errors::outOfStackSpace();
   DebugLog& log = editor.session.log;
   const std::string currSerial = packageCell(editor, row, GRD_OPAK_SERIAL);
   delSerials.push_back(currSerial);
@@ -54,9 +53,13 @@ ChildRows childRows(const Editor& editor) {
   return rows;
 }
 
+// Finds what scanAllRows finds, without its scans. An error leaves the same row current.
 void followChildren(Editor& editor, const ChildRows& children, std::int16_t row,
                     std::vector<std::string>& delSerials, std::size_t depth) {
-  checkDepth(editor, depth);
+  if (isTooDeep(editor, depth)) {
+    editor.form.grdOpakowania.setRow(row);
+    throw errors::outOfStackSpace();
+  }
   const std::string& serial = packageCell(editor, row, GRD_OPAK_SERIAL);
   delSerials.push_back(serial);
   const auto found = children.find(serial);
@@ -67,7 +70,15 @@ void followChildren(Editor& editor, const ChildRows& children, std::int16_t row,
 }
 
 // The last row whose every used cell the 16-bit index reaches.
-bool allReachable(const Editor& editor) { return editor.session.IloscPozycjiOpak <= 2183; }
+constexpr int lastWholeRow = 2183;
+
+// Whether the table holds as many packages as are counted, and each can be read: not so after a
+// file was read, which brings rows without counting them, or past the limit of the index. Then an
+// error may end the work half-way, so every step is taken in its turn.
+bool holdsWhatIsCounted(const Editor& editor) {
+  const int count = editor.session.IloscPozycjiOpak;
+  return count <= lastWholeRow && editor.form.grdOpakowania.rows() == count + 1;
+}
 
 void removePackageRow(Editor& editor, std::int16_t row) {
   std::int16_t& count = editor.session.IloscPozycjiOpak;
@@ -90,10 +101,28 @@ void removeFirstRowOf(Editor& editor, const std::string& serial) {
   }
 }
 
+// The rows of the serials, the lowest first. The row of the last serial isn't among them: when no
+// other package is left, it is the one that is emptied instead of removed.
+std::vector<std::int16_t> rowsFromBelow(const Editor& editor,
+                                        const std::vector<std::string>& delSerials) {
+  const SerialSet serials({delSerials.begin(), delSerials.end() - 1});
+  std::vector<std::int16_t> rows;
+  for (std::int16_t row = editor.session.IloscPozycjiOpak; row >= 1; --row) {
+    if (serials.contains(packageCell(editor, row, GRD_OPAK_SERIAL))) rows.push_back(row);
+  }
+  return rows;
+}
+
+// One pass over the table instead of one for each serial.
+void removeFromBelow(Editor& editor, const std::vector<std::string>& delSerials) {
+  for (const std::int16_t row : rowsFromBelow(editor, delSerials)) removePackageRow(editor, row);
+  removeFirstRowOf(editor, delSerials.back());
+}
+
 }  // namespace
 
 void GetPackagesRec(Editor& editor, std::int16_t row, std::vector<std::string>& delSerials) {
-  if (editor.session.log.writes(4) || !allReachable(editor)) {
+  if (editor.session.log.writes(4) || !holdsWhatIsCounted(editor)) {
     scanAllRows(editor, row, delSerials, 1);
     return;
   }
@@ -103,10 +132,12 @@ void GetPackagesRec(Editor& editor, std::int16_t row, std::vector<std::string>& 
 
 void removePackageRows(Editor& editor, const std::vector<std::string>& delSerials) {
   DebugLog& log = editor.session.log;
+  if (!log.writes(4) && holdsWhatIsCounted(editor)) {
+    removeFromBelow(editor, delSerials);
+    return;
+  }
   for (std::size_t i = 0; i < delSerials.size(); ++i) {
-    if (log.writes(4)) {
-      log.WriteDebugLine("delSerials[" + std::to_string(i + 1) + "] = " + delSerials[i]);
-    }
+    log.WriteDebugLine("delSerials[" + std::to_string(i + 1) + "] = " + delSerials[i]);
     removeFirstRowOf(editor, delSerials[i]);
   }
 }

@@ -44,8 +44,7 @@ void btnUsun_Click(Editor& editor) {
   if (editor.session.LineCount == 0) return;
   reportErrors(editor.screen(), "Произошла ошибка в btnUsun_Click()", [&] {
     Table& grid = editor.form.grdPozycje;
-    grdPozycje_LeaveCell(editor);
-    grdSuma_LeaveCell(editor);
+    closeOpenEdits(editor);
     grid.setRedraw(false);
     std::int16_t& count = editor.session.LineCount;
     if (count != 1) {
@@ -66,9 +65,7 @@ void btnUsunOpak_Click(Editor& editor) {
   if (editor.session.IloscPozycjiOpak == 0) return;
   reportErrors(editor.screen(), "Произошла ошибка в btnUsunOpak_Click()", [&] {
     Table& grid = editor.form.grdOpakowania;
-    grdOpakowania_LeaveCell(editor);
-    grdPozycje_LeaveCell(editor);
-    grdSuma_LeaveCell(editor);
+    closeOpenEdits(editor);
     grid.setRedraw(false);
     Cursor earlier = editor.screen().setCursor(editor.session.WaitCursor);
     std::vector<std::string> delSerials;
