@@ -96,6 +96,10 @@ void Document::keepOnly(const XmlNode& element) {
 
 std::string Document::nameOf(void* node) const { return libxml2::nameOf(nodeOf(node)); }
 
+bool Document::isElementNamed(void* node, std::string_view name) const {
+  return libxml2::isElementNamed(nodeOf(node), name);
+}
+
 std::string Document::textOf(void* node) const { return trimmedText(nodeOf(node)); }
 
 void Document::setTextOf(void* node, std::string_view text) { replaceText(nodeOf(node), text); }
@@ -112,6 +116,7 @@ void* Document::firstChildOf(void* node) const {
 }
 
 void* Document::nextSiblingOf(void* node) const {
+  fetchFollowing(nodeOf(node));
   return isShown(nodeOf(node)) ? firstShown(nodeOf(node)->next) : nullptr;
 }
 

@@ -28,6 +28,7 @@ class Document final : public XmlDocument {
   void keepOnly(const XmlNode& element) override;
 
   std::string nameOf(void* node) const override;
+  bool isElementNamed(void* node, std::string_view name) const override;
   std::string textOf(void* node) const override;
   void setTextOf(void* node, std::string_view text) override;
   std::string xmlOf(void* node) const override;

@@ -3,7 +3,6 @@
 #include <libxml/xpathInternals.h>
 
 #include <array>
-#include <cstring>
 #include <optional>
 #include <string>
 
@@ -50,15 +49,10 @@ std::optional<Steps> plainSteps(std::string_view path) {
   return std::nullopt;
 }
 
-bool isElementNamed(const xmlNode* node, std::string_view name) {
-  if (node->type != XML_ELEMENT_NODE || node->ns) return false;
-  const auto* own = reinterpret_cast<const char*>(node->name);
-  return std::strncmp(own, name.data(), name.size()) == 0 && own[name.size()] == '\0';
-}
-
 /// A first child may lack what a later one of the same name has, so the walk goes back up.
 xmlNode* firstBelow(const xmlNode* parent, const Steps& steps, std::size_t step) {
   for (xmlNode* child = parent->children; child; child = child->next) {
+    fetchFollowing(child);
     if (!isElementNamed(child, steps.names[step])) continue;
     if (step + 1 == steps.count) return child;
     if (xmlNode* found = firstBelow(child, steps, step + 1)) return found;
@@ -69,6 +63,7 @@ xmlNode* firstBelow(const xmlNode* parent, const Steps& steps, std::size_t step)
 void allBelow(const xmlNode* parent, const Steps& steps, std::size_t step,
               std::vector<xmlNode*>& found) {
   for (xmlNode* child = parent->children; child; child = child->next) {
+    fetchFollowing(child);
     if (!isElementNamed(child, steps.names[step])) continue;
     if (step + 1 == steps.count) {
       found.push_back(child);

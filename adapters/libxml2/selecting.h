@@ -7,6 +7,17 @@
 
 namespace awizo::libxml2 {
 
+/// Whether it is an element of this name, in no namespace.
+inline bool isElementNamed(const xmlNode* node, std::string_view name) {
+  if (node->type != XML_ELEMENT_NODE) return false;
+  const xmlChar* own = node->name;
+  for (const char letter : name) {
+    if (*own == '\0' || *own != static_cast<xmlChar>(letter)) return false;
+    ++own;
+  }
+  return *own == '\0' && !node->ns;
+}
+
 /// XPath 1.0 on one document. Paths of plain child steps ("Line/Line-Item/EAN", "/Root/A") are
 /// walked by name, which gives the same nodes as the full evaluation at a fraction of its cost.
 class Selecting {

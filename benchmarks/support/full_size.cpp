@@ -74,6 +74,16 @@ void element(std::string& text, std::string_view name, std::string_view value) {
   text.append("</").append(name).append(">");
 }
 
+xmlDocPtr parsed(std::string_view text) {
+  xmlDocPtr document = xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr,
+                                     XML_PARSE_NONET | XML_PARSE_NOERROR);
+  if (document == nullptr) {
+    std::fputs("The document isn't well-formed.\n", stderr);
+    std::abort();
+  }
+  return document;
+}
+
 }  // namespace
 
 std::string catalogueEAN(int line) { return "460" + padded(1000000 + line * 7, 10); }
@@ -126,13 +136,14 @@ std::string orderReply(int lines, int catalogueLines) {
   return text + "</Order-Lines></Document-Order></document-content></receive-document-response>";
 }
 
-void parseBare(std::string_view text) {
-  xmlDocPtr document = xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr,
-                                     XML_PARSE_NONET | XML_PARSE_NOERROR);
-  if (document == nullptr) {
-    std::fputs("The document isn't well-formed.\n", stderr);
-    std::abort();
-  }
+void parseBare(std::string_view text) { xmlFreeDoc(parsed(text)); }
+
+void parseAndSerialiseBare(std::string_view text) {
+  xmlDocPtr document = parsed(text);
+  xmlChar* bytes = nullptr;
+  int size = 0;
+  xmlDocDumpMemoryEnc(document, &bytes, &size, "UTF-8");
+  xmlFree(bytes);
   xmlFreeDoc(document);
 }
 

@@ -33,5 +33,7 @@ std::string catalogueEAN(int line);
 
 /// Parses with bare libxml2 and frees the document; stops the program if it isn't well-formed.
 void parseBare(std::string_view text);
+/// The same, and serialises the document before it is freed.
+void parseAndSerialiseBare(std::string_view text);
 
 }  // namespace awizo::benchmarks

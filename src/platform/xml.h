@@ -27,6 +27,8 @@ class XmlNode {
 
   /// Name of an element, "#text", "#comment", ... of others.
   std::string name() const;
+  /// Whether it is an element of this name, in no namespace: what a name stands for in a path.
+  bool isElement(std::string_view name) const;
   /// Text of the node and all below it, outer white space cut, inner kept.
   std::string text() const;
   /// Replaces all that is below by this text; it is escaped when written.
@@ -75,6 +77,7 @@ class XmlDocument {
 
   // What a node of this document does, by its handle.
   virtual std::string nameOf(void* node) const = 0;
+  virtual bool isElementNamed(void* node, std::string_view name) const = 0;
   virtual std::string textOf(void* node) const = 0;
   virtual void setTextOf(void* node, std::string_view text) = 0;
   virtual std::string xmlOf(void* node) const = 0;
