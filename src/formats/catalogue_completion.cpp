@@ -37,14 +37,16 @@ constexpr std::string_view missing = "-1";
 void completeOrder(XmlDocument& catalogue, XmlDocument& order) {
   const std::vector<XmlNode> lines =
       order.node().selectSingle("/Document-Order/Order-Lines").children();
-  CatalogueIndex index(catalogue);
+  std::vector<std::string> eans;
+  for (const XmlNode& line : lines) {
+    eans.push_back(orderValue(lineElement(line), "Line-Item/EAN", Missing::blank));
+  }
+  const CatalogueIndex index(catalogue, eans);
   for (std::size_t i = 0; i < lines.size(); ++i) {
-    const XmlNode orderLine = lineElement(lines[i]);
-    const XmlNode catalogueLine =
-        index.find(orderValue(orderLine, "Line-Item/EAN", Missing::blank));
+    const XmlNode catalogueLine = index.find(eans[i]);
     if (!catalogueLine) continue;
     for (const CopiedValue& value : copiedValues) {
-      CopyCatalogueValue(order, lines, orderLine, catalogueLine, i, value);
+      CopyCatalogueValue(order, lines, lineElement(lines[i]), catalogueLine, i, value);
     }
   }
 }

@@ -8,7 +8,7 @@
 namespace awizo {
 namespace {
 
-constexpr std::string_view linesPath = "/Document-ProductCatalogue/ProductCatalogue-Lines/Line";
+constexpr std::string_view listPath = "/Document-ProductCatalogue/ProductCatalogue-Lines";
 constexpr std::string_view digits = "0123456789";
 
 /// Whole numbers of so many digits are exact as floating numbers, so that comparing them as
@@ -34,6 +34,22 @@ bool isUnsignedNumber(std::string_view text) {
   return std::count(text.begin(), text.end(), '.') <= 1 && text.find_first_of(digits) != text.npos;
 }
 
+std::int64_t parsedInteger(std::string_view digitsAlone) {
+  std::int64_t number = 0;
+  std::from_chars(digitsAlone.data(), digitsAlone.data() + digitsAlone.size(), number);
+  return number;
+}
+
+/// The text's number, if an EAN of plain digits can equal it.
+std::optional<std::int64_t> exactInteger(std::string_view text) {
+  if (isPlainNumber(text)) return parsedInteger(text);
+  const std::optional<double> number = xpathNumber(text);
+  if (!number || *number < 0 || *number >= exactLimit || *number != std::floor(*number)) {
+    return std::nullopt;
+  }
+  return static_cast<std::int64_t>(*number);
+}
+
 }  // namespace
 
 std::optional<double> xpathNumber(std::string_view text) {
@@ -51,33 +67,37 @@ std::optional<double> xpathNumber(std::string_view text) {
   return negative ? -value : value;
 }
 
-XmlNode CatalogueIndex::find(std::string_view ean) {
-  if (!isPlainNumber(ean)) {
-    std::string path(linesPath);
-    path.append("[Line-Item/EAN=").append(ean).append("]");
-    return catalogue_.node().selectSingle(path);
+CatalogueIndex::CatalogueIndex(XmlDocument& catalogue, const std::vector<std::string>& eans)
+    : catalogue_(catalogue) {
+  for (const std::string& ean : eans) {
+    if (isPlainNumber(ean)) lines_.emplace(parsedInteger(ean), XmlNode());
   }
-  if (!read_) readCatalogue();
-  std::int64_t number = 0;
-  std::from_chars(ean.data(), ean.data() + ean.size(), number);
-  const auto found = lines_.find(number);
-  return found == lines_.end() ? XmlNode() : found->second;
-}
-
-void CatalogueIndex::readCatalogue() {
-  read_ = true;
-  const std::vector<XmlNode> lines = catalogue_.node().selectAll(linesPath);
-  lines_.reserve(lines.size());
-  for (const XmlNode& line : lines) {
-    // Any EAN of a line finds it, in whichever of its items it stands.
-    for (const XmlNode& ean : line.selectAll("Line-Item/EAN")) {
-      const std::optional<double> number = xpathNumber(ean.text());
-      if (!number || *number < 0 || *number >= exactLimit || *number != std::floor(*number)) {
-        continue;
-      }
-      lines_.emplace(static_cast<std::int64_t>(*number), line);
+  if (lines_.empty()) return;
+  for (const XmlNode& list : catalogue.node().selectAll(listPath)) {
+    for (XmlNode line = list.firstChild(); line; line = line.nextSibling()) {
+      if (line.isElement("Line")) readLine(line);
     }
   }
+}
+
+/// Any EAN of a line finds it, in whichever of its items it stands.
+void CatalogueIndex::readLine(const XmlNode& line) {
+  for (XmlNode item = line.firstChild(); item; item = item.nextSibling()) {
+    if (!item.isElement("Line-Item")) continue;
+    for (XmlNode value = item.firstChild(); value; value = value.nextSibling()) {
+      if (!value.isElement("EAN")) continue;
+      const std::optional<std::int64_t> number = exactInteger(value.text());
+      const auto asked = number ? lines_.find(*number) : lines_.end();
+      if (asked != lines_.end() && !asked->second) asked->second = line;
+    }
+  }
+}
+
+XmlNode CatalogueIndex::find(std::string_view ean) const {
+  if (isPlainNumber(ean)) return lines_.at(parsedInteger(ean));
+  std::string path(listPath);
+  path.append("/Line[Line-Item/EAN=").append(ean).append("]");
+  return catalogue_.node().selectSingle(path);
 }
 
 }  // namespace awizo

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include "platform/xml.h"
 
@@ -13,21 +14,20 @@ namespace awizo {
 /// Finds lines of a product catalogue by EAN, as this path does:
 /// /Document-ProductCatalogue/ProductCatalogue-Lines/Line[Line-Item/EAN=`ean`]
 /// The EAN isn't quoted there, so that numbers are compared ("0123" is "123"), and an EAN that is
-/// no number is a path of its own. The catalogue is read once, at the first EAN that is a plain
-/// number; it must not change meanwhile.
+/// no number is an expression of its own. The catalogue is walked once for all plain numbers.
 class CatalogueIndex {
  public:
-  explicit CatalogueIndex(XmlDocument& catalogue) : catalogue_(catalogue) {}
+  /// `eans`: all that will be asked for. The catalogue must not change afterwards.
+  CatalogueIndex(XmlDocument& catalogue, const std::vector<std::string>& eans);
 
   /// The first line in document order, or none. Error -2147467259 where the path is invalid, as for
   /// an empty EAN.
-  XmlNode find(std::string_view ean);
+  XmlNode find(std::string_view ean) const;
 
  private:
-  void readCatalogue();
+  void readLine(const XmlNode& line);
 
   XmlDocument& catalogue_;
-  bool read_ = false;
   std::unordered_map<std::int64_t, XmlNode> lines_;
 };
 

@@ -17,6 +17,8 @@ inline std::string orderValue(const XmlNode& node, std::string_view path, Missin
 
 /// The node if it is an element `Line`, else none, from which every value reads as missing: a child
 /// of an order's lines may be a comment or an element of another name.
-inline XmlNode lineElement(const XmlNode& child) { return child.selectSingle("self::Line"); }
+inline XmlNode lineElement(const XmlNode& child) {
+  return child.isElement("Line") ? child : XmlNode();
+}
 
 }  // namespace awizo

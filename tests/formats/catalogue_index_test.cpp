@@ -66,8 +66,10 @@ TEST(CatalogueIndex, FindsWhatThePathSelects) {
     const auto catalogue = xml.createDocument();
     ASSERT_TRUE(
         catalogue->loadText(text + "</ProductCatalogue-Lines></Document-ProductCatalogue>"));
-    CatalogueIndex index(*catalogue);
-    for (const char* ean : {"0", "1", "2", "003", "4.0", "5", "-1", "100000000000005", "1.5"}) {
+    const std::vector<std::string> eans{"0",  "1", "2", "003", "4.0", "5", "-1", "100000000000005",
+                                        "1.5"};
+    const CatalogueIndex index(*catalogue, eans);
+    for (const std::string& ean : eans) {
       const XmlNode line = index.find(ean);
       EXPECT_EQ(line.handle(), selected(*catalogue, ean).handle()) << ean << " in " << text;
       found += line ? 1 : 0;
