@@ -1,71 +1,12 @@
-#include "platform/forms/table.h"
-#include "tables/columns.h"
-#include "test_control.h"
+#include "on_line_start_fixture.h"
 
 namespace awizo::test {
 namespace {
 
-using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Pair;
-
-const std::string noReply =
-    "Bі№d w SendXMLDOMRequest()!|critical|OK|The system cannot locate the resource specified.";
-const std::string tooEarly =
-    "Bі№d w SendXMLDOMRequest()!|critical|OK|"
-    "The data necessary to complete this operation is not yet available.";
-
-const std::string catalogueReply =
-    "<document-response><status>CHANGED</status><document-content><Document-ProductCatalogue>"
-    "<ProductCatalogue-Lines><Line><Line-Item><EAN>4607000000116</EAN>"
-    "<ItemDescription>Чай</ItemDescription></Line-Item></Line></ProductCatalogue-Lines>"
-    "</Document-ProductCatalogue></document-content></document-response>";
-
-const std::string placesReply =
-    "<dictionary-response><status>CHANGED</status><document-content>"
-    "<Document-LocalizationsCatalog><localizations><localization><number>Склад 1</number>"
-    "<iln>9520002000026</iln><address>Тула</address></localization></localizations>"
-    "</Document-LocalizationsCatalog></document-content></dictionary-response>";
-
-std::string orderLine(const std::string& ean, const std::string& price) {
-  return "<Line><Line-Item><LineNumber>1</LineNumber><EAN>" + ean +
-         "</EAN><OrderedQuantity>5</OrderedQuantity><OrderedUnitNetPrice>" + price +
-         "</OrderedUnitNetPrice></Line-Item></Line>";
-}
-
-std::string orderReply(const std::string& lines) {
-  return "<receive-document-response><document-content><Document-Order><Order-Header>"
-         "<OrderNumber>Z-1</OrderNumber><OrderDate>2026-11-20</OrderDate></Order-Header>"
-         "<Order-Parties><DeliveryPoint><ILN>9520002000026</ILN></DeliveryPoint></Order-Parties>"
-         "<Order-Lines>" +
-         lines + "</Order-Lines></Document-Order></document-content></receive-document-response>";
-}
-
-class OnLineStart : public ::testing::Test, public TestControl {
- protected:
-  OnLineStart() {
-    prepareFolder();
-    preparePage();
-  }
-
-  /// Answers in the order of the exchanges, partner info first.
-  void startWith(const std::string& catalogue, const std::string& places,
-                 const std::string& order) {
-    http.reply(partnerInfo("ООО Покупатель"));
-    http.reply(catalogue);
-    http.reply(places);
-    http.reply(order);
-    start();
-  }
-  bool finished() const { return form.txtGoodsIdentity.text() == "0"; }
-  std::vector<std::string> addresses() const {
-    std::vector<std::string> found;
-    for (const SentRequest& request : http.sent) found.push_back(request.url);
-    return found;
-  }
-};
 
 TEST_F(OnLineStart, MakesFourExchangesInOrder) {
   startWith(catalogueReply, placesReply, "<none/>");
@@ -303,134 +244,6 @@ TEST_F(OnLineStart, HasNoPlacesAtAnyOtherStatus) {
   EXPECT_THAT(boxes(), IsEmpty());
 }
 
-// Exchange 4, the order.
-
-TEST_F(OnLineStart, StartsFromAnEmptyDocumentWhenNoOrderWaits) {
-  startWith(catalogueReply, placesReply, "<receive-document-response/>");
-  EXPECT_FALSE(form.OrderAnswer);
-  EXPECT_EQ(session.LineCount, 0);
-  EXPECT_THAT(face.cursors(), IsEmpty());
-  EXPECT_THAT(boxes(), IsEmpty());
-  EXPECT_TRUE(finished());
-}
-
-TEST_F(OnLineStart, GoesOnWithoutTheOrderThatCouldNotBeFetched) {
-  http.reply(partnerInfo("ООО Покупатель"));
-  http.reply(catalogueReply);
-  http.reply(placesReply);
-  start();
-  EXPECT_THAT(boxes(), ElementsAre(noReply, tooEarly));
-  EXPECT_FALSE(form.OrderAnswer);
-  EXPECT_TRUE(finished());
-}
-
-TEST_F(OnLineStart, ReadsTheOrderCompletedFromTheCatalogue) {
-  startWith(catalogueReply, placesReply, orderReply(orderLine("4607000000116", "2.50")));
-  EXPECT_THAT(boxes(), IsEmpty());
-  EXPECT_TRUE(form.OrderAnswer);
-  EXPECT_EQ(session.LineCount, 1);
-  EXPECT_EQ(form.txtNrZam.text(), "Z-1");
-  EXPECT_EQ(form.grdPozycje.cell(1, GRD_POZ_NAME), "Чай");
-  EXPECT_EQ(form.grdPozycje.cell(1, GRD_POZ_QTY_DESPATCHED), "5,000");
-  EXPECT_EQ(form.lblAdresMiejscaDostawy.caption(), "Тула");
-  EXPECT_EQ(form.grdSuma.cell(1, GRD_SUMA_LINE_COUNT), "1");
-}
-
-TEST_F(OnLineStart, GivesTheOrdersHeaderTheDefaultsOfANewDocument) {
-  startWith("<none/>", "<none/>", orderReply(orderLine("1", "2")));
-  EXPECT_EQ(form.txtDataAwiza.date(), makeDate(2026, 11, 21));
-  EXPECT_EQ(form.cboxPackageDescription.index(), 2);
-  EXPECT_EQ(form.txtGoodsIdentity.text(), "0");
-}
-
-TEST_F(OnLineStart, PaintsFaultyLinesAndCountsTheOthers) {
-  startWith("<none/>", "<none/>",
-            orderReply(orderLine("4607000000116", "2.50") + orderLine("ABC", "2.50") +
-                       orderLine("4607000000123", "1") + orderLine("", "1")));
-  const Table& lines = form.grdPozycje;
-  EXPECT_EQ(session.LineCount, 4);
-  EXPECT_EQ(form.ValidLineCount, 2);
-  for (const int row : {2, 4}) {
-    EXPECT_EQ(lines.look(row, 0).background, white);
-    for (int column = 1; column <= 21; ++column) {
-      EXPECT_EQ(lines.look(row, column).background, (Colour{255, 192, 192})) << column;
-    }
-    EXPECT_EQ(lines.look(row, 22).background, white);
-  }
-  for (const int row : {0, 1, 3}) {
-    for (int column = 0; column < lines.columns(); ++column) {
-      EXPECT_EQ(lines.look(row, column).background, white) << row << " " << column;
-    }
-  }
-  EXPECT_TRUE(control.Enabled());
-  EXPECT_TRUE(finished());
-}
-
-TEST_F(OnLineStart, WaitsWhileItChecksTheLinesRowByRow) {
-  create();
-  std::vector<std::string> seen;
-  form.grdPozycje.onSelectionChange = [&] {
-    seen.push_back(std::to_string(form.grdPozycje.row()) + "," +
-                   std::to_string(form.grdPozycje.column()) +
-                   (screen.cursor() == Cursor::wait ? " wait" : ""));
-  };
-  http.reply(partnerInfo("ООО Покупатель"));
-  http.reply("<none/>");
-  http.reply("<none/>");
-  http.reply(orderReply(orderLine("1", "1") + orderLine("2", "1")));
-  control.UserControl_Show();
-  EXPECT_THAT(seen, Contains("2,1 wait"));
-  EXPECT_EQ(face.cursors(), (std::vector<Cursor>{Cursor::wait, Cursor::normal}));
-  EXPECT_EQ(screen.cursor(), Cursor::normal);
-}
-
-TEST_F(OnLineStart, LeavesTheCurrentCellWhereTheTotalsPutIt) {
-  startWith("<none/>", "<none/>", orderReply(orderLine("1", "1") + orderLine("2", "1")));
-  EXPECT_EQ(form.grdPozycje.row(), 2);
-  EXPECT_EQ(form.grdPozycje.column(), GRD_POZ_NET_AMOUNT);
-}
-
-TEST_F(OnLineStart, AnOrderWithoutLinesLeavesAnEmptyTable) {
-  startWith("<none/>", "<none/>", orderReply(""));
-  EXPECT_THAT(boxes(), IsEmpty());
-  EXPECT_TRUE(form.OrderAnswer);
-  EXPECT_EQ(session.LineCount, 0);
-  EXPECT_EQ(form.grdPozycje.rows(), 2);
-  EXPECT_TRUE(finished());
-}
-
-TEST_F(OnLineStart, AnOrderThatCantBeReadIsToldAndTheStartUpGoesOn) {
-  startWith("<none/>", "<none/>",
-            "<receive-document-response><document-content><Document-Order/></document-content>"
-            "</receive-document-response>");
-  EXPECT_THAT(boxes(), ElementsAre("Произошла ошибка в Wczytaj_Zamowienie()|critical|OK|"
-                                   "Object variable or With block variable not set"));
-  EXPECT_TRUE(control.Enabled());
-  EXPECT_TRUE(finished());
-}
-
-TEST_F(OnLineStart, AnOrderOfMoreLinesThanTheTableHoldsEndsItWithItsLinesStanding) {
-  std::string lines;
-  for (int line = 0; line < 1424; ++line) lines += orderLine("4607000000116", "1");
-  startWith("<none/>", "<none/>", orderReply(lines));
-  EXPECT_THAT(boxes(), ElementsAre("Произошла ошибка в Wczytaj_Zamowienie()|critical|OK|Overflow",
-                                   "Произошла ошибка в UserControl_Show()|critical|OK|Overflow"));
-  EXPECT_EQ(form.grdPozycje.cell(1423, GRD_POZ_EAN), "4607000000116");
-  EXPECT_EQ(form.ValidLineCount, 1423);
-  EXPECT_TRUE(control.Enabled());
-  EXPECT_FALSE(finished());
-  EXPECT_EQ(screen.cursor(), Cursor::normal);
-}
-
-TEST_F(OnLineStart, TakesAnOrderOfAsManyLinesAsTheTableHolds) {
-  std::string lines;
-  for (int line = 0; line < 1423; ++line) lines += orderLine("4607000000116", "1");
-  startWith("<none/>", "<none/>", orderReply(lines));
-  EXPECT_THAT(boxes(), IsEmpty());
-  EXPECT_EQ(form.ValidLineCount, 1423);
-  EXPECT_TRUE(finished());
-}
-
 // The log.
 
 TEST_F(OnLineStart, LogsEveryExchangeAtLevel4) {
@@ -447,21 +260,6 @@ TEST_F(OnLineStart, LogsNoDocumentAndNoCookieAtLevel2) {
   bag.values["DebugLevel"] = "2";
   startWith("<none/>", "<none/>", "<none/>");
   EXPECT_EQ(logText(), "21.11.2026 10:15 Start logowania...\r\n");
-}
-
-TEST(OnLineStartInAPointLocale, ReadsTheOrderWithPoints) {
-  TestControl american("en_US");
-  american.prepareFolder();
-  american.preparePage();
-  american.http.reply(TestControl::partnerInfo("Buyer"));
-  american.http.reply("<none/>");
-  american.http.reply("<none/>");
-  american.http.reply(orderReply(orderLine("4607000000116", "2.50")));
-  american.start();
-  EXPECT_THAT(american.boxes(), IsEmpty());
-  EXPECT_EQ(american.form.grdPozycje.cell(1, GRD_POZ_QTY_DESPATCHED), "5.000");
-  EXPECT_EQ(american.form.grdPozycje.cell(1, GRD_POZ_PRICE), "2.50");
-  EXPECT_EQ(american.form.ValidLineCount, 1);
 }
 
 }  // namespace
