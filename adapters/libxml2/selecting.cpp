@@ -3,7 +3,6 @@
 #include <libxml/xpathInternals.h>
 
 #include <array>
-#include <optional>
 #include <string>
 
 #include "platform/run_time_error.h"
@@ -15,68 +14,76 @@ namespace {
 /// takes a fraction of it.
 constexpr unsigned long maximumOperations = 200'000'000;
 
-bool startsName(char letter) {
-  return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') || letter == '_';
-}
+enum class Sign : unsigned char { other, startsName, continuesName, slash };
 
-bool continuesName(char letter) {
-  return startsName(letter) || (letter >= '0' && letter <= '9') || letter == '-' || letter == '.';
-}
+constexpr std::array<Sign, 256> signs = [] {
+  std::array<Sign, 256> kinds{};
+  for (unsigned letter = 'a'; letter <= 'z'; ++letter) kinds[letter] = Sign::startsName;
+  for (unsigned letter = 'A'; letter <= 'Z'; ++letter) kinds[letter] = Sign::startsName;
+  for (unsigned digit = '0'; digit <= '9'; ++digit) kinds[digit] = Sign::continuesName;
+  kinds['_'] = Sign::startsName;
+  kinds['-'] = kinds['.'] = Sign::continuesName;
+  kinds['/'] = Sign::slash;
+  return kinds;
+}();
 
-/// The names of a path that has plain child steps only.
-struct Steps {
-  std::array<std::string_view, 12> names;
-  std::size_t count = 0;
+/// A path that has plain child steps only, each by a name in the letters A to Z.
+struct PlainPath {
+  std::string_view names;  ///< "Line/Line-Item/EAN"; empty when the path has other steps
   bool fromDocument = false;
 };
 
-std::optional<Steps> plainSteps(std::string_view path) {
-  Steps steps;
-  std::size_t at = 0;
-  if (path.starts_with('/')) {
-    steps.fromDocument = true;
-    at = 1;
+PlainPath plainPath(std::string_view path) {
+  PlainPath plain{path, path.starts_with('/')};
+  if (plain.fromDocument) plain.names.remove_prefix(1);
+  bool atStart = true;
+  for (const char letter : plain.names) {
+    const Sign sign = signs[static_cast<unsigned char>(letter)];
+    if (sign == Sign::other || (atStart && sign != Sign::startsName)) return {};
+    atStart = sign == Sign::slash;
   }
-  while (steps.count < steps.names.size()) {
-    if (at == path.size() || !startsName(path[at])) return std::nullopt;
-    const std::size_t start = at;
-    while (at < path.size() && continuesName(path[at])) ++at;
-    steps.names[steps.count++] = path.substr(start, at - start);
-    if (at == path.size()) return steps;
-    if (path[at] != '/') return std::nullopt;
-    ++at;
-  }
-  return std::nullopt;
+  return atStart ? PlainPath{} : plain;
+}
+
+/// The first name of the path; `rest` is what follows it, empty behind the last.
+std::string_view firstName(std::string_view names, std::string_view& rest) {
+  const std::size_t end = names.find('/');
+  rest = end == names.npos ? std::string_view() : names.substr(end + 1);
+  return names.substr(0, end);
 }
 
 /// A first child may lack what a later one of the same name has, so the walk goes back up.
-xmlNode* firstBelow(const xmlNode* parent, const Steps& steps, std::size_t step) {
+xmlNode* firstBelow(const xmlNode* parent, std::string_view names) {
+  std::string_view rest;
+  const std::string_view name = firstName(names, rest);
   for (xmlNode* child = parent->children; child; child = child->next) {
     fetchFollowing(child);
-    if (!isElementNamed(child, steps.names[step])) continue;
-    if (step + 1 == steps.count) return child;
-    if (xmlNode* found = firstBelow(child, steps, step + 1)) return found;
+    if (!isElementNamed(child, name)) continue;
+    if (rest.empty()) return child;
+    if (xmlNode* found = firstBelow(child, rest)) return found;
   }
   return nullptr;
 }
 
-void allBelow(const xmlNode* parent, const Steps& steps, std::size_t step,
-              std::vector<xmlNode*>& found) {
+void allBelow(const xmlNode* parent, std::string_view names, std::vector<xmlNode*>& found) {
+  std::string_view rest;
+  const std::string_view name = firstName(names, rest);
   for (xmlNode* child = parent->children; child; child = child->next) {
     fetchFollowing(child);
-    if (!isElementNamed(child, steps.names[step])) continue;
-    if (step + 1 == steps.count) {
+    if (!isElementNamed(child, name)) continue;
+    if (rest.empty()) {
       found.push_back(child);
     } else {
-      allBelow(child, steps, step + 1, found);
+      allBelow(child, rest, found);
     }
   }
 }
 
-xmlNode* walkStart(xmlNode* start, const Steps& steps) {
-  if (steps.fromDocument) return reinterpret_cast<xmlNode*>(start->doc);
-  const bool hasElements = start->type == XML_ELEMENT_NODE || start->type == XML_DOCUMENT_NODE;
-  return hasElements ? start : nullptr;
+/// Where the walk of a path begins; none for a node that has no children.
+const xmlNode* walkStart(const xmlNode* start, const PlainPath& path) {
+  if (path.fromDocument) return reinterpret_cast<const xmlNode*>(start->doc);
+  const bool hasChildren = start->type == XML_ELEMENT_NODE || start->type == XML_DOCUMENT_NODE;
+  return hasChildren ? start : nullptr;
 }
 
 void ignoreError(void*, xmlError*) {}
@@ -100,19 +107,20 @@ class Silence {
 }  // namespace
 
 xmlNode* Selecting::first(xmlNode* start, std::string_view path) {
-  if (const std::optional<Steps> steps = plainSteps(path)) {
-    const xmlNode* top = walkStart(start, *steps);
-    return top ? firstBelow(top, *steps, 0) : nullptr;
+  const PlainPath plain = plainPath(path);
+  if (!plain.names.empty()) {
+    const xmlNode* top = walkStart(start, plain);
+    return top ? firstBelow(top, plain.names) : nullptr;
   }
   const std::vector<xmlNode*> found = evaluate(start, path);
   return found.empty() ? nullptr : found.front();
 }
 
 std::vector<xmlNode*> Selecting::all(xmlNode* start, std::string_view path) {
-  const std::optional<Steps> steps = plainSteps(path);
-  if (!steps) return evaluate(start, path);
+  const PlainPath plain = plainPath(path);
+  if (plain.names.empty()) return evaluate(start, path);
   std::vector<xmlNode*> found;
-  if (const xmlNode* top = walkStart(start, *steps)) allBelow(top, *steps, 0, found);
+  if (const xmlNode* top = walkStart(start, plain)) allBelow(top, plain.names, found);
   return found;
 }
 
