@@ -12,9 +12,15 @@ Collation::Collation(const icu::Locale& locale) {
   if (U_FAILURE(status)) throw std::runtime_error(u_errorName(status));
   collator_->setStrength(icu::Collator::SECONDARY);
   collator_->setAttribute(UCOL_ALTERNATE_HANDLING, UCOL_NON_IGNORABLE, status);
+  plainLetters_ = std::make_unique<const PlainLetters>(*collator_);
 }
 
 std::string Collation::key(std::string_view text) const {
+  std::optional<std::string> key = plainLetters_->key(text);
+  return key ? *std::move(key) : collatorsKey(text);
+}
+
+std::string Collation::collatorsKey(std::string_view text) const {
   const auto source = icu::UnicodeString::fromUTF8(
       icu::StringPiece(text.data(), static_cast<int32_t>(text.size())));
   std::string key(text.size() * 2 + 16, '\0');
@@ -25,7 +31,8 @@ std::string Collation::key(std::string_view text) const {
     bytes = reinterpret_cast<uint8_t*>(key.data());
     length = collator_->getSortKey(source, bytes, length);
   }
-  key.resize(static_cast<std::size_t>(length));
+  // Without the zero at the end, which no key needs to compare.
+  key.resize(static_cast<std::size_t>(length > 0 ? length - 1 : 0));
   return key;
 }
 

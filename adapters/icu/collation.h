@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "adapters/icu/plain_letters.h"
+
 namespace awizo::icu_locale {
 
 /// The locale's order of texts, blind to case, with punctuation counting.
@@ -18,7 +20,10 @@ class Collation {
   std::string key(std::string_view text) const;
 
  private:
+  std::string collatorsKey(std::string_view text) const;
+
   std::unique_ptr<icu::Collator> collator_;
+  std::unique_ptr<const PlainLetters> plainLetters_;
 };
 
 }  // namespace awizo::icu_locale
