@@ -85,6 +85,11 @@ void DlgDodaj::wireFields() {
 }
 
 void DlgDodaj::wireLists() {
+  txtNazwaProdWart.cover = &cboxNazwaProd;
+  txtlEANProdWart.cover = &cboxEANProd;
+  txtKodKup.cover = &cboxKodAPP;
+  txtKodSprzed.cover = &cboxKodSprzed;
+  grdPozycjeN.cover = &grdPozycje;
   cboxEANProd.onChange = [this] { cboxEANProd_Change(); };
   cboxKodAPP.onChange = [this] { cboxKodAPP_Change(); };
   cboxKodSprzed.onChange = [this] { cboxKodSprzed_Change(); };

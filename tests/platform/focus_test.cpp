@@ -227,6 +227,18 @@ TEST_F(Focus, FallsBackToTheFirstControlWhenItsOwnWasHiddenMeanwhile) {
   EXPECT_THAT(events, ElementsAre("one.GotFocus"));
 }
 
+TEST_F(Focus, TabPassesOverAControlWhileItsCoverIsVisible) {
+  second.cover = &button;
+  first.userKey(keys::tab);
+  EXPECT_EQ(form.focus(), &button);
+  second.setFocus();
+  EXPECT_EQ(form.focus(), &second) << "code may still put the focus there";
+  first.setFocus();
+  button.setVisible(false);
+  first.userKey(keys::tab);
+  EXPECT_EQ(form.focus(), &second);
+}
+
 TEST_F(Focus, TabGoesOnInTheOrderOfTheControlsAndShiftGoesBack) {
   first.userKey(keys::tab);
   EXPECT_THAT(takeEvents(), ElementsAre("first.Validate", "first.LostFocus", "second.GotFocus"));

@@ -108,6 +108,11 @@ class Control {
   /// Throws Refused, with a text for people, when the user can't act on the control now.
   void requireUser() const;
 
+  /// A control that lies over this one in the same place. While it is visible, Tab passes this one
+  /// over; it can still be set and get the focus by code.
+  const Control* cover = nullptr;
+  bool covered() const { return cover != nullptr && cover->visible(); }
+
   /// Called after every change of the model. At most one; a host sets it.
   std::function<void(const Change&)> observer;
 

@@ -131,7 +131,7 @@ void Form::tabFrom(const Control& control, bool backwards) {
       std::find(controls_.begin(), controls_.end(), &control) - controls_.begin());
   for (std::size_t step = 1; step < count; ++step) {
     Control& next = *controls_[(from + (backwards ? count - step : step)) % count];
-    if (next.canTakeFocus()) return moveFocus(next, FocusCause::user);
+    if (next.canTakeFocus() && !next.covered()) return moveFocus(next, FocusCause::user);
   }
 }
 
