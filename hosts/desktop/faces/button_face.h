@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QTimer>
+
+#include "hosts/desktop/faces/face.h"
+#include "platform/forms/button.h"
+
+namespace awizo::desktop {
+
+/// A button or a picture button; the latter takes no focus, and its caption is its tip.
+class ButtonFace : public Face {
+ public:
+  ButtonFace(FormFace& form, Button& button, QWidget* parent);
+
+  /// `picture`: name of one of the program's pictures. `tip`: what the button does, where its
+  /// caption doesn't say it.
+  void setPicture(const QString& picture, const QString& tip = {});
+  void setTip(const QString& tip);
+  /// Words beside a picture button's picture; its tip stays.
+  void setWords(const QString& words);
+
+ protected:
+  void showContent() override;
+  bool pressKey(QKeyEvent& key) override;
+  bool pressMouse(QMouseEvent& mouse) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void click();
+
+  Button& button_;
+  QAbstractButton* widget_;
+  QString tip_;
+  QString words_;
+  /// Runs while a click may still become the first half of a double click.
+  QTimer firstClick_;
+};
+
+}  // namespace awizo::desktop

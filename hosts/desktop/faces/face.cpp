@@ -1,0 +1,100 @@
+#include "hosts/desktop/faces/face.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include "hosts/desktop/faces/form_face.h"
+#include "hosts/desktop/faces/key_codes.h"
+
+namespace awizo::desktop {
+
+Face::Face(FormFace& form, Control& control, QWidget* widget)
+    : QObject(widget), form_(form), control_(control), widget_(widget) {
+  widget->setObjectName(fromText(control.name()));
+  control.observer = [this](const Change& change) { showChange(change); };
+  watch(widget);
+}
+
+bool Face::hasFocus() const { return form_.focusedFace() == this; }
+
+void Face::showAll() {
+  showState();
+  showContent();
+}
+
+void Face::showState() {
+  const FormFace::Following following(form_);
+  const bool visible = control_.visible() && !control_.covered();
+  if (widget_->isHidden() == visible) widget_->setVisible(visible);
+  if (widget_->isEnabledTo(widget_->parentWidget()) != control_.enabled()) {
+    widget_->setEnabled(control_.enabled());
+  }
+}
+
+void Face::showChange(const Change& change) {
+  switch (change.aspect) {
+    case Aspect::visible:
+    case Aspect::enabled:
+      showState();
+      form_.stateShown(*this);
+      break;
+    case Aspect::focus:
+    case Aspect::place:
+      break;
+    default:
+      showContent();
+      break;
+  }
+}
+
+void Face::act(const std::function<void()>& action) {
+  form_.act(action);
+  showAll();
+}
+
+void Face::sendKey(const QKeyEvent& key) {
+  finishTyping();
+  const std::int16_t code = keyCodeOf(key);
+  const bool shift = isShifted(key);
+  act([&] { control_.userKey(code, shift); });
+}
+
+bool Face::pressKey(QKeyEvent& key) {
+  const std::int16_t code = keyCodeOf(key);
+  if (code == 0 || code == keys::blank) return false;
+  sendKey(key);
+  return code == keys::enter || code == keys::escape || !hasFocus();
+}
+
+bool Face::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::FocusIn:
+      if (watched == focusWidget()) {
+        form_.focusCame(*this, static_cast<QFocusEvent&>(*event).reason());
+      }
+      break;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+      if (control_.isFocusable() && !form_.moveFocusTo(*this)) return true;
+      return pressMouse(static_cast<QMouseEvent&>(*event));
+    case QEvent::KeyPress: {
+      // A key that a part of the widget left alone comes by here on its way up.
+      if (watched != widget_->window()->focusWidget()) break;
+      auto& key = static_cast<QKeyEvent&>(*event);
+      if (keyCodeOf(key) != keys::tab) return pressKey(key);
+      const FormFace::ByKeyboard byKeyboard(form_);
+      sendKey(key);
+      return true;
+    }
+    case QEvent::Wheel:
+      if (takesWheel()) break;
+      event->ignore();
+      return true;
+    default:
+      break;
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+}  // namespace awizo::desktop

@@ -1,0 +1,151 @@
+#include "hosts/desktop/faces/form_face.h"
+
+#include <QKeyEvent>
+
+#include "hosts/desktop/faces/key_codes.h"
+#include "hosts/desktop/faces/make_face.h"
+#include "platform/forms/button.h"
+
+namespace awizo::desktop {
+
+FormFace::FormFace(Form& form, QWidget& window) : QObject(&window), form_(form), window_(window) {
+  for (Control* control : form.controls()) faces_[control] = makeFace(*this, *control, &window);
+  form.observer = [this](const Change& change) { showChange(change); };
+  window.installEventFilter(this);
+}
+
+FormFace::~FormFace() {
+  release();
+  for (const auto& [control, face] : faces_) delete face;
+}
+
+void FormFace::release() {
+  if (!alive_) return;
+  form_.observer = nullptr;
+  for (Control* control : form_.controls()) control->observer = nullptr;
+  alive_ = false;
+}
+
+Face& FormFace::face(const Control& control) const { return *faces_.at(&control); }
+
+Face* FormFace::find(std::string_view name) const {
+  const Control* control = form_.find(name);
+  return control == nullptr ? nullptr : &face(*control);
+}
+
+void FormFace::showAll() {
+  for (const auto& [control, face] : faces_) face->showAll();
+  showChange({Aspect::content});
+  showChange({Aspect::enabled});
+}
+
+void FormFace::showChange(const Change& change) {
+  switch (change.aspect) {
+    case Aspect::enabled: {
+      const Following following(*this);
+      window_.setEnabled(form_.enabled());
+      break;
+    }
+    case Aspect::focus:
+      // Between two controls the focus is nowhere for a moment, which nobody need see.
+      if (form_.focus() != nullptr) return followFocus();
+      QMetaObject::invokeMethod(
+          this, [this] { followFocus(); }, Qt::QueuedConnection);
+      return;
+    default:
+      break;
+  }
+  if (onChange) onChange(change);
+  if (change.aspect == Aspect::enabled) followFocus();
+}
+
+Face* FormFace::focusedFace() const {
+  if (!alive_ || form_.focus() == nullptr) return nullptr;
+  const Control& control = *form_.focus();
+  return &face(control.covered() ? *control.cover : control);
+}
+
+void FormFace::followFocus() {
+  if (following_ > 0 || !alive_) return;
+  const Following following(*this);
+  QWidget* there = window_.focusWidget();
+  const Face* face = focusedFace();
+  QWidget* wanted = face == nullptr ? nullptr : face->focusWidget();
+  if (wanted == nullptr) {
+    if (there != nullptr && there != &window_) there->clearFocus();
+  } else if (wanted != there) {
+    wanted->setFocus(reason_);
+  }
+}
+
+bool FormFace::act(const std::function<void()>& action) {
+  if (following_ > 0 || !alive_) return false;
+  bool taken = true;
+  try {
+    action();
+  } catch (const Refused&) {
+    taken = false;
+  }
+  followFocus();
+  return taken;
+}
+
+bool FormFace::moveFocusTo(Face& face) {
+  if (focusedFace() == &face) return true;
+  if (Face* left = focusedFace()) left->finishTyping();
+  return act([&] { face.control().userFocus(); }) && focusedFace() == &face;
+}
+
+void FormFace::stateShown(Face& face) {
+  for (const auto& [control, covered] : faces_) {
+    if (control->cover == &face.control()) covered->showAll();
+  }
+  if (onStateShown) onStateShown(face);
+}
+
+void FormFace::focusCame(Face& face, Qt::FocusReason reason) {
+  if (following_ > 0 || !alive_ || focusedFace() == &face) return;
+  // The window or a pop-up has come or gone: the focus is still the model's to tell.
+  const bool byUser = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                      reason == Qt::MouseFocusReason || reason == Qt::ShortcutFocusReason ||
+                      reason == Qt::OtherFocusReason;
+  if (byUser && face.control().isFocusable()) moveFocusTo(face);
+  followFocus();
+}
+
+// A form without a focus, since its control was hidden or disabled, still has its buttons, and Tab
+// leads back to its fields.
+bool FormFace::pressKeyWithoutFocus(QKeyEvent& key) {
+  const std::int16_t code = keyCodeOf(key);
+  if (code == keys::enter || code == keys::escape) {
+    Button* pressed = code == keys::enter ? form_.acceptButton : form_.closeButton;
+    if (pressed != nullptr) act([&] { pressed->userPress(); });
+    return true;
+  }
+  if (code != keys::tab) return false;
+  const ByKeyboard byKeyboard(*this);
+  for (Control* control : form_.controls()) {
+    if (!control->isFocusable() || control->covered()) continue;
+    if (act([&] { control->userFocus(); })) break;
+  }
+  return true;
+}
+
+bool FormFace::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != &window_ || !alive_) return QObject::eventFilter(watched, event);
+  switch (event->type()) {
+    case QEvent::KeyPress:
+      if (form_.focus() == nullptr && pressKeyWithoutFocus(static_cast<QKeyEvent&>(*event))) {
+        return true;
+      }
+      break;
+    case QEvent::WindowActivate:
+      followFocus();
+      break;
+    default:
+      break;
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+}  // namespace awizo::desktop

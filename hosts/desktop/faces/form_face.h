@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <string_view>
+
+#include "hosts/desktop/faces/face.h"
+#include "platform/forms/form.h"
+
+namespace awizo::desktop {
+
+/// The faces of one form in one window, by the controls' names, and the focus between them: a
+/// user's move goes to the model first, and Qt's focus follows the model, wherever it goes.
+class FormFace : public QObject {
+ public:
+  /// Makes a face for every control of the form, as children of `window`; a layout takes them from
+  /// there. The form outlives the faces, unless release() is called before it goes.
+  FormFace(Form& form, QWidget& window);
+  ~FormFace() override;
+
+  Form& form() const { return form_; }
+  QWidget& window() const { return window_; }
+  Face& face(const Control& control) const;
+  QWidget* widget(const Control& control) const { return face(control).widget(); }
+  /// The face of the control of that name, or null.
+  Face* find(std::string_view name) const;
+  /// The form's life ends: the faces stay on the screen and touch it no more.
+  void release();
+
+  /// Shows every control as its model is, and the form's own state.
+  void showAll();
+  /// Puts Qt's focus where the model's is.
+  void followFocus();
+  /// Called when the model's form changes caption or is shown or hidden.
+  std::function<void(const Change&)> onChange;
+  /// Called after a control came, went, or was enabled or disabled.
+  std::function<void(Face&)> onStateShown;
+
+  // What faces use.
+
+  /// The face that shows the model's focus, or null: a covered control's focus shows at its cover.
+  Face* focusedFace() const;
+  /// Runs a user's action; answers whether the model took it. Within code that moves Qt's own
+  /// state no action begins.
+  bool act(const std::function<void()>& action);
+  /// The user moves the focus to the face, which may refuse; answers whether it is there now.
+  bool moveFocusTo(Face& face);
+  /// Qt's focus has come to the face's widget.
+  void focusCame(Face& face, Qt::FocusReason reason);
+  void stateShown(Face& face);
+
+  /// While one lives, what happens to Qt's widgets is the models' doing, not the user's.
+  class Following {
+   public:
+    explicit Following(FormFace& form) : form_(form) { ++form_.following_; }
+    ~Following() { --form_.following_; }
+    Following(const Following&) = delete;
+    Following& operator=(const Following&) = delete;
+
+   private:
+    FormFace& form_;
+  };
+  /// While one lives, the focus is moved by the keyboard: a field's text is selected.
+  class ByKeyboard {
+   public:
+    explicit ByKeyboard(FormFace& form) : form_(form) { form_.reason_ = Qt::TabFocusReason; }
+    ~ByKeyboard() { form_.reason_ = Qt::OtherFocusReason; }
+    ByKeyboard(const ByKeyboard&) = delete;
+    ByKeyboard& operator=(const ByKeyboard&) = delete;
+
+   private:
+    FormFace& form_;
+  };
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void showChange(const Change& change);
+  bool pressKeyWithoutFocus(QKeyEvent& key);
+
+  Form& form_;
+  QWidget& window_;
+  std::map<const Control*, QPointer<Face>> faces_;
+  Qt::FocusReason reason_ = Qt::OtherFocusReason;
+  int following_ = 0;
+  bool alive_ = true;
+};
+
+}  // namespace awizo::desktop

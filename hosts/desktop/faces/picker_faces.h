@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QDateEdit>
+#include <QTimeEdit>
+
+#include "hosts/desktop/faces/face.h"
+#include "platform/forms/pickers.h"
+
+namespace awizo::desktop {
+
+/// What date and time pickers share: a field with sections, and where the picker may be empty a box
+/// that is checked while it isn't. The blank checks and clears it too.
+class PickerFace : public Face {
+ public:
+  PickerFace(FormFace& form, Control& picker, QDateTimeEdit* edit, bool allowsNone,
+             const QString& caption, QWidget* parent);
+  QWidget* focusWidget() const override;
+  void finishTyping() override;
+
+ protected:
+  virtual void takeEdited() = 0;
+  virtual void takeNone() = 0;
+  void showHasValue(bool hasValue);
+  bool pressKey(QKeyEvent& key) override;
+  bool takesWheel() const override { return false; }
+
+ private:
+  void takeChecked(bool checked);
+
+  QDateTimeEdit* edit_;
+  QCheckBox* hasValue_ = nullptr;
+};
+
+class DateFace : public PickerFace {
+ public:
+  DateFace(FormFace& form, DatePicker& picker, QWidget* parent);
+
+ protected:
+  void takeEdited() override;
+  void takeNone() override;
+  void showContent() override;
+
+ private:
+  DateFace(FormFace& form, DatePicker& picker, QDateEdit* edit, QWidget* parent);
+
+  DatePicker& picker_;
+  QDateEdit* edit_;
+};
+
+class TimeFace : public PickerFace {
+ public:
+  TimeFace(FormFace& form, TimePicker& picker, QWidget* parent);
+
+ protected:
+  void takeEdited() override;
+  void takeNone() override;
+  void showContent() override;
+
+ private:
+  TimeFace(FormFace& form, TimePicker& picker, QTimeEdit* edit, QWidget* parent);
+
+  TimePicker& picker_;
+  QTimeEdit* edit_;
+};
+
+}  // namespace awizo::desktop

@@ -1,0 +1,310 @@
+#include "hosts/desktop/faces/table_face.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "hosts/desktop/faces/form_face.h"
+#include "hosts/desktop/faces/key_codes.h"
+
+namespace awizo::desktop {
+namespace {
+
+/// A view that moves nothing by itself: keys and the mouse reach it through the model.
+class TableView : public QTableView {
+ public:
+  using QTableView::QTableView;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+  void mousePressEvent(QMouseEvent*) override {}
+  void mouseMoveEvent(QMouseEvent*) override {}
+  void mouseReleaseEvent(QMouseEvent*) override {}
+  void mouseDoubleClickEvent(QMouseEvent*) override {}
+};
+
+}  // namespace
+
+TableFace::TableFace(FormFace& form, Table& table, QWidget* parent)
+    : Face(form, table, new TableView(parent)),
+      table_(table),
+      view_(static_cast<QTableView*>(widget())),
+      rows_(new TableRows(table, this)) {
+  setUpView();
+  watch(view_->viewport());
+  connect(view_->verticalScrollBar(), &QScrollBar::valueChanged, this, &TableFace::takeScroll);
+  connect(view_->horizontalScrollBar(), &QScrollBar::valueChanged, this, &TableFace::placeEditor);
+  connect(view_->horizontalHeader(), &QHeaderView::sectionResized, this, &TableFace::placeEditor);
+}
+
+void TableFace::setUpView() {
+  view_->setModel(rows_);
+  view_->setFocusPolicy(Qt::TabFocus);
+  view_->verticalHeader()->hide();
+  view_->verticalHeader()->setMinimumSectionSize(1);
+  view_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  view_->horizontalHeader()->setHighlightSections(false);
+  view_->horizontalHeader()->setSectionsClickable(false);
+  view_->horizontalHeader()->setMinimumSectionSize(1);
+  view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  view_->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+  view_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  view_->setTabKeyNavigation(false);
+  view_->setWordWrap(true);
+  view_->setTextElideMode(Qt::ElideRight);
+}
+
+void TableFace::layOverCell(Face& editor) {
+  editor_ = &editor;
+  editor.widget()->setParent(view_->viewport());
+  editor.showAll();
+  form().onStateShown = [this](Face& face) {
+    if (&face == editor_) placeEditor();
+  };
+  placeEditor();
+}
+
+void TableFace::showContent() {
+  if (stale_) showLater();
+}
+
+void TableFace::rowsChanged() {
+  stale_ = true;
+  showLater();
+}
+
+void TableFace::showChange(const Change& change) {
+  switch (change.aspect) {
+    case Aspect::visible:
+    case Aspect::enabled:
+      Face::showChange(change);
+      break;
+    case Aspect::cell:
+      if (table_.redraw() && !stale_) {
+        rows_->cellChanged(change.row, change.column);
+      } else {
+        rowsChanged();
+      }
+      break;
+    case Aspect::selection:
+    case Aspect::scroll:
+      if (stale_) break;
+      showSelection();
+      showTop();
+      placeEditor();
+      break;
+    case Aspect::layout:
+      showWidths();
+      showHeights();
+      placeEditor();
+      break;
+    case Aspect::focus:
+    case Aspect::place:
+      break;
+    case Aspect::redraw:
+      showContent();
+      break;
+    default:
+      rowsChanged();
+      break;
+  }
+}
+
+// Rows come and go by the thousand in one event; the view is told once. While the model's
+// redrawing is off it keeps what it shows.
+void TableFace::showLater() {
+  if (table_.redraw()) {
+    QMetaObject::invokeMethod(
+        this, [this] { showNow(); }, Qt::QueuedConnection);
+  }
+}
+
+void TableFace::showNow() {
+  if (!stale_ || !table_.redraw()) return;
+  stale_ = false;
+  const FormFace::Following following(form());
+  rows_->changed();
+  showWidths();
+  showHeights();
+  takeViewHeight();
+  showSelection();
+  showTop();
+  placeEditor();
+}
+
+double TableFace::pointsPerTwip() const {
+  // A normal row has 240 twips, so this is the height that the font grows over its usual one.
+  const double perTwip = view_->logicalDpiX() / 1440.0;
+  return std::max(perTwip, view_->fontMetrics().height() / 225.0);
+}
+
+int TableFace::normalHeight() const {
+  return std::max(view_->fontMetrics().height() + 6,
+                  qRound(Table::normalRowHeight * pointsPerTwip()));
+}
+
+void TableFace::showWidths() {
+  shownWidths_.resize(static_cast<std::size_t>(table_.columns()), -1);
+  for (int column = 0; column < table_.columns(); ++column) {
+    const int width = table_.columnWidth(column);
+    int& shown = shownWidths_[static_cast<std::size_t>(column)];
+    if (shown == width) continue;
+    shown = width;
+    view_->setColumnHidden(column, width == 0);
+    if (width == 0) continue;
+    const int heading = view_->horizontalHeader()->sectionSizeHint(column);
+    view_->setColumnWidth(column, std::max(heading, qRound(width * pointsPerTwip())));
+  }
+}
+
+void TableFace::showHeights() {
+  view_->verticalHeader()->setDefaultSectionSize(normalHeight());
+  const int shownRows = rows_->rowCount();
+  for (int viewRow = 0; viewRow < shownRows; ++viewRow) {
+    const int row = rows_->tableRow(viewRow);
+    if (row >= table_.rows()) break;
+    const int height = normalHeight() * table_.rowHeight(row) / Table::normalRowHeight;
+    if (view_->rowHeight(viewRow) != height) view_->setRowHeight(viewRow, height);
+  }
+}
+
+void TableFace::showSelection() {
+  view_->setSelectionBehavior(table_.selectsRows ? QAbstractItemView::SelectRows
+                                                 : QAbstractItemView::SelectItems);
+  const QModelIndex current = rows_->indexOf(table_.row(), table_.column());
+  const QModelIndex corner = rows_->indexOf(table_.rowSel(), table_.columnSel());
+  QItemSelectionModel* selection = view_->selectionModel();
+  const QItemSelectionModel::SelectionFlags how =
+      QItemSelectionModel::ClearAndSelect |
+      (table_.selectsRows ? QItemSelectionModel::Rows : QItemSelectionModel::NoUpdate);
+  // Qt would scroll to the current cell; what is in view is the model's to say.
+  const bool scrolls = view_->hasAutoScroll();
+  view_->setAutoScroll(false);
+  selection->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+  view_->setAutoScroll(scrolls);
+  if (current.isValid() && corner.isValid()) {
+    const auto [top, bottom] = std::minmax(current.row(), corner.row());
+    const auto [left, right] = std::minmax(current.column(), corner.column());
+    selection->select({rows_->index(top, left), rows_->index(bottom, right)}, how);
+  } else {
+    selection->clearSelection();
+  }
+}
+
+void TableFace::showTop() {
+  const FormFace::Following following(form());
+  view_->verticalScrollBar()->setValue(table_.topRow() - table_.fixedRows());
+  // A wide table's current column comes into view along the row.
+  const QModelIndex current = view_->currentIndex();
+  if (!current.isValid() || table_.columnWidth(current.column()) == 0) return;
+  const int left = view_->columnViewportPosition(current.column());
+  const int right = left + view_->columnWidth(current.column());
+  QScrollBar* bar = view_->horizontalScrollBar();
+  if (left < 0) {
+    bar->setValue(bar->value() + left);
+  } else if (right > view_->viewport()->width()) {
+    bar->setValue(bar->value() + std::min(left, right - view_->viewport()->width()));
+  }
+}
+
+void TableFace::stretchColumn(int column) {
+  view_->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
+}
+
+void TableFace::placeEditor() {
+  if (!editor_) return;
+  const QModelIndex current = rows_->indexOf(table_.row(), table_.column());
+  editor_->widget()->setGeometry(view_->visualRect(current));
+  editor_->widget()->raise();
+}
+
+void TableFace::takeScroll(int value) {
+  placeEditor();
+  const int row = rows_->tableRow(value);
+  if (stale_ || table_.topRow() == row) return;
+  form().act([&] { table_.userScroll(row); });
+  placeEditor();
+}
+
+void TableFace::takeViewHeight() {
+  // Half a row too much isn't a row: only whole rows count as shown.
+  const int wholeRows = std::max(1, view_->viewport()->height() / normalHeight());
+  table_.setViewHeight((table_.fixedRows() + wholeRows) * Table::normalRowHeight);
+}
+
+bool TableFace::pressKey(QKeyEvent& key) {
+  const std::int16_t code = keyCodeOf(key);
+  if (code == 0) return false;
+  showNow();
+  const bool shift = isShifted(key);
+  form().act([&] { table_.userKey(code, shift); });
+  showNow();
+  return true;
+}
+
+TableFace::Cell TableFace::cellAt(const QPoint& point) const {
+  const QModelIndex cell = view_->indexAt(point);
+  return cell.isValid() ? Cell{rows_->tableRow(cell.row()), cell.column()} : Cell{};
+}
+
+// The focus has come with the button's going down; the rest of a click is the model's in one.
+bool TableFace::pressMouse(QMouseEvent& mouse) {
+  showNow();
+  pressed_ = {};
+  if (mouse.button() != Qt::LeftButton) return true;
+  const Cell cell = cellAt(mouse.position().toPoint());
+  if (cell == Cell{}) return true;
+  const bool again = mouse.type() == QEvent::MouseButtonDblClick;
+  if (again && cell == Cell{table_.row(), table_.column()}) {
+    form().act([&] { table_.userDoubleClick(); });
+  } else {
+    pressed_ = cell;
+  }
+  return true;
+}
+
+void TableFace::releaseMouse(const QMouseEvent& mouse) {
+  const Cell from = std::exchange(pressed_, Cell{});
+  if (mouse.button() != Qt::LeftButton || from == Cell{}) return;
+  const Cell to = cellAt(mouse.position().toPoint());
+  form().act([&] {
+    if (to == from || to == Cell{}) {
+      table_.userCell(from.row, from.column);
+    } else {
+      table_.userSelect(from.row, from.column, to.row, to.column);
+    }
+  });
+}
+
+bool TableFace::eventFilter(QObject* watched, QEvent* event) {
+  const bool onCells = watched == view_->viewport();
+  switch (event->type()) {
+    case QEvent::MouseButtonRelease:
+      if (onCells) releaseMouse(static_cast<QMouseEvent&>(*event));
+      return onCells;
+    case QEvent::Paint:
+      if (onCells) showNow();
+      break;
+    case QEvent::Resize:
+      if (onCells) {
+        takeViewHeight();
+        placeEditor();
+      }
+      break;
+    case QEvent::FontChange:
+      if (onCells) break;
+      shownWidths_.clear();
+      showWidths();
+      showHeights();
+      takeViewHeight();
+      placeEditor();
+      break;
+    default:
+      break;
+  }
+  return Face::eventFilter(watched, event);
+}
+
+}  // namespace awizo::desktop

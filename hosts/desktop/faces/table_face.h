@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QPointer>
+#include <QTableView>
+#include <vector>
+
+#include "hosts/desktop/faces/face.h"
+#include "hosts/desktop/faces/table_rows.h"
+#include "platform/forms/table.h"
+
+namespace awizo::desktop {
+
+/// A table. Its heading stands still, columns of no width are hidden, the current cell, the marked
+/// range and the first row shown follow the model, and clicks and keys go to it. A row of normal
+/// height has room for a line of the font in use; columns begin at their widths in twips, grown
+/// with the font, and the user can resize them.
+class TableFace : public Face {
+ public:
+  TableFace(FormFace& form, Table& table, QWidget* parent);
+
+  QTableView* view() const { return view_; }
+  /// Lays the face of a field over the current cell, where it stays however the table scrolls and
+  /// its columns are resized.
+  void layOverCell(Face& editor);
+  /// Shows what has changed and waits to be shown; the painting of the view does the same.
+  void showNow();
+  /// The column takes what room is left beside the others.
+  void stretchColumn(int column);
+
+ protected:
+  void showContent() override;
+  void showChange(const Change& change) override;
+  bool pressKey(QKeyEvent& key) override;
+  bool pressMouse(QMouseEvent& mouse) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  struct Cell {
+    int row = -1;
+    int column = -1;
+    bool operator==(const Cell&) const = default;
+  };
+
+  void setUpView();
+  void rowsChanged();
+  void showLater();
+  void showWidths();
+  void showHeights();
+  void showSelection();
+  void showTop();
+  void placeEditor();
+  void takeScroll(int value);
+  void takeViewHeight();
+  void releaseMouse(const QMouseEvent& mouse);
+  Cell cellAt(const QPoint& point) const;
+  int normalHeight() const;
+  double pointsPerTwip() const;
+
+  Table& table_;
+  QTableView* view_;
+  TableRows* rows_;
+  QPointer<Face> editor_;
+  std::vector<int> shownWidths_;  ///< twips, as the columns were last laid out
+  Cell pressed_;                  ///< where the mouse button went down and is still held
+  bool stale_ = true;
+};
+
+}  // namespace awizo::desktop

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include "platform/forms/table.h"
+
+namespace awizo::desktop {
+
+/// The data rows of a table, read from the model as they are asked for. The fixed rows stand in the
+/// header of the view: view row 0 is the table's first row below them.
+class TableRows : public QAbstractTableModel {
+ public:
+  TableRows(const Table& table, QObject* parent)
+      : QAbstractTableModel(parent), table_(table), count_(table.rows() - table.fixedRows()) {}
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  void changed();
+  void cellChanged(int row, int column);
+  QModelIndex indexOf(int row, int column) const;
+  int tableRow(int viewRow) const { return viewRow + table_.fixedRows(); }
+
+ private:
+  const Table& table_;
+  int count_;  ///< as last told to the view, which must not see it change untold
+};
+
+}  // namespace awizo::desktop

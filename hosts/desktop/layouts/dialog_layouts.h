@@ -1,0 +1,24 @@
+#pragma once
+
+#include "hosts/desktop/layouts/form_dialog.h"
+
+namespace awizo {
+class DlgDodaj;
+class DlgdodajPule;
+class DlgIsoCodes;
+class DlgSzczegoly;
+class DlgWczytajZapisz;
+}  // namespace awizo
+
+namespace awizo::desktop {
+
+// One layout for each dialog: gives every face its place in the window.
+void layOut(DlgDodaj& form, FormDialog& dialog);
+void layOut(DlgdodajPule& form, FormDialog& dialog);
+void layOut(DlgIsoCodes& form, FormDialog& dialog);
+void layOut(DlgSzczegoly& form, FormDialog& dialog);
+void layOut(DlgWczytajZapisz& form, FormDialog& dialog);
+/// Any other form: its controls one below the other in their order.
+void layOut(Form& form, FormDialog& dialog);
+
+}  // namespace awizo::desktop

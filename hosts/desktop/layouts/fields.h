@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+
+#include "hosts/desktop/layouts/form_dialog.h"
+
+namespace awizo::desktop {
+
+/// A grid of fields with their captions before them, aligned in columns.
+class Fields {
+ public:
+  Fields(FormFace& faces, QWidget* parent);
+
+  QGridLayout* grid() const { return grid_; }
+
+  /// A caption that is a control of the form, and the field beside it, in a pair of columns: pair 0
+  /// is the first. `pairs`: how many pairs the field reaches over.
+  void add(int row, int pair, const Control& caption, QLayout* field, int pairs = 1);
+  void add(int row, int pair, const Control& caption, const Control& field, int pairs = 1);
+  /// The same with a caption in words, which comes and goes with the field.
+  QLabel* add(int row, int pair, const QString& caption, const Control& field, int pairs = 1);
+  /// Lets a control and the one that lies over it share one place.
+  void addCovered(int row, int pair, const Control& caption, const Control& covered,
+                  const Control& cover, int pairs = 1);
+
+ private:
+  void addCaption(int row, int pair, QWidget* caption);
+  void addField(int row, int pair, QWidget* field, int pairs);
+
+  FormFace& faces_;
+  QGridLayout* grid_;
+};
+
+/// A box with a heading.
+QGroupBox* makeGroup(const QString& heading);
+
+/// A row of widgets and the room that is left after them.
+QHBoxLayout* makeRow(std::initializer_list<QWidget*> widgets);
+
+/// The accepting and closing buttons at the foot of a dialog, the same width, on the right.
+QHBoxLayout* makeButtonRow(FormFace& faces, const Control& accept, const Control& close);
+
+}  // namespace awizo::desktop

@@ -1,0 +1,59 @@
+#include "formats/file_dialog.h"
+
+#include <QVBoxLayout>
+
+#include "hosts/desktop/faces/button_face.h"
+#include "hosts/desktop/layouts/dialog_layouts.h"
+#include "hosts/desktop/layouts/fields.h"
+
+namespace awizo::desktop {
+namespace {
+
+void dress(FormFace& faces, const PictureButton& button, const QString& picture,
+           const QString& words) {
+  auto& face = static_cast<ButtonFace&>(faces.face(button));
+  face.setPicture(picture, words);
+  face.setWords(words);
+}
+
+void placeLists(DlgWczytajZapisz& form, FormFace& faces) {
+  auto* grid = new QGridLayout(faces.widget(form.Frame1));
+  grid->addWidget(faces.widget(form.Drive), 0, 0);
+  grid->addWidget(faces.widget(form.DirList), 1, 0);
+  grid->addWidget(faces.widget(form.FileList), 0, 1, 2, 1);
+  grid->setColumnStretch(0, 2);
+  grid->setColumnStretch(1, 3);
+  grid->setRowStretch(1, 1);
+}
+
+}  // namespace
+
+void layOut(DlgWczytajZapisz& form, FormDialog& dialog) {
+  FormFace& faces = dialog.faces();
+  placeLists(form, faces);
+  auto* names = new QWidget;
+  Fields fields(faces, names);
+  fields.grid()->setContentsMargins(0, 0, 0, 0);
+  fields.add(0, 0, QString("Имя файла:"), form.txtAwizoPlik);
+  fields.add(1, 0, QString("Папка:"), form.lblOffLinePath);
+
+  dress(faces, form.ImageWczytaj, "open", "Выбрать");
+  dress(faces, form.ImageZapisz, "save", "Записать");
+  dress(faces, form.ImageZamknij, "close", "Закрыть");
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(faces.widget(form.btnWczytaj));
+  buttons->addStretch(1);
+  buttons->addWidget(faces.widget(form.ImageWczytaj));
+  buttons->addWidget(faces.widget(form.ImageZapisz));
+  buttons->addWidget(faces.widget(form.ImageZamknij));
+
+  auto* rows = new QVBoxLayout(&dialog);
+  rows->setSpacing(10);
+  rows->addWidget(faces.widget(form.Frame1), 1);
+  rows->addWidget(names);
+  rows->addLayout(buttons);
+  const QFontMetrics metrics = dialog.fontMetrics();
+  faces.widget(form.Frame1)->setMinimumSize(metrics.averageCharWidth() * 90, metrics.height() * 20);
+}
+
+}  // namespace awizo::desktop

@@ -1,0 +1,44 @@
+#include "hosts/desktop/layouts/form_dialog.h"
+
+#include <QCloseEvent>
+
+namespace awizo::desktop {
+
+FormDialog::FormDialog(Form& form, QWidget* parent) : QDialog(parent), faces_(form, *this) {
+  setObjectName(fromText(form.name()));
+  setWindowTitle(fromText(form.caption()));
+  faces_.onChange = [this](const Change& change) { showChange(change); };
+}
+
+void FormDialog::showChange(const Change& change) {
+  if (change.aspect == Aspect::content) setWindowTitle(fromText(form().caption()));
+  if (change.aspect != Aspect::visible || form().shown()) return;
+  const FormFace::Following following(faces_);
+  hide();
+  if (loop_ != nullptr) loop_->quit();
+}
+
+void FormDialog::open() {
+  setWindowModality(Qt::ApplicationModal);
+  faces_.showAll();
+  {
+    const FormFace::Following following(faces_);
+    show();
+    activateWindow();
+  }
+  faces_.followFocus();
+}
+
+void FormDialog::runUntilHidden() {
+  QEventLoop loop;
+  loop_ = &loop;
+  loop.exec();
+  loop_ = nullptr;
+}
+
+void FormDialog::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  faces_.act([this] { form().userClose(); });
+}
+
+}  // namespace awizo::desktop

@@ -1,0 +1,119 @@
+#include <QVBoxLayout>
+
+#include "hosts/desktop/faces/button_face.h"
+#include "hosts/desktop/faces/table_face.h"
+#include "hosts/desktop/layouts/dialog_layouts.h"
+#include "hosts/desktop/layouts/fields.h"
+#include "linedialog/dlg_dodaj.h"
+
+namespace awizo::desktop {
+namespace {
+
+ButtonFace& button(FormFace& faces, const Button& control) {
+  return static_cast<ButtonFace&>(faces.face(control));
+}
+
+QGroupBox* makeProduct(DlgDodaj& form, FormFace& faces) {
+  QGroupBox* group = makeGroup("Товар");
+  Fields fields(faces, group);
+  fields.addCovered(0, 0, form.lblNazwaProd, form.txtNazwaProdWart, form.cboxNazwaProd, 2);
+  fields.addCovered(1, 0, form.lblEANProd, form.txtlEANProdWart, form.cboxEANProd);
+  fields.addCovered(1, 1, form.lblKodKup, form.txtKodKup, form.cboxKodAPP);
+  fields.addCovered(2, 0, form.lblKodSprzed, form.txtKodSprzed, form.cboxKodSprzed);
+  fields.add(2, 1, form.lblJednostkaMiary, form.cboxJednostkaMiary);
+  return group;
+}
+
+QGroupBox* makeAmounts(DlgDodaj& form, FormFace& faces) {
+  QGroupBox* group = makeGroup("Количество и налог");
+  Fields fields(faces, group);
+  fields.add(0, 0, form.lblIloscZam, form.txtIloscZam);
+  fields.add(1, 0, form.lblIloscPotw, form.txtIloscPotw);
+  fields.add(2, 0, form.lblCenaNetto, form.txtCenaNetto);
+  fields.add(3, 0, form.Label7, form.txtAmount);
+  fields.add(4, 0, form.Label8, form.cboxStawkaVAT);
+  fields.add(5, 0, form.Label10, form.cboxKodVAT);
+  fields.grid()->setRowStretch(6, 1);
+  return group;
+}
+
+QGroupBox* makeOrigin(DlgDodaj& form, FormFace& faces) {
+  QGroupBox* group = makeGroup("Сроки и происхождение");
+  Fields fields(faces, group);
+  fields.add(0, 0, form.Label5, form.dtProdDate);
+  fields.add(1, 0, form.lblExpiryDate, form.dtExpiryDate);
+  QHBoxLayout* country = makeRow({faces.widget(form.comboCountry), faces.widget(form.btnISOcodes)});
+  country->setStretch(0, 1);
+  fields.add(2, 0, form.lblContryOfOryginCode, country);
+  QHBoxLayout* customsNumber = makeRow({faces.widget(form.txtCDN1), faces.widget(form.dpCDN2),
+                                        faces.widget(form.txtCDN3), faces.widget(form.txtCDN4)});
+  for (const auto& [field, digits] :
+       {std::pair{&form.txtCDN1, 8}, std::pair{&form.txtCDN3, 7}, std::pair{&form.txtCDN4, 3}}) {
+    QWidget* widget = faces.widget(*field);
+    widget->setMinimumWidth(widget->fontMetrics().horizontalAdvance('0') * (digits + 2));
+  }
+  fields.add(3, 0, form.Label9, customsNumber);
+  fields.grid()->setRowStretch(4, 1);
+  return group;
+}
+
+QGroupBox* makePackages(DlgDodaj& form, FormFace& faces) {
+  QGroupBox* group = makeGroup({});
+  group->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+  auto* rows = new QGridLayout(group);
+  QWidget* heading = faces.widget(form.Label4);
+  QFont bold = heading->font();
+  bold.setBold(true);
+  heading->setFont(bold);
+  QHBoxLayout* head = makeRow({heading});
+  head->addStretch(1);
+  head->addWidget(faces.widget(form.lblPackedQuantity));
+  head->addWidget(faces.widget(form.lblPackedQuantityValue));
+  rows->addLayout(head, 0, 0);
+  rows->addWidget(faces.widget(form.grdPozycje), 1, 0);
+  rows->addWidget(faces.widget(form.grdPozycjeN), 1, 0);
+  auto& table = static_cast<TableFace&>(faces.face(form.grdPozycje));
+  table.view()->setMinimumHeight(table.view()->fontMetrics().height() * 7);
+  table.stretchColumn(2);
+  auto* buttons = new QVBoxLayout;
+  buttons->setSpacing(4);
+  button(faces, form.Command1).setTip("Положить товар в упаковку");
+  button(faces, form.Command2).setTip("Вынуть товар из упаковки");
+  button(faces, form.Command3).setTip("Изменить упаковку или количество");
+  for (const Button* command : {&form.Command1, &form.Command2, &form.Command3}) {
+    faces.widget(*command)->setMaximumWidth(48);
+    buttons->addWidget(faces.widget(*command));
+  }
+  buttons->addStretch(1);
+  rows->addLayout(buttons, 1, 1);
+  return group;
+}
+
+}  // namespace
+
+void layOut(DlgDodaj& form, FormDialog& dialog) {
+  FormFace& faces = dialog.faces();
+  QWidget* heading = faces.widget(form.lblPozycjaTow);
+  QFont large = heading->font();
+  large.setPointSizeF(large.pointSizeF() * 1.3);
+  large.setBold(true);
+  heading->setFont(large);
+  button(faces, form.btnISOcodes).setPicture("countries");
+
+  auto* middle = new QHBoxLayout;
+  middle->addWidget(makeAmounts(form, faces), 2);
+  middle->addWidget(makeOrigin(form, faces), 3);
+  for (int i = 0; i < 2; ++i) {
+    middle->itemAt(i)->widget()->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  }
+
+  auto* rows = new QVBoxLayout(&dialog);
+  rows->setSpacing(10);
+  rows->addWidget(heading);
+  rows->addWidget(makeProduct(form, faces));
+  rows->addLayout(middle);
+  rows->addWidget(makePackages(form, faces), 1);
+  rows->addLayout(makeButtonRow(faces, form.btnDodaj, form.btnZamknij));
+}
+
+}  // namespace awizo::desktop

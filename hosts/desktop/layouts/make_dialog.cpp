@@ -1,0 +1,40 @@
+#include "hosts/desktop/layouts/make_dialog.h"
+
+#include <QFormLayout>
+
+#include "formats/file_dialog.h"
+#include "hosts/desktop/layouts/dialog_layouts.h"
+#include "linedialog/dlg_dodaj.h"
+#include "packagedialog/dlg_szczegoly.h"
+
+namespace awizo::desktop {
+namespace {
+
+template <class DialogForm>
+bool layOutAs(Form& form, FormDialog& dialog) {
+  auto* known = dynamic_cast<DialogForm*>(&form);
+  if (known == nullptr) return false;
+  layOut(*known, dialog);
+  return true;
+}
+
+}  // namespace
+
+void layOut(Form& form, FormDialog& dialog) {
+  auto* rows = new QFormLayout(&dialog);
+  for (const Control* control : form.controls()) rows->addRow(dialog.faces().widget(*control));
+}
+
+FormDialog* makeDialog(Form& form, QWidget* parent) {
+  auto* dialog = new FormDialog(form, parent);
+  const bool known = layOutAs<DlgDodaj>(form, *dialog) || layOutAs<DlgdodajPule>(form, *dialog) ||
+                     layOutAs<DlgIsoCodes>(form, *dialog) ||
+                     layOutAs<DlgSzczegoly>(form, *dialog) ||
+                     layOutAs<DlgWczytajZapisz>(form, *dialog);
+  if (!known) layOut(form, *dialog);
+  // A widget that has gone into a new parent is shown anew.
+  dialog->faces().showAll();
+  return dialog;
+}
+
+}  // namespace awizo::desktop
