@@ -30,7 +30,8 @@ bool reportErrors(Screen& screen, Title&& title, Body&& body) {
 /// The same under a title that is always the same.
 template <class Body>
 bool reportErrors(Screen& screen, std::string_view title, Body&& body) {
-  return reportErrors(screen, [title] { return title; }, std::forward<Body>(body));
+  return reportErrors(
+      screen, [title] { return title; }, std::forward<Body>(body));
 }
 
 }  // namespace awizo

@@ -1,0 +1,15 @@
+"""The checks by name, the quick ones first. A check takes the project and gives a list of problems."""
+
+from checks import compiled, formatting, includes, levels, scripts, tidy, words
+
+CHECKS = {
+    "levels": levels.check_levels,
+    "links": levels.check_links,
+    "standard-only": includes.check_standard_only,
+    "include-circle": includes.check_no_circle,
+    "words": words.check,
+    "scripts": scripts.check,
+    "formatting": formatting.check,
+    "warnings": compiled.check,
+    "clang-tidy": tidy.check,
+}
