@@ -60,8 +60,9 @@ bool readLines(Editor& editor, const XmlNode& order) {
     table.setRows(2);
     return false;
   }
-  table.setRows(static_cast<int>(lines.size()) + 1);
+  // Lines that can't be counted get no rows, which would take memory without bounds.
   editor.session.LineCount = narrow16(static_cast<std::int64_t>(lines.size()));
+  table.setRows(editor.session.LineCount + 1);
   table.setRedraw(false);
   std::int16_t row = 0;
   for (const XmlNode& line : lines) readOrderLine(editor, lineElement(line), ++row);
@@ -92,9 +93,11 @@ void readOrder(Editor& editor, std::unique_ptr<XmlDocument>& order) {
 }  // namespace
 
 void Wczytaj_Zamowienie(Editor& editor, std::unique_ptr<XmlDocument>& order) {
+  const Cursor earlier = editor.screen().setCursor(editor.session.WaitCursor);
   const bool read = reportErrors(editor.screen(), "Произошла ошибка в Wczytaj_Zamowienie()",
                                  [&] { readOrder(editor, order); });
   if (!read) editor.form.setEnabled(true);
+  editor.screen().setCursor(earlier);
 }
 
 }  // namespace awizo

@@ -9,7 +9,8 @@ namespace awizo {
 
 /// Makes the form a new despatch advice that answers this order: completes the order from the
 /// product catalogue, fills the header and gives each order line a row. `order` isn't none; it
-/// becomes none where completing it fails. An error shows a box; what was read stays.
+/// becomes none where completing it fails. The control takes no input meanwhile, and the wait
+/// cursor shows. An error shows a box; what was read stays.
 void Wczytaj_Zamowienie(Editor& editor, std::unique_ptr<XmlDocument>& order);
 
 }  // namespace awizo

@@ -378,6 +378,16 @@ TEST_F(OrderReader, TakesNoInputWhileItReads) {
   EXPECT_TRUE(form.enabled());
 }
 
+TEST_F(OrderReader, ShowsTheWaitCursorWhileItReadsAlsoWhenItFails) {
+  readLines("");
+  EXPECT_THAT(test.face.cursors(), ElementsAre(Cursor::wait, Cursor::normal));
+  test.face.whileBoxIsOpen(
+      [&](const MessageBox&) { EXPECT_EQ(test.screen.cursor(), Cursor::wait); });
+  read("<Document-Order/>");
+  expectFailure("Object variable or With block variable not set");
+  EXPECT_EQ(test.screen.cursor(), Cursor::normal);
+}
+
 TEST_F(OrderReader, AnOrderWithoutLinesElementFailsAfterTheHeader) {
   read(std::string("<Document-Order>") + fullHeader + "</Document-Order>");
   expectFailure("Object variable or With block variable not set");
@@ -406,6 +416,7 @@ TEST_F(OrderReader, MoreLinesThanCanBeCountedFailBeforeTheFirst) {
   readLines(lines);
   expectFailure("Overflow");
   EXPECT_EQ(test.session.LineCount, 0);
+  EXPECT_EQ(table.rows(), 2);
   EXPECT_EQ(cell(1, GRD_POZ_LP), "");
   EXPECT_TRUE(table.redraw());
 }

@@ -85,7 +85,9 @@ TEST_F(WaitingOrder, WaitsWhileItChecksTheLinesRowByRow) {
   http.reply(orderReply(orderLine("1", "1") + orderLine("2", "1")));
   control.UserControl_Show();
   EXPECT_THAT(seen, Contains("2,1 wait"));
-  EXPECT_EQ(face.cursors(), (std::vector<Cursor>{Cursor::wait, Cursor::normal}));
+  // Once for reading the order, once for checking its lines.
+  EXPECT_EQ(face.cursors(),
+            (std::vector<Cursor>{Cursor::wait, Cursor::normal, Cursor::wait, Cursor::normal}));
   EXPECT_EQ(screen.cursor(), Cursor::normal);
 }
 
