@@ -18,15 +18,6 @@ bool isPacked(const Editor& editor, std::int16_t row) {
          table.cell(IndexGrdPozycje(editor, row, GRD_POZ_PACKED_QTY));
 }
 
-/// The same words as before sending: a document that is saved is meant to be sent.
-bool wantsPartlyPacked(Editor& editor) {
-  const Answer answer =
-      editor.screen().messageBox({"Отгруженный товар упакован не полностью.\r\n"
-                                  "Вы уверены, что хотите отправить документ в таком виде?",
-                                  "VIRD", BoxIcon::none, BoxButtons::yesNo});
-  return answer == Answer::yes;
-}
-
 /// A separator of paths in the document's number would put the file into another folder.
 std::string proposedFileName(const std::string& documentNumber) {
   const std::string name = "Подтверждение_отгрузки_" + documentNumber + ".xml";
@@ -62,6 +53,15 @@ void CheckAllPacked(Editor& editor) {
     }
   }
   if (session.IloscPozycjiOpak == 0) session.AllPacked = false;
+}
+
+// The words speak of sending when a document is saved too: it is meant to be sent.
+bool wantsPartlyPacked(Editor& editor) {
+  const Answer answer =
+      editor.screen().messageBox({"Отгруженный товар упакован не полностью.\r\n"
+                                  "Вы уверены, что хотите отправить документ в таком виде?",
+                                  "VIRD", BoxIcon::none, BoxButtons::yesNo});
+  return answer == Answer::yes;
 }
 
 void btnZapisz_Click(Editor& editor, DlgWczytajZapisz& dialog) {

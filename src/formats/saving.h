@@ -9,6 +9,9 @@ namespace awizo {
 /// texts, and there is a package at all. Without lines AllPacked keeps its value.
 void CheckAllPacked(Editor& editor);
 
+/// Asks whether a document that is packed only in part shall go out all the same.
+bool wantsPartlyPacked(Editor& editor);
+
 /// Saves the document to a file that the user names. An error shows a box; an old file of that
 /// name is then as it was.
 void btnZapisz_Click(Editor& editor, DlgWczytajZapisz& dialog);

@@ -13,9 +13,9 @@
 namespace awizo {
 namespace {
 
-bool isConfirmed(Editor& editor, std::string_view question, BoxIcon icon) {
-  return editor.screen().messageBox({std::string(question), "VIRD", icon, BoxButtons::yesNo}) ==
-         Answer::yes;
+bool isConfirmed(Editor& editor, std::string_view question) {
+  return editor.screen().messageBox(
+             {std::string(question), "VIRD", BoxIcon::question, BoxButtons::yesNo}) == Answer::yes;
 }
 
 /// Whether the document may be built: header, lines, and the user's will to send it as packed.
@@ -29,10 +29,7 @@ bool mayBeBuilt(Editor& editor) {
   editor.session.SendQuestionAsked = false;
   if (editor.session.AllPacked) return true;
   editor.session.SendQuestionAsked = true;
-  return isConfirmed(editor,
-                     "Отгруженный товар упакован не полностью.\r\n"
-                     "Вы уверены, что хотите отправить документ в таком виде?",
-                     BoxIcon::none);
+  return wantsPartlyPacked(editor);
 }
 
 /// Whether the finished document goes out. A user who was asked about the packages is asked again
@@ -42,8 +39,7 @@ bool maySend(Editor& editor) {
   if (form.txtNrAwiza.text() == form.LastSentNumber) {
     if (!isConfirmed(editor,
                      "Вы пытаетесь отослать документ с уже существующим номером.\r"
-                     "Продолжить?",
-                     BoxIcon::question)) {
+                     "Продолжить?")) {
       return false;
     }
     form.grdPozycje.refresh();
@@ -51,8 +47,7 @@ bool maySend(Editor& editor) {
     return true;
   }
   if (editor.session.SendQuestionAsked) return true;
-  return isConfirmed(editor, "Выслать составленный документ подтверждения отгрузки?",
-                     BoxIcon::question);
+  return isConfirmed(editor, "Выслать составленный документ подтверждения отгрузки?");
 }
 
 void post(Editor& editor, XmlDocument& document) {
