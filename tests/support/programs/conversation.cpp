@@ -49,6 +49,7 @@ void Conversation::act(const Json& line) {
   Json numbered = line;
   numbered["id"] = ++lastId_;
   expectedGood_.push_back(lastId_);
+  if (line.contains("answer")) answerId_ = lastId_;
   exchange(numbered.dump());
 }
 
@@ -95,18 +96,19 @@ Json Conversation::call(std::string_view procedure, const Json& arguments) {
 }
 
 std::string Conversation::openBox() {
-  if (boxes_.empty()) {
+  if (!box_) {
     ADD_FAILURE() << "no message box is open";
     return "";
   }
-  return boxes_.back().text;
+  return box_->text;
 }
 
 std::vector<std::string> Conversation::answerAll(std::string_view question) {
   std::vector<std::string> seen;
-  while (!boxes_.empty()) {
-    seen.push_back(boxes_.back().text);
-    answer(boxes_.back().isQuestion ? question : "OK");
+  while (box_) {
+    seen.push_back(box_->text);
+    answer(box_->isQuestion ? question : "OK");
+    if (!closings_[answerId_].value("ok", false)) break;
   }
   return seen;
 }
@@ -142,14 +144,15 @@ void Conversation::take(const Json& output) {
     }
     const int number = id->get<int>();
     closings_[number] = output;
+    if (number == answerId_) box_.reset();
     if (std::erase(expectedGood_, number) != 0) {
       EXPECT_EQ(output["ok"], true) << output;
     }
   } else if (output["event"] == "message") {
     noteSeenBox(output);
-    boxes_.push_back({output["title"].get<std::string>() + "|" + output["icon"].get<std::string>() +
-                          "|" + output["text"].get<std::string>(),
-                      output["buttons"] == "YesNo"});
+    box_ = Box{output["title"].get<std::string>() + "|" + output["icon"].get<std::string>() + "|" +
+                   output["text"].get<std::string>(),
+               output["buttons"] == "YesNo"};
   } else {
     events_.push_back(output);
   }

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -88,7 +89,8 @@ class Conversation {
   std::map<int, Json> closings_;   ///< by the line's id
   std::vector<int> expectedGood_;  ///< lines whose closing line may come later
   Json unnumbered_;                ///< the last closing line without a number
-  std::vector<Box> boxes_;         ///< open, at most one
+  std::optional<Box> box_;         ///< the open one
+  int answerId_ = 0;               ///< line that answers it
   std::vector<Json> events_;
 };
 

@@ -1,5 +1,7 @@
 #include "support/programs/demo_service.h"
 
+#include <httplib.h>
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -25,7 +27,23 @@ DemoService::DemoService(const std::filesystem::path& postedFolder,
   const auto port = program_.readLine();
   const auto page = program_.readLine();
   if (!port || !page) throw std::runtime_error("the demo service didn't start");
+  port_ = std::stoi(port->substr(port->find(' ') + 1));
   pageUrl_ = *page;
+}
+
+void DemoService::setFaults(const std::string& faults) {
+  httplib::Client client("127.0.0.1", port_);
+  const auto reply = client.Post("/_faults", faults, "text/plain");
+  if (!reply || reply->status != 200) {
+    throw std::runtime_error("the demo service doesn't take the faults");
+  }
+}
+
+nlohmann::ordered_json DemoService::requests() const {
+  httplib::Client client("127.0.0.1", port_);
+  const auto reply = client.Get("/_requests");
+  if (!reply) throw std::runtime_error("the demo service doesn't tell its requests");
+  return nlohmann::ordered_json::parse(reply->body);
 }
 
 std::vector<std::string> DemoService::posted() const {

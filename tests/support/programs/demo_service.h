@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,10 +21,16 @@ class DemoService {
   const std::string& pageUrl() const { return pageUrl_; }
   /// What was posted, in order; each a document as it came.
   std::vector<std::string> posted() const;
+  /// Lets exchanges fail from now on: lines "order=drop".
+  void setFaults(const std::string& faults);
+  /// The requests so far, as the service remembers them: exchange, target, cookie, contentType,
+  /// body.
+  nlohmann::ordered_json requests() const;
 
  private:
   ChildProcess program_;
   std::filesystem::path postedFolder_;
+  int port_ = 0;
   std::string pageUrl_;
 };
 

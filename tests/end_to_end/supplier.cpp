@@ -1,0 +1,74 @@
+#include "end_to_end/supplier.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace awizo::test {
+
+std::vector<std::string> Supplier::options() const {
+  return {"--offline-path", place.folder().string(),    "--locale",   locale_,
+          "--now",          "2026-11-21T10:15:00",      "--property", "PartnerName=Demo",
+          "--property",     "PartnerILN=9520002000019", "--property", "PartnerURL=partner"};
+}
+
+Conversation Supplier::startOffLine(const std::vector<std::string>& more) const {
+  std::vector<std::string> all = options();
+  all.insert(all.end(), {"--property", "OnLine=Off"});
+  all.insert(all.end(), more.begin(), more.end());
+  return Conversation(all);
+}
+
+Conversation Supplier::startOnLine(const DemoService& service,
+                                   const std::vector<std::string>& more) const {
+  std::vector<std::string> all = options();
+  all.insert(all.end(), {"--page-url", service.pageUrl(), "--cookie", "session=1; user=anna"});
+  all.insert(all.end(), more.begin(), more.end());
+  return Conversation(all);
+}
+
+std::string Supplier::number(std::string_view withPoint) const {
+  std::string text(withPoint);
+  if (locale_ == "ru_RU") std::ranges::replace(text, '.', ',');
+  return text;
+}
+
+ReadDocument::ReadDocument(std::string_view xml) : document_(Libxml2().createDocument()) {
+  EXPECT_TRUE(document_->loadBytes(xml)) << xml;
+}
+
+std::string ReadDocument::text(std::string_view path) const {
+  const XmlNode node = document_->node().selectSingle(path);
+  return node ? node.text() : "(none)";
+}
+
+std::size_t ReadDocument::count(std::string_view path) const {
+  return document_->node().selectAll(path).size();
+}
+
+void completeHeader(Conversation& editor, std::string_view number) {
+  editor.type("txtNrAwiza", number);
+  editor.type("txtCodeByBuyer", "417");
+}
+
+void addPackage(Conversation& editor, std::string_view description, std::string_view serial,
+                int parent) {
+  editor.click("btnDodajOpak");
+  editor.type("DlgSzczegoly.txtPackageDesc", description);
+  if (parent >= 0) editor.choose("DlgSzczegoly.cboxParentPackage", parent);
+  editor.type("DlgSzczegoly.cboxILNLokalizacji", "9520002001016");
+  editor.type("DlgSzczegoly.txtSerialNumberN", serial);
+  editor.click("DlgSzczegoly.btnDodaj");
+}
+
+void packLine(Conversation& editor, int row, std::string_view package, std::string_view quantity) {
+  editor.cell("grdPozycje", row, 1);
+  editor.click("btnEdytuj");
+  editor.click("DlgDodaj.Command1");
+  editor.chooseText("DlgdodajPule.cboxPackages", package);
+  editor.type("DlgdodajPule.txtQuantity", quantity);
+  editor.click("DlgdodajPule.btnDodaj");
+  editor.click("DlgDodaj.btnDodaj");
+}
+
+}  // namespace awizo::test
