@@ -1,0 +1,151 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/forms/keys.h"
+#include "session/test_control.h"
+#include "tables/columns.h"
+
+namespace awizo::test {
+
+/// What a user types into the line dialog.
+struct LineEntry {
+  std::string ean = "4607000000116";
+  std::string name = "Чай";
+  std::string ordered{};
+  std::string despatched = "5";
+};
+
+/// What a user types into the package dialog. `parent`: row of the list of parents, -1 for none.
+struct PackageEntry {
+  std::string description;
+  int parent = -1;
+  std::string serialNumber = "106141412345678908";
+};
+
+/// A user off line before an empty document, and what such a user does.
+struct Desk : TestControl {
+  explicit Desk(std::string_view localeName = "ru_RU", std::string_view debugLevel = "")
+      : TestControl(localeName) {
+    prepareFolder();
+    bag.values["OnLine"] = "Off";
+    bag.values["DebugLevel"] = debugLevel;
+    files.put(partnerFile, partnerInfo("ООО Покупатель"));
+    start();
+  }
+
+  Table& lines = form.grdPozycje;
+  Table& packages = form.grdOpakowania;
+  Table& totals = form.grdSuma;
+  DlgDodaj& lineDialog = control.dlgDodaj;
+  DlgSzczegoly& packageDialog = control.dlgSzczegoly;
+
+  std::vector<std::string> takeBoxes() { return describe(face.takeBoxes()); }
+
+  // On the line dialog.
+
+  void type(const LineEntry& entry) {
+    lineDialog.txtlEANProdWart.userType(entry.ean);
+    lineDialog.txtNazwaProdWart.userType(entry.name);
+    if (lineDialog.txtIloscZam.enabled()) lineDialog.txtIloscZam.userType(entry.ordered);
+    lineDialog.txtIloscPotw.userType(entry.despatched);
+  }
+  void addLine(const LineEntry& entry) {
+    face.onModal([this, entry] {
+      type(entry);
+      lineDialog.btnDodaj.userClick();
+    });
+    form.btnDodaj.userClick();
+  }
+  /// Opens the dialog for the current line; the user acts there and accepts.
+  void editLine(const std::function<void()>& act) {
+    face.onModal([this, act] {
+      act();
+      lineDialog.btnDodaj.userClick();
+    });
+    form.btnEdytuj.userClick();
+  }
+  /// The user closes the next modal form without a choice.
+  void closeNextForm() {
+    face.onModal([](Form& shown) { shown.userClose(); });
+  }
+  /// In the open line dialog: puts a quantity of the line into a package.
+  void assign(int package, const std::string& quantity) {
+    face.onModal([this, package, quantity] {
+      control.dlgdodajPule.cboxPackages.userChoose(package);
+      control.dlgdodajPule.txtQuantity.userType(quantity);
+      control.dlgdodajPule.btnDodaj.userClick();
+    });
+    lineDialog.Command1.userClick();
+  }
+
+  // On the package dialog.
+
+  void type(const PackageEntry& entry) {
+    packageDialog.txtPackageDesc.userType(entry.description);
+    if (entry.parent >= 0) packageDialog.cboxParentPackage.userChoose(entry.parent);
+    packageDialog.cboxILNLokalizacji.userType("9520002000026");
+    packageDialog.txtSerialNumberN.userType(entry.serialNumber);
+  }
+  void addPackage(const PackageEntry& entry) {
+    face.onModal([this, entry] {
+      type(entry);
+      packageDialog.btnDodaj.userClick();
+    });
+    form.btnDodajOpak.userClick();
+  }
+  void editPackage(const std::function<void()>& act) {
+    face.onModal([this, act] {
+      act();
+      packageDialog.btnDodaj.userClick();
+    });
+    form.btnEdytujOpak.userClick();
+  }
+
+  // Documents of a size that nobody would type.
+
+  /// So many lines with plain values; none of them lies in a package.
+  void putLines(int count) {
+    lines.setRows(count == 0 ? 2 : count + 1);
+    session.LineCount = static_cast<std::int16_t>(count);
+    for (int row = 1; row <= count; ++row) {
+      lines.setCell(row, GRD_POZ_LP, std::to_string(row));
+      lines.setCell(row, GRD_POZ_EAN, "4607000000116");
+      lines.setCell(row, GRD_POZ_QTY_ORDERED, "5,000");
+      lines.setCell(row, GRD_POZ_QTY_DESPATCHED, "1,000");
+      lines.setCell(row, GRD_POZ_NET_AMOUNT, "2,00");
+      lines.setCell(row, GRD_POZ_PRODUCTION_DATE, "2026-11-21");
+      lines.setCell(row, GRD_POZ_PACKED_QTY, "0,000");
+    }
+    lines.setRow(1);
+  }
+  /// So many packages; row i has serial i + 1. `parentRow` gives the row of a row's parent, 0 for a
+  /// top package.
+  void putPackages(int count, const std::function<int(int row)>& parentRow) {
+    packages.setRows(count == 0 ? 2 : count + 1);
+    session.IloscPozycjiOpak = static_cast<std::int16_t>(count);
+    form.LastPackageSerial = static_cast<std::int16_t>(count + 1);
+    for (int row = 1; row <= count; ++row) {
+      const int parent = parentRow(row);
+      packages.setCell(row, GRD_OPAK_LP, std::to_string(row));
+      packages.setCell(row, GRD_OPAK_ID_LOW, std::to_string(row));
+      packages.setCell(row, GRD_OPAK_DESC, "П" + std::to_string(row));
+      packages.setCell(row, GRD_OPAK_LEVEL, "1");
+      packages.setCell(row, GRD_OPAK_PARENT_SERIAL, std::to_string(parent + 1));
+      packages.setCell(row, GRD_OPAK_SERIAL, std::to_string(row + 1));
+    }
+    packages.setRow(1);
+  }
+
+  /// Texts of one column, from row 1 to the last.
+  static std::vector<std::string> column(const Table& table, int column) {
+    std::vector<std::string> texts;
+    for (int row = 1; row < table.rows(); ++row) texts.push_back(table.cell(row, column));
+    return texts;
+  }
+};
+
+}  // namespace awizo::test

@@ -1,0 +1,80 @@
+#include "desk.h"
+#include "tables/editing/in_table_editing.h"
+
+namespace awizo::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+constexpr const char* noNumber = "VIRD|exclamation|OK|Неправильная нумерическая величина.";
+
+/// The procedures of in-table editing, called as code calls them.
+class EditProcedures : public ::testing::Test, public Desk {
+ protected:
+  EditProcedures() {
+    putLines(3);
+    lines.setRow(2);
+    lines.setColumn(GRD_POZ_QTY_DESPATCHED);
+  }
+
+  TextField& field = form.txtEdycja;
+};
+
+TEST_F(EditProcedures, EditGridCellTypesACharacterOverTheText) {
+  EditGridCell(lines, field, '7');
+  EXPECT_EQ(field.text(), "7");
+  EXPECT_EQ(field.caret(), 1);
+  EXPECT_TRUE(field.visible());
+}
+
+TEST_F(EditProcedures, EditGridCellTakesTheTextOverForKeysWithoutACharacter) {
+  for (const std::int16_t key : {std::int16_t{0}, std::int16_t{13}, std::int16_t{32}}) {
+    EditGridCell(lines, field, key);
+    EXPECT_EQ(field.text(), "1,000");
+  }
+}
+
+TEST_F(EditProcedures, EditGridCellServesAnyPair) {
+  totals.setRow(1);
+  totals.setCell(1, 0, "12");
+  totals.setColumn(0);
+  EditGridCell(totals, form.txtEdycjaSuma, 32);
+  EXPECT_EQ(form.txtEdycjaSuma.text(), "12");
+  EXPECT_EQ(form.focus(), &form.txtEdycjaSuma);
+}
+
+TEST_F(EditProcedures, ClampQuantityHoldsANumberBetweenNoneAndTheOrder) {
+  session.EditRow = 1;
+  lines.setCell(1, GRD_POZ_QTY_ORDERED, "5,250");
+  EXPECT_EQ(ClampQuantity(editor, "5.25"), "5,250");
+  EXPECT_EQ(ClampQuantity(editor, "5,2504"), "5,250");
+  EXPECT_EQ(ClampQuantity(editor, "5,2506"), "5,250");
+  EXPECT_EQ(ClampQuantity(editor, "1000000"), "5,250");
+  EXPECT_EQ(ClampQuantity(editor, "-0,0001"), "-0,000");
+  EXPECT_EQ(ClampQuantity(editor, "-1"), "0,000");
+  EXPECT_EQ(ClampQuantity(editor, "0"), "0,000");
+  EXPECT_EQ(ClampQuantity(editor, "x"), "");
+  EXPECT_EQ(ClampQuantity(editor, ""), "");
+}
+
+TEST_F(EditProcedures, CheckNumberWarnsOfWhatIsNone) {
+  EXPECT_TRUE(CheckNumber(editor, "1,5"));
+  EXPECT_THAT(takeBoxes(), IsEmpty());
+  EXPECT_FALSE(CheckNumber(editor, "x"));
+  EXPECT_FALSE(CheckNumber(editor, ""));
+  EXPECT_FALSE(CheckNumber(editor, "1.5"));
+  EXPECT_THAT(takeBoxes(), ElementsAre(noNumber, noNumber, noNumber));
+}
+
+TEST_F(EditProcedures, EnterIsSwallowedInTheField) {
+  std::int16_t code = 13;
+  txtEdycja_KeyPress(code);
+  EXPECT_EQ(code, 0);
+  code = '7';
+  txtEdycja_KeyPress(code);
+  EXPECT_EQ(code, '7');
+}
+
+}  // namespace
+}  // namespace awizo::test
