@@ -38,6 +38,7 @@ void completeOrder(XmlDocument& catalogue, XmlDocument& order) {
   const std::vector<XmlNode> lines =
       order.node().selectSingle("/Document-Order/Order-Lines").children();
   std::vector<std::string> eans;
+  eans.reserve(lines.size());
   for (const XmlNode& line : lines) {
     eans.push_back(orderValue(lineElement(line), "Line-Item/EAN", Missing::blank));
   }

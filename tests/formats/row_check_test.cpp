@@ -39,6 +39,7 @@ struct RowCheck : ::testing::Test {
 
   std::vector<Colour> colours(int row) const {
     std::vector<Colour> found;
+    found.reserve(static_cast<std::size_t>(table.columns()));
     for (int column = 0; column < table.columns(); ++column) {
       found.push_back(table.look(row, column).background);
     }

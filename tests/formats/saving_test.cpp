@@ -9,7 +9,6 @@
 namespace awizo::test {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 constexpr const char* partlyPacked =
