@@ -76,5 +76,20 @@ TEST_F(EditProcedures, EnterIsSwallowedInTheField) {
   EXPECT_EQ(code, '7');
 }
 
+TEST_F(EditProcedures, TheTotalsEditorIsClosedByTheLinesFocusAndByItsOwnCell) {
+  form.txtEdycjaSuma.setVisible(true);
+  form.txtEdycjaSuma.setText("9");
+  totals.setRow(1);
+  totals.setColumn(2);
+  EXPECT_EQ(totals.cell(1, 0), "9");
+  EXPECT_FALSE(form.txtEdycjaSuma.visible());
+  form.txtEdycjaSuma.setVisible(true);
+  form.txtEdycjaSuma.setText("8");
+  form.txtNrAwiza.userFocus();
+  lines.userFocus();
+  EXPECT_EQ(totals.cell(1, 2), "8");
+  EXPECT_FALSE(form.txtEdycjaSuma.visible());
+}
+
 }  // namespace
 }  // namespace awizo::test

@@ -363,21 +363,6 @@ TEST_F(InTableEditing, TheTextStaysUntilTheNextOpening) {
   EXPECT_EQ(field.text(), "1,000");
 }
 
-TEST_F(InTableEditing, TheTotalsEditorIsClosedByTheLinesFocusAndByItsOwnCell) {
-  form.txtEdycjaSuma.setVisible(true);
-  form.txtEdycjaSuma.setText("9");
-  totals.setRow(1);
-  totals.setColumn(2);
-  EXPECT_EQ(totals.cell(1, 0), "9");
-  EXPECT_FALSE(form.txtEdycjaSuma.visible());
-  form.txtEdycjaSuma.setVisible(true);
-  form.txtEdycjaSuma.setText("8");
-  form.txtNrAwiza.userFocus();
-  lines.userFocus();
-  EXPECT_EQ(totals.cell(1, 2), "8");
-  EXPECT_FALSE(form.txtEdycjaSuma.visible());
-}
-
 TEST_F(InTableEditing, AnErrorAtAKeyIsTold) {
   openEditor(2);
   field.userType("4");
