@@ -36,6 +36,8 @@ DlgSzczegoly::DlgSzczegoly(Editor& editor)
       btnDodaj(*this, "btnDodaj", "&Добавить"),
       btnZamknij(*this, "btnZamknij", "&Назад"),
       editor_(editor) {
+  // Of the two numbers the user sees the lower one.
+  lbIDValue.cover = &lblIDLowValue;
   acceptButton = &btnDodaj;
   closeButton = &btnZamknij;
   onClose = [this] { btnZamknij_Click(); };

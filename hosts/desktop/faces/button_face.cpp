@@ -12,7 +12,7 @@
 namespace awizo::desktop {
 namespace {
 
-constexpr int pictureSize = 24;
+constexpr int pictureSize = 20;
 
 QAbstractButton* makeButton(const Button& button, QWidget* parent) {
   if (button.isFocusable()) {
@@ -55,6 +55,7 @@ void ButtonFace::setWords(const QString& words) {
   words_ = words;
   if (auto* picture = qobject_cast<QToolButton*>(widget_)) {
     picture->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    picture->setAutoRaise(false);
   }
   showContent();
 }

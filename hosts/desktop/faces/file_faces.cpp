@@ -12,7 +12,8 @@ namespace awizo::desktop {
 namespace {
 
 constexpr int pathRole = Qt::UserRole;
-constexpr int depthIndent = 3;
+constexpr int depthIndent = 3;  ///< blanks before a name for each folder above it
+constexpr int iconSize = 16;
 
 QString joined(const QString& folder, const QString& name) {
   return folder.endsWith('\\') ? folder + name : folder + '\\' + name;
@@ -22,6 +23,7 @@ QListWidget* makeList(QWidget* parent) {
   auto* list = new QListWidget(parent);
   list->setFocusPolicy(Qt::TabFocus);
   list->setUniformItemSizes(true);
+  list->setIconSize({iconSize, iconSize});
   list->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   return list;
 }

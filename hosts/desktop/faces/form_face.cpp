@@ -101,6 +101,8 @@ void FormFace::stateShown(Face& face) {
     if (control->cover == &face.control()) covered->showAll();
   }
   if (onStateShown) onStateShown(face);
+  // What came to sight may be where the focus has been all along.
+  if (form_.focus() != nullptr) followFocus();
 }
 
 void FormFace::focusCame(Face& face, Qt::FocusReason reason) {

@@ -82,6 +82,8 @@ void TableFace::showChange(const Change& change) {
       Face::showChange(change);
       break;
     case Aspect::cell:
+      // A heading may need more room than the one before.
+      if (change.row < table_.fixedRows()) relayColumn(change.column);
       if (table_.redraw() && !stale_) {
         rows_->cellChanged(change.row, change.column);
       } else {
@@ -157,6 +159,12 @@ void TableFace::showWidths() {
     const int heading = view_->horizontalHeader()->sectionSizeHint(column);
     view_->setColumnWidth(column, std::max(heading, qRound(width * pointsPerTwip())));
   }
+}
+
+void TableFace::relayColumn(int column) {
+  const auto place = static_cast<std::size_t>(column);
+  if (place < shownWidths_.size()) shownWidths_[place] = -1;
+  if (!stale_) showWidths();
 }
 
 void TableFace::showHeights() {

@@ -45,6 +45,7 @@ class TableFace : public Face {
   void rowsChanged();
   void showLater();
   void showWidths();
+  void relayColumn(int column);
   void showHeights();
   void showSelection();
   void showTop();

@@ -1,3 +1,4 @@
+#include <QAbstractButton>
 #include <QVBoxLayout>
 
 #include "hosts/desktop/faces/button_face.h"
@@ -99,6 +100,7 @@ void layOut(DlgDodaj& form, FormDialog& dialog) {
   large.setBold(true);
   heading->setFont(large);
   button(faces, form.btnISOcodes).setPicture("countries");
+  static_cast<QAbstractButton*>(faces.widget(form.btnISOcodes))->setIconSize({16, 16});
 
   auto* middle = new QHBoxLayout;
   middle->addWidget(makeAmounts(form, faces), 2);

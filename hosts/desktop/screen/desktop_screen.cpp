@@ -36,7 +36,16 @@ QWidget* DesktopScreen::topWindow() const {
   return top == opened_.rend() ? mainWindow_.data() : *top;
 }
 
-Answer DesktopScreen::ask(const MessageBox& box) { return askUser(box, topWindow()); }
+// Not every platform activates the window below by itself.
+void DesktopScreen::activateTop() {
+  if (QWidget* top = topWindow()) top->activateWindow();
+}
+
+Answer DesktopScreen::ask(const MessageBox& box) {
+  const Answer answer = askUser(box, topWindow());
+  activateTop();
+  return answer;
+}
 
 void DesktopScreen::formOpened(Form& form) {
   if (&form == mainForm_) return;
@@ -51,7 +60,7 @@ void DesktopScreen::formOpened(Form& form) {
 
 void DesktopScreen::runModal(Form& form) {
   dialog(form).runUntilHidden();
-  if (QWidget* below = topWindow()) below->activateWindow();
+  activateTop();
 }
 
 void DesktopScreen::cursorChanged(Cursor cursor) {

@@ -36,6 +36,8 @@ class DesktopScreen : public ScreenFace {
   bool programEnded() const { return programEnded_; }
 
  private:
+  void activateTop();
+
   const Form* mainForm_ = nullptr;
   QPointer<QWidget> mainWindow_;
   std::map<Form*, QPointer<FormDialog>> dialogs_;

@@ -1,0 +1,101 @@
+#include "desk.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include "hosts/desktop/faces/table_face.h"
+#include "tables/columns.h"
+
+namespace awizo::test {
+namespace {
+
+constexpr int patienceMilliseconds = 30000;
+
+std::string contentOf(const std::string& path) {
+  QFile file(QString::fromStdString(std::string(AWIZO_SOURCE_DIR) + "/" + path));
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path;
+  return file.readAll().toStdString();
+}
+
+}  // namespace
+
+Desk::Desk(std::string_view localeName)
+    : TestSurroundings(localeName),
+      deskPlatform{xml,   http,  page,   bag,        host,     settings,
+                   files, clock, locale, deskScreen, {1, 2, 3}},
+      session(deskPlatform),
+      control(deskPlatform, session) {
+  settings.values["VIRD\\VirdActiveX\\OffLinePath"] = "c:\\VIRD";
+  files.put("c:\\VIRD\\userinfo.xml", contentOf("demo/folder/userinfo.xml"));
+  files.put("c:\\VIRD\\9520001000010_9520002000019_partner_INFO.xml",
+            contentOf("demo/folder/9520001000010_9520002000019_partner_INFO.xml"));
+  bag.values["PartnerILN"] = "9520002000019";
+  bag.values["OnLine"] = "Off";
+
+  mainFaces = new desktop::FormFace(form, mainWindow);
+  auto* rows = new QVBoxLayout(&mainWindow);
+  for (const Control* shown : form.controls()) {
+    if (shown != &form.txtEdycja) rows->addWidget(mainFaces->widget(*shown));
+  }
+  auto& lines = static_cast<desktop::TableFace&>(face(form.grdPozycje));
+  lines.view()->setMinimumHeight(300);
+  lines.layOverCell(face(form.txtEdycja));
+  mainWindow.resize(1100, 1500);
+  mainFaces->showAll();
+  desktop.setMainWindow(form, mainWindow);
+  mainWindow.show();
+  mainWindow.activateWindow();
+  settle();
+
+  QObject::connect(&patience_, &QTimer::timeout, [] {
+    ADD_FAILURE() << "a dialog or box waits for a user who isn't there";
+    QCoreApplication::exit(1);
+  });
+  patience_.start(patienceMilliseconds);
+  control.UserControl_Initialize();
+  control.UserControl_ReadProperties();
+  control.UserControl_Show();
+  settle();
+}
+
+Desk::~Desk() {
+  desktop.releaseDialogs();
+  delete mainFaces;
+}
+
+desktop::Face& Desk::face(const Control& shown) {
+  if (&shown.form() == &form) return mainFaces->face(shown);
+  return desktop.dialog(shown.form()).faces().face(shown);
+}
+
+void Desk::loadCatalogues() {
+  ASSERT_TRUE(session.ProductCatalogDom->loadText(contentOf("demo/data/catalogue.xml")));
+  session.ProductCatalogLoaded = true;
+  ASSERT_TRUE(session.LocalizationsDom->loadText(contentOf("demo/data/delivery-places.xml")));
+  session.LocalizationsLoaded = true;
+}
+
+void Desk::fillDocument() {
+  TestEditor::fill(form.grdPozycje,
+                   {{"1", "9520001010026", "Молоко пастеризованное 3,2 %, 0,9 л", "5,000", "5,000"},
+                    {"2", "4600000000024", "Кефир 1 % 0,5 л", "12,000", "10,000"}});
+  session.LineCount = 2;
+  for (int row = 1; row <= 2; ++row) {
+    form.grdPozycje.setCell(row, GRD_POZ_PRODUCTION_DATE, "2026-11-20");
+    form.grdPozycje.setCell(row, GRD_POZ_PACKED_QTY, "0,000");
+  }
+  TestEditor::fill(form.grdOpakowania, {{"1", "", "1", "Паллета 1", "1"},
+                                        {"2", "", "2", "Паллета 2", "1"},
+                                        {"3", "Паллета 1", "3", "Коробка", "2"}});
+  for (int row = 1; row <= 3; ++row) {
+    form.grdOpakowania.setCell(row, GRD_OPAK_SERIAL, std::to_string(row + 1));
+    form.grdOpakowania.setCell(row, GRD_OPAK_PARENT_SERIAL, row == 3 ? "2" : "1");
+  }
+  session.IloscPozycjiOpak = 3;
+  form.LastPackageSerial = 4;
+  settle();
+}
+
+}  // namespace awizo::test

@@ -1,0 +1,123 @@
+#include "user.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+namespace awizo::test {
+
+using desktop::toText;
+
+void settle() { QCoreApplication::processEvents(); }
+
+QWidget* keyTarget() {
+  if (QWidget* popup = QApplication::activePopupWidget()) return popup;
+  // A window that has become active hears of it by an event.
+  if (QApplication::activeWindow() == nullptr) settle();
+  QWidget* focus = QApplication::focusWidget();
+  if (focus != nullptr) return focus;
+  QWidget* window = QApplication::activeWindow();
+  EXPECT_NE(window, nullptr) << "no window is active";
+  return window;
+}
+
+void press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  QWidget* target = keyTarget();
+  if (target == nullptr) return;
+  const bool beyondAscii = key > 0x7f && key < Qt::Key_Escape;
+  if (beyondAscii) {
+    QTest::sendKeyEvent(QTest::Click, target, key, QString(QChar(key)), modifiers);
+  } else {
+    QTest::keyClick(target, key, modifiers);
+  }
+}
+
+void type(const QString& text) {
+  for (const QChar character : text) {
+    // A key may have moved the focus or opened a pop-up.
+    QWidget* target = keyTarget();
+    if (target == nullptr) return;
+    const auto key = static_cast<Qt::Key>(character.toUpper().unicode());
+    QTest::sendKeyEvent(QTest::Click, target, key, QString(character), Qt::NoModifier);
+  }
+}
+
+void paste(const QString& text) {
+  QApplication::clipboard()->setText(text);
+  press(Qt::Key_V, Qt::ControlModifier);
+}
+
+void click(QWidget* widget, QPoint at) {
+  QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, at);
+}
+
+void doubleClick(QWidget* widget, QPoint at) {
+  QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, at);
+  QTest::mouseDClick(widget, Qt::LeftButton, Qt::NoModifier, at);
+}
+
+void click(const desktop::Face& face) { click(face.focusWidget()); }
+
+void typeOver(const desktop::Face& face, const QString& text) {
+  click(face);
+  press(Qt::Key_A, Qt::ControlModifier);
+  type(text);
+}
+
+void then(std::function<void()> act) { QTimer::singleShot(0, qApp, std::move(act)); }
+
+QMessageBox* openBox() {
+  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  EXPECT_NE(box, nullptr) << "no box is open";
+  return box;
+}
+
+std::string seen(const QMessageBox& box) {
+  std::string buttons;
+  for (const QAbstractButton* button : box.buttons()) {
+    if (!buttons.empty()) buttons += ",";
+    buttons += toText(button->text());
+  }
+  const char* icon = "none";
+  if (box.icon() == QMessageBox::Critical) icon = "critical";
+  if (box.icon() == QMessageBox::Question) icon = "question";
+  if (box.icon() == QMessageBox::Warning) icon = "exclamation";
+  if (box.icon() == QMessageBox::Information) icon = "information";
+  return std::string(icon) + "|" + toText(box.windowTitle()) + "|" + toText(box.text()) + "|" +
+         buttons;
+}
+
+void answerNext(const QString& button, std::string* seenBox) {
+  then([button, seenBox] {
+    QMessageBox* box = openBox();
+    if (box == nullptr) return;
+    if (seenBox != nullptr) *seenBox = seen(*box);
+    for (QAbstractButton* offered : box->buttons()) {
+      if (offered->text() == button) return click(offered);
+    }
+    ADD_FAILURE() << "no such button: " << toText(button);
+    box->close();
+  });
+}
+
+std::string shownText(const QWidget* widget) {
+  if (const auto* edit = qobject_cast<const QLineEdit*>(widget)) return toText(edit->text());
+  if (const auto* label = qobject_cast<const QLabel*>(widget)) return toText(label->text());
+  if (const auto* box = qobject_cast<const QComboBox*>(widget)) return toText(box->currentText());
+  if (const auto* group = qobject_cast<const QGroupBox*>(widget)) return toText(group->title());
+  if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
+    return toText(button->text());
+  }
+  if (const auto* edit = widget->findChild<QLineEdit*>()) return toText(edit->text());
+  return "(shows no text)";
+}
+
+std::string shownText(const desktop::Face& face) { return shownText(face.widget()); }
+
+}  // namespace awizo::test
