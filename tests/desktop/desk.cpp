@@ -11,7 +11,7 @@
 namespace awizo::test {
 namespace {
 
-constexpr int patienceMilliseconds = 30000;
+constexpr int patienceMilliseconds = 10000;
 
 std::string contentOf(const std::string& path) {
   QFile file(QString::fromStdString(std::string(AWIZO_SOURCE_DIR) + "/" + path));

@@ -18,8 +18,13 @@ void settle() { QCoreApplication::processEvents(); }
 
 QWidget* keyTarget() {
   if (QWidget* popup = QApplication::activePopupWidget()) return popup;
-  // A window that has become active hears of it by an event.
-  if (QApplication::activeWindow() == nullptr) settle();
+  // A window hears by an event that it has become active.
+  const auto topIsActive = [] {
+    QWidget* modal = QApplication::activeModalWidget();
+    QWidget* active = QApplication::activeWindow();
+    return modal == nullptr ? active != nullptr : active == modal;
+  };
+  EXPECT_TRUE(QTest::qWaitFor(topIsActive, 1000)) << "the topmost window is not active";
   QWidget* focus = QApplication::focusWidget();
   if (focus != nullptr) return focus;
   QWidget* window = QApplication::activeWindow();

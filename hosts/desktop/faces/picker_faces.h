@@ -24,6 +24,7 @@ class PickerFace : public Face {
   void showHasValue(bool hasValue);
   bool pressKey(QKeyEvent& key) override;
   bool takesWheel() const override { return false; }
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void takeChecked(bool checked);
