@@ -76,7 +76,7 @@ BREACHES = [
      append("src/tables/planted.h", "#pragma once\n\n// As the spe" "c says.\n")),
     ("scripts", "a script of the shell doesn't parse", append("tools/build", "if true; then\n")),
     ("scripts", "a script of the shell splits what it should not", append("tools/build", "rm $1\n")),
-    ("scripts", "a script in Python doesn't parse", append("tools/checks/words.py", "def\n")),
+    ("scripts", "a script in Python doesn't parse", append("tools/planted.py", "def\n")),
     ("formatting", "a file is laid out in another way",
      append("src/tables/planted.h", "#pragma once\n\ninline  int planted( ) {return 1 ;}\n")),
     ("warnings", "a target compiles without the project's warnings",
