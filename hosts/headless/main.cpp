@@ -7,18 +7,18 @@
 #include "hosts/headless/headless_program.h"
 
 int main(int argumentCount, char** arguments) {
-  using namespace awizo::headless;
+  namespace headless = awizo::headless;
   // Who no longer reads what is said must not end the program half-way.
   std::signal(SIGPIPE, SIG_IGN);
   std::ios::sync_with_stdio(false);
   std::cin.tie(nullptr);
   try {
-    return runHeadless(parseOptions({arguments + 1, arguments + argumentCount}), std::cin,
-                       std::cout);
-  } catch (const BadArguments& error) {
-    std::cerr << "awizo-headless: " << error.what() << '\n' << usage;
+    return headless::runHeadless(headless::parseOptions({arguments + 1, arguments + argumentCount}),
+                                 std::cin, std::cout);
+  } catch (const headless::BadArguments& error) {
+    std::cerr << "awizo-headless: " << error.what() << '\n' << headless::usage;
   } catch (const std::exception& error) {
     std::cerr << "awizo-headless: " << error.what() << '\n';
   }
-  return exitBadArguments;
+  return headless::exitBadArguments;
 }

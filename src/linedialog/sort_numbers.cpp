@@ -64,7 +64,7 @@ std::int32_t Sorter::PartitionNumbers(const Keys& keys, Index& index, std::int32
       }
       return keys[static_cast<std::size_t>(at)];
     };
-    const std::string pivotKey = key(left);
+    const std::string& pivotKey = key(left);
     std::int32_t i = left + 1;
     std::int32_t j = right;
     while (i <= j) {
