@@ -199,9 +199,5 @@ class DlgDodaj : public Form {
 
 /// Adds the entry at the end unless a row is the same but for case.
 void addMissingRow(DropDownList& list, const std::string& entry, const Locale& locale);
-/// Writes the five headings of a line's packages into row 0.
-void writePackageHeadings(Table& table, const CellLook& look);
-/// The ten countries of the fixed list, as the lists show them.
-const std::vector<std::string>& fixedCountries();
 
 }  // namespace awizo

@@ -113,12 +113,4 @@ void CheckIsoCountry(SessionState& session, DlgIsoCodes& dialog, const Locale& l
   }
 }
 
-std::string countryEntry(std::string_view code, std::string_view name) {
-  std::string entry = "(";
-  entry += code;
-  entry += ")";
-  entry += name;
-  return entry;
-}
-
 }  // namespace awizo

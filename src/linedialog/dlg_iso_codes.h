@@ -7,6 +7,7 @@
 #include "platform/forms/form.h"
 #include "platform/forms/table.h"
 #include "platform/locale.h"
+#include "session/record/countries.h"
 #include "session/record/session_state.h"
 
 namespace awizo {
@@ -48,8 +49,5 @@ class DlgIsoCodes : public Form {
 /// IsoCheckCode of the session hold the outcome. The empty text is a right country without code.
 void CheckIsoCountry(SessionState& session, DlgIsoCodes& dialog, const Locale& locale,
                      std::string& text);
-
-/// "(RU)Россия": a country as the lists of countries show it.
-std::string countryEntry(std::string_view code, std::string_view name);
 
 }  // namespace awizo

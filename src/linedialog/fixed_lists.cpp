@@ -25,18 +25,11 @@ constexpr std::array<std::string_view, 3> rates{"0", "10", "18"};
 
 }  // namespace
 
-const std::vector<std::string>& fixedCountries() {
-  static const std::vector<std::string> countries{
-      "(RU)Россия", "(BY)Белоруссия", "(KZ)Казахстан", "(CN)Китай",     "(LV)Латвия",
-      "(LT)Литва",  "(PL)Польша",     "(UA)Украина",   "(FI)Финляндия", "(EE)Эстония"};
-  return countries;
-}
-
 void DlgDodaj::fillFixedLists() {
   for (const Unit& unit : units) cboxJednostkaMiary.addRow(unit.name);
   for (const std::string_view category : categories) cboxKodVAT.addRow(category);
   for (const std::string_view rate : rates) cboxStawkaVAT.addRow(rate);
-  for (const std::string& country : fixedCountries()) comboCountry.addRow(country);
+  comboCountry.setRows(fixedCountryEntries());
 }
 
 std::string DlgDodaj::symbolJednostkiMiary(std::int16_t index) const {

@@ -21,15 +21,6 @@ std::int32_t wholeNumber(double value) {
 
 }  // namespace
 
-void writePackageHeadings(Table& table, const CellLook& look) {
-  constexpr std::array<std::string_view, 5> headings{"№ п.п", "ID упаковки", "Описание упаковки",
-                                                     "Уровень", "Количество"};
-  for (int column = 0; column < 5; ++column) {
-    table.setCell(0, column, headings[static_cast<std::size_t>(column)]);
-    table.setLook(0, column, look);
-  }
-}
-
 void DlgDodaj::setUpPackageTable() {
   constexpr std::array<int, 5> widths{0, 0, 4605, 950, 2200};
   for (int column = 0; column < 5; ++column) {

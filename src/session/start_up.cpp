@@ -6,6 +6,7 @@
 #include "service/exchanges.h"
 #include "session/identity.h"
 #include "session/on_line_start.h"
+#include "session/record/countries.h"
 #include "session/record/header_panel.h"
 #include "tables/totals.h"
 
@@ -31,7 +32,7 @@ void prepareFields(Editor& editor) {
   form.dpDataZam.setDate(std::nullopt);
   form.lblNiepelnaWagaKom.setCaption("");
   form.comboStawkaVAT.setRows({"", "0", "10", "18"});
-  form.comboCountry.setRows(fixedCountries());
+  form.comboCountry.setRows(fixedCountryEntries());
 }
 
 void openLog(Editor& editor) {

@@ -51,20 +51,10 @@ std::string gridText(const Table& table) {
   return text;
 }
 
-void writeHeadings(Table& table) {
+void fillGrid(Table& table, std::string_view text) {
   table.clear();
   table.setRows(2);
-  for (std::int16_t column = 0; column < static_cast<std::int16_t>(headings.size()); ++column) {
-    table.setCell(flatIndex(table, 0, column), headings[static_cast<std::size_t>(column)]);
-    CellLook look = table.look(0, column);
-    look.alignment = Alignment::centre;
-    look.wrap = true;
-    table.setLook(0, column, look);
-  }
-}
-
-void fillGrid(Table& table, std::string_view text) {
-  writeHeadings(table);
+  writePackageHeadings(table, {white, Alignment::centre, false, true});
   const std::vector<std::string> references = referencesOf(text);
   if (references.empty()) return;
   table.setRows(narrow16(static_cast<std::int64_t>(references.size()) + 1));
@@ -162,6 +152,13 @@ std::string emptyOnError(Body&& body) {
 }
 
 }  // namespace
+
+void writePackageHeadings(Table& table, const CellLook& look) {
+  for (std::int16_t column = 0; column < static_cast<std::int16_t>(headings.size()); ++column) {
+    table.setCell(flatIndex(table, 0, column), headings[static_cast<std::size_t>(column)]);
+    table.setLook(0, column, look);
+  }
+}
 
 std::string GridToString(const Table& table) {
   return emptyOnError([&] { return gridText(table); });

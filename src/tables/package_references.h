@@ -14,6 +14,9 @@ namespace awizo {
 // level at the time, and the quantity as a screen number with 3 decimals. Nothing is escaped. The
 // empty text stands for no package.
 
+/// Writes the five headings of a line dialog's table into row 0.
+void writePackageHeadings(Table& table, const CellLook& look);
+
 /// The string of the assignments in a line dialog's table (columns 1 to 4); the empty text for a
 /// table whose one row has no serial, and where the table is too large for the flat index.
 std::string GridToString(const Table& table);

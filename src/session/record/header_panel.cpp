@@ -1,16 +1,13 @@
 #include "session/record/header_panel.h"
 
-#include <algorithm>
 #include <array>
 #include <optional>
 
 #include "platform/forms/report_errors.h"
+#include "session/record/countries.h"
 
 namespace awizo {
 namespace {
-
-constexpr std::array<std::string_view, 10> countries{"RU", "BY", "KZ", "CN", "LV",
-                                                     "LT", "PL", "UA", "FI", "EE"};
 
 // The package's serial bears the same heading as the number that is made of it; only the latter is
 // ever visible.
@@ -68,14 +65,18 @@ void alignTotals(Table& table) {
 
 std::string symbolKraj(std::int16_t index, std::string_view typedText) {
   if (index == -1) return std::string(typedText);
-  if (index < 0 || index >= static_cast<std::int16_t>(countries.size())) return "";
-  return std::string(countries[static_cast<std::size_t>(index)]);
+  const auto place = static_cast<std::size_t>(index);
+  return index >= 0 && place < fixedCountries().size() ? std::string(fixedCountries()[place].code)
+                                                       : std::string();
 }
 
 std::int16_t indexKraj(std::string_view code) {
-  const auto found = std::find(countries.begin(), countries.end(), code);
-  return found == countries.end() ? std::int16_t{-1}
-                                  : static_cast<std::int16_t>(found - countries.begin());
+  std::int16_t index = 0;
+  for (const FixedCountry& country : fixedCountries()) {
+    if (country.code == code) return index;
+    ++index;
+  }
+  return -1;
 }
 
 void UstawNaglowki(Editor& editor) {
