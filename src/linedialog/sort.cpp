@@ -1,8 +1,9 @@
 #include "linedialog/sort.h"
 
 #include <algorithm>
-#include <numeric>
+#include <utility>
 
+#include "linedialog/ranks.h"
 #include "platform/forms/report_errors.h"
 
 namespace awizo {
@@ -38,6 +39,7 @@ void Sorter::QuickSort(const Keys& keys, Index& index, std::int32_t left, std::i
   reportErrors(screen_, "Произошла ошибка в  QuickSort()", [&] {
     prepare(keys, index, left, right);
     SplitTop = -1;
+    if (placesAreKnown(left, right)) return putInPlaces(index, left, right);
     PutSplitAreas(left, right);
     while (SplitTop >= 0) {
       const auto [from, to] = GetSplitAreas();
@@ -101,30 +103,34 @@ void Sorter::prepare(const Keys& keys, const Index& index, std::int32_t left, st
   } catch (const RunTimeError&) {
     return;
   }
-  const auto first = static_cast<std::size_t>(left);
-  const auto count = static_cast<std::size_t>(right - left) + 1;
-  std::vector<std::string> collationKeys(count);
-  for (std::size_t i = 0; i < count; ++i) {
-    collationKeys[i] =
-        conversions_.locale().collationKey(keys[static_cast<std::size_t>(index[first + i])]);
+  const auto from = static_cast<std::size_t>(left);
+  const auto to = static_cast<std::size_t>(right) + 1;
+  KeyStore store;
+  store.reserve(to - from);
+  for (std::size_t place = from; place < to; ++place) {
+    store.add(conversions_.locale().collationKey(keys[static_cast<std::size_t>(index[place])]));
   }
-  std::vector<std::int32_t> order(count);
-  std::iota(order.begin(), order.end(), 0);
-  const auto keyOf = [&](std::int32_t i) -> const std::string& {
-    return collationKeys[static_cast<std::size_t>(i)];
-  };
-  std::sort(order.begin(), order.end(),
-            [&](std::int32_t a, std::int32_t b) { return keyOf(a) < keyOf(b); });
-  ranks_.assign(first + count, 0);
-  lastPlace_.clear();
-  for (std::size_t i = 0; i < count; ++i) {
-    const bool isNew = i == 0 || keyOf(order[i]) != keyOf(order[i - 1]);
-    if (isNew) lastPlace_.push_back(0);
-    lastPlace_.back() = left + static_cast<std::int32_t>(i);
-    ranks_[first + static_cast<std::size_t>(order[i])] =
-        static_cast<std::int32_t>(lastPlace_.size()) - 1;
-  }
+  Ranks ranks = store.ranks();
+  lastPlace_ = std::move(ranks.lastPlace);
+  for (std::int32_t& place : lastPlace_) place += left;
+  ranks_.assign(from, 0);
+  ranks_.insert(ranks_.end(), ranks.rankOf.begin(), ranks.rankOf.end());
   ranked_ = true;
+}
+
+// Where no two keys are equal only one order is right, and a stack of full size can't fail.
+bool Sorter::placesAreKnown(std::int32_t left, std::int32_t right) const {
+  const auto count = static_cast<std::size_t>(std::max(right - left, 0)) + 1;
+  return ranked_ && lastPlace_.size() == count &&
+         std::min(SplitLeft.size(), SplitRight.size()) > count;
+}
+
+void Sorter::putInPlaces(Index& index, std::int32_t left, std::int32_t right) const {
+  const Index old = index;
+  for (auto place = static_cast<std::size_t>(left); place <= static_cast<std::size_t>(right);
+       ++place) {
+    index[static_cast<std::size_t>(left + ranks_[place])] = old[place];
+  }
 }
 
 // The walk swaps each key above the pivot, met from the left, with a key not above it, met from the

@@ -51,6 +51,8 @@ class Sorter {
 
  private:
   void prepare(const Keys& keys, const Index& index, std::int32_t left, std::int32_t right);
+  bool placesAreKnown(std::int32_t left, std::int32_t right) const;
+  void putInPlaces(Index& index, std::int32_t left, std::int32_t right) const;
   std::int32_t partitionRanked(Index& index, std::int32_t left, std::int32_t right);
 
   Screen& screen_;

@@ -6,7 +6,11 @@
 namespace awizo {
 
 double Sorter::ToNumberOrMinusOne(const std::string& text) const {
-  return conversions_.isNumeric(text) ? conversions_.toDouble(text) : -1;
+  try {
+    return conversions_.toDouble(text);
+  } catch (const RunTimeError&) {
+    return -1;
+  }
 }
 
 std::int16_t Sorter::CompareNumbers(const std::string& a, const std::string& b) const {
