@@ -26,6 +26,9 @@ struct ProductDictionary {
       ProdPackSize, ProdTaxRate, ProdPrice, ProdTaxCategory, ProdPeriod, ProdPeriodFormat,
       ProdWeight;
   std::vector<std::int32_t> IdxEAN, IdxName, IdxSupplierCode, IdxBuyerCode;
+
+  /// Empty texts, and the indexes in the file's order.
+  void makeRoom(std::size_t lines);
 };
 
 /// The modal dialog of one line. It is hidden and never unloaded, so its fields keep their last
@@ -146,8 +149,9 @@ class DlgDodaj : public Form {
   void fillFixedLists();
   void setUpPackageTable();
   void readCatalogue();
+  void readCatalogueLines(const std::vector<XmlNode>& lines);
   void readCatalogueLine(const XmlNode& line, std::size_t place);
-  void sortCatalogue(std::int32_t last);
+  void sortCatalogue(std::int32_t lines);
   void fillCatalogueLists();
 
   void btnDodaj_Click();

@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <numeric>
+
 #include "linedialog/dlg_dodaj.h"
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
@@ -45,32 +48,43 @@ void DlgDodaj::readCatalogue() {
   const XmlNode catalogue =
       editor_.session.ProductCatalogDom->node().selectSingle("Document-ProductCatalogue");
   if (catalogue) {
-    const std::vector<XmlNode> lines = catalogue.selectSingle("ProductCatalogue-Lines").children();
-    const std::size_t size = lines.empty() ? 1 : lines.size();
-    ProductDictionary& p = products_;
-    for (auto* texts : {&p.ProdEAN, &p.ProdName, &p.ProdSupplierCode, &p.ProdBuyerCode, &p.ProdUnit,
-                        &p.ProdPackSize, &p.ProdTaxRate, &p.ProdPrice, &p.ProdTaxCategory,
-                        &p.ProdPeriod, &p.ProdPeriodFormat, &p.ProdWeight}) {
-      texts->assign(size, "");
-    }
-    for (auto* order : {&p.IdxEAN, &p.IdxName, &p.IdxSupplierCode, &p.IdxBuyerCode}) {
-      order->assign(size, 0);
-    }
-    // The counter has 16 bits: beyond it every line is reported and takes the last place anew.
-    std::int16_t i = 0;
-    for (const XmlNode& line : lines) {
-      readCatalogueLine(line, static_cast<std::size_t>(i));
-      reportErrors(screen(), formLoadTitle, [&] { i = narrow16(i + 1); });
-    }
-    sortCatalogue(i - 1);
+    std::vector<XmlNode> lines;
+    reportErrors(screen(), formLoadTitle,
+                 [&] { lines = catalogue.selectSingle("ProductCatalogue-Lines").children(); });
+    products_.makeRoom(lines.size());
+    readCatalogueLines(lines);
+    sortCatalogue(narrow32(static_cast<std::int64_t>(lines.size())));
     fillCatalogueLists();
   }
   log.WriteDebugLine("Form_Load przetworzono slownik produktow");
 }
 
+// There is always one element, also for a catalogue without lines.
+void ProductDictionary::makeRoom(std::size_t lines) {
+  const std::size_t size = std::max<std::size_t>(lines, 1);
+  for (auto* texts :
+       {&ProdEAN, &ProdName, &ProdSupplierCode, &ProdBuyerCode, &ProdUnit, &ProdPackSize,
+        &ProdTaxRate, &ProdPrice, &ProdTaxCategory, &ProdPeriod, &ProdPeriodFormat, &ProdWeight}) {
+    texts->assign(size, "");
+  }
+  for (auto* order : {&IdxEAN, &IdxName, &IdxSupplierCode, &IdxBuyerCode}) {
+    order->resize(size);
+    std::iota(order->begin(), order->end(), 0);
+  }
+}
+
+// The counter has 16 bits: each line beyond is reported and takes the place of the one before it.
+void DlgDodaj::readCatalogueLines(const std::vector<XmlNode>& lines) {
+  std::int16_t i = 0;
+  for (const XmlNode& line : lines) {
+    readCatalogueLine(line, static_cast<std::size_t>(i));
+    reportErrors(screen(), formLoadTitle, [&] { i = narrow16(i + 1); });
+  }
+}
+
 void DlgDodaj::readCatalogueLine(const XmlNode& line, std::size_t place) {
   // A child that is no line has none of the values.
-  const XmlNode source = line.name() == "Line" ? line : XmlNode{};
+  const XmlNode source = line.isElement("Line") ? line : XmlNode{};
   const auto orEmpty = [&](std::string_view path) { return GetNodeValue(source, path, true); };
   const auto orMarker = [&](std::string_view path) { return GetNodeValue(source, path, false); };
   ProductDictionary& p = products_;
@@ -89,14 +103,12 @@ void DlgDodaj::readCatalogueLine(const XmlNode& line, std::size_t place) {
   p.ProdPeriod[place] = orEmpty("Line-Item/ProductLifespan/Period");
   p.ProdPeriodFormat[place] = orEmpty("Line-Item/ProductLifespan/PeriodFormat");
   p.ProdWeight[place] = orEmpty("Line-Item/PackDetails/Weight");
-  for (auto* order : {&p.IdxEAN, &p.IdxName, &p.IdxSupplierCode, &p.IdxBuyerCode}) {
-    (*order)[place] = narrow32(static_cast<std::int64_t>(place));
-  }
 }
 
-void DlgDodaj::sortCatalogue(std::int32_t last) {
+void DlgDodaj::sortCatalogue(std::int32_t lines) {
   ProductDictionary& p = products_;
-  sorter_.ReDimSplitArrays(last + 2);
+  const std::int32_t last = lines - 1;
+  sorter_.ReDimSplitArrays(lines + 1);
   sorter_.QuickSort(p.ProdEAN, p.IdxEAN, 0, last);
   sorter_.QuickSort(p.ProdName, p.IdxName, 0, last);
   sorter_.QuickSort(p.ProdSupplierCode, p.IdxSupplierCode, 0, last);
