@@ -19,8 +19,8 @@ namespace {
 class Program {
  public:
   explicit Program(std::vector<std::string> arguments) {
-    arguments.insert(arguments.begin(), AWIZO_DEMO_SERVICE);
-    std::vector<char*> pointers;
+    std::string program = AWIZO_DEMO_SERVICE;
+    std::vector<char*> pointers{program.data()};
     for (std::string& argument : arguments) pointers.push_back(argument.data());
     pointers.push_back(nullptr);
     std::array<int, 2> ends{};
