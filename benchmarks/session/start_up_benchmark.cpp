@@ -1,11 +1,11 @@
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
-#include <chrono>
 #include <cstdlib>
 #include <fstream>
 #include <memory>
 
+#include "benchmarks/support/compare.h"
 #include "benchmarks/support/full_size.h"
 #include "tests/session/test_control.h"
 
@@ -30,13 +30,6 @@ void requireFinished(const test::TestControl& control, int orderLines) {
   if (control.session.LineCount != orderLines || !control.session.ProductCatalogLoaded) {
     std::abort();
   }
-}
-
-template <class Work>
-double secondsOf(Work&& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
 /// A figure of this process in kilobytes: "VmRSS", "VmHWM".

@@ -96,6 +96,37 @@ TEST_F(TableCells, RowsThatCanNotBeRemovedAreErrors) {
   EXPECT_EQ(table.rows(), 2);
 }
 
+TEST_F(TableCells, SeveralRowsGoAsOneChange) {
+  table.setRows(6);
+  for (int row = 1; row < 6; ++row) table.setCell(row, 0, std::to_string(row));
+  table.setBackground(3, 1, pink);
+  table.setRow(5);
+  int changes = 0;
+  table.observer = [&](const Change& change) { changes += change.aspect == Aspect::rows; };
+  table.removeItems({1, 4, 5});
+  EXPECT_EQ(changes, 1);
+  ASSERT_EQ(table.rows(), 3);
+  EXPECT_EQ(table.cell(1, 0) + table.cell(2, 0), "23");
+  EXPECT_EQ(table.look(2, 1).background, pink);
+  EXPECT_EQ(table.row(), 2);
+  table.removeItems({});
+  EXPECT_EQ(changes, 1);
+}
+
+TEST_F(TableCells, SeveralRowsOfWhichOneCantGoAllStay) {
+  table.setRows(4);
+  EXPECT_EQ(errorOf([&] {
+              table.removeItems({0, 1});
+            }),
+            "30000 Cannot do a RemoveItem on a fixed row");
+  EXPECT_EQ(errorOf([&] { table.removeItems({1, 4}); }), "30009 Invalid Row value");
+  EXPECT_EQ(errorOf([&] {
+              table.removeItems({1, 2, 3});
+            }),
+            "30015 Can not remove last non-fixed row");
+  EXPECT_EQ(table.rows(), 4);
+}
+
 TEST_F(TableCells, GrowingAddsEmptyRowsAndShrinkingDropsTheLast) {
   table.setCell(1, 0, "1");
   table.setRows(4);

@@ -73,11 +73,25 @@ void Table::addItem(std::string_view text) {
   changed(Aspect::rows);
 }
 
-void Table::removeItem(int row) {
+void Table::requireRemovable(int row) const {
   requireRow(row);
   if (row < fixedRows_) throw errors::removeFixedRow();
+}
+
+void Table::removeItem(int row) {
+  requireRemovable(row);
   if (rows() == fixedRows_ + 1) throw errors::removeLastRow();
   lines_.erase(lines_.begin() + row);
+  holdWithin();
+  changed(Aspect::rows);
+}
+
+void Table::removeItems(const std::vector<int>& rows) {
+  for (const int row : rows) requireRemovable(row);
+  if (rows.empty()) return;
+  if (this->rows() <= fixedRows_ + static_cast<int>(rows.size())) throw errors::removeLastRow();
+  for (const int row : rows) lines_[slot(row)].reset();
+  std::erase(lines_, nullptr);
   holdWithin();
   changed(Aspect::rows);
 }

@@ -70,6 +70,9 @@ class Table : public Control {
   /// Removes a row with its colours; the current row's number stays unless it lies past the end.
   /// A heading row is error 30000, the last other row 30015, a row that isn't there 30009.
   void removeItem(int row);
+  /// Removes several rows in one pass, as one change; the errors are the same, raised before any
+  /// row is gone. `rows` ascends.
+  void removeItems(const std::vector<int>& rows);
   /// Empties texts and looks of all cells, headings too; counts, sizes and the alignment of columns
   /// stay, so every cell is aligned as its column again.
   void clear();
@@ -163,6 +166,7 @@ class Table : public Control {
   Corner at(int index) const;
   void requireCell(int row, int column) const;
   void requireRow(int row) const;
+  void requireRemovable(int row) const;
   void requireColumn(int column) const;
   void requireClickable(int row, int column) const;
   bool hasCell(Corner corner) const;

@@ -101,21 +101,22 @@ void removeFirstRowOf(Editor& editor, const std::string& serial) {
   }
 }
 
-// The rows of the serials, the lowest first. The row of the last serial isn't among them: when no
-// other package is left, it is the one that is emptied instead of removed.
-std::vector<std::int16_t> rowsFromBelow(const Editor& editor,
-                                        const std::vector<std::string>& delSerials) {
-  const SerialSet serials({delSerials.begin(), delSerials.end() - 1});
-  std::vector<std::int16_t> rows;
-  for (std::int16_t row = editor.session.IloscPozycjiOpak; row >= 1; --row) {
+std::vector<int> rowsOf(const Editor& editor, const SerialSet& serials) {
+  std::vector<int> rows;
+  for (std::int16_t row = 1; row <= editor.session.IloscPozycjiOpak; ++row) {
     if (serials.contains(packageCell(editor, row, GRD_OPAK_SERIAL))) rows.push_back(row);
   }
   return rows;
 }
 
-// One pass over the table instead of one for each serial.
-void removeFromBelow(Editor& editor, const std::vector<std::string>& delSerials) {
-  for (const std::int16_t row : rowsFromBelow(editor, delSerials)) removePackageRow(editor, row);
+// One pass over the table instead of one for each serial. The last serial's turn comes by itself:
+// where no other package is left, its row is emptied instead of removed.
+void removeInOnePass(Editor& editor, const std::vector<std::string>& delSerials) {
+  const SerialSet others({delSerials.begin(), delSerials.end() - 1});
+  const std::vector<int> rows = rowsOf(editor, others);
+  editor.form.grdOpakowania.removeItems(rows);
+  std::int16_t& count = editor.session.IloscPozycjiOpak;
+  count = narrow16(count - static_cast<std::int64_t>(rows.size()));
   removeFirstRowOf(editor, delSerials.back());
 }
 
@@ -133,7 +134,7 @@ void GetPackagesRec(Editor& editor, std::int16_t row, std::vector<std::string>& 
 void removePackageRows(Editor& editor, const std::vector<std::string>& delSerials) {
   DebugLog& log = editor.session.log;
   if (!log.writes(4) && holdsWhatIsCounted(editor)) {
-    removeFromBelow(editor, delSerials);
+    removeInOnePass(editor, delSerials);
     return;
   }
   for (std::size_t i = 0; i < delSerials.size(); ++i) {
