@@ -98,10 +98,7 @@ void clickCell(Control& control, const Json& line) {
 void pressKey(Control& control, const Json& line) {
   const std::int16_t code = keyCode(line);
   const bool shift = booleanMember(line, "shift", false);
-  if (auto* field = as<TextField>(control)) return field->userKey(code, shift);
-  if (auto* table = as<Table>(control)) return table->userKey(code, shift);
-  if (auto* list = as<DropDownList>(control)) return list->userKey(code, shift);
-  wrongKind(control, "key");
+  control.userKey(code, shift);
 }
 
 void moveFocus(Control& control, const Json&) { control.userFocus(); }
