@@ -1,0 +1,463 @@
+#include "formats/logged.h"
+#include "line_dialog.h"
+
+namespace awizo::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+/// A line of so much before a document with two packages.
+struct LinePackages : ::testing::TestWithParam<std::string> {
+  LineDialog test{GetParam()};
+  DlgDodaj& dialog = test.dialog;
+  DlgdodajPule& small = test.quantityDialog;
+  Table& table = dialog.grdPozycje;
+
+  LinePackages() {
+    test.load();
+    test.offer({{"2", "Поддон"}, {"5", "Коробка", 2}});
+    dialog.lblPackedQuantityValue.setCaption(local("0,000"));
+  }
+  std::string local(const std::string& text) const { return localNumber(test, text); }
+  std::string range(const std::string& from, const std::string& to) const {
+    return "VIRD|critical|OK|Введено неправильное значение (число должно принадлежать промежутку "
+           "от " +
+           from + " до " + to + ").";
+  }
+  void despatch(const std::string& quantity) { dialog.txtIloscPotw.setText(local(quantity)); }
+  /// Which of the three buttons can be pressed.
+  std::string enabledButtons() const {
+    std::string captions;
+    for (const Button* button : {&dialog.Command1, &dialog.Command2, &dialog.Command3}) {
+      if (button->enabled()) captions += button->caption();
+    }
+    return captions;
+  }
+  /// Serial, description, level and quantity of each row.
+  std::vector<std::string> rows() const {
+    std::vector<std::string> all;
+    for (int row = 1; row < table.rows(); ++row) {
+      all.push_back(table.cell(row, 1) + " " + table.cell(row, 2) + " " + table.cell(row, 3) + " " +
+                    table.cell(row, 4));
+    }
+    return all;
+  }
+  std::string row(const std::string& text) const { return local(text); }
+};
+INSTANTIATE_TEST_SUITE_P(InBothLocales, LinePackages, ::testing::Values("ru_RU", "en_US"));
+
+// Which buttons can be pressed.
+
+TEST_P(LinePackages, WithoutPackagesInTheDocumentNothingCanBePressed) {
+  test.offer({});
+  despatch("5");
+  EXPECT_EQ(enabledButtons(), "");
+  dialog.lblPackedQuantityValue.setCaption(local("2,000"));
+  dialog.SetButtons();
+  EXPECT_EQ(enabledButtons(), "");
+}
+
+TEST_P(LinePackages, BeforeAnyListOfPackagesNothingCanBePressed) {
+  test.session.ParentSerials.clear();
+  despatch("5");
+  EXPECT_EQ(enabledButtons(), "");
+}
+
+TEST_P(LinePackages, WithNothingPackedOnlyAddingIsOffered) {
+  despatch("5");
+  EXPECT_EQ(enabledButtons(), "+");
+}
+
+TEST_P(LinePackages, WithSomethingPackedAllIsOffered) {
+  dialog.lblPackedQuantityValue.setCaption(local("2,000"));
+  despatch("5");
+  EXPECT_EQ(enabledButtons(), "+-•");
+}
+
+TEST_P(LinePackages, WithAllPackedTheAssignmentsCanStillChange) {
+  dialog.lblPackedQuantityValue.setCaption(local("5,000"));
+  despatch("7");
+  EXPECT_EQ(enabledButtons(), "+-•");
+  despatch("5");
+  EXPECT_EQ(enabledButtons(), "-•");
+  despatch("4");
+  EXPECT_EQ(enabledButtons(), "-•");
+}
+
+TEST_P(LinePackages, WithoutAQuantityNothingIsOffered) {
+  despatch("5");
+  despatch("");
+  EXPECT_EQ(enabledButtons(), "");
+  despatch("0");
+  EXPECT_EQ(enabledButtons(), "");
+  despatch("много");
+  EXPECT_EQ(enabledButtons(), "");
+}
+
+TEST_P(LinePackages, TheButtonsFollowTheQuantityAsItIsTyped) {
+  test.show([&] {
+    dialog.txtIloscPotw.userType("5");
+    EXPECT_EQ(enabledButtons(), "+");
+    dialog.txtIloscPotw.userType("");
+    EXPECT_EQ(enabledButtons(), "");
+  });
+}
+
+TEST_P(LinePackages, TheButtonsAreLogged) {
+  dialog.lblPackedQuantityValue.setCaption(local("2,000"));
+  dialog.txtIloscPotw.setText(local("4,5"));
+  openLog(test);
+  dialog.SetButtons();
+  std::vector<std::string> lines;
+  for (const std::string& line : split(test.files.bytes(logPath), "\r\n")) {
+    if (const std::size_t at = line.find("GetMax"); at != line.npos)
+      lines.push_back(line.substr(at));
+    if (const std::size_t at = line.find("SetBut"); at != line.npos)
+      lines.push_back(line.substr(at));
+  }
+  EXPECT_THAT(lines,
+              ElementsAre("GetMaxQuantity lblPackedQuantityValue = " + local("2,000"),
+                          "GetMaxQuantity txtIloscPotw = " + local("4,5"),
+                          "SetButtons k = " + local("2,5"), "SetButtons x = " + local("4,5")));
+}
+
+TEST_P(LinePackages, WhatIsFreeIsDespatchedLessPacked) {
+  dialog.lblPackedQuantityValue.setCaption(local("2,500"));
+  despatch(" 4 ");
+  EXPECT_EQ(dialog.GetMaxQuantity(), 1.5);
+  despatch("1");
+  EXPECT_EQ(dialog.GetMaxQuantity(), -1.5);
+  despatch("");
+  EXPECT_EQ(dialog.GetMaxQuantity(), -2.5);
+}
+
+// Adding.
+
+TEST_P(LinePackages, AddingOffersThePackagesAndAllThatIsFree) {
+  despatch("5");
+  test.show([&] {
+    test.inQuantityDialog([&] {
+      EXPECT_EQ(small.caption(), "Добавь товар в упаковку");
+      EXPECT_EQ(small.btnDodaj.caption(), "&Добавить");
+      EXPECT_THAT(small.cboxPackages.rows(), ElementsAre("Поддон", "Коробка"));
+      EXPECT_EQ(small.cboxPackages.index(), 0);
+      EXPECT_EQ(small.UpDown1.min(), 1);
+      EXPECT_EQ(small.UpDown1.max(), 5);
+      EXPECT_EQ(small.txtQuantity.text(), "5");
+      small.btnDodaj.userClick();
+    });
+    dialog.Command1.userClick();
+    EXPECT_EQ(test.focus(), "grdPozycje");
+  });
+  EXPECT_THAT(rows(), ElementsAre(row("2 Поддон 1 5,000")));
+  EXPECT_EQ(dialog.lblPackedQuantityValue.caption(), local("5,000"));
+  EXPECT_EQ(enabledButtons(), "-•");
+  EXPECT_TRUE(table.redraw());
+  EXPECT_THAT(test.face.boxes(), IsEmpty());
+}
+
+TEST_P(LinePackages, TheFirstAssignmentTakesTheEmptyRowAndOthersAreAdded) {
+  despatch("5");
+  test.show([&] {
+    test.assign(0, "2");
+    EXPECT_EQ(table.rows(), 2);
+    EXPECT_EQ(table.row(), 1);
+    test.assign(1, local("1,25"));
+    EXPECT_EQ(table.row(), 2);
+  });
+  EXPECT_THAT(rows(), ElementsAre(row("2 Поддон 1 2,000"), row("5 Коробка 2 1,250")));
+  EXPECT_EQ(table.cell(1, 0), "");
+  EXPECT_EQ(table.cell(2, 0), "2") << "the number of rows before";
+  EXPECT_EQ(dialog.lblPackedQuantityValue.caption(), local("3,250"));
+  EXPECT_EQ(dialog.GridToString(), local("2@Поддон@1@2,000$5@Коробка@2@") + local("1,250"));
+}
+
+TEST_P(LinePackages, TheSamePackageTwiceIsTwoRows) {
+  despatch("5");
+  test.show([&] {
+    test.assign(1, "2");
+    test.assign(1, "3");
+  });
+  EXPECT_THAT(rows(), ElementsAre(row("5 Коробка 2 2,000"), row("5 Коробка 2 3,000")));
+}
+
+TEST_P(LinePackages, AClosedSmallDialogAddsNothing) {
+  despatch("5");
+  small.DlgResult = 1;
+  test.show([&] {
+    test.inQuantityDialog([&] { small.btnZamknij.userClick(); });
+    dialog.Command1.userClick();
+    EXPECT_EQ(test.focus(), "grdPozycje");
+  });
+  EXPECT_THAT(rows(), ElementsAre("   "));
+  EXPECT_EQ(table.rows(), 2);
+}
+
+TEST_P(LinePackages, AHalfRoundsToTheEvenNumberAndShowsTheRangeFirst) {
+  despatch("2,5");
+  test.show([&] {
+    test.inQuantityDialog([&] {
+      EXPECT_THAT(test.takeBoxes(), ElementsAre(range("1", "2")));
+      EXPECT_EQ(small.UpDown1.max(), 2);
+      EXPECT_EQ(small.txtQuantity.text(), "2");
+      small.btnDodaj.userClick();
+    });
+    dialog.Command1.userClick();
+    EXPECT_EQ(enabledButtons(), "+-•") << "a half is left";
+
+    test.inQuantityDialog([&] {
+      // A half is offered as "1", and the largest quantity in its place is refused too.
+      EXPECT_THAT(test.takeBoxes(), ElementsAre(range("1", "0"), range("1", "0")));
+      EXPECT_EQ(small.UpDown1.max(), 0);
+      EXPECT_EQ(small.txtQuantity.text(), "0");
+      small.btnZamknij.userClick();
+    });
+    dialog.Command1.userClick();
+  });
+  EXPECT_THAT(rows(), ElementsAre(row("2 Поддон 1 2,000")));
+}
+
+TEST_P(LinePackages, AHalfAboveAnOddNumberRoundsUp) {
+  despatch("3,5");
+  test.show([&] {
+    test.inQuantityDialog([&] {
+      EXPECT_EQ(small.UpDown1.max(), 4);
+      EXPECT_EQ(small.txtQuantity.text(), "4");
+      small.btnZamknij.userClick();
+    });
+    dialog.Command1.userClick();
+  });
+  EXPECT_THAT(test.face.boxes(), IsEmpty());
+}
+
+TEST_P(LinePackages, ARemainderBelowAHalfFitsNowhere) {
+  despatch("0,4");
+  EXPECT_EQ(enabledButtons(), "+");
+  test.show([&] {
+    test.inQuantityDialog([&] {
+      EXPECT_THAT(test.takeBoxes(), ElementsAre(range("1", "0")));
+      small.txtQuantity.userType(local("0,4"));
+      EXPECT_THAT(test.takeBoxes(), ElementsAre(range("1", "0"), range("1", "0")))
+          << "the largest quantity is refused in its turn";
+      EXPECT_EQ(small.txtQuantity.text(), "0");
+      small.btnZamknij.userClick();
+    });
+    dialog.Command1.userClick();
+  });
+}
+
+TEST_P(LinePackages, TheListIsFilledAnewEachTime) {
+  despatch("5");
+  test.show([&] {
+    test.assign(1, "1");
+    test.offer({{"9", "Ящик"}});
+    test.inQuantityDialog([&] {
+      EXPECT_THAT(small.cboxPackages.rows(), ElementsAre("Ящик"));
+      EXPECT_EQ(small.cboxPackages.index(), 0);
+      small.btnZamknij.userClick();
+    });
+    dialog.Command1.userClick();
+  });
+}
+
+// Taking out.
+
+TEST_P(LinePackages, TakingOutTheLastLeavesTheEmptyRow) {
+  despatch("5");
+  test.show([&] {
+    test.assign(0, "5");
+    dialog.Command2.userClick();
+    EXPECT_EQ(test.focus(), "grdPozycje");
+  });
+  EXPECT_THAT(rows(), ElementsAre("   "));
+  EXPECT_THAT(TestEditor::row(table, 0),
+              ElementsAre("№ п.п", "ID упаковки", "Описание упаковки", "Уровень", "Количество"));
+  for (int column = 0; column < 5; ++column) {
+    EXPECT_TRUE(table.look(0, column).bold);
+    EXPECT_EQ(table.look(0, column).alignment, Alignment::centre);
+  }
+  EXPECT_EQ(dialog.lblPackedQuantityValue.caption(), local("0,000"));
+  EXPECT_EQ(enabledButtons(), "+");
+  EXPECT_TRUE(table.redraw());
+  EXPECT_EQ(dialog.GridToString(), "");
+}
+
+TEST_P(LinePackages, TakingOutTakesTheCurrentRowWithoutAQuestion) {
+  despatch("6");
+  test.show([&] {
+    test.assign(0, "1");
+    test.assign(1, "2");
+    test.assign(0, "3");
+    table.userCell(2, 2);
+    dialog.Command2.userClick();
+  });
+  EXPECT_THAT(rows(), ElementsAre(row("2 Поддон 1 1,000"), row("2 Поддон 1 3,000")));
+  EXPECT_EQ(table.cell(2, 0), "3") << "the hidden number isn't counted anew";
+  EXPECT_EQ(dialog.lblPackedQuantityValue.caption(), local("4,000"));
+  EXPECT_EQ(enabledButtons(), "+-•");
+  EXPECT_THAT(test.face.boxes(), IsEmpty());
+}
+
+TEST_P(LinePackages, TheHeadingCantBeTakenOut) {
+  dialog.StringToGrid(local("2@Поддон@1@1,000$5@Коробка@2@1"));
+  dialog.UpdatePackedQuantity();
+  despatch("6");
+  table.setRow(0);
+  test.show([&] { dialog.Command2.userClick(); });
+  EXPECT_THAT(test.takeBoxes(),
+              ElementsAre("VIRD|critical|OK|Cannot do a RemoveItem on a fixed row"));
+  EXPECT_EQ(table.rows(), 3);
+  EXPECT_FALSE(table.redraw()) << "nothing is undone";
+}
+
+// Changing.
+
+TEST_P(LinePackages, ChangingOffersTheRowsOwnQuantityAsFree) {
+  despatch("6");
+  test.show([&] {
+    test.assign(0, "4");
+    test.assign(1, "1");
+    table.userCell(1, 2);
+    test.inQuantityDialog([&] {
+      EXPECT_EQ(small.caption(), "Изменить упаковку, к которой приписан товар");
+      EXPECT_EQ(small.btnDodaj.caption(), "&Подтвердить");
+      EXPECT_EQ(small.UpDown1.min(), 1);
+      EXPECT_EQ(small.UpDown1.max(), 5);
+      EXPECT_EQ(small.txtQuantity.text(), "4");
+      EXPECT_EQ(small.cboxPackages.text(), "Поддон");
+      small.cboxPackages.userChoose(1);
+      small.txtQuantity.userType("5");
+      small.btnDodaj.userClick();
+    });
+    dialog.Command3.userClick();
+  });
+  EXPECT_THAT(rows(), ElementsAre(row("5 Коробка 2 5,000"), row("5 Коробка 2 1,000")));
+  EXPECT_EQ(table.row(), 1);
+  EXPECT_EQ(dialog.lblPackedQuantityValue.caption(), local("6,000"));
+  EXPECT_EQ(enabledButtons(), "-•");
+}
+
+TEST_P(LinePackages, ChangingTheOnlyRowNeedsNoCurrentRow) {
+  despatch("6");
+  test.show([&] {
+    test.assign(0, local("1,5"));
+    table.setRow(0);
+    test.inQuantityDialog([&] {
+      EXPECT_EQ(small.txtQuantity.text(), local("1,5"));
+      small.txtQuantity.userType("2");
+      small.btnDodaj.userClick();
+    });
+    dialog.Command3.userClick();
+  });
+  EXPECT_THAT(rows(), ElementsAre(row("2 Поддон 1 2,000")));
+  EXPECT_EQ(table.row(), 1);
+}
+
+TEST_P(LinePackages, AClosedChangeStillSumsUp) {
+  despatch("6");
+  test.show([&] {
+    test.assign(0, "4");
+    dialog.lblPackedQuantityValue.setCaption("");
+    test.inQuantityDialog([&] { small.btnZamknij.userClick(); });
+    dialog.Command3.userClick();
+  });
+  EXPECT_THAT(rows(), ElementsAre(row("2 Поддон 1 4,000")));
+  EXPECT_EQ(dialog.lblPackedQuantityValue.caption(), local("4,000"));
+}
+
+TEST_P(LinePackages, ChangingFindsThePackageByItsDescription) {
+  test.offer({{"2", "Коробка"}, {"3", "Коробка", 4}});
+  despatch("6");
+  test.show([&] {
+    test.assign(1, "4");
+    EXPECT_EQ(table.cell(1, 1), "3");
+    // The small dialog still stands on the second of the two.
+    small.cboxPackages.setIndex(0);
+    test.inQuantityDialog([&] { small.btnDodaj.userClick(); });
+    dialog.Command3.userClick();
+  });
+  EXPECT_EQ(table.cell(1, 1), "2") << "two packages of one description are the same";
+}
+
+TEST_P(LinePackages, ChangingBeforeAnyAddingFails) {
+  dialog.StringToGrid(local("2@Поддон@1@2,000"));
+  dialog.UpdatePackedQuantity();
+  despatch("6");
+  test.show([&] { dialog.Command3.userClick(); });
+  EXPECT_THAT(test.takeBoxes(),
+              ElementsAre("VIRD|critical|OK|Could not set the Value property. Invalid property "
+                          "value."));
+  EXPECT_THAT(test.face.modalForms(), ElementsAre("DlgDodaj"));
+  EXPECT_THAT(rows(), ElementsAre(row("2 Поддон 1 2,000")));
+}
+
+TEST_P(LinePackages, AQuantityThatCantBeReadBreaksTheChange) {
+  dialog.StringToGrid("2@Поддон@1@много");
+  dialog.lblPackedQuantityValue.setCaption("1");
+  despatch("6");
+  test.show([&] { dialog.Command3.userClick(); });
+  EXPECT_THAT(test.takeBoxes(), ElementsAre("VIRD|critical|OK|Type mismatch"));
+  EXPECT_THAT(test.face.modalForms(), ElementsAre("DlgDodaj"));
+}
+
+TEST_P(LinePackages, AQuantityAboveWhatIsLeftIsBroughtDownBeforeTheDialogOpens) {
+  despatch("6");
+  test.show([&] {
+    test.assign(0, "6");
+    despatch("4");
+    test.inQuantityDialog([&] {
+      EXPECT_THAT(test.takeBoxes(), ElementsAre(range("1", "4")));
+      EXPECT_EQ(small.txtQuantity.text(), "4");
+      small.btnDodaj.userClick();
+    });
+    // The small dialog's field holds "6" still; another text is set first by the user.
+    small.txtQuantity.setText("");
+    dialog.Command3.userClick();
+  });
+  EXPECT_THAT(rows(), ElementsAre(row("2 Поддон 1 4,000")));
+}
+
+// The table.
+
+TEST_P(LinePackages, TheSumTakesEachRowAsItCanBeRead) {
+  dialog.StringToGrid(local("2@a@1@1,5") + "$3@b@1@много$4@c@1$5@d@1@" + local("2,0004"));
+  dialog.UpdatePackedQuantity();
+  EXPECT_EQ(dialog.lblPackedQuantityValue.caption(), local("3,500"));
+}
+
+TEST_P(LinePackages, TheFlatIndexHasSixteenBits) {
+  EXPECT_EQ(dialog.IndexGrdPozycje(1, 1), 6);
+  EXPECT_EQ(dialog.IndexGrdPozycje(6553, 2), 32767);
+  EXPECT_THROW(dialog.IndexGrdPozycje(6553, 3), RunTimeError);
+  EXPECT_THROW(dialog.IndexGrdPozycje(6554, 0), RunTimeError);
+}
+
+TEST_P(LinePackages, ATextFillsTheTableAndComesBack) {
+  const std::string text = local("2@Поддон@1@5,000") + "$" + local("5@Коробка@2@1,000");
+  dialog.StringToGrid(text);
+  EXPECT_THAT(rows(), ElementsAre(row("2 Поддон 1 5,000"), row("5 Коробка 2 1,000")));
+  EXPECT_EQ(dialog.GridToString(), text);
+  dialog.StringToGrid("2");
+  EXPECT_THAT(rows(), ElementsAre("2   "));
+  EXPECT_EQ(dialog.GridToString(), "2@@@");
+  dialog.StringToGrid("2@a@1@3@more@still more");
+  EXPECT_EQ(dialog.GridToString(), "2@a@1@3");
+  dialog.StringToGrid("");
+  EXPECT_THAT(rows(), ElementsAre("   "));
+  EXPECT_EQ(table.cell(0, 4), "Количество");
+  EXPECT_EQ(dialog.GridToString(), "");
+}
+
+TEST_P(LinePackages, ATextOfTooManyAssignmentsEndsWithoutAWord) {
+  std::string text = "2@a@1@1";
+  for (int i = 1; i < 7000; ++i) text += "$2@a@1@1";
+  dialog.StringToGrid(text);
+  EXPECT_EQ(table.cell(6552, 4), "1");
+  EXPECT_EQ(table.cell(6553, 3), "");
+  dialog.GridToString();
+  EXPECT_THAT(test.face.boxes(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace awizo::test
