@@ -73,6 +73,7 @@ Answer ScriptedScreen::ask(const MessageBox& box) {
     act(box);
   }
   if (box.buttons == BoxButtons::ok) return Answer::ok;
+  if (answers_.empty() && answerUnscripted) return answerUnscripted(box);
   if (answers_.empty()) {
     ADD_FAILURE() << "a question without an answer: " << describe(box);
     return Answer::no;
@@ -83,6 +84,7 @@ Answer ScriptedScreen::ask(const MessageBox& box) {
 }
 
 void ScriptedScreen::runModal(Form& form) {
+  if (modalActs_.empty() && actUnscripted) return actUnscripted(form);
   modalForms_.push_back(form.name());
   if (modalActs_.empty()) {
     ADD_FAILURE() << "nobody acts on the modal form " << form.name();

@@ -36,6 +36,13 @@ class ScriptedScreen : public ScreenFace {
     modalActs_.push_back([act = std::move(act)](Form&) { act(); });
   }
 
+  // Where the script has nothing: for a user who is made up as the test goes.
+
+  /// Answers every question.
+  std::function<Answer(const MessageBox&)> answerUnscripted;
+  /// Acts on every modal form.
+  std::function<void(Form&)> actUnscripted;
+
   // What was seen.
 
   const std::vector<MessageBox>& boxes() const { return boxes_; }
