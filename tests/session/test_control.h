@@ -37,7 +37,7 @@ struct TestControl : TestSurroundings {
   /// The user's folder is set up, with the user's file in it, and the host names the buyer.
   void prepareFolder() {
     settings.values["VIRD\\VirdActiveX\\OffLinePath"] = folder;
-    files.put(std::string(folder) + "\\userinfo.xml", userInfo());
+    files.put("c:\\VIRD\\userinfo.xml", userInfo());
     bag.values["PartnerILN"] = buyer;
   }
   /// The page that hosts the control, two levels under the application.
