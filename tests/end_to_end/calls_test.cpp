@@ -139,7 +139,6 @@ INSTANTIATE_TEST_SUITE_P(
         Call{R"({"call":"ZatwierdzPozycjeOpak","args":[1,false]})", "{}"},
         Call{R"({"call":"PreparePackageArrays","args":[""]})", "{}"},
         Call{R"({"call":"PrepareParents","args":["x"]})", "{}"},
-        Call{R"({"call":"GetPackagesRec","args":[1,[]]})", R"({"args":[1,[""]]})"},
         Call{R"({"call":"FillLines","args":[true]})", "{}"},
         Call{R"({"call":"FillLines2","args":[false]})", "{}"},
         Call{R"({"call":"CheckIsoCountry","args":["(pl)Польша"]})", R"({"args":["(PL)ПОЛЬША"]})"}));
@@ -186,6 +185,17 @@ INSTANTIATE_TEST_SUITE_P(
         Call{R"({"call":"DlgSzczegoly.IsKnownDescription","args":["A"]})", R"({"value":false})"},
         Call{R"({"call":"DlgSzczegoly.LoadLocalizationDictionary"})", "{}"},
         Call{R"({"call":"DlgSzczegoly.cboxILNLokalizacji_Change_PublicWrapper"})", "{}"}));
+
+TEST(CallOnPackages, GathersAPackageAndWhatLiesInIt) {
+  const Supplier supplier;
+  Conversation editor = supplier.startOffLine();
+  editor.show();
+  addPackage(editor, "A", serials[0]);
+  addPackage(editor, "B", serials[1], 0);
+  const Json closing = editor.say({{"call", "GetPackagesRec"}, {"args", {1, Json::array()}}});
+  EXPECT_EQ(closing["args"], (Json{1, {"2", "3"}}));
+  EXPECT_EQ(editor.call("DlgSzczegoly.IsKnownDescription", {"a"}), true);
+}
 
 /// A call during which a box opens.
 TEST(CallWithABox, GoesOnAfterTheAnswer) {
