@@ -10,6 +10,9 @@ if(CCACHE_PROGRAM)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
 endif()
 
+# Where tests note the message boxes that they see.
+set(AWIZO_SEEN_BOXES "${PROJECT_BINARY_DIR}/seen-boxes.txt")
+
 add_library(awizo_options INTERFACE)
 target_compile_options(awizo_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror
@@ -49,9 +52,11 @@ function(awizo_outer_library name)
   target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE ${ARG_PRIVATE_LINKS} awizo_options)
 endfunction()
 
-# awizo_test(NAME LINKS targets...): the test program of one folder of tests/.
+# awizo_test(NAME [INVENTED_BOXES] LINKS targets...): the test program of one folder of tests/. The
+# message boxes that it sees are noted and compared with the list of the system's messages, unless
+# it shows invented ones.
 function(awizo_test name)
-  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "INVENTED_BOXES" "" "LINKS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp")
   add_executable(${name} ${sources})
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/tests")
@@ -63,4 +68,9 @@ function(awizo_test name)
   target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <gmock/gmock.h> <string> <vector> <functional>)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+  if(NOT ARG_INVENTED_BOXES)
+    set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT "AWIZO_SEEN_BOXES=${AWIZO_SEEN_BOXES}")
+    set_property(TEST ${name} APPEND PROPERTY FIXTURES_REQUIRED seen_boxes)
+    set_property(GLOBAL APPEND PROPERTY awizo_tests_with_boxes ${name})
+  endif()
 endfunction()

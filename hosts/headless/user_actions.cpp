@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "hosts/headless/procedures/value_texts.h"
 #include "platform/forms/button.h"
@@ -69,8 +71,16 @@ void type(Control& control, const Json& line) {
   wrongKind(control, "type");
 }
 
+/// The drive at a row of its list.
+void chooseDrive(DriveList& list, int row) {
+  const std::vector<std::string> drives = list.rows();
+  if (row < 0 || row >= static_cast<int>(drives.size())) throw Refused("There is no such drive.");
+  list.userChoose(drives[static_cast<std::size_t>(row)]);
+}
+
 void choose(Control& control, const Json& line) {
   const int row = integerMember(line, "row");
+  if (auto* list = as<DriveList>(control)) return chooseDrive(*list, row);
   if (auto* list = as<DropDownList>(control)) return list->userChoose(row);
   if (auto* list = as<FileList>(control)) return list->userChoose(row);
   wrongKind(control, "choose");

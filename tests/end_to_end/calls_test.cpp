@@ -60,6 +60,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Call{R"({"call":"GetBaseUrl","args":["http://h/a/b/c.html"]})",
              R"({"value":"http://h/a/"})"},
+        Call{R"({"call":"HasHostDocument"})", R"({"value":false})"},
         Call{R"({"call":"WriteDebugLine","args":["text",4]})", "{}"},
         Call{R"({"call":"OpenDebugLog","args":["c:\\no\\such\\a.log",4]})", "{}"},
         Call{

@@ -58,6 +58,14 @@ TEST(Start, BeforeShowNothingCanBeDoneOnTheForm) {
   editor.refused({{"do", "show"}});
 }
 
+TEST(Start, MayBeFollowedByTheEndAtOnce) {
+  const Supplier supplier;
+  Conversation editor = supplier.startOffLine();
+  editor.act({{"do", "terminate"}});
+  EXPECT_EQ(editor.get("settings")["OffLinePath"], "");
+  EXPECT_EQ(editor.finish(), 0);
+}
+
 TEST(Properties, OnLineAndDebugLevelAreSetAndReportedAsChanged) {
   const Supplier supplier;
   Conversation editor = supplier.startOffLine();

@@ -116,6 +116,10 @@ TEST_F(UserActionsTest, KeyReachesTheFieldWithItsShift) {
   does(R"({"do":"key","on":"field","code":40})");
   does(R"({"do":"key","on":"field","code":13,"shift":true})");
   EXPECT_EQ(keys, "40 13S ");
+  bool clicked = false;
+  desk.form.button.onClick = [&] { clicked = true; };
+  does(R"({"do":"key","on":"button","code":32})");
+  EXPECT_TRUE(clicked);
 }
 
 TEST_F(UserActionsTest, SelectMarksARangeOfATable) {
@@ -148,12 +152,17 @@ TEST_F(UserActionsTest, PathOpensAFolderAndAFileIsChosen) {
                                 R"({"do":"path","on":"Dialog.folders","value":"c:\\a"})",
                                 R"({"do":"path","on":"Dialog.folders","value":"c:\\nowhere"})",
                                 R"({"do":"choose","on":"Dialog.files","row":0})",
-                                R"({"get":"Dialog.files"})", R"({"do":"close","on":"Dialog"})"});
+                                R"({"get":"Dialog.files"})",
+                                R"({"do":"choose","on":"Dialog.drives","row":0})",
+                                R"({"do":"choose","on":"Dialog.drives","row":1})",
+                                R"({"do":"close","on":"Dialog"})"});
   EXPECT_EQ(lines[1]["ok"], true);
   EXPECT_EQ(lines[2]["ok"], true);
   EXPECT_EQ(lines[3]["ok"], false);
   EXPECT_EQ(lines[4]["ok"], true);
   EXPECT_EQ(lines[5]["value"]["text"], "one.xml");
+  EXPECT_EQ(lines[6]["ok"], true);
+  EXPECT_EQ(lines[7]["ok"], false);
 }
 
 TEST_F(UserActionsTest, HiddenOrDisabledControlsAndFormsAreRefused) {

@@ -3,6 +3,7 @@
 #include "hosts/headless/procedures/control_procedures.h"
 #include "service/exchanges.h"
 #include "session/object_safety.h"
+#include "session/on_line_start.h"
 
 namespace awizo::headless {
 
@@ -17,6 +18,7 @@ void addHostProcedures(Procedures& procedures, AwizoWysylki& control) {
     editor.session.log.WriteDebugLine(message, level.value_or(traceLevel));
   });
   procedures.add("GetBaseUrl", [](Text url) { return GetBaseUrl(url); });
+  procedures.add("HasHostDocument", [&] { return HasHostDocument(editor.platform.page); });
   // null stands for no interface.
   using Interface = const std::optional<std::string>&;
   procedures.add("IObjectSafety_GetInterfaceSafetyOptions",
