@@ -147,15 +147,13 @@ TEST_F(UserActionsTest, PathOpensAFolderAndAFileIsChosen) {
   desk.files.put("c:\\a\\one.xml", "<a/>");
   desk.dialog.folders.onChange = [&] { desk.dialog.fileNames.setPath(desk.dialog.folders.path()); };
   desk.form.button.onClick = [&] { desk.dialog.showModal(); };
-  const auto lines = desk.play({R"({"do":"click","on":"button"})",
-                                R"({"do":"path","on":"Dialog.drives","value":"c:"})",
-                                R"({"do":"path","on":"Dialog.folders","value":"c:\\a"})",
-                                R"({"do":"path","on":"Dialog.folders","value":"c:\\nowhere"})",
-                                R"({"do":"choose","on":"Dialog.files","row":0})",
-                                R"({"get":"Dialog.files"})",
-                                R"({"do":"choose","on":"Dialog.drives","row":0})",
-                                R"({"do":"choose","on":"Dialog.drives","row":1})",
-                                R"({"do":"close","on":"Dialog"})"});
+  const auto lines = desk.play(
+      {R"({"do":"click","on":"button"})", R"({"do":"path","on":"Dialog.drives","value":"c:"})",
+       R"({"do":"path","on":"Dialog.folders","value":"c:\\a"})",
+       R"({"do":"path","on":"Dialog.folders","value":"c:\\nowhere"})",
+       R"({"do":"choose","on":"Dialog.files","row":0})", R"({"get":"Dialog.files"})",
+       R"({"do":"choose","on":"Dialog.drives","row":0})",
+       R"({"do":"choose","on":"Dialog.drives","row":1})", R"({"do":"close","on":"Dialog"})"});
   EXPECT_EQ(lines[1]["ok"], true);
   EXPECT_EQ(lines[2]["ok"], true);
   EXPECT_EQ(lines[3]["ok"], false);
