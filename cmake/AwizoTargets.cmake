@@ -62,9 +62,8 @@ function(awizo_test name)
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/tests")
   target_compile_definitions(${name} PRIVATE AWIZO_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gmock GTest::gtest_main awizo_options)
-  # Another false warning of GCC 12 of its own std::string; the tests' short texts bring it about.
-  target_compile_options(${name} PRIVATE
-    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release>>:-Wno-array-bounds>)
+  # Tests run what is optimised but needn't be so themselves: they compile in half the time.
+  target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O0>)
   target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <gmock/gmock.h> <string> <vector> <functional>)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT 600)
