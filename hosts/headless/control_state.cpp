@@ -1,6 +1,6 @@
 #include "hosts/headless/control_state.h"
 
-#include "hosts/headless/procedures/value_texts.h"
+#include "hosts/common/value_texts.h"
 #include "hosts/headless/table_state.h"
 #include "platform/forms/button.h"
 #include "platform/forms/drop_down_list.h"

@@ -6,42 +6,20 @@
 #include "adapters/curl/curl_http.h"
 #include "adapters/icu/icu_locale.h"
 #include "adapters/libxml2/libxml2.h"
-#include "adapters/posix/clocks.h"
 #include "adapters/posix/posix_files.h"
-#include "adapters/posix/settings_stores.h"
 #include "formats/file_dialog.h"
+#include "hosts/common/surroundings.h"
 #include "hosts/headless/control_members.h"
 #include "hosts/headless/conversation.h"
 #include "hosts/headless/desk.h"
 #include "hosts/headless/procedures/control_procedures.h"
 #include "hosts/headless/session_json.h"
-#include "hosts/headless/surroundings.h"
 #include "hosts/version.h"
 #include "session/awizo_wysylki.h"
 
 namespace awizo::headless {
 
 namespace {
-
-std::unique_ptr<Clock> makeClock(const Options& options) {
-  if (options.now) return std::make_unique<FixedClock>(*options.now);
-  return std::make_unique<SystemClock>();
-}
-
-std::unique_ptr<SettingsStore> makeSettings(const Options& options) {
-  std::unique_ptr<SettingsStore> settings;
-  if (options.settingsFile) {
-    settings = std::make_unique<SettingsFile>(*options.settingsFile);
-  } else if (options.offLinePath) {
-    settings = std::make_unique<SettingsInMemory>();
-  } else {
-    settings = std::make_unique<SettingsFile>(SettingsFile::usersOwnPath());
-  }
-  if (options.offLinePath) {
-    settings->write(settingApplication, settingSection, offLinePathKey, *options.offLinePath);
-  }
-  return settings;
-}
 
 /// The control in its surroundings, with what lines can do to it.
 class Program {

@@ -2,7 +2,7 @@
 
 #include <iosfwd>
 
-#include "hosts/headless/options.h"
+#include "hosts/common/options.h"
 
 namespace awizo::headless {
 

@@ -3,8 +3,18 @@
 #include <csignal>
 #include <exception>
 #include <iostream>
+#include <string_view>
 
 #include "hosts/headless/headless_program.h"
+
+namespace {
+
+constexpr std::string_view usage =
+    "usage: awizo-headless [--property NAME=VALUE]... [--page-url URL] [--cookie TEXT]\n"
+    "                      [--settings FILE] [--offline-path DIR] [--locale NAME]\n"
+    "                      [--now YYYY-MM-DDTHH:MM:SS]\n";
+
+}  // namespace
 
 int main(int argumentCount, char** arguments) {
   namespace headless = awizo::headless;
@@ -13,10 +23,10 @@ int main(int argumentCount, char** arguments) {
   std::ios::sync_with_stdio(false);
   std::cin.tie(nullptr);
   try {
-    return headless::runHeadless(headless::parseOptions({arguments + 1, arguments + argumentCount}),
+    return headless::runHeadless(awizo::parseOptions({arguments + 1, arguments + argumentCount}),
                                  std::cin, std::cout);
-  } catch (const headless::BadArguments& error) {
-    std::cerr << "awizo-headless: " << error.what() << '\n' << headless::usage;
+  } catch (const awizo::BadArguments& error) {
+    std::cerr << "awizo-headless: " << error.what() << '\n' << usage;
   } catch (const std::exception& error) {
     std::cerr << "awizo-headless: " << error.what() << '\n';
   }

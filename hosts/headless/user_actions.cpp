@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "hosts/headless/procedures/value_texts.h"
+#include "hosts/common/value_texts.h"
 #include "platform/forms/button.h"
 #include "platform/forms/drop_down_list.h"
 #include "platform/forms/file_lists.h"

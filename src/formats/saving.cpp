@@ -35,7 +35,10 @@ void saveDocument(Editor& editor, DlgWczytajZapisz& dialog) {
   const std::string& path = editor.session.LastFilePath;
   if (!path.empty()) {
     const std::unique_ptr<XmlDocument> document = MakeDesAdv(editor);
-    if (document) editor.platform.files.replace(path, document->fileBytes());
+    if (document) {
+      editor.platform.files.replace(path, document->fileBytes());
+      form.documentKept();
+    }
   }
   form.setEnabled(true);
 }

@@ -1,8 +1,8 @@
-#include "hosts/headless/options.h"
+#include "hosts/common/options.h"
 
 #include <gtest/gtest.h>
 
-#include "hosts/headless/surroundings.h"
+#include "hosts/common/surroundings.h"
 #include "platform/run_time_error.h"
 
 namespace awizo::headless {

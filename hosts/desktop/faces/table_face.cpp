@@ -60,7 +60,8 @@ void TableFace::layOverCell(Face& editor) {
   editor_ = &editor;
   editor.widget()->setParent(view_->viewport());
   editor.showAll();
-  form().onStateShown = [this](Face& face) {
+  form().onStateShown = [this, others = std::move(form().onStateShown)](Face& face) {
+    if (others) others(face);
     if (&face == editor_) placeEditor();
   };
   placeEditor();

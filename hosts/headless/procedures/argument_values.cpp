@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "hosts/headless/procedures/value_texts.h"
+#include "hosts/common/value_texts.h"
 
 namespace awizo::headless {
 

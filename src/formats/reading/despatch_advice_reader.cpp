@@ -264,7 +264,10 @@ void btnWczytaj_Click(Editor& editor, DlgWczytajZapisz& dialog) {
     dialog.setUpForReading();
     dialog.showModal();
     const std::string path = editor.session.LastFilePath;
-    if (!path.empty()) readFile(editor, path);
+    if (!path.empty()) {
+      readFile(editor, path);
+      editor.form.documentKept();
+    }
     editor.form.setEnabled(true);
     editor.form.grdPozycje.refresh();
   });

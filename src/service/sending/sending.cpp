@@ -59,6 +59,7 @@ void post(Editor& editor, XmlDocument& document) {
     editor.screen().messageBox(
         {"Документ отправлен.", "VIRD", BoxIcon::information, BoxButtons::ok});
     form.LastSentNumber = form.txtNrAwiza.text();
+    form.documentKept();
   } else {
     editor.screen().showCritical("Произошла ошибка:" + status, "VIRD");
   }

@@ -78,6 +78,13 @@ class AwizoForm : public Form {
   std::string BadColumnName;  ///< column that the line check rejected last
   bool WeightComplete = false;
 
+  /// Told when the document has been saved, sent or read from a file: as it stands now, it would
+  /// not be lost. A host may set it.
+  Event onDocumentKept;
+  void documentKept() const {
+    if (onDocumentKept) onDocumentKept();
+  }
+
   // The host's properties as they came; empty for one that the host doesn't have.
   std::string OnLine, DebugLevel, PartnerName, PartnerILN, PartnerURL;
 };

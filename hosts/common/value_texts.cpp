@@ -1,11 +1,11 @@
-#include "hosts/headless/procedures/value_texts.h"
+#include "hosts/common/value_texts.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdio>
 #include <vector>
 
-namespace awizo::headless {
+namespace awizo {
 
 namespace {
 
@@ -71,4 +71,4 @@ std::optional<Moment> parseMoment(std::string_view text) {
   return Moment{*date, *time};
 }
 
-}  // namespace awizo::headless
+}  // namespace awizo

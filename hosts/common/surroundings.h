@@ -2,14 +2,17 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
 
-#include "hosts/headless/options.h"
+#include "hosts/common/options.h"
+#include "platform/clock.h"
 #include "platform/host.h"
+#include "platform/settings.h"
 
-namespace awizo::headless {
+namespace awizo {
 
 /// The hosting page as the options describe it.
 class OptionsPage : public HostPage {
@@ -47,4 +50,12 @@ class ReportingHost : public ControlHost {
   std::function<void(std::string_view)> report_;
 };
 
-}  // namespace awizo::headless
+/// The machine's clock, or one that stands still where the options say so.
+std::unique_ptr<Clock> makeClock(const Options& options);
+
+/// The file that the options name, else the user's own; with nothing but a folder of off-line work
+/// named, a store in memory. That folder is put in. Raises the error of a file that can't be
+/// written.
+std::unique_ptr<SettingsStore> makeSettings(const Options& options);
+
+}  // namespace awizo

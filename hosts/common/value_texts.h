@@ -6,7 +6,7 @@
 
 #include "platform/date.h"
 
-namespace awizo::headless {
+namespace awizo {
 
 // Dates and times as lines of JSON hold them.
 
@@ -22,4 +22,4 @@ std::optional<TimeOfDay> parseTime(std::string_view text);
 /// "2026-11-30T10:30:15"; none for a text that is no such moment.
 std::optional<Moment> parseMoment(std::string_view text);
 
-}  // namespace awizo::headless
+}  // namespace awizo

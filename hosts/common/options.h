@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <map>
 #include <optional>
 #include <stdexcept>
@@ -9,7 +10,7 @@
 
 #include "platform/date.h"
 
-namespace awizo::headless {
+namespace awizo {
 
 /// What the program was asked at its start.
 struct Options {
@@ -26,11 +27,14 @@ class BadArguments : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Reads the arguments behind the program's name: "--name value" or "--name=value". Throws
-/// BadArguments.
-Options parseOptions(const std::vector<std::string>& arguments);
+/// Names of the property bag's entries.
+inline constexpr std::array<std::string_view, 5> propertyNames{
+    "OnLine", "DebugLevel", "PartnerName", "PartnerILN", "PartnerURL"};
 
-/// How the program is called, for people.
-extern const std::string_view usage;
+/// Reads the arguments behind the program's name: "--name value" or "--name=value". An argument
+/// that is no option goes to `others`; without a place for it, it is a bad argument as any other.
+/// Throws BadArguments.
+Options parseOptions(const std::vector<std::string>& arguments,
+                     std::vector<std::string>* others = nullptr);
 
-}  // namespace awizo::headless
+}  // namespace awizo

@@ -1,22 +1,14 @@
-#include "hosts/headless/options.h"
+#include "hosts/common/options.h"
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
 
-#include "hosts/headless/procedures/value_texts.h"
+#include "hosts/common/value_texts.h"
 
-namespace awizo::headless {
-
-const std::string_view usage =
-    "usage: awizo-headless [--property NAME=VALUE]... [--page-url URL] [--cookie TEXT]\n"
-    "                      [--settings FILE] [--offline-path DIR] [--locale NAME]\n"
-    "                      [--now YYYY-MM-DDTHH:MM:SS]\n";
+namespace awizo {
 
 namespace {
-
-constexpr std::array<std::string_view, 5> propertyNames{"OnLine", "DebugLevel", "PartnerName",
-                                                        "PartnerILN", "PartnerURL"};
 
 void takeProperty(Options& options, const std::string& entry) {
   const std::size_t equals = entry.find('=');
@@ -62,10 +54,14 @@ void takeOption(Options& options, const std::string& name, const std::string& va
 
 }  // namespace
 
-Options parseOptions(const std::vector<std::string>& arguments) {
+Options parseOptions(const std::vector<std::string>& arguments, std::vector<std::string>* others) {
   Options options;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const std::string& argument = arguments[i];
+    if (others != nullptr && !argument.starts_with("--")) {
+      others->push_back(argument);
+      continue;
+    }
     const std::size_t equals = argument.find('=');
     if (equals != std::string::npos) {
       takeOption(options, argument.substr(0, equals), argument.substr(equals + 1));
@@ -77,4 +73,4 @@ Options parseOptions(const std::vector<std::string>& arguments) {
   return options;
 }
 
-}  // namespace awizo::headless
+}  // namespace awizo

@@ -1,0 +1,118 @@
+#include "hosts/desktop/drawing/demo_user.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTimer>
+#include <iostream>
+
+#include "session/awizo_wysylki.h"
+#include "tables/columns.h"
+
+namespace awizo::desktop {
+namespace {
+
+constexpr std::string_view warehouse = "9520002001016";
+
+}  // namespace
+
+void DemoUser::during(const std::function<void()>& action, const std::function<void()>& inside) {
+  QTimer::singleShot(0, qApp, inside);
+  action();
+}
+
+void DemoUser::take(const std::string& name) {
+  QCoreApplication::processEvents();
+  QWidget* shown = QApplication::activeModalWidget();
+  if (shown == nullptr) shown = widget_.window();
+  const std::filesystem::path file = pictures_ / (name + ".png");
+  if (!shown->grab().save(QString::fromStdString(file.string()))) {
+    std::cerr << "can't write " << file << '\n';
+  }
+}
+
+void DemoUser::fillHeader() {
+  AwizoForm& form = widget_.control().form;
+  form.txtNrAwiza.userType("ТН-2026/0001");
+  form.txtCodeByBuyer.userType("417");
+  form.txtEstimatedDeliveryDate.userSet(makeDate(2026, 11, 30));
+}
+
+void DemoUser::addPackage(int kind, const std::string& description, const std::string& serial,
+                          int parent, const std::string& picture) {
+  AwizoWysylki& control = widget_.control();
+  during([&] { control.form.btnDodajOpak.userClick(); },
+         [&] {
+           DlgSzczegoly& dialog = control.dlgSzczegoly;
+           dialog.cboxPackageType.userChoose(kind);
+           dialog.txtPackageDesc.userType(description);
+           if (parent >= 0) dialog.cboxParentPackage.userChoose(parent);
+           dialog.cboxILNLokalizacji.userType(std::string(warehouse));
+           dialog.txtSerialNumberN.userType(serial);
+           if (!picture.empty()) take(picture);
+           dialog.btnDodaj.userClick();
+         });
+}
+
+void DemoUser::packLine(int row, int package, const std::string& picture) {
+  AwizoWysylki& control = widget_.control();
+  control.form.grdPozycje.userCell(row, GRD_POZ_NAME);
+  during([&] { control.form.btnEdytuj.userClick(); },
+         [&] {
+           DlgDodaj& dialog = control.dlgDodaj;
+           during([&] { dialog.Command1.userClick(); },
+                  [&] {
+                    control.dlgdodajPule.cboxPackages.userChoose(package);
+                    if (!picture.empty()) take(picture + "-quantity");
+                    control.dlgdodajPule.btnDodaj.userClick();
+                  });
+           if (!picture.empty()) take(picture);
+           dialog.btnDodaj.userClick();
+         });
+}
+
+void DemoUser::showOtherForms() {
+  AwizoWysylki& control = widget_.control();
+  during([&] { control.form.Image2.userClick(); },
+         [&] {
+           take("countries");
+           control.dlgIsoCodes.userClose();
+         });
+  const auto closeFiles = [&] { control.dlgWczytajZapisz.ImageZamknij.userClick(); };
+  during([&] { control.form.btnWczytaj.userClick(); },
+         [&] {
+           take("open");
+           closeFiles();
+         });
+  during([&] { widget_.askOffLineFolder(); },
+         [&] {
+           take("folder");
+           closeFiles();
+         });
+  // The document is only partly packed: the question comes first.
+  during([&] { control.form.btnZapisz.userClick(); },
+         [&] {
+           take("question");
+           QTimer::singleShot(0, qApp, [&] {
+             take("save");
+             closeFiles();
+           });
+           if (QWidget* box = QApplication::activeModalWidget()) {
+             QKeyEvent yes(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+             QCoreApplication::sendEvent(box, &yes);
+           }
+         });
+}
+
+void DemoUser::work() {
+  take("order");
+  fillHeader();
+  addPackage(0, "Паллета 1", "035200010000000018", -1, "");
+  addPackage(1, "Коробка 1", "035200010000000025", 0, "package");
+  addPackage(1, "Коробка 2", "035200010000000032", 0, "");
+  for (int row = 1; row <= 4; ++row) packLine(row, 1 + row % 2, row == 1 ? "line" : "");
+  widget_.control().form.grdPozycje.userCell(1, GRD_POZ_NAME);
+  take("main");
+  showOtherForms();
+}
+
+}  // namespace awizo::desktop

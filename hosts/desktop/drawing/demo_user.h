@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QWidget>
+#include <filesystem>
+#include <functional>
+#include <string>
+
+#include "hosts/desktop/window/awizo_wysylki_widget.h"
+
+namespace awizo::desktop {
+
+/// A user who works with the demo's order and takes a picture of every form on the way.
+class DemoUser {
+ public:
+  DemoUser(AwizoWysylkiWidget& widget, std::filesystem::path pictures)
+      : widget_(widget), pictures_(std::move(pictures)) {}
+
+  /// The road from the order to a packed document.
+  void work();
+
+ private:
+  /// Opens what is modal by the action and does `inside` while it is open.
+  void during(const std::function<void()>& action, const std::function<void()>& inside);
+  void take(const std::string& name);
+  void fillHeader();
+  void addPackage(int kind, const std::string& description, const std::string& serial, int parent,
+                  const std::string& picture);
+  void packLine(int row, int package, const std::string& picture);
+  void showOtherForms();
+
+  AwizoWysylkiWidget& widget_;
+  std::filesystem::path pictures_;
+};
+
+}  // namespace awizo::desktop

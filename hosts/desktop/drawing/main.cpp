@@ -1,0 +1,104 @@
+// Draws the main window and every dialog, filled with the demo's data, into PNG files.
+// usage: awizo-pictures FOLDER [--dark] [--size WIDTHxHEIGHT]
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QStyleFactory>
+#include <QTemporaryDir>
+#include <filesystem>
+#include <iostream>
+
+#include "adapters/posix/clocks.h"
+#include "adapters/posix/settings_stores.h"
+#include "hosts/common/surroundings.h"
+#include "hosts/desktop/drawing/demo_http.h"
+#include "hosts/desktop/drawing/demo_user.h"
+
+namespace {
+
+using namespace awizo;
+namespace fs = std::filesystem;
+
+QPalette darkPalette() {
+  QPalette palette(QColor(45, 48, 52));
+  palette.setColor(QPalette::Base, QColor(30, 32, 35));
+  palette.setColor(QPalette::AlternateBase, QColor(38, 41, 45));
+  palette.setColor(QPalette::ToolTipBase, QColor(60, 64, 70));
+  palette.setColor(QPalette::Highlight, QColor(46, 120, 160));
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                          QPalette::ToolTipText, QPalette::HighlightedText}) {
+    palette.setColor(role, QColor(232, 234, 237));
+    palette.setColor(QPalette::Disabled, role, QColor(140, 144, 150));
+  }
+  palette.setColor(QPalette::PlaceholderText, QColor(160, 164, 170));
+  return palette;
+}
+
+Options demoOptions() {
+  Options options;
+  options.properties = {
+      {"PartnerName", "Demo"}, {"PartnerILN", "9520002000019"}, {"PartnerURL", "partner"}};
+  options.pageUrl = "http://127.0.0.1:8080/vird/page/editor.html";
+  options.cookie = "demo";
+  options.locale = "ru_RU";
+  options.now = Moment{makeDate(2026, 11, 27), {10, 15, 0}};
+  return options;
+}
+
+/// A copy of the demo's folder, which the program writes to; gone at the end.
+class DemoFolder {
+ public:
+  DemoFolder() {
+    fs::copy(fs::path(AWIZO_DEMO_FOLDER) / "folder", path(), fs::copy_options::recursive);
+  }
+  std::string path() const { return root_.filePath("VIRD").toStdString(); }
+
+ private:
+  QTemporaryDir root_;
+};
+
+void draw(const fs::path& pictures, const QSize& size) {
+  const DemoFolder folder;
+  Options options = demoOptions();
+  options.offLinePath = folder.path();
+  OptionsBag bag(options);
+  OptionsPage page(options);
+  const auto settings = makeSettings(options);
+  const auto clock = makeClock(options);
+  desktop::DemoHttp http(fs::path(AWIZO_DEMO_FOLDER) / "data");
+  QMainWindow window;
+  auto* widget =
+      new desktop::AwizoWysylkiWidget({bag, page, *settings, options.locale, clock.get(), &http});
+  window.setCentralWidget(widget);
+  window.resize(size);
+  QObject::connect(widget, &desktop::AwizoWysylkiWidget::startEnded, &window, [&] {
+    desktop::DemoUser(*widget, pictures).work();
+    QApplication::exit(0);
+  });
+  window.show();
+  QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argumentCount, arguments);
+  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QStringList given = QApplication::arguments().mid(1);
+  if (given.removeAll("--dark") > 0) QApplication::setPalette(darkPalette());
+  QSize size(1024, 700);
+  if (const auto at = given.indexOf("--size"); at >= 0 && at + 1 < given.size()) {
+    const QStringList sides = given[at + 1].split('x');
+    size = QSize(sides.value(0).toInt(), sides.value(1).toInt());
+    given.remove(at, 2);
+  }
+  if (given.size() != 1) {
+    std::cerr << "usage: awizo-pictures FOLDER [--dark] [--size WIDTHxHEIGHT]\n";
+    return 2;
+  }
+  const fs::path pictures = given.front().toStdString();
+  fs::create_directories(pictures);
+  draw(pictures, size);
+  return 0;
+}

@@ -1,0 +1,211 @@
+#include "hosts/desktop/window/awizo_wysylki_widget.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+#include <optional>
+
+#include "adapters/curl/curl_http.h"
+#include "adapters/icu/icu_locale.h"
+#include "adapters/libxml2/libxml2.h"
+#include "adapters/posix/clocks.h"
+#include "adapters/posix/posix_files.h"
+#include "hosts/common/surroundings.h"
+#include "hosts/desktop/faces/form_face.h"
+#include "hosts/desktop/window/commands.h"
+#include "hosts/desktop/window/document_content.h"
+#include "hosts/desktop/window/host_screen.h"
+#include "hosts/desktop/window/main_layout.h"
+#include "hosts/desktop/window/watched_http.h"
+#include "hosts/version.h"
+#include "session/awizo_wysylki.h"
+
+namespace awizo::desktop {
+namespace {
+
+QString workOf(const std::string& url, const AwizoForm& form) {
+  if (url == form.UploadUrl) return "Отправка документа…";
+  if (url == form.OrderDataUrl) return "Получение заказа…";
+  if (url == form.PartnersUrl) return "Загрузка данных партнёра…";
+  if (url.ends_with("Dictionary.aspx")) return "Загрузка мест доставки…";
+  return "Загрузка каталога…";
+}
+
+}  // namespace
+
+/// The control in its surroundings and on the screen.
+struct AwizoWysylkiWidget::Parts {
+  Parts(const Surroundings& given, AwizoWysylkiWidget& widget)
+      : content(new QWidget(&widget)),
+        waiting(widget),
+        face(waiting),
+        screen(face),
+        locale(given.locale.empty() ? IcuLocale::environmentName() : given.locale),
+        network({[this] {
+                   waiting.goOn();
+                   return !face.ending();
+                 },
+                 ""}),
+        http(given.http != nullptr ? *given.http : network),
+        host([&widget](std::string_view property) {
+          if (property == "OnLine") emit widget.onLineChanged();
+          if (property == "DebugLevel") emit widget.debugLevelChanged();
+        }),
+        platform{xml,           http,
+                 given.page,    given.bag,
+                 host,          given.settings,
+                 files,         given.clock != nullptr ? *given.clock : machineClock,
+                 locale,        screen,
+                 programVersion},
+        session(platform),
+        control(platform, session),
+        faces(new FormFace(control.form, *content)) {
+    face.setMainWindow(control.form, widget);
+  }
+  ~Parts() {
+    face.releaseDialogs();
+    delete faces;
+  }
+  Parts(const Parts&) = delete;
+  Parts& operator=(const Parts&) = delete;
+
+  QWidget* content;
+  Waiting waiting;
+  HostScreen face;
+  Screen screen;
+  Libxml2 xml;
+  IcuLocale locale;
+  CurlHttp network;
+  WatchedHttp http;
+  PosixFiles files;
+  SystemClock machineClock;
+  ReportingHost host;
+  Platform platform;
+  SessionState session;
+  AwizoWysylki control;
+  FormFace* faces;
+  Commands* commands = nullptr;
+  /// The document as it was last kept; none where it never was and would be lost.
+  std::optional<std::string> keptContent;
+};
+
+AwizoWysylkiWidget::AwizoWysylkiWidget(const Surroundings& surroundings, QWidget* parent)
+    : QWidget(parent), parts_(std::make_unique<Parts>(surroundings, *this)) {
+  Parts& parts = *parts_;
+  parts.http.during = [this](const std::string& url, const std::function<void()>& exchange) {
+    runExchange(url, exchange);
+  };
+  parts.control.UserControl_Initialize();
+  parts.control.UserControl_ReadProperties();
+  layOutMain(parts.control.form, *parts.faces);
+  parts.faces->showAll();
+  parts.commands = new Commands(parts.control.form, *parts.faces, *this);
+  parts.faces->onStateShown = [this, others = std::move(parts.faces->onStateShown)](Face& face) {
+    if (others) others(face);
+    showStates();
+  };
+  parts.faces->onChange = [this](const Change&) { showStates(); };
+  parts.control.form.onDocumentKept = [this] { keepContent(); };
+
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->addWidget(parts.content);
+}
+
+AwizoWysylkiWidget::~AwizoWysylkiWidget() {
+  endWork();
+  Parts& parts = *parts_;
+  parts.control.UserControl_WriteProperties();
+  // A control that never worked has read no folder that it could keep.
+  if (started_) parts.control.UserControl_Terminate();
+  parts.control.form.onDocumentKept = nullptr;
+  delete parts.commands;
+}
+
+QString AwizoWysylkiWidget::onLine() const { return fromText(parts_->control.OnLine()); }
+
+void AwizoWysylkiWidget::setOnLine(const QString& value) {
+  parts_->control.setOnLine(toText(value));
+}
+
+QString AwizoWysylkiWidget::debugLevel() const { return fromText(parts_->control.DebugLevel()); }
+
+void AwizoWysylkiWidget::setDebugLevel(const QString& value) {
+  parts_->control.setDebugLevel(toText(value));
+}
+
+AwizoWysylki& AwizoWysylkiWidget::control() { return parts_->control; }
+FormFace& AwizoWysylkiWidget::faces() { return *parts_->faces; }
+Commands& AwizoWysylkiWidget::commands() { return *parts_->commands; }
+Waiting& AwizoWysylkiWidget::waiting() { return parts_->waiting; }
+
+bool AwizoWysylkiWidget::hasFailed() const { return parts_->face.programEnded(); }
+
+bool AwizoWysylkiWidget::isWorking() const {
+  return parts_->waiting.lasts() || parts_->face.asksUser();
+}
+
+void AwizoWysylkiWidget::endWork() { parts_->face.end(); }
+
+Answer AwizoWysylkiWidget::ask(const MessageBox& box) { return parts_->screen.messageBox(box); }
+
+bool AwizoWysylkiWidget::askOffLineFolder() {
+  Parts& parts = *parts_;
+  awizo::askOffLineFolder(parts.control.dlgWczytajZapisz);
+  return !parts.platform.settings.read(settingApplication, settingSection, offLinePathKey, "")
+              .empty();
+}
+
+void AwizoWysylkiWidget::start() {
+  if (startAsked_) return;
+  startAsked_ = true;
+  if (mayStart && !mayStart()) {
+    startAsked_ = false;
+    emit startEnded();
+    return;
+  }
+  started_ = true;
+  {
+    const Waiting::Span span(parts_->waiting);
+    parts_->waiting.show("Запуск…");
+    parts_->control.UserControl_Show();
+  }
+  if (!parts_->control.form.OrderAnswer) keepContent();
+  showStates();
+  emit startEnded();
+}
+
+void AwizoWysylkiWidget::runExchange(const std::string& url,
+                                     const std::function<void()>& exchange) {
+  const Waiting::Span span(parts_->waiting);
+  parts_->waiting.show(workOf(url, parts_->control.form));
+  exchange();
+}
+
+void AwizoWysylkiWidget::showStates() {
+  const AwizoForm& form = parts_->control.form;
+  if (parts_->commands != nullptr) parts_->commands->follow();
+  auto* address = parts_->content->findChild<QLabel*>("lblUploadUrl");
+  const QString url = form.OnLine == "Off" ? QString() : fromText(form.UploadUrl);
+  address->setText(url);
+  address->setToolTip(url);
+}
+
+void AwizoWysylkiWidget::keepContent() {
+  parts_->keptContent = documentContent(parts_->control.editor);
+}
+
+bool AwizoWysylkiWidget::isDocumentChanged() const {
+  // A start that failed left nothing to work on.
+  const bool usable = parts_->control.form.enabled() || isWorking();
+  if (!started_ || !usable) return false;
+  if (!parts_->keptContent) return parts_->session.LineCount > 0;
+  return documentContent(parts_->control.editor) != *parts_->keptContent;
+}
+
+void AwizoWysylkiWidget::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  // The window is painted first.
+  QMetaObject::invokeMethod(this, &AwizoWysylkiWidget::start, Qt::QueuedConnection);
+}
+
+}  // namespace awizo::desktop

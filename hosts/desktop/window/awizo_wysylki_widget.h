@@ -1,0 +1,101 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/clock.h"
+#include "platform/host.h"
+#include "platform/http.h"
+#include "platform/screen_face.h"
+#include "platform/settings.h"
+
+namespace awizo {
+class AwizoWysylki;
+}
+
+namespace awizo::desktop {
+
+class Commands;
+class FormFace;
+class HostScreen;
+class Waiting;
+
+/// The control `AwizoWysylki` as a widget. Shown for the first time it starts its work by itself:
+/// it reads the local folder and, on line, talks to the service, while the window keeps painting
+/// and takes no input. At the end of its life it keeps the folder in the settings.
+class AwizoWysylkiWidget : public QWidget {
+  Q_OBJECT
+  /// "Off" means off-line, any other text on-line.
+  Q_PROPERTY(QString OnLine READ onLine WRITE setOnLine NOTIFY onLineChanged)
+  /// Empty where the property holds no 16-bit number.
+  Q_PROPERTY(QString DebugLevel READ debugLevel WRITE setDebugLevel NOTIFY debugLevelChanged)
+
+ public:
+  /// What the host gives the control. All of it outlives the widget.
+  struct Surroundings {
+    PropertyBag& bag;
+    HostPage& page;
+    SettingsStore& settings;
+    std::string locale = {};       ///< "ru_RU"; empty: the environment's
+    const Clock* clock = nullptr;  ///< null: the machine's
+    Http* http = nullptr;          ///< null: the network
+  };
+
+  explicit AwizoWysylkiWidget(const Surroundings& surroundings, QWidget* parent = nullptr);
+  ~AwizoWysylkiWidget() override;
+
+  QString onLine() const;
+  void setOnLine(const QString& value);
+  QString debugLevel() const;
+  void setDebugLevel(const QString& value);
+
+  /// Asked before the work starts; while the answer is no, nothing is read or sent. May be empty.
+  std::function<bool()> mayStart;
+  bool hasStarted() const { return started_; }
+  /// Starts the work, as the first showing does.
+  void start();
+
+  /// Whether the document holds what was neither saved nor sent: the user's changes, or an order
+  /// that the service has handed out for good.
+  bool isDocumentChanged() const;
+  /// Whether an exchange runs or the user is asked something, so that the widget can't go yet.
+  bool isWorking() const;
+  /// Brings all work that goes on to its end: exchanges are cut off, boxes and dialogs go.
+  void endWork();
+  /// Couldn't be set up; the user was told.
+  bool hasFailed() const;
+
+  /// Asks the user a question of the host's own, over whatever is on top.
+  Answer ask(const MessageBox& box);
+  /// Lets the user choose the folder of off-line work; answers whether there is one now.
+  bool askOffLineFolder();
+
+  AwizoWysylki& control();
+  FormFace& faces();
+  Commands& commands();
+  Waiting& waiting();
+
+ signals:
+  void onLineChanged();
+  void debugLevelChanged();
+  /// The start is over, whatever came of it.
+  void startEnded();
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  struct Parts;
+
+  void runExchange(const std::string& url, const std::function<void()>& exchange);
+  void showStates();
+  void keepContent();
+
+  std::unique_ptr<Parts> parts_;
+  bool startAsked_ = false;
+  bool started_ = false;
+};
+
+}  // namespace awizo::desktop

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <vector>
+
+#include "hosts/desktop/screen/desktop_screen.h"
+#include "hosts/desktop/window/waiting.h"
+
+namespace awizo::desktop {
+
+/// The screen of a window that may be closed at any time: once it is told to end, boxes answer
+/// themselves with OK or No and forms hide, so that all work that waits for the user comes to its
+/// end.
+class HostScreen : public DesktopScreen {
+ public:
+  explicit HostScreen(Waiting& waiting) : waiting_(waiting) {}
+
+  Answer ask(const MessageBox& box) override;
+  void formOpened(Form& form) override;
+  void runModal(Form& form) override;
+
+  void end();
+  bool ending() const { return ending_; }
+  /// Whether the user is asked something or works in a dialog.
+  bool asksUser() const { return asking_ > 0; }
+
+ private:
+  Waiting& waiting_;
+  std::vector<Form*> modal_;
+  int asking_ = 0;
+  bool ending_ = false;
+};
+
+}  // namespace awizo::desktop

@@ -1,0 +1,154 @@
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <initializer_list>
+#include <tuple>
+
+#include "hosts/desktop/faces/button_face.h"
+#include "hosts/desktop/faces/table_face.h"
+#include "hosts/desktop/window/main_layout.h"
+
+namespace awizo::desktop {
+namespace {
+
+ButtonFace& buttonOf(FormFace& faces, const Button& button) {
+  return static_cast<ButtonFace&>(faces.face(button));
+}
+
+TableFace& tableOf(FormFace& faces, const Table& table) {
+  return static_cast<TableFace&>(faces.face(table));
+}
+
+/// Adding, editing and removing, one below the other beside their table.
+QLayout* makeRowButtons(FormFace& faces, const Button& add, const Button& edit,
+                        const Button& remove) {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(4);
+  const std::initializer_list<std::pair<const Button*, const char*>> buttons{
+      {&add, "add"}, {&edit, "edit"}, {&remove, "remove"}};
+  for (const auto& [button, picture] : buttons) {
+    buttonOf(faces, *button).setPicture(picture);
+    QWidget* widget = faces.widget(*button);
+    const int side = widget->fontMetrics().height() + 14;
+    widget->setFixedSize(side + 6, side);
+    column->addWidget(widget);
+  }
+  column->addStretch(1);
+  return column;
+}
+
+/// What is written over all lines: a value and the two ways of writing it.
+QLayout* makeFillRow(FormFace& faces, QWidget* caption, std::initializer_list<QWidget*> value,
+                     const Button& fillEmpty, const Button& fillAll) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(6);
+  row->addWidget(caption);
+  for (QWidget* part : value) row->addWidget(part);
+  row->addWidget(faces.widget(fillEmpty));
+  row->addWidget(faces.widget(fillAll));
+  row->addStretch(1);
+  return row;
+}
+
+}  // namespace
+
+QWidget* makeLines(AwizoForm& form, FormFace& faces) {
+  QWidget* frame = faces.widget(form.frmPozycje);
+  TableFace& table = tableOf(faces, form.grdPozycje);
+  table.layOverCell(faces.face(form.txtEdycja));
+  table.view()->setMinimumHeight(table.view()->fontMetrics().height() * 7);
+  auto* grid = new QGridLayout(frame);
+  grid->setSpacing(6);
+  grid->addWidget(table.view(), 0, 0);
+  grid->addLayout(makeRowButtons(faces, form.btnDodaj, form.btnEdytuj, form.btnUsun), 0, 1);
+  grid->addLayout(
+      makeFillRow(faces, faces.widget(form.lblStawkaVAT), {faces.widget(form.comboStawkaVAT)},
+                  form.btnUzupelnij, form.btnNadpisz),
+      1, 0, 1, 2);
+  buttonOf(faces, form.Image2).setPicture("countries");
+  grid->addLayout(makeFillRow(faces, new QLabel("Страна:"),
+                              {faces.widget(form.comboCountry), faces.widget(form.Image2)},
+                              form.btnUzupelnij2, form.btnNadpisz2),
+                  2, 0, 1, 2);
+  return frame;
+}
+
+QWidget* makePackages(AwizoForm& form, FormFace& faces) {
+  QWidget* frame = faces.widget(form.Frame1);
+  auto* row = new QHBoxLayout(frame);
+  row->setSpacing(6);
+  QTableView* view = tableOf(faces, form.grdOpakowania).view();
+  view->setMinimumHeight(view->fontMetrics().height() * 6);
+  row->addWidget(view);
+  row->addLayout(makeRowButtons(faces, form.btnDodajOpak, form.btnEdytujOpak, form.btnUsunOpak));
+  return frame;
+}
+
+QWidget* makeTotals(AwizoForm& form, FormFace& faces) {
+  QWidget* frame = faces.widget(form.frmPodsumowanie);
+  auto* rows = new QVBoxLayout(frame);
+  rows->setSpacing(6);
+  TableFace& table = tableOf(faces, form.grdSuma);
+  table.layOverCell(faces.face(form.txtEdycjaSuma));
+  QTableView* view = table.view();
+  view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  const int rowHeight = view->fontMetrics().height() + 8;
+  view->setFixedHeight(view->horizontalHeader()->sizeHint().height() + rowHeight +
+                       2 * view->frameWidth());
+  table.stretchColumn(1);
+  rows->addWidget(view);
+  auto* currency = new QHBoxLayout;
+  currency->addWidget(faces.widget(form.lblNiepelnaWagaKom));
+  currency->addStretch(1);
+  currency->addWidget(new QLabel(fromText(form.lblCurrencyWart.heading())));
+  currency->addWidget(faces.widget(form.lblCurrencyWart));
+  rows->addLayout(currency);
+  rows->addStretch(1);
+
+  auto* ways = new QHBoxLayout;
+  ways->setSpacing(8);
+  ways->addStretch(1);
+  const std::initializer_list<std::tuple<const Button*, const char*, const char*>> buttons{
+      {&form.btnWczytaj, "open", "Открыть"},
+      {&form.btnZapisz, "save", "Сохранить"},
+      {&form.btnPrzeslij, "send", "Отправить"}};
+  for (const auto& [button, picture, words] : buttons) {
+    buttonOf(faces, *button).setPicture(picture);
+    buttonOf(faces, *button).setWords(words);
+    static_cast<QToolButton*>(faces.widget(*button))->setAutoRaise(false);
+    ways->addWidget(faces.widget(*button));
+  }
+  auto* column = new QWidget;
+  auto* parts = new QVBoxLayout(column);
+  parts->setContentsMargins(0, 0, 0, 0);
+  parts->setSpacing(6);
+  parts->addWidget(frame, 1);
+  parts->addLayout(ways);
+  return column;
+}
+
+QWidget* makeStatus(AwizoForm& form, FormFace& faces) {
+  auto* line = new QWidget;
+  auto* row = new QHBoxLayout(line);
+  row->setContentsMargins(2, 0, 2, 0);
+  row->setSpacing(12);
+  QWidget* state = faces.widget(form.lblOnLineStatus);
+  QFont bold = state->font();
+  bold.setBold(true);
+  state->setFont(bold);
+  row->addWidget(state);
+  auto* address = new QLabel;
+  address->setObjectName("lblUploadUrl");
+  address->setTextFormat(Qt::PlainText);
+  address->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  address->setFocusPolicy(Qt::NoFocus);
+  // A long address is cut at the window's edge and is whole in its tip.
+  address->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  row->addWidget(address, 1);
+  row->addWidget(faces.widget(form.lblVersion));
+  return line;
+}
+
+}  // namespace awizo::desktop
