@@ -106,9 +106,9 @@ void DemoUser::showOtherForms() {
 void DemoUser::work() {
   take("order");
   fillHeader();
-  addPackage(0, "Паллета 1", "035200010000000018", -1, "");
-  addPackage(1, "Коробка 1", "035200010000000025", 0, "package");
-  addPackage(1, "Коробка 2", "035200010000000032", 0, "");
+  addPackage(0, "Паллета 1", "035200010000000016", -1, "");
+  addPackage(1, "Коробка 1", "035200010000000023", 0, "package");
+  addPackage(1, "Коробка 2", "035200010000000030", 0, "");
   for (int row = 1; row <= 4; ++row) packLine(row, 1 + row % 2, row == 1 ? "line" : "");
   widget_.control().form.grdPozycje.userCell(1, GRD_POZ_NAME);
   take("main");

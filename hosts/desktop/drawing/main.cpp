@@ -85,6 +85,7 @@ int main(int argumentCount, char** arguments) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argumentCount, arguments);
   QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QLocale::setDefault(desktop::localeNamed("ru_RU"));
   QStringList given = QApplication::arguments().mid(1);
   if (given.removeAll("--dark") > 0) QApplication::setPalette(darkPalette());
   QSize size(1024, 700);

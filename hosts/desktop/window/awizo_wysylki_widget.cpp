@@ -30,7 +30,16 @@ QString workOf(const std::string& url, const AwizoForm& form) {
   return "Загрузка каталога…";
 }
 
+std::string chosenLocale(const std::string& given) {
+  return given.empty() ? IcuLocale::environmentName() : given;
+}
+
 }  // namespace
+
+QLocale localeNamed(const std::string& name) {
+  const QLocale locale(fromText(chosenLocale(name)));
+  return locale.language() == QLocale::C ? QLocale("ru_RU") : locale;
+}
 
 /// The control in its surroundings and on the screen.
 struct AwizoWysylkiWidget::Parts {
@@ -39,7 +48,7 @@ struct AwizoWysylkiWidget::Parts {
         waiting(widget),
         face(waiting),
         screen(face),
-        locale(given.locale.empty() ? IcuLocale::environmentName() : given.locale),
+        locale(chosenLocale(given.locale)),
         network({[this] {
                    waiting.goOn();
                    return !face.ending();
@@ -58,7 +67,10 @@ struct AwizoWysylkiWidget::Parts {
                  programVersion},
         session(platform),
         control(platform, session),
-        faces(new FormFace(control.form, *content)) {
+        faces(nullptr) {
+    // Dates and times are written as the control writes them.
+    content->setLocale(localeNamed(given.locale));
+    faces = new FormFace(control.form, *content);
     face.setMainWindow(control.form, widget);
   }
   ~Parts() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLocale>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -21,6 +22,10 @@ class Commands;
 class FormFace;
 class HostScreen;
 class Waiting;
+
+/// The locale in which Qt writes dates and times: that of the name, else the environment's; ru_RU
+/// where neither names one. A program makes it the default before it makes windows.
+QLocale localeNamed(const std::string& name);
 
 /// The control `AwizoWysylki` as a widget. Shown for the first time it starts its work by itself:
 /// it reads the local folder and, on line, talks to the service, while the window keeps painting

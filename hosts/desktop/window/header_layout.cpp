@@ -1,5 +1,6 @@
+#include <QFrame>
 #include <QGridLayout>
-#include <QGroupBox>
+#include <QLabel>
 #include <QVBoxLayout>
 
 #include "hosts/desktop/window/main_layout.h"
@@ -7,53 +8,71 @@
 namespace awizo::desktop {
 namespace {
 
-QGroupBox* makeBox(const QString& heading) {
-  auto* box = new QGroupBox(heading);
-  box->setFlat(true);
-  return box;
+/// One group of fields under its heading.
+struct Group {
+  QWidget* widget;
+  QGridLayout* grid;
+};
+
+Group makeGroup(const QString& heading) {
+  auto* widget = new QWidget;
+  auto* rows = new QVBoxLayout(widget);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(4);
+  auto* label = new QLabel(heading);
+  QFont bold = label->font();
+  bold.setBold(true);
+  label->setFont(bold);
+  rows->addWidget(label);
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(8);
+  grid->setVerticalSpacing(2);
+  rows->addLayout(grid);
+  rows->addStretch(1);
+  return {widget, grid};
 }
 
-/// Adds a field under its own caption.
+QWidget* makeLine(QFrame::Shape shape) {
+  auto* line = new QFrame;
+  line->setFrameShape(shape);
+  line->setFrameShadow(QFrame::Sunken);
+  return line;
+}
+
+/// Adds a field under its own caption; `row` counts fields.
 template <class Field>
 void add(QGridLayout* grid, FormFace& faces, const Field& field, int row, int column,
          int columns = 1) {
-  grid->addLayout(captioned(fromText(field.caption()), faces.widget(field)), row, column, 1,
-                  columns);
-}
-
-QGridLayout* makeGrid(QWidget* parent) {
-  auto* grid = new QGridLayout(parent);
-  grid->setHorizontalSpacing(8);
-  grid->setVerticalSpacing(4);
-  return grid;
+  auto* words = new QLabel(fromText(field.caption()));
+  words->setTextFormat(Qt::PlainText);
+  if (row > 0) words->setContentsMargins(0, 4, 0, 0);
+  grid->addWidget(words, 2 * row, column, 1, columns);
+  grid->addWidget(faces.widget(field), 2 * row + 1, column, 1, columns);
 }
 
 QWidget* makeDocument(AwizoForm& form, FormFace& faces) {
-  QGroupBox* box = makeBox("Документ");
-  QGridLayout* grid = makeGrid(box);
+  const auto [group, grid] = makeGroup("Документ");
   add(grid, faces, form.txtNrAwiza, 0, 0, 2);
   add(grid, faces, form.txtDataAwiza, 1, 0);
   add(grid, faces, form.txtDespatchAdviceTime, 1, 1);
-  return box;
+  return group;
 }
 
 QWidget* makeOrder(AwizoForm& form, FormFace& faces) {
-  QGroupBox* box = makeBox("Заказ");
-  QGridLayout* grid = makeGrid(box);
+  const auto [group, grid] = makeGroup("Заказ");
   add(grid, faces, form.txtNrZam, 0, 0);
   add(grid, faces, form.dpDataZam, 0, 1);
   add(grid, faces, form.txtCodeByBuyer, 1, 0, 2);
-  return box;
+  return group;
 }
 
 QWidget* makeDelivery(AwizoForm& form, FormFace& faces) {
-  QGroupBox* box = makeBox("Доставка");
-  QGridLayout* grid = makeGrid(box);
+  const auto [group, grid] = makeGroup("Доставка");
   add(grid, faces, form.txtEstimatedDeliveryDate, 0, 0);
   add(grid, faces, form.txtEstimatedDeliveryTime, 0, 1);
   add(grid, faces, form.cboxPackageDescription, 1, 0);
   add(grid, faces, form.txtGoodsIdentity, 1, 1);
-  return box;
+  return group;
 }
 
 /// A long name takes a second line rather than the window's width.
@@ -73,8 +92,11 @@ QLabel* caption(const std::string& text) {
 }
 
 QWidget* makeParties(AwizoForm& form, FormFace& faces) {
-  QGroupBox* box = makeBox("Стороны");
-  QGridLayout* grid = makeGrid(box);
+  auto* parties = new QWidget;
+  auto* grid = new QGridLayout(parties);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(8);
+  grid->setVerticalSpacing(3);
   const auto addParty = [&](int row, const Label& iln, const Label& name) {
     grid->addWidget(caption(iln.heading()), row, 0);
     grid->addWidget(value(faces, iln), row, 1);
@@ -83,36 +105,46 @@ QWidget* makeParties(AwizoForm& form, FormFace& faces) {
   addParty(0, form.lblILNSprzedWart, form.lblNameSprzedWart);
   addParty(1, form.lblILNKupWart, form.lblNameKupWart);
   grid->addWidget(caption(form.lblILNMiejscaDostValue.heading()), 0, 3);
-  grid->addWidget(value(faces, form.lblILNMiejscaDostValue), 0, 4);
-  grid->addWidget(caption(form.lblNazwaMiejscaDostWart.heading()), 0, 5);
-  grid->addWidget(value(faces, form.lblNazwaMiejscaDostWart), 0, 6);
+  auto* place = new QHBoxLayout;
+  place->setSpacing(8);
+  place->addWidget(value(faces, form.lblILNMiejscaDostValue));
+  place->addWidget(caption(form.lblNazwaMiejscaDostWart.heading()));
+  place->addWidget(value(faces, form.lblNazwaMiejscaDostWart), 1);
+  grid->addLayout(place, 0, 4);
   grid->addWidget(caption(form.lblAdresMiejscaDostawy.heading()), 1, 3);
   auto* address = new QHBoxLayout;
-  address->addWidget(value(faces, form.lblAdresMiejscaDostawy));
+  address->setSpacing(8);
   address->addWidget(value(faces, form.lblNazwaMiejscaDostawy), 1);
-  grid->addLayout(address, 1, 4, 1, 3);
-  grid->setColumnStretch(2, 3);
-  grid->setColumnStretch(6, 3);
-  const int ilnWidth = box->fontMetrics().horizontalAdvance('0') * 14;
-  grid->setColumnMinimumWidth(1, ilnWidth);
-  grid->setColumnMinimumWidth(4, ilnWidth);
-  return box;
+  address->addWidget(value(faces, form.lblAdresMiejscaDostawy), 2);
+  grid->addLayout(address, 1, 4);
+  grid->setColumnStretch(2, 2);
+  grid->setColumnStretch(4, 3);
+  const int ilnWidth = parties->fontMetrics().horizontalAdvance('0') * 14;
+  for (const Label* iln :
+       {&form.lblILNSprzedWart, &form.lblILNKupWart, &form.lblILNMiejscaDostValue}) {
+    faces.widget(*iln)->setMinimumWidth(ilnWidth);
+  }
+  return parties;
 }
 
 }  // namespace
 
 QWidget* makeHeader(AwizoForm& form, FormFace& faces) {
   QWidget* frame = faces.widget(form.frmDaneNaglowka);
-  auto* fields = new QHBoxLayout;
-  fields->setSpacing(16);
-  fields->addWidget(makeDocument(form, faces), 3);
-  fields->addWidget(makeOrder(form, faces), 2);
-  fields->addWidget(makeDelivery(form, faces), 3);
+  auto* groups = new QHBoxLayout;
+  groups->setSpacing(10);
+  groups->addWidget(makeDocument(form, faces), 3);
+  groups->addWidget(makeLine(QFrame::VLine));
+  groups->addWidget(makeOrder(form, faces), 2);
+  groups->addWidget(makeLine(QFrame::VLine));
+  groups->addWidget(makeDelivery(form, faces), 3);
   auto* rows = new QVBoxLayout(frame);
-  rows->setSpacing(2);
-  rows->addLayout(fields);
+  rows->setContentsMargins(8, 4, 8, 6);
+  rows->setSpacing(6);
+  rows->addLayout(groups);
+  rows->addWidget(makeLine(QFrame::HLine));
   rows->addWidget(makeParties(form, faces));
-  frame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+  frame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   return frame;
 }
 

@@ -5,22 +5,13 @@
 
 namespace awizo::desktop {
 
-QLayout* captioned(const QString& caption, QWidget* field) {
-  auto* column = new QVBoxLayout;
-  column->setSpacing(2);
-  auto* label = new QLabel(caption);
-  label->setTextFormat(Qt::PlainText);
-  column->addWidget(label);
-  column->addWidget(field);
-  return column;
-}
-
 void layOutMain(AwizoForm& form, FormFace& faces) {
   auto* below = new QSplitter(Qt::Horizontal);
   below->setChildrenCollapsible(false);
   below->addWidget(makePackages(form, faces));
   below->addWidget(makeTotals(form, faces));
   below->setStretchFactor(0, 1);
+  below->setStretchFactor(1, 0);
   auto* tables = new QSplitter(Qt::Vertical);
   tables->setChildrenCollapsible(false);
   tables->addWidget(makeLines(form, faces));

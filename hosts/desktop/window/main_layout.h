@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QLabel>
+#include <QWidget>
 
 #include "hosts/desktop/faces/form_face.h"
 #include "session/record/awizo_form.h"
@@ -18,8 +18,5 @@ QWidget* makePackages(AwizoForm& form, FormFace& faces);
 QWidget* makeTotals(AwizoForm& form, FormFace& faces);
 /// On-line state, address, version. The address stands in the label named "lblUploadUrl".
 QWidget* makeStatus(AwizoForm& form, FormFace& faces);
-
-/// A small caption over a field.
-QLayout* captioned(const QString& caption, QWidget* field);
 
 }  // namespace awizo::desktop

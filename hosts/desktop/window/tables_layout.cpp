@@ -1,5 +1,6 @@
 #include <QGridLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <initializer_list>
@@ -7,7 +8,9 @@
 
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/table_face.h"
+#include "hosts/desktop/window/column_fill.h"
 #include "hosts/desktop/window/main_layout.h"
+#include "tables/columns.h"
 
 namespace awizo::desktop {
 namespace {
@@ -59,7 +62,9 @@ QWidget* makeLines(AwizoForm& form, FormFace& faces) {
   table.layOverCell(faces.face(form.txtEdycja));
   table.view()->setMinimumHeight(table.view()->fontMetrics().height() * 7);
   auto* grid = new QGridLayout(frame);
+  grid->setContentsMargins(8, 4, 8, 6);
   grid->setSpacing(6);
+  new ColumnFill(*table.view(), GRD_POZ_NAME);
   grid->addWidget(table.view(), 0, 0);
   grid->addLayout(makeRowButtons(faces, form.btnDodaj, form.btnEdytuj, form.btnUsun), 0, 1);
   grid->addLayout(
@@ -77,8 +82,10 @@ QWidget* makeLines(AwizoForm& form, FormFace& faces) {
 QWidget* makePackages(AwizoForm& form, FormFace& faces) {
   QWidget* frame = faces.widget(form.Frame1);
   auto* row = new QHBoxLayout(frame);
+  row->setContentsMargins(8, 4, 8, 6);
   row->setSpacing(6);
   QTableView* view = tableOf(faces, form.grdOpakowania).view();
+  new ColumnFill(*view, GRD_OPAK_DESC);
   view->setMinimumHeight(view->fontMetrics().height() * 6);
   row->addWidget(view);
   row->addLayout(makeRowButtons(faces, form.btnDodajOpak, form.btnEdytujOpak, form.btnUsunOpak));
@@ -88,7 +95,8 @@ QWidget* makePackages(AwizoForm& form, FormFace& faces) {
 QWidget* makeTotals(AwizoForm& form, FormFace& faces) {
   QWidget* frame = faces.widget(form.frmPodsumowanie);
   auto* rows = new QVBoxLayout(frame);
-  rows->setSpacing(6);
+  rows->setContentsMargins(8, 4, 8, 6);
+  rows->setSpacing(4);
   TableFace& table = tableOf(faces, form.grdSuma);
   table.layOverCell(faces.face(form.txtEdycjaSuma));
   QTableView* view = table.view();
@@ -97,7 +105,9 @@ QWidget* makeTotals(AwizoForm& form, FormFace& faces) {
   const int rowHeight = view->fontMetrics().height() + 8;
   view->setFixedHeight(view->horizontalHeader()->sizeHint().height() + rowHeight +
                        2 * view->frameWidth());
-  table.stretchColumn(1);
+  new ColumnFill(*view, 1);
+  table.showNow();
+  view->setMinimumWidth(view->horizontalHeader()->length() + 2 * view->frameWidth());
   rows->addWidget(view);
   auto* currency = new QHBoxLayout;
   currency->addWidget(faces.widget(form.lblNiepelnaWagaKom));

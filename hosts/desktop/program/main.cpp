@@ -1,0 +1,79 @@
+// The desktop program: the editor of despatch advices in a window.
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
+#include <csignal>
+#include <exception>
+#include <iostream>
+
+#include "hosts/desktop/faces/pictures.h"
+#include "hosts/desktop/program/launch_file.h"
+#include "hosts/desktop/program/main_window.h"
+#include "hosts/desktop/screen/message_box.h"
+
+namespace {
+
+using namespace awizo;
+
+constexpr std::string_view usage =
+    "usage: awizo [FILE.awizo] [--property NAME=VALUE]... [--page-url URL] [--cookie TEXT]\n"
+    "             [--settings FILE] [--offline-path DIR] [--locale NAME]\n"
+    "             [--now YYYY-MM-DDTHH:MM:SS]\n";
+constexpr int exitEndedBySystem = 1;
+constexpr int exitBadArguments = 2;
+
+std::vector<std::string> argumentsOf(const QApplication&) {
+  std::vector<std::string> arguments;
+  for (const QString& argument : QApplication::arguments().mid(1)) {
+    arguments.push_back(argument.toStdString());
+  }
+  return arguments;
+}
+
+Options optionsOf(const std::vector<std::string>& arguments) {
+  std::vector<std::string> files;
+  const Options options = parseOptions(arguments, &files);
+  if (files.size() > 1) throw BadArguments("more than one file");
+  return files.empty() ? options : desktop::merged(options, desktop::readLaunchFile(files.front()));
+}
+
+void tellOfLaunchFile(const desktop::BadLaunchFile& error) {
+  desktop::askUser({"Файл запуска не годится.\r\n\r\n" + std::string(error.what()), "VIRD",
+                    BoxIcon::critical, BoxButtons::ok},
+                   nullptr);
+}
+
+int run(const QApplication& application) {
+  const Options options = optionsOf(argumentsOf(application));
+  QLocale::setDefault(desktop::localeNamed(options.locale));
+  desktop::MainWindow window(options);
+  if (!window.isUsable()) return exitEndedBySystem;
+  window.show();
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+  std::signal(SIGPIPE, SIG_IGN);
+  QApplication application(argumentCount, arguments);
+  QApplication::setApplicationName("awizo");
+  QApplication::setDesktopFileName("awizo");
+  QApplication::setWindowIcon(desktop::pictureNamed("awizo"));
+  // The words of Qt's own menus, such as a field's "copy" and "paste".
+  QTranslator words;
+  if (words.load("qtbase_ru", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QApplication::installTranslator(&words);
+  }
+  try {
+    return run(application);
+  } catch (const desktop::BadLaunchFile& error) {
+    tellOfLaunchFile(error);
+  } catch (const BadArguments& error) {
+    std::cerr << "awizo: " << error.what() << '\n' << usage;
+  } catch (const std::exception& error) {
+    std::cerr << "awizo: " << error.what() << '\n';
+  }
+  return exitBadArguments;
+}
