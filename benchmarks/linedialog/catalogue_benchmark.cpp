@@ -1,9 +1,8 @@
-#include <benchmark/benchmark.h>
-
 #include <cstdlib>
+#include <optional>
 
+#include "benchmarks/support/compare.h"
 #include "benchmarks/support/full_size.h"
-#include "benchmarks/support/timing.h"
 #include "linedialog/dlg_dodaj.h"
 #include "tests/support/test_editor.h"
 
@@ -27,17 +26,15 @@ struct Dialogs {
 /// the same bytes.
 void ReadingTheCatalogue(benchmark::State& state, LineOrder order, Repeats repeats, int lines) {
   const std::string text = catalogue(lines, order, repeats);
-  double ours = 0;
-  double bare = 0;
-  for ([[maybe_unused]] const auto turn : state) {
-    bare += processorSecondsOf([&] { parseBare(text); });
-    Dialogs dialogs(text);
-    const double seconds = processorSecondsOf([&] { dialogs.dialog.touch(); });
-    if (dialogs.dialog.cboxNazwaProd.count() != lines) std::abort();
-    ours += seconds;
-    state.SetIterationTime(seconds);
-  }
-  state.counters["ratio"] = ours / bare;
+  std::optional<Dialogs> dialogs;
+  compare(
+      state,
+      [&] {
+        dialogs.reset();
+        dialogs.emplace(text);
+      },
+      [&] { dialogs->dialog.touch(); }, [&] { parseBare(text); });
+  if (dialogs->dialog.cboxNazwaProd.count() != lines) std::abort();
 }
 
 #define CATALOGUE(name, order, repeats, lines)                                            \
