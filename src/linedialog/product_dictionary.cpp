@@ -19,6 +19,26 @@ std::vector<std::string> inOrder(const std::vector<std::string>& texts,
   return rows;
 }
 
+/// Reads the values of a catalogue line below its Line-Item. A child that is no line has none.
+class LineReader {
+ public:
+  explicit LineReader(const XmlNode& line) : line_(line.isElement("Line") ? line : XmlNode{}) {
+    if (!line_) return;
+    const XmlNode first = line_.firstChild();
+    if (first && first.isElement("Line-Item") && !first.nextSibling()) onlyItem_ = first;
+  }
+
+  std::string value(std::string_view path, bool blankOnMissing) const {
+    if (onlyItem_) return GetNodeValue(onlyItem_, path, blankOnMissing);
+    // Of several items the first that has the value gives it.
+    return GetNodeValue(line_, std::string("Line-Item/").append(path), blankOnMissing);
+  }
+
+ private:
+  XmlNode line_;
+  XmlNode onlyItem_;
+};
+
 }  // namespace
 
 // A failure in one part is told to the user and doesn't stop the rest.
@@ -83,26 +103,24 @@ void DlgDodaj::readCatalogueLines(const std::vector<XmlNode>& lines) {
 }
 
 void DlgDodaj::readCatalogueLine(const XmlNode& line, std::size_t place) {
-  // A child that is no line has none of the values.
-  const XmlNode source = line.isElement("Line") ? line : XmlNode{};
-  const auto orEmpty = [&](std::string_view path) { return GetNodeValue(source, path, true); };
-  const auto orMarker = [&](std::string_view path) { return GetNodeValue(source, path, false); };
+  const LineReader read(line);
+  const auto orEmpty = [&](std::string_view path) { return read.value(path, true); };
+  const auto orMarker = [&](std::string_view path) { return read.value(path, false); };
   ProductDictionary& p = products_;
-  p.ProdEAN[place] = orMarker("Line-Item/EAN");
-  p.ProdName[place] = orMarker("Line-Item/ItemDescription");
-  p.ProdSupplierCode[place] = orEmpty("Line-Item/SupplierItemCode");
-  p.ProdBuyerCode[place] = orEmpty("Line-Item/BuyerItemCode");
-  p.ProdUnit[place] = orMarker("Line-Item/UnitOfMeasure");
+  p.ProdEAN[place] = orMarker("EAN");
+  p.ProdName[place] = orMarker("ItemDescription");
+  p.ProdSupplierCode[place] = orEmpty("SupplierItemCode");
+  p.ProdBuyerCode[place] = orEmpty("BuyerItemCode");
+  p.ProdUnit[place] = orMarker("UnitOfMeasure");
   if (p.ProdUnit[place] == "-1") p.ProdUnit[place].clear();
-  p.ProdPackSize[place] = orEmpty("Line-Item/PackDetails/UnitPacksize");
+  p.ProdPackSize[place] = orEmpty("PackDetails/UnitPacksize");
   if (p.ProdPackSize[place].empty()) p.ProdPackSize[place] = "1";
-  p.ProdTaxRate[place] = orEmpty("Line-Item/TaxRate");
-  p.ProdPrice[place] = editor_.conversions.NormalizeDecimal(orEmpty("Line-Item/UnitNetPrice"), 2);
-  p.ProdTaxCategory[place] =
-      editor_.conversions.NormalizeDecimal(orEmpty("Line-Item/TaxCategoryCode"), 2);
-  p.ProdPeriod[place] = orEmpty("Line-Item/ProductLifespan/Period");
-  p.ProdPeriodFormat[place] = orEmpty("Line-Item/ProductLifespan/PeriodFormat");
-  p.ProdWeight[place] = orEmpty("Line-Item/PackDetails/Weight");
+  p.ProdTaxRate[place] = orEmpty("TaxRate");
+  p.ProdPrice[place] = editor_.conversions.NormalizeDecimal(orEmpty("UnitNetPrice"), 2);
+  p.ProdTaxCategory[place] = editor_.conversions.NormalizeDecimal(orEmpty("TaxCategoryCode"), 2);
+  p.ProdPeriod[place] = orEmpty("ProductLifespan/Period");
+  p.ProdPeriodFormat[place] = orEmpty("ProductLifespan/PeriodFormat");
+  p.ProdWeight[place] = orEmpty("PackDetails/Weight");
 }
 
 void DlgDodaj::sortCatalogue(std::int32_t lines) {

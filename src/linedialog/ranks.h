@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
+#include <string_view>
 #include <vector>
 
 namespace awizo {
@@ -12,30 +12,30 @@ struct Ranks {
   std::vector<std::int32_t> lastPlace;  ///< of each rank: the last place it takes when sorted
 };
 
-/// Many keys, one behind the other in one text. No key holds a byte 0.
+/// Many keys, held as numbers of eight bytes each, so that whole words are compared at a time.
 class KeyStore {
  public:
-  void reserve(std::size_t count) { ends_.reserve(count); }
-  void add(const std::string& key) {
-    bytes_ += key;
-    ends_.push_back(bytes_.size());
-  }
+  /// Makes room for so many keys.
+  void reserve(std::size_t count) { starts_.reserve(count); }
+  /// A key holds no byte 0.
+  void add(std::string_view key);
 
-  /// Compares the keys eight bytes at a time, as numbers.
   Ranks ranks() const;
 
  private:
   struct Entry {
-    std::uint64_t word;  ///< the eight bytes of the key that decide now, zeros behind its end
+    std::uint64_t word;  ///< the part of the key that decides now
     std::int32_t key;
   };
   struct Run;
 
-  std::uint64_t wordAt(std::int32_t key, std::size_t depth) const;
   void sortRun(std::vector<Entry>& entries, const Run& run) const;
+  /// The keys in their order; `equalsItsFormer` tells of each place whether the key before is
+  /// equal.
+  std::vector<Entry> sorted(std::vector<bool>& equalsItsFormer) const;
 
-  std::string bytes_;
-  std::vector<std::size_t> ends_;
+  std::vector<std::uint64_t> words_;  ///< the last word of each key ends in zeros, at least one
+  std::vector<std::size_t> starts_;
 };
 
 }  // namespace awizo

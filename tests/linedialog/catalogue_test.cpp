@@ -90,6 +90,17 @@ TEST_P(Catalogue, ChildrenThatAreNoLinesCountAsLinesWithoutValues) {
   EXPECT_THAT(test.face.boxes(), IsEmpty());
 }
 
+TEST_P(Catalogue, OfSeveralItemsTheFirstThatHasAValueGivesIt) {
+  test.loadDocument(
+      catalogueOf("<Line><!-- первый --><Line-Item><ItemDescription>Чай</ItemDescription>"
+                  "</Line-Item><Line-Item><EAN>4601</EAN><ItemDescription>Сок</ItemDescription>"
+                  "</Line-Item></Line>"
+                  "<Line><Line-Item><EAN>4602</EAN><EAN>4603</EAN></Line-Item><Other/></Line>"
+                  "<Line><Item><EAN>4604</EAN></Item></Line>"));
+  EXPECT_THAT(products.ProdEAN, ElementsAre("4601", "4602", "-1"));
+  EXPECT_THAT(products.ProdName, ElementsAre("Чай", "-1", "-1"));
+}
+
 TEST_P(Catalogue, OnlyTheFirstListOfLinesIsRead) {
   test.loadDocument(
       "<Document-ProductCatalogue><ProductCatalogue-Lines>" + catalogueLine({"4601", "Чай"}) +
