@@ -194,8 +194,8 @@ void TableFace::showSelection() {
   selection->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
   view_->setAutoScroll(scrolls);
   if (current.isValid() && corner.isValid()) {
-    const auto [top, bottom] = std::minmax(current.row(), corner.row());
-    const auto [left, right] = std::minmax(current.column(), corner.column());
+    const auto [top, bottom] = std::minmax({current.row(), corner.row()});
+    const auto [left, right] = std::minmax({current.column(), corner.column()});
     selection->select({rows_->index(top, left), rows_->index(bottom, right)}, how);
   } else {
     selection->clearSelection();
