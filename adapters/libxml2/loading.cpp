@@ -25,8 +25,8 @@ struct Loading {
   /// Blanks at the start of a text, held back until it is known whether more text follows. Blanks
   /// that turn out to stand between two nodes are thus never made into a node.
   std::string heldBlanks;
-  /// Entities bring in nodes behind the parser's back; the tree is then swept as a whole.
-  bool usesEntities = false;
+  /// Where that can't be known, blanks become nodes and the finished tree is swept as a whole.
+  bool sweeps = false;
   int parameterEntities = 0;
   bool refused = false;
 };
@@ -44,7 +44,7 @@ void writeHeldBlanks(void* context) {
 
 void onCharacters(void* context, const xmlChar* text, int length) {
   Loading& loading = loadingOf(context);
-  if (!loading.usesEntities && isBlank(*text)) {
+  if (!loading.sweeps && isBlank(*text)) {
     const std::string_view view(reinterpret_cast<const char*>(text),
                                 static_cast<std::size_t>(length));
     const xmlNode* node = contextOf(context)->node;
@@ -83,7 +83,17 @@ void onInstruction(void* context, const xmlChar* target, const xmlChar* data) {
   xmlSAX2ProcessingInstruction(context, target, data);
 }
 
+void sweepLater(void* context) {
+  writeHeldBlanks(context);
+  loadingOf(context).sweeps = true;
+}
+
 void onCData(void* context, const xmlChar* text, int length) {
+  const xmlNode* node = contextOf(context)->node;
+  const bool parts = node && node->last && node->last->type == XML_CDATA_SECTION_NODE &&
+                     !loadingOf(context).heldBlanks.empty();
+  // Without the blanks between them the two sections would become one.
+  if (parts) sweepLater(context);
   loadingOf(context).heldBlanks.clear();
   xmlSAX2CDataBlock(context, text, length);
 }
@@ -105,11 +115,8 @@ xmlEntity* admit(void* context, xmlEntity* entity) {
 }
 
 xmlEntity* onGetEntity(void* context, const xmlChar* name) {
-  Loading& loading = loadingOf(context);
-  if (!loading.usesEntities) {
-    writeHeldBlanks(context);
-    loading.usesEntities = true;
-  }
+  // An entity may bring in text or elements.
+  sweepLater(context);
   return admit(context, xmlSAX2GetEntity(context, name));
 }
 
@@ -184,7 +191,7 @@ Owned<xmlDoc> parseWellFormed(std::string_view bytes, int options) {
   // What is put into the document afterwards is our own.
   xmlDictSetLimit(document->dict, 0);
   xmlNode* root = xmlDocGetRootElement(document.get());
-  if (root && loading.usesEntities) dropBlanks(root);
+  if (root && loading.sweeps) dropBlanks(root);
   return root ? std::move(document) : nullptr;
 }
 

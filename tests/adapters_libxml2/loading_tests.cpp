@@ -88,6 +88,11 @@ TEST(WhiteSpace, InCDataIsKept) {
   EXPECT_EQ(loadedXml("<a> <![CDATA[  ]]> <b/></a>"), "<a><![CDATA[  ]]><b/></a>");
 }
 
+TEST(WhiteSpace, BetweenTwoCDataSectionsKeepsThemApart) {
+  EXPECT_EQ(loadedXml("<a> <![CDATA[x]]> <![CDATA[y]]> <b> </b> </a>"),
+            "<a><![CDATA[x]]><![CDATA[y]]><b> </b></a>");
+}
+
 TEST(WhiteSpace, OfAnyLengthIsTreatedAlike) {
   const std::string blanks(100'000, ' ');
   EXPECT_EQ(loadedXml("<a>" + blanks + "<b/>" + blanks + "</a>"), "<a><b/></a>");

@@ -335,6 +335,7 @@ TEST_F(OrderReader, ComputesTheExpiryDateFromThePeriod) {
 TEST_F(OrderReader, EndsWithTheFirstLineCurrentAndThePresetsOfAnAnswer) {
   test.session.LineCount = 9;
   table.setRow(1);
+  table.setFixedRows(0);
   readLines(line("<EAN>1</EAN>") + line("<EAN>2</EAN>"));
   EXPECT_EQ(test.session.LineCount, 2);
   EXPECT_EQ(table.rows(), 3);
