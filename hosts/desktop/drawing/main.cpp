@@ -16,6 +16,7 @@
 
 namespace {
 
+// Nothing includes a program's own file. NOLINTNEXTLINE(google-build-using-namespace)
 using namespace awizo;
 namespace fs = std::filesystem;
 

@@ -14,6 +14,7 @@
 
 namespace {
 
+// Nothing includes a program's own file. NOLINTNEXTLINE(google-build-using-namespace)
 using namespace awizo;
 
 constexpr std::string_view usage =

@@ -30,6 +30,7 @@ std::string countryEntry(std::string_view code, std::string_view name) {
 
 std::vector<std::string> fixedCountryEntries() {
   std::vector<std::string> entries;
+  entries.reserve(std::size(countries));
   for (const FixedCountry& country : countries) {
     entries.push_back(countryEntry(country.code, country.name));
   }
