@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "platform/run_time_error.h"
+#include "platform/text.h"
 
 namespace awizo::libxml2 {
 namespace {
@@ -37,6 +38,15 @@ bool holdsItsText(const xmlNode* node) {
   return isText(node) || node->type == XML_COMMENT_NODE || node->type == XML_PI_NODE;
 }
 
+/// libxml2 writes any character, also one that no reader takes.
+bool fitsXml(std::string_view text) {
+  for (const char letter : text) {
+    const bool isControl = static_cast<unsigned char>(letter) < ' ';
+    if (isControl && letter != '\t' && letter != '\n' && letter != '\r') return false;
+  }
+  return isUtf8(text) && text.find("\uFFFE") == text.npos && text.find("\uFFFF") == text.npos;
+}
+
 }  // namespace
 
 std::string nameOf(const xmlNode* node) {
@@ -69,6 +79,7 @@ std::string trimmedText(const xmlNode* node) {
 
 void replaceText(xmlNode* node, std::string_view text) {
   if (text.size() > std::numeric_limits<int>::max()) throw errors::outOfMemory();
+  if (!fitsXml(text)) throw errors::invalidProcedureCall();
   const auto length = static_cast<int>(text.size());
   if (holdsItsText(node)) {
     xmlNodeSetContentLen(node, bytesOf(text.data()), length);

@@ -14,7 +14,8 @@ std::string nameOf(const xmlNode* node);
 /// The text of the node and all texts below it in one, outer white space cut.
 std::string trimmedText(const xmlNode* node);
 
-/// Puts one text in the place of all that is below the node; of nothing if it is empty.
+/// Puts one text in the place of all that is below the node; of nothing if it is empty. Error 5 for
+/// a text with a character that XML can't hold.
 void replaceText(xmlNode* node, std::string_view text);
 
 }  // namespace awizo::libxml2

@@ -31,7 +31,8 @@ class XmlNode {
   bool isElement(std::string_view name) const;
   /// Text of the node and all below it, outer white space cut, inner kept.
   std::string text() const;
-  /// Replaces all that is below by this text; it is escaped when written.
+  /// Replaces all that is below by this text; it is escaped when written. A character that XML
+  /// can't hold, such as a control character, is error 5.
   void setText(std::string_view text) const;
   /// The node as XML text (UTF-8, no declaration of its own for an element).
   std::string xml() const;

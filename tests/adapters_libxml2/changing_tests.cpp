@@ -41,6 +41,18 @@ TEST(Texts, MadeEmptyLeaveAnEmptyElement) {
   EXPECT_EQ(loaded("<a></a>")->root().xml(), "<a/>");
 }
 
+TEST(Texts, ThatNoXmlCanHoldAreRefused) {
+  const auto document = loaded("<a>old</a>");
+  const XmlNode a = document->root();
+  for (const char* text : {"\x01", "1\x1F", "\uFFFE", "x\uFFFFy", "\xFF", "\xED\xA0\x80"}) {
+    EXPECT_EQ(errorOf([&] { a.setText(text); }), 5);
+    EXPECT_EQ(a.text(), "old");
+  }
+  const std::string allowed = "\t1\n2\r\x7F\u0085\uFFFD\U0001F600\U0001FFFF";
+  a.setText(allowed);
+  EXPECT_EQ(loaded(a.xml())->root().text(), allowed.substr(1));
+}
+
 TEST(Texts, CanBeSetOnATextAndAnAttribute) {
   const auto document = loaded("<a b=\"1\">2<![CDATA[3]]></a>");
   document->root().firstChild().setText("x&y");

@@ -148,6 +148,15 @@ TEST_F(DespatchAdvice, HeaderValuesAreEscaped) {
   EXPECT_EQ(value("/Document-DespatchAdvice/DespatchAdvice-Parties/Seller/CodeByBuyer"), "x & y");
 }
 
+TEST_F(DespatchAdvice, ACharacterThatXmlCantHoldEndsAtItsStep) {
+  form.lblILNKupWart.setCaption("1\x01");
+  expectFailure("8", "Invalid procedure call or argument");
+  form.txtNrZam.setText("\uFFFF");
+  expectFailure("6", "Invalid procedure call or argument");
+  form.txtNrAwiza.setText("\x02");
+  expectFailure("1", "Invalid procedure call or argument");
+}
+
 TEST_F(DespatchAdvice, AMissingDeliveryDateEndsAtItsStep) {
   form.txtEstimatedDeliveryDate.setDate(std::nullopt);
   expectFailure("4", "Invalid use of Null");
