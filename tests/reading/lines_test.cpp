@@ -199,13 +199,16 @@ TEST_F(ReadingLines, TheLimitIsReachedHalfWayThroughARow) {
   EXPECT_TRUE(form.enabled());
 }
 
+// A file of some megabytes can hold millions of them: none gets a row.
 TEST_F(ReadingLines, MoreLinesThanSixteenBitsCountAreNotRead) {
   std::string all;
   for (int i = 0; i < 32768; ++i) all += "<Line/>";
   readLines(all);
   EXPECT_THAT(takeBoxes(), ElementsAre(plainBreak1, "VIRDDesAdv|none|OK|1", incomplete));
   EXPECT_EQ(session.LineCount, 0);
+  EXPECT_EQ(lines.rows(), 2);
   EXPECT_EQ(lines.cell(1, GRD_POZ_LP), "");
+  EXPECT_TRUE(lines.redraw());
   EXPECT_TRUE(form.enabled());
 }
 

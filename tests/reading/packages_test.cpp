@@ -160,11 +160,13 @@ TEST_F(ReadingPackages, BehindTheLimitTheReadingEnds) {
   EXPECT_TRUE(form.enabled());
 }
 
-TEST_F(ReadingPackages, MorePackagesThanSixteenBitsCountAreNotShownOneByOne) {
+TEST_F(ReadingPackages, MorePackagesThanSixteenBitsCountGetNoRowsAndAreNotShownOneByOne) {
   std::string all;
   for (int i = 1; i <= 32768; ++i) all += "<Packing-Sequence/>";
   readPackages(all);
   EXPECT_THAT(takeBoxes(), ElementsAre(plainBreak1, incomplete));
+  EXPECT_EQ(packages.rows(), 2);
+  EXPECT_TRUE(packages.redraw());
 }
 
 }  // namespace

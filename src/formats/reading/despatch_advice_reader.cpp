@@ -127,9 +127,8 @@ class DocumentReader {
   }
 
   // The heading and a row for each element; an empty table has a row too.
-  static int rowsFor(const std::vector<XmlNode>& elements) {
-    return elements.empty() ? 2 : static_cast<int>(elements.size()) + 1;
-  }
+  static int rowsFor(std::int16_t elements) { return elements == 0 ? 2 : elements + 1; }
+  // Elements that can't be counted get no rows, which would take memory without bounds.
   static std::int16_t requireCount(const std::vector<XmlNode>& elements) {
     return narrow16(static_cast<std::int64_t>(elements.size()));
   }
@@ -154,9 +153,8 @@ class DocumentReader {
     Table& grid = form_.grdOpakowania;
     const std::vector<XmlNode> packages = consignment.selectAll("Packing-Sequence");
     grid.setFixedRows(1);
-    grid.setRows(rowsFor(packages));
+    grid.setRows(rowsFor(requireCount(packages)));
     grid.setRedraw(false);
-    requireCount(packages);
     std::int16_t row = 0;
     for (const XmlNode& package : packages) readPackage(package, ++row);
     grid.setRow(1);
@@ -173,8 +171,9 @@ class DocumentReader {
     } else {
       const std::vector<XmlNode> lines = parent.selectAll("Line");
       grid.setFixedRows(1);
-      grid.setRows(rowsFor(lines));
-      editor_.session.LineCount = requireCount(lines);
+      const std::int16_t count = requireCount(lines);
+      grid.setRows(rowsFor(count));
+      editor_.session.LineCount = count;
       grid.setRedraw(false);
       std::int16_t row = 0;
       for (const XmlNode& line : lines) readDespatchLine(editor_, line, ++row);
