@@ -202,6 +202,44 @@ TEST_P(RemovingAPackage, AHalfWrittenLinePastTheLimitStopsTheRewriting) {
   EXPECT_EQ(screen.cursor(), Cursor::wait);
 }
 
+// A file brings rows without counting them; it may bring one serial several times.
+TEST_P(RemovingAPackage, OfTwoRowsWithTheSameSerialTheFirstGoes) {
+  putPackages(4, [](int row) { return row == 4 ? 1 : 0; });
+  packages.setCell(3, GRD_OPAK_SERIAL, "2");
+  remove(3);
+  EXPECT_THAT(column(packages, GRD_OPAK_LP), ElementsAre("2", "3"));
+  EXPECT_EQ(session.IloscPozycjiOpak, 2);
+  EXPECT_THAT(takeBoxes(), IsEmpty());
+}
+
+// The second and the third row bear one serial, so that the fourth lies in both of them.
+TEST_P(RemovingAPackage, APackageThatLiesInTwoIsRemovedOnce) {
+  const std::vector<int> parents{0, 1, 1, 2};
+  putPackages(4, [&](int row) { return parents[static_cast<std::size_t>(row - 1)]; });
+  packages.setCell(3, GRD_OPAK_SERIAL, "3");
+  EXPECT_THAT(subtree(1), ElementsAre("2", "3", "5", "3", "5"));
+  packages.setRowHeight(3, 480);
+  remove(1);
+  EXPECT_THAT(takeBoxes(), IsEmpty());
+  EXPECT_EQ(session.IloscPozycjiOpak, 0);
+  EXPECT_EQ(packages.rows(), 2);
+  EXPECT_THAT(TestEditor::row(packages, 1), Each(""));
+  EXPECT_EQ(packages.rowHeight(1), 480);
+}
+
+TEST_P(RemovingAPackage, ARowThatNobodyCountedTakesThePackagesThatLieInIt) {
+  putPackages(3, [](int row) { return row == 3 ? 0 : row + 1; });
+  session.IloscPozycjiOpak = 2;
+  EXPECT_THAT(subtree(3), ElementsAre("4", "3", "2"));
+  remove(3);
+  EXPECT_THAT(takeBoxes(), IsEmpty());
+  EXPECT_EQ(session.IloscPozycjiOpak, 0);
+}
+
+TEST_P(RemovingAPackage, WithoutPackagesTheSearchFindsTheRowAlone) {
+  EXPECT_THAT(subtree(1), ElementsAre(""));
+}
+
 // A file brings rows without counting them.
 TEST_P(RemovingAPackage, MoreCountedThanThereAreRowsIsAnError) {
   putPackages(3, [](int) { return 0; });

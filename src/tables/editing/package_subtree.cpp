@@ -1,12 +1,14 @@
 #include "tables/editing/package_subtree.h"
 
+#include <algorithm>
+#include <deque>
+#include <string_view>
 #include <unordered_map>
 
 #include "platform/narrow.h"
 #include "tables/clear_tables.h"
 #include "tables/columns.h"
 #include "tables/flat_index.h"
-#include "tables/package_references.h"
 
 namespace awizo {
 namespace {
@@ -15,9 +17,12 @@ const std::string& packageCell(const Editor& editor, std::int16_t row, std::int1
   return editor.form.grdOpakowania.cell(IndexGrdOpak(editor, row, column));
 }
 
-// A chain of parents longer than there are packages runs in a circle.
-bool isTooDeep(const Editor& editor, std::size_t depth) {
-  return depth > static_cast<std::size_t>(editor.session.IloscPozycjiOpak);
+// The longest chain of packages that lie in one another without running in a circle. It may begin
+// with one package more than are counted: a file brings rows that nobody counts.
+std::size_t longestChain(const Editor& editor, std::int16_t firstRow) {
+  const std::int16_t count = editor.session.IloscPozycjiOpak;
+  const bool isCounted = firstRow >= 1 && firstRow <= count;
+  return static_cast<std::size_t>(count) + (isCounted ? 0 : 1);
 }
 
 void logParent(DebugLog& log, std::int16_t row, const std::string& parent) {
@@ -26,10 +31,10 @@ void logParent(DebugLog& log, std::int16_t row, const std::string& parent) {
                      "] = " + parent);
 }
 
-// Every scan goes into the log, row by row.
+// Every scan goes into the log, row by row. `room`: how many packages the chain may still take.
 void scanAllRows(Editor& editor, std::int16_t row, std::vector<std::string>& delSerials,
-                 std::size_t depth) {
-  if (isTooDeep(editor, depth)) throw errors::outOfStackSpace();
+                 std::size_t room) {
+  if (room == 0) throw errors::outOfStackSpace();
   DebugLog& log = editor.session.log;
   const std::string currSerial = packageCell(editor, row, GRD_OPAK_SERIAL);
   delSerials.push_back(currSerial);
@@ -38,7 +43,7 @@ void scanAllRows(Editor& editor, std::int16_t row, std::vector<std::string>& del
     const std::string parent = packageCell(editor, i, GRD_OPAK_PARENT_SERIAL);
     logParent(log, i, parent);
     editor.form.grdOpakowania.setRow(i);
-    if (parent == currSerial) scanAllRows(editor, i, delSerials, depth + 1);
+    if (parent == currSerial) scanAllRows(editor, i, delSerials, room - 1);
   }
 }
 
@@ -55,8 +60,8 @@ ChildRows childRows(const Editor& editor) {
 
 // Finds what scanAllRows finds, without its scans. An error leaves the same row current.
 void followChildren(Editor& editor, const ChildRows& children, std::int16_t row,
-                    std::vector<std::string>& delSerials, std::size_t depth) {
-  if (isTooDeep(editor, depth)) {
+                    std::vector<std::string>& delSerials, std::size_t room) {
+  if (room == 0) {
     editor.form.grdOpakowania.setRow(row);
     throw errors::outOfStackSpace();
   }
@@ -65,7 +70,7 @@ void followChildren(Editor& editor, const ChildRows& children, std::int16_t row,
   const auto found = children.find(serial);
   if (found == children.end()) return;
   for (const std::int16_t child : found->second) {
-    followChildren(editor, children, child, delSerials, depth + 1);
+    followChildren(editor, children, child, delSerials, room - 1);
   }
 }
 
@@ -101,33 +106,46 @@ void removeFirstRowOf(Editor& editor, const std::string& serial) {
   }
 }
 
-std::vector<int> rowsOf(const Editor& editor, const SerialSet& serials) {
-  std::vector<int> rows;
+// The rows that go, in their turn: each serial takes the first row that bears it and is still
+// there. A file may have brought several rows of one serial.
+std::vector<int> rowsInTurn(const Editor& editor, const std::vector<std::string>& delSerials) {
+  std::unordered_map<std::string_view, std::deque<int>> rowsBySerial;
   for (std::int16_t row = 1; row <= editor.session.IloscPozycjiOpak; ++row) {
-    if (serials.contains(packageCell(editor, row, GRD_OPAK_SERIAL))) rows.push_back(row);
+    rowsBySerial[packageCell(editor, row, GRD_OPAK_SERIAL)].push_back(row);
+  }
+  std::vector<int> rows;
+  for (const std::string& serial : delSerials) {
+    const auto found = rowsBySerial.find(serial);
+    if (found == rowsBySerial.end() || found->second.empty()) continue;
+    rows.push_back(found->second.front());
+    found->second.pop_front();
   }
   return rows;
 }
 
-// One pass over the table instead of one for each serial. The last serial's turn comes by itself:
-// where no other package is left, its row is emptied instead of removed.
+// One pass over the table instead of one for each serial. The last row's turn comes by itself:
+// where no other package is left, it is emptied instead of removed.
 void removeInOnePass(Editor& editor, const std::vector<std::string>& delSerials) {
-  const SerialSet others({delSerials.begin(), delSerials.end() - 1});
-  const std::vector<int> rows = rowsOf(editor, others);
+  std::vector<int> rows = rowsInTurn(editor, delSerials);
+  if (rows.empty()) return;
+  const int last = rows.back();
+  rows.pop_back();
+  std::sort(rows.begin(), rows.end());
+  const auto above = std::lower_bound(rows.begin(), rows.end(), last) - rows.begin();
   editor.form.grdOpakowania.removeItems(rows);
   std::int16_t& count = editor.session.IloscPozycjiOpak;
   count = narrow16(count - static_cast<std::int64_t>(rows.size()));
-  removeFirstRowOf(editor, delSerials.back());
+  removePackageRow(editor, narrow16(last - above));
 }
 
 }  // namespace
 
 void GetPackagesRec(Editor& editor, std::int16_t row, std::vector<std::string>& delSerials) {
   if (editor.session.log.writes(4) || !holdsWhatIsCounted(editor)) {
-    scanAllRows(editor, row, delSerials, 1);
+    scanAllRows(editor, row, delSerials, longestChain(editor, row));
     return;
   }
-  followChildren(editor, childRows(editor), row, delSerials, 1);
+  followChildren(editor, childRows(editor), row, delSerials, longestChain(editor, row));
   editor.form.grdOpakowania.setRow(editor.session.IloscPozycjiOpak);
 }
 
