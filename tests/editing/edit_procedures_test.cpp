@@ -28,6 +28,12 @@ TEST_F(EditProcedures, EditGridCellTypesACharacterOverTheText) {
   EXPECT_TRUE(field.visible());
 }
 
+TEST_F(EditProcedures, EditGridCellTypesTheCharacterOfANegativeCodeToo) {
+  EditGridCell(lines, field, -1000);
+  EXPECT_EQ(field.text(), "\uFC18");
+  EXPECT_EQ(field.caret(), 1);
+}
+
 TEST_F(EditProcedures, EditGridCellTakesTheTextOverForKeysWithoutACharacter) {
   for (const std::int16_t key : {std::int16_t{0}, std::int16_t{13}, std::int16_t{32}}) {
     EditGridCell(lines, field, key);
@@ -89,6 +95,32 @@ TEST_F(EditProcedures, TheTotalsEditorIsClosedByTheLinesFocusAndByItsOwnCell) {
   lines.userFocus();
   EXPECT_EQ(totals.cell(1, 2), "8");
   EXPECT_FALSE(form.txtEdycjaSuma.visible());
+}
+
+// The lines' focus closes the totals' editor first, then that of the lines.
+TEST_F(EditProcedures, TheTotalsEditorIsClosedBeforeThatOfTheLines) {
+  std::vector<std::string> closed;
+  for (TextField* editField : {&form.txtEdycja, &form.txtEdycjaSuma}) {
+    editField->setText("1");
+    editField->setVisible(true);
+    editField->observer = [&closed, editField](const Change& change) {
+      if (change.aspect == Aspect::visible) closed.push_back(editField->name());
+    };
+  }
+  form.txtNrAwiza.userFocus();
+  lines.userFocus();
+  EXPECT_THAT(closed, ElementsAre("txtEdycjaSuma", "txtEdycja"));
+}
+
+TEST_F(EditProcedures, EveryButtonOfLinesAndPackagesClosesTheTotalsEditor) {
+  addPackage({.description = "Поддон"});
+  for (Button* button : {&form.btnDodaj, &form.btnEdytuj, &form.btnUsun, &form.btnDodajOpak,
+                         &form.btnEdytujOpak, &form.btnUsunOpak}) {
+    form.txtEdycjaSuma.setVisible(true);
+    if (button != &form.btnUsun && button != &form.btnUsunOpak) closeNextForm();
+    button->userClick();
+    EXPECT_FALSE(form.txtEdycjaSuma.visible()) << button->name();
+  }
 }
 
 }  // namespace

@@ -94,6 +94,16 @@ TEST_F(InTableEditing, ADoubleClickOnTheNameMakesTheRowHighAndLowAgain) {
   EXPECT_EQ(lines.rowHeight(2), 2 * form.GridRowHeight);
 }
 
+TEST_F(InTableEditing, ARowBelowTwiceTheHeightBecomesHighAndAnyHigherOneLow) {
+  lines.userCell(2, GRD_POZ_NAME);
+  lines.setRowHeight(2, 2 * form.GridRowHeight - 1);
+  lines.userDoubleClick();
+  EXPECT_EQ(lines.rowHeight(2), 2 * form.GridRowHeight);
+  lines.setRowHeight(2, 3 * form.GridRowHeight);
+  lines.userDoubleClick();
+  EXPECT_EQ(lines.rowHeight(2), form.GridRowHeight);
+}
+
 TEST_F(InTableEditing, WithoutLinesNothingOpens) {
   putLines(0);
   for (const int column : {GRD_POZ_EAN, GRD_POZ_NAME, GRD_POZ_QTY_DESPATCHED}) {
@@ -264,6 +274,20 @@ TEST_F(InTableEditing, AFieldLeftForTheHeaderStaysOpenWithItsTidiedText) {
   EXPECT_FALSE(field.visible());
 }
 
+// A focus call by code skips the check of the text, but the text is tidied all the same.
+TEST_F(InTableEditing, AFocusCallByCodeTidiesTheText) {
+  openEditor(2);
+  field.userType("7");
+  form.txtNrAwiza.setFocus();
+  EXPECT_EQ(field.text(), "5,000");
+  openEditor(2);
+  field.userType("abc");
+  form.txtNrAwiza.setFocus();
+  EXPECT_EQ(field.text(), "");
+  EXPECT_TRUE(field.visible());
+  EXPECT_THAT(takeBoxes(), IsEmpty());
+}
+
 TEST_F(InTableEditing, LeavingTheFieldForTheHeaderWithAnInvalidTextClosesIt) {
   openEditor(2);
   field.userType("abc");
@@ -286,13 +310,18 @@ TEST_F(InTableEditing, AButtonClosesTheEditBeforeItsDialogOpens) {
   EXPECT_EQ(lineDialog.txtIloscPotw.text(), "4,000");
 }
 
-TEST_F(InTableEditing, ButtonsOfPackagesCloseTheEditToo) {
-  openEditor(2);
-  field.userType("4");
-  closeNextForm();
-  form.btnDodajOpak.userClick();
-  EXPECT_EQ(quantity(2), "4,000");
-  EXPECT_FALSE(field.visible());
+TEST_F(InTableEditing, EveryButtonThatOpensADialogClosesTheEdit) {
+  addPackage({.description = "Поддон"});
+  for (Button* button :
+       {&form.btnDodaj, &form.btnEdytuj, &form.btnDodajOpak, &form.btnEdytujOpak}) {
+    lines.setCell(2, GRD_POZ_QTY_DESPATCHED, "1,000");
+    openEditor(2);
+    field.userType("4");
+    closeNextForm();
+    button->userClick();
+    EXPECT_EQ(quantity(2), "4,000") << button->name();
+    EXPECT_FALSE(field.visible()) << button->name();
+  }
 }
 
 // A picture takes no focus, so nothing tidies the text before it gets into the cell.

@@ -264,6 +264,13 @@ TEST_F(AddingALine, ACancelledDialogChangesNoCellAndNoCounter) {
   EXPECT_EQ(lineDialog.txtlEANProdWart.text(), "2");
 }
 
+TEST_F(AddingALine, TheTableIsPaintedAnewAlsoAfterACancelledDialog) {
+  int painted = 0;
+  lines.observer = [&](const Change& change) { painted += change.aspect == Aspect::redraw; };
+  look([] {});
+  EXPECT_EQ(painted, 1);
+}
+
 TEST_F(AddingALine, AnErrorBeforeTheDialogLeavesTheControlDisabled) {
   putPackages(1, [](int) { return 0; });
   packages.setCell(1, GRD_OPAK_LEVEL, "high");

@@ -109,6 +109,29 @@ TEST_F(EditingALine, EveryCellReachesItsField) {
   EXPECT_EQ(TestEditor::row(lines, 2), fullRow);
 }
 
+TEST_F(EditingALine, WhatWasPickedForAnotherLineIsGone) {
+  lineDialog.touch();
+  for (DropDownList* list : {&lineDialog.cboxNazwaProd, &lineDialog.cboxEANProd,
+                             &lineDialog.cboxKodAPP, &lineDialog.cboxKodSprzed}) {
+    list->setText("old");
+  }
+  look([&] {
+    for (const DropDownList* list : {&lineDialog.cboxNazwaProd, &lineDialog.cboxEANProd,
+                                     &lineDialog.cboxKodAPP, &lineDialog.cboxKodSprzed}) {
+      EXPECT_EQ(list->text(), "") << list->name();
+    }
+    EXPECT_EQ(lineDialog.txtlEANProdWart.text(), "4607000000116");
+    EXPECT_EQ(lineDialog.txtKodKup.text(), "B-1");
+  });
+}
+
+// Equal rows are all selected in turn; the text changes with the first alone.
+TEST_F(EditingALine, OfEqualRowsOfTheCodeTheLastIsSelected) {
+  DropDownList& list = lineDialog.touch().cboxEANProd;
+  list.setRows({"4607000000116", "1", "4607000000116", "46070000001160"});
+  look([&] { EXPECT_EQ(list.index(), 2); });
+}
+
 TEST_F(EditingALine, ThePackagesOfTheLineFillTheDialogsTable) {
   addPackage({.description = "Поддон"});
   lines.setRow(2);

@@ -61,6 +61,12 @@ TEST_F(RemovingALine, ValidLinesAreCountedAnew) {
   EXPECT_EQ(form.ValidLineCount, 1);
 }
 
+TEST_F(RemovingALine, RowsBeyondTheLinesAreDropped) {
+  lines.setRows(7);
+  remove(1);
+  EXPECT_THAT(column(lines, GRD_POZ_EAN), ElementsAre("2", "3"));
+}
+
 TEST_F(RemovingALine, PackagesStay) {
   addPackage({.description = "Поддон"});
   lines.setCell(1, GRD_POZ_PACK_REFS, "2@Поддон@1@1,000");

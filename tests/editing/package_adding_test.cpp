@@ -175,6 +175,13 @@ TEST_F(AddingAPackage, ACancelledDialogSpendsNoSerial) {
   EXPECT_EQ(cell(2, GRD_OPAK_SERIAL), "3");
 }
 
+TEST_F(AddingAPackage, TheTableIsPaintedAnewAlsoAfterACancelledDialog) {
+  int painted = 0;
+  packages.observer = [&](const Change& change) { painted += change.aspect == Aspect::redraw; };
+  look([] {});
+  EXPECT_EQ(painted, 1);
+}
+
 TEST_F(AddingAPackage, ASerialIsNeverIssuedTwice) {
   addPackage({.description = "А"});
   addPackage({.description = "Б"});
@@ -202,6 +209,19 @@ TEST_F(AddingAPackage, ADescriptionInUseIsRefused) {
               ElementsAre("VIRD|critical|OK|Данное значение поля 'Описание упаковки' уже "
                           "используется в системе"));
   EXPECT_EQ(session.IloscPozycjiOpak, 1);
+}
+
+// A file brings rows that nobody counts: the new row is cut off with them, and the row behind the
+// last counted one takes its place.
+TEST_F(AddingAPackage, RowsBeyondThePackagesAreDropped) {
+  addPackage({.description = "Поддон"});
+  packages.setRows(6);
+  packages.setCell(2, GRD_OPAK_LP, "7");
+  addPackage({.description = "Коробка"});
+  EXPECT_EQ(packages.rows(), 3);
+  EXPECT_EQ(cell(2, GRD_OPAK_LP), "7");
+  EXPECT_EQ(cell(2, GRD_OPAK_DESC), "Коробка");
+  EXPECT_EQ(cell(2, GRD_OPAK_SERIAL), "3");
 }
 
 TEST_F(AddingAPackage, LinesAreCountedAnew) {

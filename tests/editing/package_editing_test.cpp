@@ -180,6 +180,21 @@ TEST_F(EditingAPackage, ARowPastTheLimitCantBeOpened) {
   EXPECT_FALSE(form.enabled());
 }
 
+TEST(EditingAPackageWithALog, ThePackagesAreListedTwiceBeforeTheDialogOpens) {
+  Desk desk("ru_RU", "4");
+  desk.putPackages(1, [](int) { return 0; });
+  std::string before;
+  desk.face.onModal([&](Form& shown) {
+    before = desk.logText();
+    shown.userClose();
+  });
+  desk.form.btnEdytujOpak.userClick();
+  const std::string listed = "btnDodajOpak_Click: IloscPozycjiOpak = 1\r\n";
+  const auto first = before.find(listed);
+  ASSERT_NE(first, std::string::npos);
+  EXPECT_NE(before.find(listed, first + 1), std::string::npos);
+}
+
 // The check of a new description cuts its blanks, the table doesn't: so two packages can come to
 // bear the same description.
 class EqualDescriptions : public EditingAPackage {

@@ -58,6 +58,16 @@ TEST_F(Localizations, ACatalogueOfTwoOffersOne) {
   open();
   EXPECT_THAT(names(), ElementsAre("А"));
   EXPECT_THAT(ilns(), ElementsAre("1"));
+  EXPECT_EQ(dialog.cboxLokalizacja.style(), ListStyle::matchRequired);
+}
+
+TEST_F(Localizations, ASecondReadingAddsItsRowsAndDecidesOnTypingAnew) {
+  loadPlaces(places(place("А", "1") + place("Б", "2")));
+  open();
+  loadPlaces(places(place("В", "3")));
+  dialog.LoadLocalizationDictionary();
+  EXPECT_THAT(names(), ElementsAre("А"));
+  EXPECT_EQ(dialog.cboxLokalizacja.style(), ListStyle::freeTyping);
 }
 
 TEST_F(Localizations, ACatalogueOfOneOffersNoneAndTakesTyping) {

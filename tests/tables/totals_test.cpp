@@ -169,7 +169,10 @@ TEST_F(PartWeightTest, RoundsTheUnitWeightToTwoDecimalsFirst) {
   EXPECT_TRUE(test.form.WeightComplete);
 }
 
-TEST_F(PartWeightTest, RoundsTheResultToThreeDecimals) { EXPECT_EQ(weigh("0,333", "0,33"), 0.11); }
+TEST_F(PartWeightTest, RoundsTheResultToThreeDecimals) {
+  EXPECT_EQ(weigh("0,333", "0,33"), 0.11);
+  EXPECT_EQ(weigh("1,111", "1,11"), 1.233);
+}
 
 TEST_F(PartWeightTest, WithoutAWeightIsZeroAndIncomplete) {
   for (const char* weight : {"0", "-1", "", "ABC", "0,004"}) {
