@@ -1,11 +1,15 @@
 #include "adapters/posix/clocks.h"
 
+#include <chrono>
 #include <ctime>
 
 namespace awizo {
 
 Moment SystemClock::now() const {
-  const std::time_t seconds = std::time(nullptr);
+  // Not std::time(), which may lag this clock by a tick.
+  const auto moment = std::chrono::system_clock::now();
+  const std::time_t seconds =
+      std::chrono::system_clock::to_time_t(std::chrono::floor<std::chrono::seconds>(moment));
   std::tm local{};
   localtime_r(&seconds, &local);
   constexpr int yearOfZero = 1900;

@@ -7,10 +7,16 @@
 
 namespace awizo::headless {
 
+namespace {
+
+// The level of a line whose level isn't told.
+constexpr std::int16_t traceLevel = 4;
+
+}  // namespace
+
 void addHostProcedures(Procedures& procedures, AwizoWysylki& control) {
   Editor& editor = control.editor;
   using Text = const std::string&;
-  constexpr std::int16_t traceLevel = 4;
   procedures.add("OpenDebugLog", [&](Text path, std::int16_t level) {
     editor.session.log.OpenDebugLog(path, level);
   });
