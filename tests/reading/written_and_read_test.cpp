@@ -115,6 +115,23 @@ TEST_P(WrittenAndRead, WhatWasReadCanBeEditedAndWrittenAgain) {
   EXPECT_NE(again->fileBytes().find("Чай зелёный"), std::string::npos);
 }
 
+// The picture that saves takes no focus, so the editor stays open, and its text isn't in the cell.
+TEST_P(WrittenAndRead, AnEditThatIsStillOpenIsNotSavedYet) {
+  lines.userCell(1, GRD_POZ_QTY_DESPATCHED);
+  lines.userDoubleClick();
+  form.txtEdycja.userType("1");
+  face.answer(Answer::yes);
+  face.onModal([&] {
+    fileDialog.txtAwizoPlik.userType("c:\\docs\\saved.xml");
+    fileDialog.ImageZapisz.userClick();
+  });
+  form.btnZapisz.userClick();
+  EXPECT_EQ(files.bytes("c:\\docs\\saved.xml"), saved);
+  EXPECT_TRUE(form.txtEdycja.visible());
+  form.txtEdycja.userKey(keys::enter);
+  EXPECT_EQ(lines.cell(1, GRD_POZ_QTY_DESPATCHED), number("1", 3));
+}
+
 TEST_P(WrittenAndRead, AnEmptyDocumentIsReadAndReported) {
   while (session.LineCount > 0) form.btnUsun.userClick();
   form.txtNrAwiza.userType("WZ-8");
