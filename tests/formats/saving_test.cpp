@@ -105,6 +105,18 @@ TEST_F(Saving, WritesTheDocumentToTheFileThatTheUserNames) {
               ::testing::StartsWith("<Document-DespatchAdvice>"));
 }
 
+TEST_F(Saving, TellsTheHostWhatIsKeptOnceItIs) {
+  int kept = 0;
+  form.onDocumentKept = [&] {
+    ++kept;
+    EXPECT_TRUE(test.files.has("c:\\out\\new.xml"));
+  };
+  save("c:\\nowhere\\new.xml");
+  EXPECT_EQ(kept, 0);
+  save("c:\\out\\new.xml");
+  EXPECT_EQ(kept, 1);
+}
+
 TEST_F(Saving, OverwritesAFileWithoutAQuestion) {
   save("c:\\out\\old.xml");
   expectBoxes({});

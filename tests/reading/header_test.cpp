@@ -77,6 +77,19 @@ TEST_F(ReadingTheHeader, ADocumentFromAFileIsNoAnswerToAnOrder) {
   EXPECT_TRUE(form.enabled());
 }
 
+TEST_F(ReadingTheHeader, TheHostIsToldThatTheDocumentIsKept) {
+  int kept = 0;
+  form.onDocumentKept = [&] {
+    ++kept;
+    EXPECT_EQ(session.LineCount, 1);
+  };
+  closeNextForm();
+  form.btnWczytaj.userClick();
+  EXPECT_EQ(kept, 0);
+  read({});
+  EXPECT_EQ(kept, 1);
+}
+
 TEST_F(ReadingTheHeader, MissingDatesAndTimesHaveFallBacksAndAreNotReported) {
   readHeader(
       "<DespatchAdviceNumber>WZ</DespatchAdviceNumber><BuyerOrderNumber>Z</BuyerOrderNumber>");
