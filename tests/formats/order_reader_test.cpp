@@ -351,6 +351,7 @@ TEST_F(OrderReader, EndsWithTheFirstLineCurrentAndThePresetsOfAnAnswer) {
 
 TEST_F(OrderReader, AnOrderWithoutLinesLeavesCountAndPresets) {
   test.session.LineCount = 9;
+  table.setRows(10);
   readLines("");
   EXPECT_EQ(test.session.LineCount, 9);
   EXPECT_EQ(table.rows(), 2);
