@@ -12,6 +12,9 @@ TEST_F(PackageDialog, FieldsBearTheirCaptions) {
   EXPECT_EQ(dialog.cboxPackageType.caption(), "Тип упаковки:");
   EXPECT_EQ(dialog.txtPackageDesc.caption(), "Описание упаковки:");
   EXPECT_EQ(dialog.cboxParentPackage.caption(), "Внешняя упаковка:");
+  EXPECT_EQ(dialog.lblLevelValue.heading(), "Уровень:");
+  EXPECT_EQ(dialog.lbIDValue.heading(), "ID упаковки:");
+  EXPECT_EQ(dialog.lblIDLowValue.heading(), "ID упаковки:");
   EXPECT_EQ(dialog.txtPackageWeight.caption(), "Вес упаковки кг (килограммы):");
   EXPECT_EQ(dialog.txtPackageLength.caption(), "Длина упаковки м (метры):");
   EXPECT_EQ(dialog.txtPackageWidth.caption(), "Ширина упаковки м (метры):");

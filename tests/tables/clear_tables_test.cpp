@@ -62,6 +62,15 @@ TEST_F(ClearTest, TotalsKeepOneEmptyRow) {
   EXPECT_EQ(form.grdSuma.cell(0, 0), "heading");
 }
 
+TEST_F(ClearTest, LinesAndPackagesLeaveTheHeadingRowForTheEmptyOne) {
+  form.grdPozycje.setRow(0);
+  form.grdOpakowania.setRow(0);
+  ClearGrdPozycje(test.editor);
+  ClearGrdOpakowania(test.editor);
+  EXPECT_EQ(form.grdPozycje.row(), 1);
+  EXPECT_EQ(form.grdOpakowania.row(), 1);
+}
+
 TEST_F(ClearTest, EachLeavesTheOtherTables) {
   fill(form.grdOpakowania);
   fill(form.grdSuma);
