@@ -87,6 +87,7 @@ TEST_F(PackageDialog, TheFirstPackageIsATopPackage) {
 TEST_F(PackageDialog, AddingOffersEveryPackageAsParentAndShowsNoLevel) {
   offerParents();
   dialog.lblLevelValue.setCaption("5");
+  dialog.cboxParentPackage.setEnabled(false);
   dialog.PreparePackages(false);
   EXPECT_THAT(dialog.cboxParentPackage.rows(), ElementsAre("Поддон", "Коробка"));
   EXPECT_EQ(dialog.cboxParentPackage.index(), -1);
