@@ -63,13 +63,16 @@ class AwizoWysylki {
   double MyCalculatePartWeight(std::string& quantity, std::string& weight);
   std::string JednostkiMiaryNazwaToSymbol(std::string_view name) const;
   static void ArrayRemoveItem(HostValue& array, std::int32_t index);
-  static std::string GridToString(const Table& table);
-  static void StringToGrid(Table& table, std::string_view text);
+  /// The assignments in the line dialog's table, as a package reference string.
+  std::string GridToString();
+  void StringToGrid(std::string_view text);
   std::string RemoveOldPackRef(std::string_view text, const std::vector<std::string>& delSerials);
   std::string GetPackedQuantity(std::string_view text);
   std::int16_t IndexGrdPozycje(std::int16_t row, std::int16_t col) const;
   std::int16_t IndexGrdOpak(std::int16_t row, std::int16_t col) const;
   std::int16_t IndexGrdSuma(std::int16_t row, std::int16_t col) const;
+  /// Flat index in the line dialog's table, as the three above in the document's.
+  std::int16_t IndexGrdPozycjeDlgDodaj(std::int16_t row, std::int16_t col);
 
  private:
   void connectEvents();

@@ -20,10 +20,12 @@ void AwizoWysylki::ArrayRemoveItem(HostValue& array, std::int32_t index) {
   awizo::ArrayRemoveItem(array, index);
 }
 
-std::string AwizoWysylki::GridToString(const Table& table) { return awizo::GridToString(table); }
+std::string AwizoWysylki::GridToString() {
+  return awizo::GridToString(dlgDodaj.touch().grdPozycje);
+}
 
-void AwizoWysylki::StringToGrid(Table& table, std::string_view text) {
-  awizo::StringToGrid(table, text);
+void AwizoWysylki::StringToGrid(std::string_view text) {
+  awizo::StringToGrid(dlgDodaj.touch().grdPozycje, text);
 }
 
 std::string AwizoWysylki::RemoveOldPackRef(std::string_view text,
@@ -45,6 +47,10 @@ std::int16_t AwizoWysylki::IndexGrdOpak(std::int16_t row, std::int16_t col) cons
 
 std::int16_t AwizoWysylki::IndexGrdSuma(std::int16_t row, std::int16_t col) const {
   return awizo::IndexGrdSuma(editor, row, col);
+}
+
+std::int16_t AwizoWysylki::IndexGrdPozycjeDlgDodaj(std::int16_t row, std::int16_t col) {
+  return flatIndex(dlgDodaj.touch().grdPozycje, row, col);
 }
 
 }  // namespace awizo

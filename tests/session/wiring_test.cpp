@@ -196,8 +196,11 @@ TEST_F(Wiring, HostsCallThePublicMethods) {
   EXPECT_EQ(control.IndexGrdOpak(2, 4), 34);
   EXPECT_EQ(control.IndexGrdSuma(1, 2), 5);
   EXPECT_THROW(control.IndexGrdPozycje(1425, 0), RunTimeError);
-  control.StringToGrid(control.dlgDodaj.grdPozycje, "2@A@1@1,500");
-  EXPECT_EQ(control.GridToString(control.dlgDodaj.grdPozycje), "2@A@1@1,500");
+  control.StringToGrid("2@A@1@1,500");
+  EXPECT_EQ(control.dlgDodaj.grdPozycje.cell(1, 2), "A");
+  EXPECT_EQ(control.GridToString(), "2@A@1@1,500");
+  EXPECT_EQ(control.IndexGrdPozycjeDlgDodaj(2, 3), 13);
+  EXPECT_THROW(control.IndexGrdPozycjeDlgDodaj(6553, 3), RunTimeError);
   HostValue array = HostArray{0, {"a", "b"}, true};
   control.ArrayRemoveItem(array, 0);
   EXPECT_THAT(std::get<HostArray>(array).elements, ElementsAre("b"));

@@ -31,9 +31,8 @@ void removeItem(Json& array, std::int32_t index) {
 
 void addPackageReferences(Procedures& procedures, AwizoWysylki& control) {
   Editor& editor = control.editor;
-  procedures.add("GridToString", [&] { return GridToString(control.dlgDodaj.touch().grdPozycje); });
-  procedures.add("StringToGrid",
-                 [&](Text text) { StringToGrid(control.dlgDodaj.touch().grdPozycje, text); });
+  procedures.add("GridToString", [&] { return control.GridToString(); });
+  procedures.add("StringToGrid", [&](Text text) { control.StringToGrid(text); });
   procedures.add("RemoveOldPackRef", [&](Text text, const std::vector<std::string>& delSerials) {
     return RemoveOldPackRef(editor, text, delSerials);
   });
@@ -56,7 +55,7 @@ void addFlatIndexes(Procedures& procedures, AwizoWysylki& control) {
     return IndexGrdSuma(editor, row, col);
   });
   procedures.add("IndexGrdPozycjeDlgDodaj", [&](std::int16_t row, std::int16_t col) {
-    return flatIndex(control.dlgDodaj.touch().grdPozycje, row, col);
+    return control.IndexGrdPozycjeDlgDodaj(row, col);
   });
 }
 
