@@ -187,12 +187,18 @@ TEST_F(Completion, AnyEanOfACatalogueLineFindsIt) {
 }
 
 TEST_F(Completion, LooksOnlyAtLinesOfTheCatalogue) {
-  EXPECT_EQ(productOf("1",
-                      "<Other><Line-Item><EAN>1</EAN></Line-Item></Other>"
-                      "<Line><Other><EAN>1</EAN></Other></Line>"
-                      "<Line><EAN>1</EAN></Line>"
-                      "<Line xmlns=\"urn:x\"><Line-Item><EAN>1</EAN></Line-Item></Line>"),
-            "");
+  const std::string named = "<Line-Item><ItemDescription>found</ItemDescription>";
+  for (const std::string& other :
+       {"<Other>" + named + "<EAN>1</EAN></Line-Item></Other>",
+        "<Line>" + named + "</Line-Item><Other><EAN>1</EAN></Other></Line>",
+        "<Line>" + named + "</Line-Item><EAN>1</EAN></Line>",
+        "<Line>" + named + "<Other>1</Other></Line-Item></Line>",
+        "<Line>" + named + "<Other><EAN>1</EAN></Other></Line-Item></Line>",
+        "<Line xmlns=\"urn:x\">" + named + "<EAN>1</EAN></Line-Item></Line>"}) {
+    EXPECT_EQ(productOf("1", other), "") << other;
+    EXPECT_EQ(productOf("1.0", other), "") << other;
+  }
+  EXPECT_EQ(productOf("1", "<Line>" + named + "<EAN>1</EAN></Line-Item></Line>"), "found");
 }
 
 TEST_F(Completion, ComparesEansOfManyDigitsAsFloatingNumbers) {

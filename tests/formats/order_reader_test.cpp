@@ -334,8 +334,9 @@ TEST_F(OrderReader, ComputesTheExpiryDateFromThePeriod) {
 
 TEST_F(OrderReader, EndsWithTheFirstLineCurrentAndThePresetsOfAnAnswer) {
   test.session.LineCount = 9;
-  table.setRow(1);
   table.setFixedRows(0);
+  table.setRow(0);
+  table.setColumn(5);
   readLines(line("<EAN>1</EAN>") + line("<EAN>2</EAN>"));
   EXPECT_EQ(test.session.LineCount, 2);
   EXPECT_EQ(table.rows(), 3);

@@ -150,6 +150,11 @@ TEST_F(ChoosingAFile, MissingPartiesAreNeitherSellerNorBuyer) {
   session.SellerILN.clear();
   read(document);
   EXPECT_THAT(takeBoxes(), ElementsAre("VIRD|exclamation|OK|Неправильный ILN номер покупателя."));
+  // What is missing reads as the empty text, and so is equal to a party that isn't known.
+  session.BuyerILN.clear();
+  read(document);
+  EXPECT_THAT(takeBoxes(), ElementsAre(plainBreak1, "VIRDDesAdv|none|OK|1"));
+  EXPECT_EQ(form.txtNrAwiza.text(), "WZ-7");
 }
 
 TEST_F(ChoosingAFile, AnErrorBesideTheReadingIsToldAndTheControlEnabled) {

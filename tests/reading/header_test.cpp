@@ -180,6 +180,12 @@ TEST_F(ReadingTheHeader, WithoutADeliveryPointTheBuyerIsIt) {
   }
 }
 
+TEST_F(ReadingTheHeader, AMissingCodeOfTheSellerIsEmptyAndNotReported) {
+  readParties("");
+  EXPECT_EQ(form.txtCodeByBuyer.text(), "");
+  EXPECT_THAT(takeBoxes(), Not(Contains(incomplete)));
+}
+
 TEST_F(ReadingTheHeader, TheDeliveryPlaceIsShownFromItsCatalogue) {
   session.LocalizationsLoaded = session.LocalizationsDom->loadText(
       "<dictionary-response><document-content><Document-LocalizationsCatalog><localizations>"
@@ -197,6 +203,7 @@ TEST_F(ReadingTheHeader, ThePackageHeaderSelectsARow) {
   for (const auto& [code, index] : indexes) {
     readPackageHeader("<PackageDescription>" + code + "</PackageDescription>");
     EXPECT_EQ(form.cboxPackageDescription.index(), index) << code;
+    EXPECT_THAT(takeBoxes(), Not(Contains(incomplete))) << code;
   }
 }
 
