@@ -195,6 +195,13 @@ TEST_F(ProductChoice, AmongEqualNamesTheFirstRowOfThatNameWins) {
   EXPECT_THAT(fields(), ElementsAre("4602", "Чай", "b2", "s2"));
 }
 
+TEST_F(ProductChoice, AmongEqualNamesTheChosenBuyersCodeStaysToo) {
+  test.loadProducts({{"4601", "Чай", "s1", "b1"}, {"4602", "Чай", "s2", "b2"}});
+  test.show([&] { choose(dialog.cboxKodAPP, "b1"); });
+  EXPECT_THAT(lists(), ElementsAre("4602", "Чай", "b1", "s2"));
+  EXPECT_THAT(fields(), ElementsAre("4602", "Чай", "b2", "s2"));
+}
+
 TEST_F(ProductChoice, ASecondLineOfTheNameIsReachedByItsEAN) {
   test.loadProducts({{"4601", "Чай", "s1", "b1"}, {"4602", "Чай", "s2", "b2"}});
   test.show([&] { choose(dialog.cboxEANProd, "4601"); });
