@@ -166,6 +166,8 @@ class DlgDodaj : public Form {
   void cboxNazwaProd_Change();
   void followList(DropDownList& list, std::int16_t mark, TextField& field,
                   const std::function<void()>& onward);
+  /// Sets the text of the next list of a chain; error 28 where that led into an endless one.
+  void lead(DropDownList& list, const std::string& text);
   void takeProduct(std::size_t line);
   void forgetProduct();
   void showExpiryDate(const std::string& isoDate);
@@ -197,6 +199,8 @@ class DlgDodaj : public Form {
   DlgdodajPule& quantityDialog_;
   Sorter sorter_;
   ProductDictionary products_;
+  bool inChain_ = false;         ///< a change event of a linked list is running
+  bool chainIsEndless_ = false;  ///< the chain is breaking off up to its first event
   bool mayLoad_ = false;
   bool loaded_ = false;
 };

@@ -1,4 +1,5 @@
 #include <functional>
+#include <utility>
 
 #include "linedialog/dlg_dodaj.h"
 #include "platform/forms/report_errors.h"
@@ -26,19 +27,33 @@ std::size_t lineOf(int index, const std::vector<std::int32_t>& order) {
 
 }  // namespace
 
-// A change event that fails keeps its mark: its last step is skipped.
+// A change event that fails keeps its mark: its last step is skipped. Lines that share names and
+// codes can lead to each other without end. Such a chain ends as a whole, and the event with which
+// it began tells so: would each event on the way report and go on, there were no end of boxes.
 void DlgDodaj::followList(DropDownList& list, std::int16_t mark, TextField& field,
                           const std::function<void()>& onward) {
   const std::string event = list.name() + "_Change";
+  const bool begins = !std::exchange(inChain_, true);
   reportErrors(screen(), "VIRDПроизошла ошибка в  " + event, [&] {
-    DebugLog& log = editor_.session.log;
-    log.WriteDebugLine(event + " start");
-    if (ProductChangeSource == 0) ProductChangeSource = mark;
-    field.setText(list.text());
-    onward();
-    if (ProductChangeSource == mark) ProductChangeSource = 0;
-    log.WriteDebugLine(event + " koniec");
+    try {
+      DebugLog& log = editor_.session.log;
+      log.WriteDebugLine(event + " start");
+      if (ProductChangeSource == 0) ProductChangeSource = mark;
+      field.setText(list.text());
+      onward();
+      if (ProductChangeSource == mark) ProductChangeSource = 0;
+      log.WriteDebugLine(event + " koniec");
+    } catch (const RunTimeError& error) {
+      chainIsEndless_ = !begins && error.number() == errors::outOfStackSpace().number();
+      if (!chainIsEndless_) throw;
+    }
   });
+  if (begins) inChain_ = false;
+}
+
+void DlgDodaj::lead(DropDownList& list, const std::string& text) {
+  list.setText(text);
+  if (chainIsEndless_) throw errors::outOfStackSpace();
 }
 
 void DlgDodaj::cboxEANProd_Change() {
@@ -46,9 +61,9 @@ void DlgDodaj::cboxEANProd_Change() {
     const ProductDictionary& p = products_;
     if (!inList(cboxEANProd, p.IdxEAN)) return;
     const std::size_t line = lineOf(cboxEANProd.index(), p.IdxEAN);
-    if (ProductChangeSource != fromBuyerCode) cboxKodAPP.setText(p.ProdBuyerCode[line]);
-    if (ProductChangeSource != fromName) cboxNazwaProd.setText(p.ProdName[line]);
-    if (ProductChangeSource != fromSupplierCode) cboxKodSprzed.setText(p.ProdSupplierCode[line]);
+    if (ProductChangeSource != fromBuyerCode) lead(cboxKodAPP, p.ProdBuyerCode[line]);
+    if (ProductChangeSource != fromName) lead(cboxNazwaProd, p.ProdName[line]);
+    if (ProductChangeSource != fromSupplierCode) lead(cboxKodSprzed, p.ProdSupplierCode[line]);
     setFieldsValues(narrow16(cboxEANProd.index()));
   });
 }
@@ -58,7 +73,7 @@ void DlgDodaj::cboxKodAPP_Change() {
   followList(cboxKodAPP, fromBuyerCode, txtKodKup, [&] {
     const std::vector<std::int32_t>& order = products_.IdxBuyerCode;
     if (!inList(cboxKodAPP, order) || ProductChangeSource == fromName) return;
-    cboxNazwaProd.setText(products_.ProdName[lineOf(cboxKodAPP.index(), order)]);
+    lead(cboxNazwaProd, products_.ProdName[lineOf(cboxKodAPP.index(), order)]);
   });
 }
 
@@ -66,7 +81,7 @@ void DlgDodaj::cboxKodSprzed_Change() {
   followList(cboxKodSprzed, fromSupplierCode, txtKodSprzed, [&] {
     const std::vector<std::int32_t>& order = products_.IdxSupplierCode;
     if (!inList(cboxKodSprzed, order) || ProductChangeSource == fromName) return;
-    cboxNazwaProd.setText(products_.ProdName[lineOf(cboxKodSprzed.index(), order)]);
+    lead(cboxNazwaProd, products_.ProdName[lineOf(cboxKodSprzed.index(), order)]);
   });
 }
 
@@ -74,7 +89,7 @@ void DlgDodaj::cboxNazwaProd_Change() {
   followList(cboxNazwaProd, fromName, txtNazwaProdWart, [&] {
     const std::vector<std::int32_t>& order = products_.IdxName;
     if (!inList(cboxNazwaProd, order)) return;
-    cboxEANProd.setText(products_.ProdEAN[lineOf(cboxNazwaProd.index(), order)]);
+    lead(cboxEANProd, products_.ProdEAN[lineOf(cboxNazwaProd.index(), order)]);
   });
 }
 

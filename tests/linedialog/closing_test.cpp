@@ -174,6 +174,22 @@ TEST_F(ClosingALineInPackages, TellsThatNotAllIsPacked) {
   EXPECT_EQ(dialog.DlgResult, 1);
 }
 
+TEST_F(ClosingALineInPackages, TellsItWhenAllElseButHidingIsDone) {
+  dialog.cboxNazwaProd.setVisible(true);
+  test.show([&] {
+    typeGoodLine();
+    dialog.comboCountry.userType("AU");
+    test.face.whileBoxIsOpen([&](const MessageBox&) {
+      EXPECT_TRUE(dialog.shown());
+      EXPECT_EQ(dialog.DlgResult, 1);
+      EXPECT_EQ(dialog.comboCountry.count(), 11);
+      EXPECT_EQ(test.focus(), "cboxNazwaProd");
+    });
+    dialog.btnDodaj.userClick();
+  });
+  EXPECT_THAT(test.takeBoxes(), ElementsAre(notAllPacked));
+}
+
 TEST_F(ClosingALineInPackages, TellsItOfALineInNoPackageToo) {
   test.show([&] {
     typeGoodLine();

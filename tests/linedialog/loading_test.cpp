@@ -126,8 +126,7 @@ TEST_F(LineDialogLoading, SetsUpThePackageTable) {
     const auto place = static_cast<std::size_t>(column);
     EXPECT_EQ(table.columnWidth(column), widths[place]);
     EXPECT_EQ(table.look(1, column).alignment, alignments[place]);
-    EXPECT_TRUE(table.look(0, column).bold);
-    EXPECT_EQ(table.look(0, column).alignment, Alignment::centre);
+    EXPECT_EQ(table.look(0, column), (CellLook{white, Alignment::centre, true, false}));
   }
   EXPECT_THAT(TestEditor::row(table, 0),
               ElementsAre("№ п.п", "ID упаковки", "Описание упаковки", "Уровень", "Количество"));

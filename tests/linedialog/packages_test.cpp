@@ -123,6 +123,65 @@ TEST_P(LinePackages, ARemainderBelowAHalfFitsNowhere) {
   });
 }
 
+TEST_P(LinePackages, TheSameQuantityOfferedAgainIsCheckedAgain) {
+  despatch("0,4");
+  test.show([&] {
+    for (int time = 1; time <= 2; ++time) {
+      test.inQuantityDialog([&] {
+        EXPECT_THAT(test.takeBoxes(), ElementsAre(range("1", "0"))) << time;
+        EXPECT_EQ(small.txtQuantity.text(), "0");
+        small.btnZamknij.userClick();
+      });
+      dialog.Command1.userClick();
+    }
+  });
+}
+
+TEST_P(LinePackages, AQuantityThatNoSpinButtonsHoldCantBePacked) {
+  for (const char* quantity : {"9e99", "3e9"}) {
+    dialog.txtIloscPotw.setText(quantity);
+    test.show([&] { dialog.Command1.userClick(); });
+    EXPECT_THAT(test.takeBoxes(), ElementsAre("VIRD|critical|OK|Overflow")) << quantity;
+  }
+  EXPECT_THAT(test.face.modalForms(), ElementsAre("DlgDodaj", "DlgDodaj"));
+}
+
+TEST_P(LinePackages, AddingAfterAChangeHasItsOwnCaptions) {
+  despatch("6");
+  test.show([&] {
+    test.assign(0, "1");
+    test.inQuantityDialog([&] { small.btnZamknij.userClick(); });
+    dialog.Command3.userClick();
+    test.inQuantityDialog([&] {
+      EXPECT_EQ(small.caption(), "Добавь товар в упаковку");
+      EXPECT_EQ(small.btnDodaj.caption(), "&Добавить");
+      small.btnZamknij.userClick();
+    });
+    dialog.Command1.userClick();
+  });
+}
+
+TEST_P(LinePackages, TheOnlyRowIsTakenWhenItsSerialIsEmptyWhateverElseItHolds) {
+  dialog.StringToGrid("@Ящик@1");
+  despatch("5");
+  test.show([&] { test.assign(0, "2"); });
+  EXPECT_THAT(rows(), ElementsAre(row("2 Поддон 1 2,000")));
+}
+
+TEST_P(LinePackages, TheTableIsntPaintedWhileARowIsWritten) {
+  std::vector<bool> painting;
+  despatch("5");
+  test.show([&] {
+    table.observer = [&](const Change& change) {
+      if (change.aspect == Aspect::redraw) painting.push_back(table.redraw());
+    };
+    test.assign(0, "2");
+    dialog.Command2.userClick();
+    table.observer = nullptr;
+  });
+  EXPECT_THAT(painting, ElementsAre(false, true, false, true));
+}
+
 TEST_P(LinePackages, TheListIsFilledAnewEachTime) {
   despatch("5");
   test.show([&] {
@@ -256,6 +315,20 @@ TEST_P(LinePackages, ChangingFindsThePackageByItsDescription) {
   EXPECT_EQ(table.cell(1, 1), "2") << "two packages of one description are the same";
 }
 
+// The list of packages is an earlier line's; those of the document have become fewer since.
+TEST_P(LinePackages, APackageThatIsNoLongerThereCantBeAssigned) {
+  test.offer({{"2", "Поддон"}, {"5", "Коробка"}, {"6", "Ящик"}});
+  despatch("6");
+  test.show([&] {
+    test.assign(2, "4");
+    test.offer({{"2", "Поддон"}});
+    test.inQuantityDialog([&] { small.btnDodaj.userClick(); });
+    dialog.Command3.userClick();
+  });
+  EXPECT_THAT(test.takeBoxes(), ElementsAre("VIRD|critical|OK|Subscript out of range"));
+  EXPECT_THAT(rows(), ElementsAre(row("6 Ящик 1 4,000")));
+}
+
 TEST_P(LinePackages, ChangingBeforeAnyAddingFails) {
   dialog.StringToGrid(local("2@Поддон@1@2,000"));
   dialog.UpdatePackedQuantity();
@@ -266,6 +339,8 @@ TEST_P(LinePackages, ChangingBeforeAnyAddingFails) {
                           "value."));
   EXPECT_THAT(test.face.modalForms(), ElementsAre("DlgDodaj"));
   EXPECT_THAT(rows(), ElementsAre(row("2 Поддон 1 2,000")));
+  EXPECT_EQ(small.UpDown1.min(), 1) << "what was done stays";
+  EXPECT_EQ(small.UpDown1.max(), 6);
 }
 
 TEST_P(LinePackages, AQuantityThatCantBeReadBreaksTheChange) {

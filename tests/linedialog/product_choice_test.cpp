@@ -236,6 +236,53 @@ TEST_F(ProductChoice, AmongEqualEANsTheFirstRowWinsAndIsntFilledAgain) {
   });
 }
 
+// Setting the buyer's code leads over the name to another EAN, and from there round and round.
+TEST_F(ProductChoice, LinesThatLeadToEachOtherWithoutEndAreToldOnce) {
+  test.loadProducts({{"1", "в", "s1", "b2"},
+                     {"2", "б", "s1", "b1"},
+                     {"1", "в", "s3", "b1"},
+                     {"2", "в", "s1", "b3"}});
+  test.show([&] {
+    dialog.cboxEANProd.userChoose(0);
+    EXPECT_THAT(test.takeBoxes(),
+                ElementsAre("VIRDПроизошла ошибка в  cboxEANProd_Change|critical|OK|Out of stack "
+                            "space"));
+    EXPECT_EQ(dialog.ProductChangeSource, 1) << "the last step of the event was skipped";
+    // The dialog is as good as before: a chain with an end runs to it.
+    dialog.cboxEANProd.userType("3");
+    EXPECT_EQ(dialog.txtlEANProdWart.text(), "3");
+    EXPECT_EQ(dialog.ProductChangeSource, 0);
+    dialog.cboxNazwaProd.userType("");
+    choose(dialog.cboxNazwaProd, "б");
+    EXPECT_THAT(lists(), ElementsAre("2", "б", "b3", "s1"));
+  });
+  EXPECT_THAT(test.takeBoxes(), IsEmpty());
+}
+
+// Lines without codes.
+
+TEST_F(ProductChoice, ALineWithoutACodeEmptiesTheListAndSelectsNoOtherSuchLine) {
+  test.loadProducts({{"4600", "Вода"}, {"4601", "Чай", "s1", "b1"}, {"4602", "Кофе"}});
+  test.show([&] {
+    choose(dialog.cboxEANProd, "4601");
+    choose(dialog.cboxEANProd, "4602");
+    EXPECT_THAT(lists(), ElementsAre("4602", "Кофе", "", ""));
+    choose(dialog.cboxNazwaProd, "Чай");
+    dialog.cboxKodAPP.userType("");
+    EXPECT_THAT(lists(), ElementsAre("4601", "Чай", "", "s1"));
+    EXPECT_THAT(fields(), ElementsAre("4601", "Чай", "", "s1"));
+  });
+}
+
+TEST_F(ProductChoice, TheRowOfALineWithoutACodeIsAChoiceLikeAnyOther) {
+  test.loadProducts({{"4600", "Вода"}, {"4601", "Чай", "s1", "b1"}});
+  test.show([&] {
+    choose(dialog.cboxEANProd, "4601");
+    choose(dialog.cboxKodAPP, "");
+    EXPECT_THAT(lists(), ElementsAre("4600", "Вода", "", ""));
+  });
+}
+
 // The marks.
 
 TEST_F(ProductChoice, AMarkThatStayedKeepsItsBlocksInForce) {

@@ -33,6 +33,11 @@ TEST_P(ProductFields, AKnownUnitIsARow) {
   EXPECT_EQ(dialog.cboxJednostkaMiary.text(), "Килограмм");
 }
 
+TEST_P(ProductFields, TheFirstUnitIsARowToo) {
+  pick("<UnitOfMeasure>PCE</UnitOfMeasure>");
+  EXPECT_EQ(dialog.cboxJednostkaMiary.index(), 0);
+}
+
 TEST_P(ProductFields, AnUnknownUnitIsItsText) {
   pick("<UnitOfMeasure>BX</UnitOfMeasure>");
   EXPECT_EQ(dialog.cboxJednostkaMiary.index(), -1);

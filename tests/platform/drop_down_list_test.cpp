@@ -72,6 +72,16 @@ TEST_F(DropDownListTest, EmptyTextSelectsNothing) {
   EXPECT_THAT(events, ElementsAre("Change -1 "));
 }
 
+TEST_F(DropDownListTest, EmptyTextSelectsNoEmptyRowEither) {
+  list.addRow("");
+  list.setIndex(0);
+  list.setText("");
+  EXPECT_EQ(list.index(), -1);
+  list.setIndex(4);
+  EXPECT_EQ(list.index(), 4);
+  EXPECT_EQ(list.text(), "");
+}
+
 TEST_F(DropDownListTest, IndexByCodeRaisesChangeThenClick) {
   list.setIndex(2);
   EXPECT_THAT(events, ElementsAre("Change 2 Метр", "Click"));
