@@ -139,6 +139,15 @@ TEST_F(AddingALine, FurtherLinesAreAppended) {
   EXPECT_TRUE(lines.redraw());
 }
 
+TEST_F(AddingALine, TheTableHoldsNoMoreRowsThanThereAreLines) {
+  lines.setRows(5);
+  addLine({.ean = "1"});
+  EXPECT_THAT(column(lines, GRD_POZ_EAN), ElementsAre("1"));
+  lines.setRows(5);
+  addLine({.ean = "2"});
+  EXPECT_THAT(column(lines, GRD_POZ_EAN), ElementsAre("1", "2"));
+}
+
 TEST_F(AddingALine, EveryFieldReachesItsColumn) {
   addPackage({.description = "Поддон"});
   face.onModal([&] {
