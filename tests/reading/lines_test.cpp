@@ -3,6 +3,7 @@
 namespace awizo::test {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::Contains;
 using ::testing::Each;
 using ::testing::ElementsAre;
@@ -149,6 +150,48 @@ TEST_F(ReadingLines, AnEmptyListOfLinesIsNoFault) {
   EXPECT_EQ(session.LineCount, 0);
   EXPECT_EQ(lines.rows(), 2);
   EXPECT_THAT(TestEditor::row(lines, 1), Each(""));
+}
+
+TEST_F(ReadingLines, TheTablesAreLeftAtTheirFirstCellWithOneHeadingRow) {
+  lines.setFixedRows(0);
+  packages.setFixedRows(0);
+  lines.setColumn(GRD_POZ_NAME);
+  totals.setColumn(2);
+  readLines("");
+  EXPECT_EQ(lines.fixedRows(), 1);
+  EXPECT_EQ(packages.fixedRows(), 1);
+  EXPECT_EQ(lines.row(), 1);
+  EXPECT_EQ(lines.column(), 1);
+  EXPECT_EQ(totals.column(), 1);
+}
+
+TEST_F(ReadingLines, EachTableRedrawsOnceItsRowsAreThere) {
+  std::vector<bool> linesRedrawn;
+  std::vector<bool> totalsRedrawn;
+  lines.observer = [&](const Change& change) {
+    if (change.aspect == Aspect::cell) linesRedrawn.push_back(lines.redraw());
+  };
+  totals.observer = [&](const Change& change) {
+    const std::string text = change.aspect == Aspect::cell ? totals.cell(1, change.column) : "";
+    if (text == "7,00" || text == "8,00") totalsRedrawn.push_back(totals.redraw());
+  };
+  readTotals("<TotalQuantity>7</TotalQuantity><TotalAmount>8</TotalAmount>");
+  EXPECT_THAT(linesRedrawn, AllOf(Not(IsEmpty()), Each(false)));
+  EXPECT_THAT(totalsRedrawn, ElementsAre(false, false));
+  EXPECT_TRUE(lines.redraw());
+  EXPECT_TRUE(totals.redraw());
+}
+
+TEST_F(ReadingLines, TheTotalsAreDrawnAgainBeforeTheyAreComputed) {
+  totals.setRedraw(false);
+  face.whileBoxIsOpen([](const MessageBox&) {});
+  face.whileBoxIsOpen([](const MessageBox&) {});
+  face.whileBoxIsOpen([&](const MessageBox& box) {
+    EXPECT_EQ(box.title, "Произошла ошибка в  PoprawGrdSuma()");
+    EXPECT_TRUE(totals.redraw());
+  });
+  readLines(line("<DespatchedQuantity>many</DespatchedQuantity>"));
+  EXPECT_EQ(takeBoxes().size(), 3U);
 }
 
 TEST_F(ReadingLines, TotalsAreComputed) {
