@@ -18,11 +18,16 @@ class ChoosingAFile : public ::testing::Test, public ReadingDesk {
     addLine({.ean = "1"});
     addPackage({.description = "Поддон"});
     form.txtNrAwiza.userType("WZ-1");
+    form.cboxPackageDescription.userChoose(0);
+    form.txtGoodsIdentity.userType("354");
+    form.lblILNMiejscaDostValue.setCaption("9520002000026");
   }
 
   void expectUntouched() {
     EXPECT_EQ(session.LineCount, 1);
     EXPECT_EQ(form.txtNrAwiza.text(), "WZ-1");
+    EXPECT_EQ(form.cboxPackageDescription.index(), 0);
+    EXPECT_EQ(form.txtGoodsIdentity.text(), "354");
     EXPECT_TRUE(form.enabled());
   }
   void expectCleared() {
@@ -30,6 +35,9 @@ class ChoosingAFile : public ::testing::Test, public ReadingDesk {
     EXPECT_THAT(TestEditor::row(lines, 1), Each(""));
     EXPECT_THAT(TestEditor::row(totals, 1), Each(""));
     EXPECT_EQ(form.txtNrAwiza.text(), "");
+    EXPECT_EQ(form.cboxPackageDescription.index(), 2);
+    EXPECT_EQ(form.txtGoodsIdentity.text(), "");
+    EXPECT_EQ(form.lblILNMiejscaDostValue.caption(), "");
     EXPECT_EQ(form.lblILNKupWart.caption(), "9520002000019");
     EXPECT_EQ(form.lblNameKupWart.caption(), "ООО Покупатель");
     EXPECT_EQ(form.lblILNSprzedWart.caption(), "9520001000010");
