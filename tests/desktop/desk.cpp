@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QMessageBox>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -50,7 +51,8 @@ Desk::Desk(std::string_view localeName)
   settle();
 
   QObject::connect(&patience_, &QTimer::timeout, [] {
-    ADD_FAILURE() << "a dialog or box waits for a user who isn't there";
+    const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ADD_FAILURE() << "nobody answers " << (box == nullptr ? "a dialog" : seen(*box));
     QCoreApplication::exit(1);
   });
   patience_.start(patienceMilliseconds);
@@ -70,10 +72,27 @@ desktop::Face& Desk::face(const Control& shown) {
   return desktop.dialog(shown.form()).faces().face(shown);
 }
 
+void Desk::tabTo(const Control& wanted) {
+  const std::size_t most = wanted.form().controls().size();
+  for (std::size_t i = 0; i < most && wanted.form().focus() != &wanted; ++i) press(Qt::Key_Tab);
+  EXPECT_EQ(wanted.form().focus(), &wanted) << "Tab doesn't lead to " << wanted.name();
+}
+
+testing::AssertionResult Desk::keysGoTo(const Control& shown) {
+  const QWidget* there = keyTarget();
+  if (there == face(shown).focusWidget()) return testing::AssertionSuccess();
+  return testing::AssertionFailure()
+         << "they go to "
+         << (there == nullptr ? "none" : desktop::toText(there->objectName()));
+}
+
 void Desk::loadCatalogues() {
   ASSERT_TRUE(session.ProductCatalogDom->loadText(contentOf("demo/data/catalogue.xml")));
   session.ProductCatalogLoaded = true;
-  ASSERT_TRUE(session.LocalizationsDom->loadText(contentOf("demo/data/delivery-places.xml")));
+  std::string places = contentOf("demo/data/delivery-places.xml");
+  places.erase(0, places.find("<Document-LocalizationsCatalog>"));
+  ASSERT_TRUE(session.LocalizationsDom->loadText("<dictionary-response><document-content>" + places +
+                                                 "</document-content></dictionary-response>"));
   session.LocalizationsLoaded = true;
 }
 

@@ -27,6 +27,11 @@ class Desk : public TestSurroundings {
   QWidget* widget(const Control& shown) { return face(shown).widget(); }
   desktop::FormDialog& dialog(Form& shown) { return desktop.dialog(shown); }
 
+  /// Presses Tab until the focus is there.
+  void tabTo(const Control& wanted);
+  /// Whether keys go to this control's face, as the model says.
+  testing::AssertionResult keysGoTo(const Control& shown);
+
   desktop::DesktopScreen desktop;
   Screen deskScreen{desktop};
   Platform deskPlatform;

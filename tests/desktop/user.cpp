@@ -14,16 +14,23 @@ namespace awizo::test {
 
 using desktop::toText;
 
+namespace {
+
+/// Whether the window on top has heard that it is the active one.
+bool topIsActive() {
+  const QWidget* modal = QApplication::activeModalWidget();
+  const QWidget* active = QApplication::activeWindow();
+  return modal == nullptr ? active != nullptr : active == modal;
+}
+
+}  // namespace
+
 void settle() { QCoreApplication::processEvents(); }
 
 QWidget* keyTarget() {
-  if (QWidget* popup = QApplication::activePopupWidget()) return popup;
-  // A window hears by an event that it has become active.
-  const auto topIsActive = [] {
-    QWidget* modal = QApplication::activeModalWidget();
-    QWidget* active = QApplication::activeWindow();
-    return modal == nullptr ? active != nullptr : active == modal;
-  };
+  if (QWidget* popup = QApplication::activePopupWidget()) {
+    return popup->focusWidget() != nullptr ? popup->focusWidget() : popup;
+  }
   EXPECT_TRUE(QTest::qWaitFor(topIsActive, 1000)) << "the topmost window is not active";
   QWidget* focus = QApplication::focusWidget();
   if (focus != nullptr) return focus;
@@ -75,7 +82,15 @@ void typeOver(const desktop::Face& face, const QString& text) {
   type(text);
 }
 
-void then(std::function<void()> act) { QTimer::singleShot(0, qApp, std::move(act)); }
+void then(std::function<void()> act) {
+  QTimer::singleShot(0, qApp, [act = std::move(act)] {
+    if (topIsActive()) {
+      act();
+    } else {
+      then(act);
+    }
+  });
+}
 
 QMessageBox* openBox() {
   auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

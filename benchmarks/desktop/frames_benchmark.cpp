@@ -1,0 +1,144 @@
+// What happens between a user's action and the next frame, each measured from the event to the
+// painted picture: a key typed in the list of all products, a scroll through all lines.
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTableView>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "hosts/desktop/faces/form_face.h"
+#include "hosts/desktop/faces/table_face.h"
+#include "platform/forms/drop_down_list.h"
+#include "platform/forms/table.h"
+#include "tests/support/scripted_screen.h"
+
+namespace awizo::benchmarks {
+namespace {
+
+constexpr int mostProducts = 32767;
+constexpr int mostLines = 1423;
+
+/// A form in a window, shown and painted.
+struct ShownForm {
+  test::ScriptedScreen face;
+  Screen screen{face};
+  Form form{screen, "Main"};
+  DropDownList names{form, "names"};
+  Table lines{form, "lines", 23};
+  QWidget window;
+  desktop::FormFace* faces = nullptr;
+
+  ShownForm() {
+    std::vector<std::string> rows;
+    for (int i = 0; i < mostProducts; ++i) {
+      rows.push_back("Молоко пастеризованное отборное, упаковка № " + std::to_string(i));
+    }
+    names.setRows(std::move(rows));
+    lines.setRows(mostLines + 1);
+    for (int row = 1; row <= mostLines; ++row) {
+      for (int column = 0; column < 23; ++column) lines.setCell(row, column, std::to_string(row));
+    }
+    faces = new desktop::FormFace(form, window);
+    auto* layout = new QVBoxLayout(&window);
+    for (const Control* control : form.controls()) layout->addWidget(faces->widget(*control));
+    faces->showAll();
+    window.resize(1024, 700);
+    window.show();
+    window.activateWindow();
+    form.showMain();
+    paint();
+  }
+  ~ShownForm() { delete faces; }
+
+  static void paint() { QCoreApplication::processEvents(); }
+};
+
+void TypingAKeyInTheListOfAllProducts(benchmark::State& state) {
+  ShownForm shown;
+  auto* box = qobject_cast<QComboBox*>(shown.faces->widget(shown.names));
+  QTest::mouseClick(box->lineEdit(), Qt::LeftButton);
+  ShownForm::paint();
+  // Each key leaves fewer rows; the last fits none, for which every row is searched to its end.
+  const QString keys = QStringLiteral("молоко 3276щ");
+  qsizetype next = 0;
+  for ([[maybe_unused]] const auto turn : state) {
+    const QString key = keys.mid(next, 1);
+    next = (next + 1) % keys.size();
+    QTest::sendKeyEvent(QTest::Click, box, static_cast<Qt::Key>(key.toUpper()[0].unicode()), key,
+                        Qt::NoModifier);
+    ShownForm::paint();
+    if (next != 0) continue;
+    state.PauseTiming();
+    QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(box, Qt::Key_Delete);
+    ShownForm::paint();
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(TypingAKeyInTheListOfAllProducts)->Unit(benchmark::kMillisecond);
+
+void OpeningTheListOfAllProducts(benchmark::State& state) {
+  ShownForm shown;
+  auto* box = qobject_cast<QComboBox*>(shown.faces->widget(shown.names));
+  for ([[maybe_unused]] const auto turn : state) {
+    box->showPopup();
+    ShownForm::paint();
+    state.PauseTiming();
+    box->hidePopup();
+    ShownForm::paint();
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(OpeningTheListOfAllProducts)->Unit(benchmark::kMillisecond);
+
+void EnteringTheListOfAllProducts(benchmark::State& state) {
+  ShownForm shown;
+  auto* box = qobject_cast<QComboBox*>(shown.faces->widget(shown.names));
+  for ([[maybe_unused]] const auto turn : state) {
+    state.PauseTiming();
+    shown.lines.setFocus();
+    shown.names.addRow("Ещё один");
+    ShownForm::paint();
+    state.ResumeTiming();
+    QTest::mouseClick(box->lineEdit(), Qt::LeftButton);
+    ShownForm::paint();
+  }
+}
+BENCHMARK(EnteringTheListOfAllProducts)->Unit(benchmark::kMillisecond);
+
+void ScrollingThroughAllLines(benchmark::State& state) {
+  ShownForm shown;
+  auto& table = static_cast<desktop::TableFace&>(shown.faces->face(shown.lines));
+  int row = 0;
+  for ([[maybe_unused]] const auto turn : state) {
+    row = (row + 7) % (mostLines - 50);
+    table.view()->verticalScrollBar()->setValue(row);
+    ShownForm::paint();
+  }
+}
+BENCHMARK(ScrollingThroughAllLines)->Unit(benchmark::kMillisecond);
+
+void ShowingAllLinesAnew(benchmark::State& state) {
+  ShownForm shown;
+  for ([[maybe_unused]] const auto turn : state) {
+    shown.lines.addItem("ещё");
+    ShownForm::paint();
+  }
+}
+BENCHMARK(ShowingAllLinesAnew)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace awizo::benchmarks
+
+int main(int count, char** arguments) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(count, arguments);
+  benchmark::Initialize(&count, arguments);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}
