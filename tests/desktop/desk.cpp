@@ -82,8 +82,7 @@ testing::AssertionResult Desk::keysGoTo(const Control& shown) {
   const QWidget* there = keyTarget();
   if (there == face(shown).focusWidget()) return testing::AssertionSuccess();
   return testing::AssertionFailure()
-         << "they go to "
-         << (there == nullptr ? "none" : desktop::toText(there->objectName()));
+         << "they go to " << (there == nullptr ? "none" : desktop::toText(there->objectName()));
 }
 
 void Desk::loadCatalogues() {
@@ -91,7 +90,8 @@ void Desk::loadCatalogues() {
   session.ProductCatalogLoaded = true;
   std::string places = contentOf("demo/data/delivery-places.xml");
   places.erase(0, places.find("<Document-LocalizationsCatalog>"));
-  ASSERT_TRUE(session.LocalizationsDom->loadText("<dictionary-response><document-content>" + places +
+  ASSERT_TRUE(session.LocalizationsDom->loadText("<dictionary-response><document-content>" +
+                                                 places +
                                                  "</document-content></dictionary-response>"));
   session.LocalizationsLoaded = true;
 }

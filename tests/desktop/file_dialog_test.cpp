@@ -164,15 +164,18 @@ TEST_F(FileDialogOnDesktop, TheClosingPictureChoosesNothing) {
   EXPECT_EQ(session.LastFilePath, "");
 }
 
-TEST_F(FileDialogOnDesktop, AFolderThatHasGoneChangesNothing) {
-  read([this] {
-    files.putFolder("c:\\home\\gone");
+TEST_F(FileDialogOnDesktop, AFolderThatCantBeReadIsTold) {
+  files.putFolder("c:\\home\\closed");
+  std::string box;
+  read([&] {
     openFolder("home");
-    files.failReading("c:\\home\\gone", errors::permissionDenied());
-    answerNext("ОК");
-    openFolder("gone");
+    files.failReading("c:\\home\\closed", errors::permissionDenied());
+    answerNext("ОК", &box);
+    openFolder("closed");
+    EXPECT_THAT(rows(list(chooser.DirList)), ElementsAre("c:\\", "home", "closed"));
     press(Qt::Key_Escape);
   });
+  EXPECT_EQ(box, "critical|VIRD|Permission denied|ОК");
 }
 
 TEST_F(FileDialogOnDesktop, FoldersMadeSinceAreSeenAtTheNextOpening) {

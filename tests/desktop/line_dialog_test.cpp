@@ -303,11 +303,13 @@ TEST_F(LineDialogOnDesktop, ADateTypedInTheProductionDateMovesTheExpiryDate) {
   loadCatalogues();
   addLine([this] {
     line.LinePeriod = "10";
-    line.LinePeriodFormat = "804";
+    line.LinePeriodFormat = "804";  // days
     line.dtExpiryDate.setDate(std::nullopt);
     tabTo(line.dtProdDate);
     press(Qt::Key_Up);
     EXPECT_EQ(line.dtProdDate.date(), makeDate(2026, 11, 22));
+    EXPECT_EQ(line.MyCalculateExpiryDate(), "2026-12-02");
+    EXPECT_EQ(shownText(face(line.dtExpiryDate)), "2 декабря 2026 г.");
     press(Qt::Key_Escape);
   });
 }

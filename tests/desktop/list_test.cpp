@@ -206,21 +206,54 @@ TEST_F(ListOnDesktop, AListOfAllProductsOpensAndProposesFewRows) {
   EXPECT_EQ(proposed().size(), static_cast<std::size_t>(desktop::Proposals::most));
 }
 
-TEST(Proposals, PutsRowsThatBeginWithItFirst) {
-  desktop::Proposals proposals(nullptr);
-  proposals.setRows({"Сырок", "Плавленый сыр", "сыр"});
-  proposals.propose("сыр");
-  EXPECT_EQ(proposals.rowCount(), 3);
-  EXPECT_EQ(proposals.listRow(0), 0);
-  EXPECT_EQ(proposals.listRow(1), 2);
-  EXPECT_EQ(proposals.listRow(2), 1);
+class ProposalsTest : public FormWindow {
+ protected:
+  DropDownList list{form, "list"};
+  desktop::Proposals proposals{list, nullptr};
+
+  std::vector<std::string> proposed(const QString& typed) {
+    proposals.propose(typed);
+    std::vector<std::string> rows;
+    for (int i = 0; i < proposals.rowCount(); ++i) {
+      rows.push_back(list.rows()[static_cast<std::size_t>(proposals.listRow(i))]);
+    }
+    return rows;
+  }
+};
+
+TEST_F(ProposalsTest, PutsRowsThatBeginWithItFirst) {
+  list.setRows({"Сырок", "Плавленый сыр", "сыр"});
+  EXPECT_THAT(proposed("СЫР"), ElementsAre("Сырок", "сыр", "Плавленый сыр"));
 }
 
-TEST(Proposals, ProposesNothingForNothing) {
-  desktop::Proposals proposals(nullptr);
-  proposals.setRows({"Сыр"});
-  proposals.propose("  ");
+TEST_F(ProposalsTest, FindsEachWordAnywhere) {
+  list.setRows({"Молоко 3,2 % 1 л", "Молоко 2,5 % 1 л", "Кефир 3,2 %"});
+  EXPECT_THAT(proposed("3,2 мол"), ElementsAre("Молоко 3,2 % 1 л"));
+}
+
+TEST_F(ProposalsTest, FindsNothingAcrossTwoRows) {
+  list.setRows({"аб", "вг"});
+  EXPECT_THAT(proposed("бв"), IsEmpty());
+}
+
+TEST_F(ProposalsTest, KeepsRowsApartThatHoldLineBreaks) {
+  list.setRows({"а\nб", "вода"});
+  EXPECT_THAT(proposed("вода"), ElementsAre("вода"));
+  EXPECT_THAT(proposed("б"), ElementsAre("а\nб"));
+}
+
+TEST_F(ProposalsTest, FollowsRowsThatChange) {
+  list.setRows({"Сыр"});
+  EXPECT_THAT(proposed("сыр"), ElementsAre("Сыр"));
+  list.setRows({"Кефир", "Сыр"});
+  proposals.rowsChanged();
   EXPECT_EQ(proposals.rowCount(), 0);
+  EXPECT_THAT(proposed("сыр"), ElementsAre("Сыр"));
+}
+
+TEST_F(ProposalsTest, ProposesNothingForNothing) {
+  list.setRows({"Сыр"});
+  EXPECT_THAT(proposed("  "), IsEmpty());
 }
 
 }  // namespace

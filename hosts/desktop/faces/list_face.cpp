@@ -75,7 +75,7 @@ void ListFace::makeProposals() {
   QObject::disconnect(edit, &QLineEdit::editingFinished, nullptr, nullptr);
   QObject::disconnect(edit, &QLineEdit::returnPressed, nullptr, nullptr);
   box_->setCompleter(nullptr);
-  proposals_ = new Proposals(this);
+  proposals_ = new Proposals(list_, this);
   completer_ = new QCompleter(proposals_, this);
   completer_->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
   completer_->setMaxVisibleItems(12);
@@ -95,8 +95,6 @@ void ListFace::takeTyping(const QString& text) {
 }
 
 void ListFace::showProposals(const QString& typed) {
-  if (proposalsStale_) proposals_->setRows(list_.rows());
-  proposalsStale_ = false;
   proposals_->propose(typed);
   if (proposals_->rowCount() == 0 || !box_->isVisible()) return completer_->popup()->hide();
   QRect place = box_->rect();
@@ -137,7 +135,7 @@ void ListFace::showContent() {
 void ListFace::showChange(const Change& change) {
   if (change.aspect == Aspect::rows) {
     rows_->changed();
-    proposalsStale_ = true;
+    if (proposals_ != nullptr) proposals_->rowsChanged();
   }
   if (change.aspect == Aspect::content) showStyle();
   Face::showChange(change);
@@ -145,10 +143,8 @@ void ListFace::showChange(const Change& change) {
 
 bool ListFace::eventFilter(QObject* watched, QEvent* event) {
   // A long list is prepared for typing before the first key comes.
-  if (event->type() == QEvent::FocusIn && watched == box_ && proposals_ && proposalsStale_) {
-    proposals_->setRows(list_.rows());
-    proposalsStale_ = false;
-  }
+  const bool focused = event->type() == QEvent::FocusIn && watched == box_;
+  if (focused && proposals_ != nullptr) proposals_->prepare();
   return Face::eventFilter(watched, event);
 }
 

@@ -62,7 +62,6 @@ class ListFace : public Face {
   ListRows* rows_;
   Proposals* proposals_ = nullptr;
   QCompleter* completer_ = nullptr;
-  bool proposalsStale_ = true;
 };
 
 }  // namespace awizo::desktop

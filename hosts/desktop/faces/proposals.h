@@ -1,24 +1,26 @@
 #pragma once
 
 #include <QAbstractListModel>
-#include <QStringList>
-#include <cstdint>
-#include <string>
+#include <QString>
 #include <vector>
+
+#include "platform/forms/drop_down_list.h"
 
 namespace awizo::desktop {
 
 /// The rows of a list that fit what is typed. A row fits when it holds every word that is typed, in
 /// any case and anywhere; those that begin with what is typed come first. Long lists are searched
-/// at every key, so texts are folded once, and only so many rows are proposed as a user would read.
+/// at every key, so rows are folded once, and only so many are proposed as a user would read.
 class Proposals : public QAbstractListModel {
  public:
   static constexpr int most = 100;
 
-  explicit Proposals(QObject* parent) : QAbstractListModel(parent) {}
+  Proposals(const DropDownList& list, QObject* parent) : QAbstractListModel(parent), list_(list) {}
 
-  /// Takes over the rows in which to search.
-  void setRows(const std::vector<std::string>& rows);
+  /// The list's rows are others now; nothing is proposed until the next call of propose().
+  void rowsChanged();
+  /// Folds the rows now, which takes its time for a long list, and not at the next key.
+  void prepare();
   void propose(const QString& typed);
   /// The list's row that a proposal stands for.
   int listRow(int proposal) const { return fitting_[static_cast<std::size_t>(proposal)]; }
@@ -27,9 +29,13 @@ class Proposals : public QAbstractListModel {
   QVariant data(const QModelIndex& index, int role) const override;
 
  private:
-  std::vector<QString> texts_;
-  std::vector<QString> folded_;
+  QStringView foldedRow(std::size_t row) const;
+
+  const DropDownList& list_;
+  QString folded_;               ///< all rows in one, each with a line feed behind it
+  std::vector<qsizetype> ends_;  ///< where each row ends in it
   std::vector<int> fitting_;
+  bool stale_ = true;
 };
 
 }  // namespace awizo::desktop
