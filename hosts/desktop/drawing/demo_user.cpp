@@ -70,6 +70,10 @@ void DemoUser::packLine(int row, int package, const std::string& picture) {
          });
 }
 
+void DemoUser::openDocuments() {
+  widget_.control().dlgWczytajZapisz.DirList.userOpen("c:" + documents_);
+}
+
 void DemoUser::showOtherForms() {
   AwizoWysylki& control = widget_.control();
   during([&] { control.form.Image2.userClick(); },
@@ -80,11 +84,13 @@ void DemoUser::showOtherForms() {
   const auto closeFiles = [&] { control.dlgWczytajZapisz.ImageZamknij.userClick(); };
   during([&] { control.form.btnWczytaj.userClick(); },
          [&] {
+           openDocuments();
            take("open");
            closeFiles();
          });
   during([&] { widget_.askOffLineFolder(); },
          [&] {
+           openDocuments();
            take("folder");
            closeFiles();
          });
@@ -93,6 +99,7 @@ void DemoUser::showOtherForms() {
          [&] {
            take("question");
            QTimer::singleShot(0, qApp, [&] {
+             openDocuments();
              take("save");
              closeFiles();
            });

@@ -12,8 +12,9 @@ namespace awizo::desktop {
 /// A user who works with the demo's order and takes a picture of every form on the way.
 class DemoUser {
  public:
-  DemoUser(AwizoWysylkiWidget& widget, std::filesystem::path pictures)
-      : widget_(widget), pictures_(std::move(pictures)) {}
+  /// `documents`: the folder in which the user keeps documents.
+  DemoUser(AwizoWysylkiWidget& widget, std::filesystem::path pictures, std::string documents)
+      : widget_(widget), pictures_(std::move(pictures)), documents_(std::move(documents)) {}
 
   /// The road from the order to a packed document.
   void work();
@@ -26,10 +27,12 @@ class DemoUser {
   void addPackage(int kind, const std::string& description, const std::string& serial, int parent,
                   const std::string& picture);
   void packLine(int row, int package, const std::string& picture);
+  void openDocuments();
   void showOtherForms();
 
   AwizoWysylkiWidget& widget_;
   std::filesystem::path pictures_;
+  std::string documents_;
 };
 
 }  // namespace awizo::desktop

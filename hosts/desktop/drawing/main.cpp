@@ -2,6 +2,7 @@
 // usage: awizo-pictures FOLDER [--dark] [--size WIDTHxHEIGHT]
 
 #include <QApplication>
+#include <QDir>
 #include <QMainWindow>
 #include <QStyleFactory>
 #include <QTemporaryDir>
@@ -51,11 +52,18 @@ class DemoFolder {
  public:
   DemoFolder() {
     fs::copy(fs::path(AWIZO_DEMO_FOLDER) / "folder", path(), fs::copy_options::recursive);
+    // What the user saved before.
+    for (const char* name : {"0098", "0099", "0100"}) {
+      fs::copy(
+          fs::path(AWIZO_DEMO_FOLDER) / "../samples/despatch-advice.xml",
+          fs::path(documents()) / ("Подтверждение_отгрузки_ТН-2026_" + std::string(name) + ".xml"));
+    }
   }
+  std::string documents() const { return root_.path().toStdString(); }
   std::string path() const { return root_.filePath("VIRD").toStdString(); }
 
  private:
-  QTemporaryDir root_;
+  QTemporaryDir root_{QDir::tempPath() + "/Отгрузки-XXXXXX"};
 };
 
 void draw(const fs::path& pictures, const QSize& size) {
@@ -73,7 +81,7 @@ void draw(const fs::path& pictures, const QSize& size) {
   window.setCentralWidget(widget);
   window.resize(size);
   QObject::connect(widget, &desktop::AwizoWysylkiWidget::startEnded, &window, [&] {
-    desktop::DemoUser(*widget, pictures).work();
+    desktop::DemoUser(*widget, pictures, folder.documents()).work();
     QApplication::exit(0);
   });
   window.show();

@@ -1,0 +1,31 @@
+// A Qt program of your own that shows the control: build it with the project, and start it as
+//   awizo-embed FOLDER
+// where FOLDER holds the user's files (demo/folder, for one). It works off line.
+
+#include <QApplication>
+
+#include "adapters/posix/settings_stores.h"
+#include "hosts/common/surroundings.h"
+#include "hosts/desktop/window/awizo_wysylki_widget.h"
+
+int main(int argumentCount, char** arguments) {
+  QApplication application(argumentCount, arguments);
+  QLocale::setDefault(awizo::desktop::localeNamed("ru_RU"));
+
+  // What the host tells the control: its properties, the page that it lives in, its settings.
+  awizo::Options options;
+  options.properties = {{"OnLine", "Off"}, {"PartnerILN", "9520002000019"}};
+  awizo::OptionsBag bag(options);
+  awizo::OptionsPage page(options);
+  awizo::SettingsInMemory settings;
+  if (argumentCount > 1) {
+    settings.write(awizo::settingApplication, awizo::settingSection, awizo::offLinePathKey,
+                   arguments[1]);
+  }
+
+  awizo::desktop::AwizoWysylkiWidget control({bag, page, settings, "ru_RU"});
+  control.setWindowTitle(control.property("OnLine").toString() == "Off" ? "Без связи" : "На связи");
+  control.resize(1024, 700);
+  control.show();
+  return QApplication::exec();
+}

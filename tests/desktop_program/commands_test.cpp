@@ -1,0 +1,118 @@
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "desktop_program/program_test.h"
+#include "hosts/desktop/faces/table_face.h"
+
+namespace awizo::test {
+namespace {
+
+/// Counts the buttons' clicks instead of letting them work.
+class CommandsTest : public ProgramTest {
+ protected:
+  void openCounting() {
+    open(offLineOptions());
+    for (Button* button :
+         {static_cast<Button*>(&form().btnWczytaj), static_cast<Button*>(&form().btnZapisz),
+          static_cast<Button*>(&form().btnPrzeslij), &form().btnDodaj, &form().btnEdytuj,
+          &form().btnUsun, &form().btnDodajOpak, &form().btnEdytujOpak, &form().btnUsunOpak}) {
+      button->onClick = [this, button] { pressed += button->name() + " "; };
+    }
+  }
+
+  std::string pressed;
+};
+
+TEST_F(CommandsTest, KeysOpenAndSaveFromAnyField) {
+  openCounting();
+  press(Qt::Key_O, Qt::ControlModifier);
+  tabTo(form().txtCodeByBuyer);
+  press(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(pressed, "btnWczytaj btnZapisz ");
+  EXPECT_EQ(form().focus(), &form().txtCodeByBuyer) << "a command moves no focus";
+}
+
+TEST_F(CommandsTest, KeysActOnTheTableThatHasTheFocus) {
+  openCounting();
+  tabTo(form().grdPozycje);
+  press(Qt::Key_Insert);
+  press(Qt::Key_F2);
+  press(Qt::Key_Delete);
+  EXPECT_EQ(pressed, "btnDodaj btnEdytuj btnUsun ");
+  pressed.clear();
+  tabTo(form().grdOpakowania);
+  press(Qt::Key_Insert);
+  press(Qt::Key_F2);
+  press(Qt::Key_Return);
+  press(Qt::Key_Delete);
+  EXPECT_EQ(pressed, "btnDodajOpak btnEdytujOpak btnEdytujOpak btnUsunOpak ");
+}
+
+TEST_F(CommandsTest, KeysOfTablesAreTheFieldsOwnElsewhere) {
+  openCounting();
+  typeOver(face(form().txtNrAwiza), "АБ");
+  press(Qt::Key_Home);
+  press(Qt::Key_Delete);
+  press(Qt::Key_Insert);
+  press(Qt::Key_F2);
+  EXPECT_EQ(form().txtNrAwiza.text(), "Б");
+  EXPECT_EQ(pressed, "");
+}
+
+TEST_F(CommandsTest, EveryMenuItemPressesItsButton) {
+  openCounting();
+  for (QAction* action : {commands().open, commands().save, commands().addLine, commands().editLine,
+                          commands().removeLine, commands().addPackage, commands().editPackage,
+                          commands().removePackage}) {
+    action->trigger();
+  }
+  EXPECT_EQ(pressed,
+            "btnWczytaj btnZapisz btnDodaj btnEdytuj btnUsun btnDodajOpak btnEdytujOpak "
+            "btnUsunOpak ");
+}
+
+TEST_F(CommandsTest, MenuStandsAsTheButtonsStand) {
+  openCounting();
+  EXPECT_FALSE(commands().send->isVisible()) << "off line nothing can be sent";
+  widget().setOnLine("On");
+  EXPECT_TRUE(commands().send->isVisible());
+  form().btnEdytuj.setEnabled(false);
+  EXPECT_FALSE(commands().editLine->isEnabled());
+  form().btnEdytuj.setEnabled(true);
+  EXPECT_TRUE(commands().editLine->isEnabled());
+  form().setEnabled(false);
+  EXPECT_FALSE(commands().open->isEnabled());
+  press(Qt::Key_O, Qt::ControlModifier);
+  EXPECT_EQ(pressed, "");
+}
+
+TEST_F(CommandsTest, MenusAndTipsTellTheKeys) {
+  openCounting();
+  QStringList menus;
+  for (const QAction* menu : window().menuBar()->actions()) menus << menu->text();
+  EXPECT_EQ(menus, QStringList({"&Документ", "&Правка", "&Справка"}));
+  EXPECT_EQ(commands().open->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_O));
+  EXPECT_EQ(commands().removePackage->shortcut(), QKeySequence(Qt::Key_Delete));
+  EXPECT_EQ(face(form().btnDodaj).widget()->toolTip(), "Добавить строку (Ins)");
+  EXPECT_EQ(face(form().btnZapisz).widget()->toolTip(), "Сохранить (Ctrl+S)");
+  EXPECT_EQ(face(form().btnEdytujOpak).widget()->toolTip(), "Изменить упаковку (F2)");
+}
+
+TEST_F(CommandsTest, TheWindowFitsASmallScreenAndCutsNoButton) {
+  openCounting();
+  EXPECT_LE(widget().minimumSizeHint().width(), 1024);
+  EXPECT_LE(widget().minimumSizeHint().height(), 676);
+  for (const Control* control : form().controls()) {
+    const QWidget* shown = face(*control).widget();
+    if (!shown->isVisible()) continue;
+    const QRect place(shown->mapTo(&widget(), QPoint()), shown->size());
+    EXPECT_TRUE(widget().rect().contains(place)) << control->name();
+    if (control->kind() == ControlKind::label || control->kind() == ControlKind::table) continue;
+    EXPECT_GE(shown->width(), shown->minimumSizeHint().width()) << control->name();
+    EXPECT_GE(shown->height(), shown->minimumSizeHint().height()) << control->name();
+  }
+}
+
+}  // namespace
+}  // namespace awizo::test

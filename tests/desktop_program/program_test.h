@@ -1,0 +1,55 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+
+#include "desktop/user.h"
+#include "hosts/desktop/program/main_window.h"
+#include "hosts/desktop/window/commands.h"
+#include "hosts/desktop/window/waiting.h"
+#include "session/awizo_wysylki.h"
+#include "support/programs/demo_service.h"
+#include "support/programs/workplace.h"
+
+namespace awizo::test {
+
+/// The program's window at a supplier's desk. The clock stands at 21 November 2026, 10:15.
+class ProgramTest : public testing::Test {
+ protected:
+  ~ProgramTest() override;
+
+  Options offLineOptions() const;
+  /// Against the service, with settings in a file, where agreed addresses are kept.
+  Options onLineOptions(const DemoService& service) const;
+  /// Says that the user trusts the service's address already.
+  void agreeTo(const DemoService& service) const;
+
+  /// Opens the window and waits until its start has ended.
+  void open(const Options& options);
+  /// Shows the window; its start comes when the event loop runs.
+  void show(const Options& options);
+  void waitForStart();
+  /// Waits until the window has closed; fails the test when it doesn't.
+  void waitForClosing();
+  bool isClosed() const { return !window_->isVisible(); }
+
+  desktop::MainWindow& window() { return *window_; }
+  desktop::AwizoWysylkiWidget& widget() { return window_->widget(); }
+  AwizoWysylki& control() { return widget().control(); }
+  AwizoForm& form() { return control().form; }
+  desktop::Commands& commands() { return widget().commands(); }
+  desktop::Face& face(const Control& control) { return widget().faces().face(control); }
+
+  /// Leads the focus to the control by the Tab key alone.
+  void tabTo(const Control& control);
+
+  Workplace place;
+
+ private:
+  std::unique_ptr<desktop::MainWindow> window_;
+  bool started_ = false;
+};
+
+}  // namespace awizo::test
