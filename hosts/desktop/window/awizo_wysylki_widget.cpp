@@ -216,6 +216,8 @@ bool AwizoWysylkiWidget::isDocumentChanged() const {
 
 void AwizoWysylkiWidget::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
+  // Coming back from the task bar is no new showing.
+  if (event->spontaneous()) return;
   // The window is painted first.
   QMetaObject::invokeMethod(this, &AwizoWysylkiWidget::start, Qt::QueuedConnection);
 }
