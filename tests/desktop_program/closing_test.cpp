@@ -98,15 +98,5 @@ TEST_F(ClosingTest, AnExchangeThatRunsIsCutOffWithoutABox) {
   EXPECT_FALSE(widget().isWorking());
 }
 
-TEST_F(ClosingTest, SavesTheFolderOfWork) {
-  open(offLineOptions());
-  window().close();
-  Options again = offLineOptions();
-  again.offLinePath.reset();
-  open(again);
-  EXPECT_TRUE(widget().hasStarted());
-  EXPECT_TRUE(form().enabled());
-}
-
 }  // namespace
 }  // namespace awizo::test

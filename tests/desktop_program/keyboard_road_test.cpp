@@ -1,9 +1,6 @@
 // The road of a document by the keyboard alone, through real widgets, against the demo service;
 // what is posted is what awizo-headless posts, byte for byte.
 
-#include <QApplication>
-#include <QMessageBox>
-
 #include "desktop_program/program_test.h"
 #include "support/programs/conversation.h"
 
@@ -51,23 +48,11 @@ class KeyboardRoadTest : public ProgramTest {
       });
       tabTo(dialog.Command1);
       press(Qt::Key_Space);
+      tabTo(dialog.btnDodaj);
       press(Qt::Key_Return);
       EXPECT_FALSE(dialog.shown()) << "the line was refused";
     });
     press(Qt::Key_F2);
-  }
-
-  /// Sends by the key, answering what comes with Enter; gives what was seen.
-  std::vector<std::string> send() {
-    std::vector<std::string> boxes;
-    std::function<void()> answer = [&] {
-      boxes.push_back(seen(*openBox()));
-      if (boxes.size() == 1) then(answer);
-      press(Qt::Key_Return);
-    };
-    then(answer);
-    press(Qt::Key_F9);
-    return boxes;
   }
 
   std::string headlessDocument() const {
@@ -105,7 +90,7 @@ TEST_F(KeyboardRoadTest, PostsTheDocumentThatTheHeadlessHostPosts) {
   fillHeader();
   addPackage();
   packFirstLine();
-  const std::vector<std::string> boxes = send();
+  const std::vector<std::string> boxes = answerWithEnter([] { press(Qt::Key_F9); });
   ASSERT_EQ(boxes.size(), 2u);
   EXPECT_EQ(boxes[1], "information|VIRD|Документ отправлен.|ОК");
   const std::vector<std::string> posted = service.posted();

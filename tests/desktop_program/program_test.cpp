@@ -1,5 +1,9 @@
 #include "desktop_program/program_test.h"
 
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+
 #include "adapters/posix/settings_stores.h"
 #include "hosts/desktop/program/addresses.h"
 
@@ -59,6 +63,21 @@ void ProgramTest::waitForStart() {
 
 void ProgramTest::waitForClosing() {
   ASSERT_TRUE(QTest::qWaitFor([this] { return isClosed(); }, patience)) << "the window stays";
+}
+
+std::vector<std::string> ProgramTest::answerWithEnter(const std::function<void()>& act) {
+  std::vector<std::string> boxes;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    // A box that has just come isn't the active window yet.
+    if (box == nullptr || QApplication::activeWindow() != box) return;
+    boxes.push_back(seen(*box));
+    press(Qt::Key_Return);
+  });
+  look.start(10);
+  act();
+  return boxes;
 }
 
 void ProgramTest::tabTo(const Control& control) {

@@ -3,7 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <optional>
+#include <string>
+#include <vector>
 
 #include "desktop/user.h"
 #include "hosts/desktop/program/main_window.h"
@@ -41,6 +42,9 @@ class ProgramTest : public testing::Test {
   AwizoForm& form() { return control().form; }
   desktop::Commands& commands() { return widget().commands(); }
   desktop::Face& face(const Control& control) { return widget().faces().face(control); }
+
+  /// Answers every box that comes while the act runs with the Enter key; gives what was seen.
+  static std::vector<std::string> answerWithEnter(const std::function<void()>& act);
 
   /// Leads the focus to the control by the Tab key alone.
   void tabTo(const Control& control);

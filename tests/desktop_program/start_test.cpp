@@ -47,6 +47,18 @@ TEST_F(StartTest, WithoutTheUsersAgreementNothingIsSent) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return form().txtNrZam.text() == "ЗК-2026/1147"; }, 30000));
 }
 
+TEST_F(StartTest, ThatWasDeclinedKeepsTheFolderOfWork) {
+  const DemoService service(place.posted());
+  show(onLineOptions(service));
+  answerNext("&Нет");
+  waitForStart();
+  Options again = offLineOptions();
+  again.offLinePath.reset();
+  open(again);
+  EXPECT_TRUE(widget().hasStarted());
+  EXPECT_TRUE(form().enabled());
+}
+
 TEST_F(StartTest, WithoutAFolderLeadsToSettingOne) {
   Options options = offLineOptions();
   options.offLinePath.reset();

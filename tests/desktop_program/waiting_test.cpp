@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <QMessageBox>
 #include <QTimer>
 #include <set>
 
@@ -48,17 +47,7 @@ TEST_F(WaitingTest, ABoxDuringTheStartIsAnsweredAsAnyOther) {
   const DemoService service(place.posted(), {"--fault", "partner-info=drop"});
   agreeTo(service);
   show(onLineOptions(service));
-  std::vector<std::string> boxes;
-  QTimer look;
-  QObject::connect(&look, &QTimer::timeout, [&] {
-    if (QApplication::activeModalWidget() == nullptr) return;
-    QMessageBox* box = openBox();
-    if (box == nullptr || QApplication::activeWindow() != box) return;
-    boxes.push_back(seen(*box));
-    press(Qt::Key_Return);
-  });
-  look.start(10);
-  waitForStart();
+  const std::vector<std::string> boxes = answerWithEnter([this] { waitForStart(); });
   ASSERT_FALSE(boxes.empty());
   EXPECT_EQ(boxes.back(), "critical|VIRD|Неправильный формат XML партнёр инфо.|ОК");
   EXPECT_FALSE(form().enabled()) << "a failed start leaves the control disabled";
