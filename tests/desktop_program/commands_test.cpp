@@ -106,8 +106,8 @@ TEST_F(CommandsTest, TheWindowFitsASmallScreenAndCutsNoButton) {
   for (const Control* control : form().controls()) {
     const QWidget* shown = face(*control).widget();
     if (!shown->isVisible()) continue;
-    const QRect place(shown->mapTo(&widget(), QPoint()), shown->size());
-    EXPECT_TRUE(widget().rect().contains(place)) << control->name();
+    const QRect area(shown->mapTo(&widget(), QPoint()), shown->size());
+    EXPECT_TRUE(widget().rect().contains(area)) << control->name();
     if (control->kind() == ControlKind::label || control->kind() == ControlKind::table) continue;
     EXPECT_GE(shown->width(), shown->minimumSizeHint().width()) << control->name();
     EXPECT_GE(shown->height(), shown->minimumSizeHint().height()) << control->name();

@@ -73,7 +73,7 @@ TEST_F(StartTest, WithoutAFolderLeadsToSettingOne) {
       dialog.DirList.userOpen("c:" + place.folder().parent_path().string());
       dialog.ImageWczytaj.userClick();
     });
-    click(openBox()->buttons().front());
+    press(Qt::Key_Return);
   });
   waitForStart();
   EXPECT_NE(explanation.find("Для работы нужна папка с файлами вашей фирмы."), std::string::npos);
@@ -88,7 +88,7 @@ TEST_F(StartTest, WithoutAFolderAndAWillToSetOneDoesNotStart) {
   show(options);
   then([&] {
     then([&] { control().dlgWczytajZapisz.ImageZamknij.userClick(); });
-    click(openBox()->buttons().front());
+    press(Qt::Key_Return);
   });
   waitForStart();
   EXPECT_FALSE(widget().hasStarted());
