@@ -16,11 +16,25 @@ using desktop::toText;
 
 namespace {
 
+/// Gives the keys back to a window that is seen, as a window manager does. Qt's platform without a
+/// screen hands them to any window when one closes, a hidden one too.
+void leaveHiddenWindows() {
+  const QWidget* active = QApplication::activeWindow();
+  if (active != nullptr && active->isVisible()) return;
+  QWidget* top = QApplication::activeModalWidget();
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (top == nullptr && window->isVisible() && window->windowType() == Qt::Window) top = window;
+  }
+  if (top != nullptr) top->activateWindow();
+}
+
 /// Whether the window on top has heard that it is the active one.
 bool topIsActive() {
+  leaveHiddenWindows();
   const QWidget* modal = QApplication::activeModalWidget();
   const QWidget* active = QApplication::activeWindow();
-  return modal == nullptr ? active != nullptr : active == modal;
+  if (active == nullptr || !active->isVisible()) return false;
+  return modal == nullptr || active == modal;
 }
 
 }  // namespace

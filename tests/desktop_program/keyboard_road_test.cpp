@@ -9,6 +9,7 @@ namespace {
 
 constexpr const char* number = "ТН/1";
 constexpr const char* serial = "035200010000000016";
+constexpr const char* deliveryPlace = "9520002000019";
 
 class KeyboardRoadTest : public ProgramTest {
  protected:
@@ -28,6 +29,8 @@ class KeyboardRoadTest : public ProgramTest {
       type("Паллета 1");
       tabTo(dialog.txtSerialNumberN);
       type(serial);
+      tabTo(dialog.cboxILNLokalizacji);
+      type(deliveryPlace);
       press(Qt::Key_Return);
       EXPECT_FALSE(dialog.shown()) << "the package was refused";
     });
@@ -36,6 +39,7 @@ class KeyboardRoadTest : public ProgramTest {
 
   void packFirstLine() {
     tabTo(form().grdPozycje);
+    press(Qt::Key_Home, Qt::ControlModifier);
     then([this] {
       DlgDodaj& dialog = control().dlgDodaj;
       then([this] {
@@ -68,6 +72,7 @@ class KeyboardRoadTest : public ProgramTest {
     editor.click("btnDodajOpak");
     editor.type("DlgSzczegoly.txtPackageDesc", "Паллета 1");
     editor.type("DlgSzczegoly.txtSerialNumberN", serial);
+    editor.type("DlgSzczegoly.cboxILNLokalizacji", deliveryPlace);
     editor.click("DlgSzczegoly.btnDodaj");
     editor.cell("grdPozycje", 1, 1);
     editor.click("btnEdytuj");
