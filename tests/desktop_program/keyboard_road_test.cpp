@@ -39,7 +39,7 @@ class KeyboardRoadTest : public ProgramTest {
 
   void packFirstLine() {
     tabTo(form().grdPozycje);
-    press(Qt::Key_Home, Qt::ControlModifier);
+    for (int step = form().grdPozycje.row(); step > 1; --step) press(Qt::Key_Up);
     then([this] {
       DlgDodaj& dialog = control().dlgDodaj;
       then([this] {
