@@ -31,9 +31,7 @@ void placeLists(DlgWczytajZapisz& form, FormFace& faces) {
 void layOut(DlgWczytajZapisz& form, FormDialog& dialog) {
   FormFace& faces = dialog.faces();
   placeLists(form, faces);
-  auto* names = new QWidget;
-  Fields fields(faces, names);
-  fields.grid()->setContentsMargins(0, 0, 0, 0);
+  Fields fields(faces, nullptr);
   fields.add(0, 0, QString("Имя файла:"), form.txtAwizoPlik);
   fields.add(1, 0, QString("Папка:"), form.lblOffLinePath);
 
@@ -50,7 +48,7 @@ void layOut(DlgWczytajZapisz& form, FormDialog& dialog) {
   auto* rows = new QVBoxLayout(&dialog);
   rows->setSpacing(10);
   rows->addWidget(faces.widget(form.Frame1), 1);
-  rows->addWidget(names);
+  rows->addLayout(fields.grid());
   rows->addLayout(buttons);
   const QFontMetrics metrics = dialog.fontMetrics();
   faces.widget(form.Frame1)->setMinimumSize(metrics.averageCharWidth() * 90, metrics.height() * 20);
