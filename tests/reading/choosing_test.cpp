@@ -71,6 +71,23 @@ TEST_F(ChoosingAFile, CancellingLeavesTheFormAsItWas) {
   EXPECT_THAT(takeBoxes(), IsEmpty());
 }
 
+TEST_F(ChoosingAFile, TheLinesAreDrawnAnewAtItsEnd) {
+  for (const bool cancelled : {true, false}) {
+    int drawnAnew = 0;
+    lines.observer = [&](const Change& change) {
+      drawnAnew += change.aspect == Aspect::redraw && form.enabled() ? 1 : 0;
+    };
+    if (cancelled) {
+      closeNextForm();
+      form.btnWczytaj.userClick();
+    } else {
+      read({});
+    }
+    EXPECT_EQ(drawnAnew, 1);
+    lines.observer = nullptr;
+  }
+}
+
 TEST_F(ChoosingAFile, AcceptingWithoutAFileLeavesTheFormAsItWas) {
   face.onModal([&] { fileDialog.ImageWczytaj.userClick(); });
   form.btnWczytaj.userClick();
