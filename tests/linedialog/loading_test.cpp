@@ -1,5 +1,6 @@
 #include "formats/logged.h"
 #include "line_dialog.h"
+#include "platform/forms/keys.h"
 
 namespace awizo::test {
 namespace {
@@ -79,6 +80,32 @@ TEST_F(LineDialogLoading, WithoutACatalogueHidesTheListsOverTheFields) {
     dialog.txtlEANProdWart.userType("4601");
   });
   EXPECT_EQ(dialog.txtNazwaProdWart.text(), "Чай");
+}
+
+TEST_F(LineDialogLoading, WithACatalogueTabGoesFromListToList) {
+  test.loadProducts({{"4601", "Чай"}});
+  std::vector<std::string> way;
+  test.show([&] {
+    for (int step = 0; step < 5; ++step) {
+      way.push_back(test.focus());
+      dialog.focus()->userKey(keys::tab);
+    }
+  });
+  EXPECT_THAT(way, ElementsAre("cboxNazwaProd", "cboxEANProd", "cboxKodAPP", "cboxKodSprzed",
+                               "cboxJednostkaMiary"));
+}
+
+TEST_F(LineDialogLoading, WithoutACatalogueTabGoesFromFieldToField) {
+  test.load();
+  std::vector<std::string> way;
+  test.show([&] {
+    for (int step = 0; step < 5; ++step) {
+      way.push_back(test.focus());
+      dialog.focus()->userKey(keys::tab);
+    }
+  });
+  EXPECT_THAT(way, ElementsAre("txtNazwaProdWart", "txtlEANProdWart", "txtKodKup", "txtKodSprzed",
+                               "cboxJednostkaMiary"));
 }
 
 TEST_F(LineDialogLoading, OfAnotherDocumentLeavesTheListsEmptyAndVisible) {
