@@ -36,6 +36,7 @@ std::string Conversions::CommaToDot(std::string_view text) { return replaceAll(t
 std::string Conversions::DotToComma(std::string_view text) { return replaceAll(text, ".", ","); }
 
 std::string Conversions::FormatFixed(std::string_view text, int decimals) const {
+  if (decimals < 0) throw errors::invalidProcedureCall();
   const LocaleFacts& facts = locale_.facts();
   const std::optional<DecimalNumber> number = readNumber(text, facts);
   if (!number) return std::string(text);

@@ -25,7 +25,8 @@ class Conversions {
   static std::string DotToComma(std::string_view text);
 
   /// The number in the text with this many decimals, rounded half away from zero on its decimal
-  /// digits. The empty text and a text that is no number come back as they are.
+  /// digits. The empty text and a text that is no number come back as they are. Error 5 for fewer
+  /// than no decimals.
   std::string FormatFixed(std::string_view text, int decimals) const;
   /// Commas and points of the caller's text become the locale's separator, then FormatFixed.
   std::string NormalizeDecimal(std::string& text, int decimals) const;

@@ -74,6 +74,17 @@ TEST_F(ConversionsTest, FormatFixedReadsGroupsSignsAndExponents) {
   EXPECT_EQ(ru.FormatFixed("-0,0001", 3), "-0,000");
 }
 
+TEST_F(ConversionsTest, FormatFixedRefusesFewerThanNoDecimals) {
+  for (const char* text : {"12", "", "ABC"}) {
+    try {
+      ru.FormatFixed(text, -1);
+      ADD_FAILURE() << "no error for " << text;
+    } catch (const RunTimeError& error) {
+      EXPECT_EQ(error.number(), 5) << text;
+    }
+  }
+}
+
 TEST_F(ConversionsTest, FormatFixedPassesOnWhatIsNoNumber) {
   EXPECT_EQ(ru.FormatFixed("", 3), "");
   EXPECT_EQ(ru.FormatFixed("ABC", 3), "ABC");
