@@ -38,7 +38,7 @@ const char* cursorName(Cursor cursor) { return cursor == Cursor::wait ? "wait" :
 Json sessionJson(const SessionState& session) {
   Json json{{"LogLevel", session.log.LogLevel},
             {"LogStream", session.log.LogStream != nullptr},
-            {"LogFileSystem", true},
+            {"LogFileSystem", session.log.LogFileSystem != nullptr},
             {"IsoCheckOk", session.IsoCheckOk},
             {"IsoCheckCode", session.IsoCheckCode},
             {"AllPacked", session.AllPacked},

@@ -20,7 +20,8 @@ void silently(Body&& body) {
 void DebugLog::OpenDebugLog(std::string_view path, std::int16_t level) {
   LogLevel = level;
   LogStream.reset();
-  silently([&] { LogStream = LogFileSystem.createText(path); });
+  LogFileSystem = &files_;
+  silently([&] { LogStream = LogFileSystem->createText(path); });
   if (LogStream) writeStamped("Start logowania...");
 }
 

@@ -17,7 +17,7 @@ namespace awizo {
 class DebugLog {
  public:
   DebugLog(const Clock& clock, const Locale& locale, Files& files)
-      : clock_(clock), locale_(locale), LogFileSystem(files) {}
+      : clock_(clock), locale_(locale), files_(files) {}
 
   /// Opens the file by its classic path.
   void OpenDebugLog(std::string_view path, std::int16_t level);
@@ -34,11 +34,12 @@ class DebugLog {
 
   const Clock& clock_;
   const Locale& locale_;
+  Files& files_;
 
  public:
   std::int16_t LogLevel = 0;
   std::unique_ptr<TextStream> LogStream;
-  Files& LogFileSystem;
+  Files* LogFileSystem = nullptr;  ///< none before the first opening
 };
 
 }  // namespace awizo

@@ -297,9 +297,12 @@ TEST(OfflineFolder, IsSetByTheHostAndKeptForTheNextRun) {
 TEST(Log, HoldsTheRunWhenTheHostAsksForIt) {
   const Supplier supplier;
   Conversation editor = supplier.startOffLine({"--property", "DebugLevel=4"});
+  EXPECT_EQ(editor.get("session")["LogStream"], false);
+  EXPECT_EQ(editor.get("session")["LogFileSystem"], false);
   editor.show();
   EXPECT_EQ(editor.get("session")["LogLevel"], 4);
   EXPECT_EQ(editor.get("session")["LogStream"], true);
+  EXPECT_EQ(editor.get("session")["LogFileSystem"], true);
   editor.call("WriteDebugLine", {"a line"});
   editor.call("WriteDebugLine", {"too deep", 5});
   EXPECT_EQ(editor.finish(), 0);

@@ -21,6 +21,12 @@ TEST_F(LogTest, BeginsWithTheStartLineInShortDateAndTime) {
   EXPECT_EQ(text(), "21.11.2026 10:15 Start logowania...\r\n");
 }
 
+TEST_F(LogTest, HasItsFilesFromTheFirstOpeningOn) {
+  EXPECT_EQ(log.LogFileSystem, nullptr);
+  log.OpenDebugLog("c:\\nowhere\\Awizo.log", 4);
+  EXPECT_EQ(log.LogFileSystem, &there.files);
+}
+
 TEST_F(LogTest, FollowsTheLocalesShortForms) {
   const TestSurroundings american("en_US");
   DebugLog englishLog(american.clock, american.locale, there.files);
