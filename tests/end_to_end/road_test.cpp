@@ -7,11 +7,13 @@
 #include <vector>
 
 #include "end_to_end/supplier.h"
+#include "support/schemas/schema.h"
 
 namespace awizo::test {
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 class RoadTest : public testing::TestWithParam<const char*> {
@@ -175,6 +177,9 @@ TEST_P(RoadTest, PackedOrderIsSentSavedAndReadBack) {
   EXPECT_EQ(sent.text(root + "DespatchAdvice-Lines/Line[1]/Package-Reference[2]/Quantity"),
             "20.000");
   EXPECT_EQ(sent.text(root + "DespatchAdvice-Summary/TotalQuantity"), "1367.50");
+  // Sending doesn't look at the two faulty lines.
+  EXPECT_THAT(Schema("despatch-advice-sound").problemsOf(service.posted().front()),
+              ElementsAre(HasSubstr("'ABC'"), HasSubstr("'договорная'")));
 
   editor.click("btnZapisz");
   editor.answer("Yes");

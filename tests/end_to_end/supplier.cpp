@@ -1,10 +1,37 @@
 #include "end_to_end/supplier.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+#include "support/schemas/schema.h"
 
 namespace awizo::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+void expectDocumentsFit(const fs::path& folder) {
+  std::error_code none;
+  for (const auto& entry : fs::directory_iterator(folder, none)) {
+    if (!entry.is_regular_file() || entry.path().extension() != ".xml") continue;
+    const std::string bytes = readFile(entry.path());
+    // Tests put files of other kinds here as well.
+    if (!bytes.starts_with("<Document-DespatchAdvice><DespatchAdvice-Header>")) continue;
+    static const Schema schema("despatch-advice-written");
+    EXPECT_THAT(schema.problemsOf(bytes), testing::IsEmpty()) << entry.path();
+  }
+}
+
+}  // namespace
+
+Supplier::~Supplier() {
+  expectDocumentsFit(place.posted());
+  expectDocumentsFit(place.documents());
+}
 
 std::vector<std::string> Supplier::options() const {
   return {"--offline-path", place.folder().string(),    "--locale",   locale_,

@@ -16,10 +16,14 @@ inline constexpr std::string_view today = "2026-11-21";
 inline constexpr std::string_view expectedDelivery = "2026-11-25";  ///< by the waiting order
 
 /// A supplier's machine: the local folder, and a way to start the editor there. The clock stands at
-/// 21 November 2026, 10:15.
+/// 21 November 2026, 10:15. When it goes, every despatch advice that was posted or saved there must
+/// fit the schema of written documents.
 class Supplier {
  public:
   explicit Supplier(std::string locale = "ru_RU") : locale_(std::move(locale)) {}
+  ~Supplier();
+  Supplier(const Supplier&) = delete;
+  Supplier& operator=(const Supplier&) = delete;
 
   /// Starts the editor for off-line work; nothing is shown yet.
   Conversation startOffLine(const std::vector<std::string>& more = {}) const;
