@@ -143,6 +143,20 @@ TEST_F(IsoList, CancelledLeavesTheEarlierChoice) {
   EXPECT_EQ(test.session.IsoResult, "(AU)Австралия");
 }
 
+TEST_F(IsoList, EnterAcceptsAndEscapeCancels) {
+  show([&] {
+    table.userKey(keys::enter);
+    EXPECT_FALSE(list.shown());
+  });
+  EXPECT_EQ(test.session.IsoResult, "(AU)Австралия");
+  show([&] {
+    table.userCell(5, 0);
+    table.userKey(keys::escape);
+    EXPECT_FALSE(list.shown());
+  });
+  EXPECT_EQ(test.session.IsoResult, "(AU)Австралия");
+}
+
 TEST_F(IsoList, BlanksInACodeAreLeftOut) {
   list.touch();
   table.setCell(3, " A U ");
