@@ -51,22 +51,6 @@ Json closingLineOf(const std::string& text, Work&& work) {
   }
 }
 
-const char* iconName(BoxIcon icon) {
-  switch (icon) {
-    case BoxIcon::critical:
-      return "critical";
-    case BoxIcon::question:
-      return "question";
-    case BoxIcon::exclamation:
-      return "exclamation";
-    case BoxIcon::information:
-      return "information";
-    case BoxIcon::none:
-      break;
-  }
-  return "none";
-}
-
 Answer answerIn(const Json& line, BoxButtons buttons) {
   const std::string name = textMember(line, "answer");
   if (buttons == BoxButtons::ok) {
@@ -88,7 +72,7 @@ Answer Conversation::ask(const MessageBox& box) {
   emit({{"event", "message"},
         {"text", box.text},
         {"title", box.title},
-        {"icon", iconName(box.icon)},
+        {"icon", nameOf(box.icon)},
         {"buttons", box.buttons == BoxButtons::ok ? "OK" : "YesNo"}});
   std::optional<Answer> answer;
   while (!answer) {

@@ -1,12 +1,31 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace awizo {
 
 class Form;
 
 enum class BoxIcon { none, critical, question, exclamation, information };
+
+/// An icon's name as logs and scripts tell it: that of its value.
+constexpr std::string_view nameOf(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::critical:
+      return "critical";
+    case BoxIcon::question:
+      return "question";
+    case BoxIcon::exclamation:
+      return "exclamation";
+    case BoxIcon::information:
+      return "information";
+    case BoxIcon::none:
+      break;
+  }
+  return "none";
+}
+
 enum class BoxButtons { ok, yesNo };
 enum class Answer { ok, yes, no };
 

@@ -23,22 +23,6 @@ void noteSeenBox(const MessageBox& box) {
   seen << withVisibleLineBreaks(box.title) + "\t" + withVisibleLineBreaks(box.text) + "\n";
 }
 
-std::string nameOf(BoxIcon icon) {
-  switch (icon) {
-    case BoxIcon::critical:
-      return "critical";
-    case BoxIcon::question:
-      return "question";
-    case BoxIcon::exclamation:
-      return "exclamation";
-    case BoxIcon::information:
-      return "information";
-    case BoxIcon::none:
-      break;
-  }
-  return "none";
-}
-
 }  // namespace
 
 ScriptedScreen::~ScriptedScreen() {
@@ -104,7 +88,7 @@ void ScriptedScreen::letEventsRun() {
 }
 
 std::string describe(const MessageBox& box) {
-  return box.title + "|" + nameOf(box.icon) + "|" +
+  return box.title + "|" + std::string(nameOf(box.icon)) + "|" +
          (box.buttons == BoxButtons::ok ? "OK" : "YesNo") + "|" + withVisibleLineBreaks(box.text);
 }
 

@@ -10,6 +10,7 @@
 #include "tables/columns.h"
 #include "tables/editing/in_table_editing.h"
 #include "tables/editing/line_dialog_fill.h"
+#include "tables/editing/numbered_row.h"
 #include "tables/editing/package_commit.h"
 #include "tables/flat_index.h"
 #include "tables/package_references.h"
@@ -22,21 +23,6 @@ namespace {
 void copyCountries(Editor& editor, const DlgDodaj& dialog) {
   editor.form.comboCountry.clear();
   for (const std::string& row : dialog.comboCountry.rows()) editor.form.comboCountry.addRow(row);
-}
-
-std::int16_t addLineRow(Editor& editor) {
-  Table& grid = editor.form.grdPozycje;
-  std::int16_t& count = editor.session.LineCount;
-  if (count != 0) {
-    count = narrow16(count + 1);
-    grid.addItem(std::to_string(count));
-    grid.setRows(narrow16(count + 1));
-  } else {
-    count = 1;
-    grid.setRows(2);
-    grid.setCell(IndexGrdPozycje(editor, 1, GRD_POZ_LP), "1");
-  }
-  return count;
 }
 
 std::string pickedDate(const DatePicker& picker) {
@@ -140,7 +126,8 @@ void btnDodaj_Click(Editor& editor, DlgDodaj& dialog) {
     Table& grid = editor.form.grdPozycje;
     if (dialog.DlgResult == 1) {
       grid.setRedraw(false);
-      ZatwierdzPozycje(editor, dialog, addLineRow(editor));
+      ZatwierdzPozycje(editor, dialog,
+                       addNumberedRow(editor.form.grdPozycje, editor.session.LineCount));
       grid.setRedraw(true);
     }
     grid.refresh();

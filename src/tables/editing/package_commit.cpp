@@ -5,6 +5,7 @@
 #include "platform/narrow.h"
 #include "tables/columns.h"
 #include "tables/editing/in_table_editing.h"
+#include "tables/editing/numbered_row.h"
 #include "tables/flat_index.h"
 #include "tables/row_colour.h"
 
@@ -65,21 +66,6 @@ void fillForEdit(Editor& editor, DlgSzczegoly& dialog, std::int16_t row) {
   dialog.cboxILNLokalizacji_Change_PublicWrapper();
 }
 
-std::int16_t addPackageRow(Editor& editor) {
-  Table& grid = editor.form.grdOpakowania;
-  std::int16_t& count = editor.session.IloscPozycjiOpak;
-  if (count != 0) {
-    count = narrow16(count + 1);
-    grid.addItem(std::to_string(count));
-    grid.setRows(narrow16(count + 1));
-  } else {
-    count = 1;
-    grid.setRows(2);
-    setPackageCell(editor, 1, GRD_OPAK_LP, "1");
-  }
-  return count;
-}
-
 }  // namespace
 
 void PreparePackageArrays(Editor& editor, std::string_view) {
@@ -120,7 +106,9 @@ void btnDodajOpak_Click(Editor& editor, DlgSzczegoly& dialog) {
     Table& grid = editor.form.grdOpakowania;
     if (dialog.DialogResult == 1) {
       grid.setRedraw(false);
-      ZatwierdzPozycjeOpak(editor, dialog, addPackageRow(editor), true);
+      ZatwierdzPozycjeOpak(
+          editor, dialog,
+          addNumberedRow(editor.form.grdOpakowania, editor.session.IloscPozycjiOpak), true);
       grid.setRedraw(true);
     }
     grid.refresh();
