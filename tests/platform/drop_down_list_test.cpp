@@ -72,14 +72,19 @@ TEST_F(DropDownListTest, EmptyTextSelectsNothing) {
   EXPECT_THAT(events, ElementsAre("Change -1 "));
 }
 
-TEST_F(DropDownListTest, EmptyTextSelectsNoEmptyRowEither) {
+TEST_F(DropDownListTest, EmptyTextByCodeSelectsAnEmptyRowLikeAnyOther) {
   list.addRow("");
   list.setIndex(0);
   list.setText("");
-  EXPECT_EQ(list.index(), -1);
-  list.setIndex(4);
   EXPECT_EQ(list.index(), 4);
   EXPECT_EQ(list.text(), "");
+}
+
+TEST_F(DropDownListTest, WhoEmptiesTheTextByHandSelectsNothing) {
+  list.addRow("");
+  list.userChoose(0);
+  list.userType("");
+  EXPECT_EQ(list.index(), -1);
 }
 
 TEST_F(DropDownListTest, IndexByCodeRaisesChangeThenClick) {

@@ -35,9 +35,8 @@ void DropDownList::clear() {
 }
 
 void DropDownList::setText(std::string_view text) {
-  if (text.empty()) return become(-1, text);
   const int row = find(text);
-  if (row < 0 && style_ == ListStyle::listOnly) throw errors::listValueRefused();
+  if (row < 0 && !text.empty() && style_ == ListStyle::listOnly) throw errors::listValueRefused();
   become(row, text);
 }
 
