@@ -3,8 +3,11 @@
 #include <csignal>
 #include <exception>
 #include <iostream>
+#include <string>
 #include <string_view>
+#include <vector>
 
+#include "hosts/common/about.h"
 #include "hosts/headless/headless_program.h"
 
 namespace {
@@ -12,7 +15,8 @@ namespace {
 constexpr std::string_view usage =
     "usage: awizo-headless [--property NAME=VALUE]... [--page-url URL] [--cookie TEXT]\n"
     "                      [--settings FILE] [--offline-path DIR] [--locale NAME]\n"
-    "                      [--now YYYY-MM-DDTHH:MM:SS]\n";
+    "                      [--now YYYY-MM-DDTHH:MM:SS]\n"
+    "       awizo-headless --help | --version\n";
 
 }  // namespace
 
@@ -22,9 +26,14 @@ int main(int argumentCount, char** arguments) {
   std::signal(SIGPIPE, SIG_IGN);
   std::ios::sync_with_stdio(false);
   std::cin.tie(nullptr);
+  const std::vector<std::string> given(arguments + 1, arguments + argumentCount);
+  if (const std::string about = awizo::aboutProgram("awizo-headless", usage, given);
+      !about.empty()) {
+    std::cout << about;
+    return 0;
+  }
   try {
-    return headless::runHeadless(awizo::parseOptions({arguments + 1, arguments + argumentCount}),
-                                 std::cin, std::cout);
+    return headless::runHeadless(awizo::parseOptions(given), std::cin, std::cout);
   } catch (const awizo::BadArguments& error) {
     std::cerr << "awizo-headless: " << error.what() << '\n' << usage;
   } catch (const std::exception& error) {

@@ -1,7 +1,9 @@
 #include "hosts/common/options.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "hosts/common/about.h"
 #include "hosts/common/surroundings.h"
 #include "platform/run_time_error.h"
 
@@ -23,6 +25,14 @@ TEST(Options, AreReadInBothForms) {
   ASSERT_TRUE(options.now);
   EXPECT_EQ(options.now->date, makeDate(2026, 11, 30));
   EXPECT_EQ(options.now->time, (TimeOfDay{10, 15, 5}));
+}
+
+TEST(AboutAProgram, IsToldWhenNothingElseIsAsked) {
+  EXPECT_EQ(aboutProgram("awizo", "usage: awizo\n", {"--help"}), "usage: awizo\n");
+  EXPECT_THAT(aboutProgram("awizo", "usage", {"--version"}),
+              testing::MatchesRegex("awizo [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+  EXPECT_EQ(aboutProgram("awizo", "usage", {}), "");
+  EXPECT_EQ(aboutProgram("awizo", "usage", {"--version", "--cookie", "a"}), "");
 }
 
 TEST(Options, ThatAreWrongAreRefused) {

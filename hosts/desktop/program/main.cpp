@@ -7,6 +7,7 @@
 #include <exception>
 #include <iostream>
 
+#include "hosts/common/about.h"
 #include "hosts/desktop/faces/pictures.h"
 #include "hosts/desktop/program/launch_file.h"
 #include "hosts/desktop/program/main_window.h"
@@ -20,7 +21,8 @@ using namespace awizo;
 constexpr std::string_view usage =
     "usage: awizo [FILE.awizo] [--property NAME=VALUE]... [--page-url URL] [--cookie TEXT]\n"
     "             [--settings FILE] [--offline-path DIR] [--locale NAME]\n"
-    "             [--now YYYY-MM-DDTHH:MM:SS]\n";
+    "             [--now YYYY-MM-DDTHH:MM:SS]\n"
+    "       awizo --help | --version\n";
 constexpr int exitEndedBySystem = 1;
 constexpr int exitBadArguments = 2;
 
@@ -58,6 +60,13 @@ int run(const QApplication& application) {
 
 int main(int argumentCount, char** arguments) {
   std::signal(SIGPIPE, SIG_IGN);
+  // Needs no screen.
+  const std::string about =
+      aboutProgram("awizo", usage, {arguments + 1, arguments + argumentCount});
+  if (!about.empty()) {
+    std::cout << about;
+    return 0;
+  }
   QApplication application(argumentCount, arguments);
   QApplication::setApplicationName("awizo");
   QApplication::setDesktopFileName("awizo");
