@@ -126,7 +126,9 @@ class NumberReader {
 
   DecimalNumber number() {
     digits_.erase(0, std::min(digits_.find_first_not_of('0'), digits_.size()));
-    return {negative_, std::move(digits_), exponent_ - decimals_};
+    // Zero times any power of ten is zero, not a row of noughts as long as the power says.
+    const int exponent = digits_.empty() ? 0 : exponent_ - decimals_;
+    return {negative_, std::move(digits_), exponent};
   }
 
   std::string_view rest_;

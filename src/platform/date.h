@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <chrono>
 #include <compare>
 
@@ -8,8 +9,12 @@ namespace awizo {
 /// A day of the Gregorian calendar. Dates of the system run from year 100 to 9999.
 using Date = std::chrono::year_month_day;
 
+/// The day, or one that isn't ok() where there is none.
 inline Date makeDate(int year, unsigned month, unsigned day) {
-  return Date{std::chrono::year{year}, std::chrono::month{month}, std::chrono::day{day}};
+  // The calendar's types keep one byte, in which 257 would become 1.
+  constexpr unsigned most = 255;
+  return Date{std::chrono::year{year}, std::chrono::month{std::min(month, most)},
+              std::chrono::day{std::min(day, most)}};
 }
 
 /// A time of day, 24-hour clock.

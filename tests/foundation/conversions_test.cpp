@@ -85,6 +85,12 @@ TEST_F(ConversionsTest, FormatFixedRefusesFewerThanNoDecimals) {
   }
 }
 
+TEST_F(ConversionsTest, FormatFixedOfZeroIsZeroWhateverItsExponent) {
+  EXPECT_EQ(ru.FormatFixed("0e4001", 0), "0");
+  EXPECT_EQ(us.FormatFixed("0.00E+99999999", 2), "0.00");
+  EXPECT_EQ(us.FormatFixed("0e-5", 3), "0.000");
+}
+
 TEST_F(ConversionsTest, FormatFixedPassesOnWhatIsNoNumber) {
   EXPECT_EQ(ru.FormatFixed("", 3), "");
   EXPECT_EQ(ru.FormatFixed("ABC", 3), "ABC");

@@ -68,6 +68,15 @@ TEST(ReadingADate, YearsRunFrom100To9999) {
   EXPECT_EQ(russian("01.02.10000"), "none");
 }
 
+TEST(ReadingADate, AYearIsNeverTakenForADay) {
+  // 2066 and 1810 are 18 more than a multiple of 256.
+  EXPECT_EQ(russian("2066-01-21"), "2066-01-21");
+  EXPECT_EQ(american("2066-01-21"), "2066-01-21");
+  EXPECT_EQ(russian("1810-01-21"), "1810-01-21");
+  EXPECT_EQ(american("2049-02-03"), "2049-02-03");
+  EXPECT_EQ(russian("257.1.2026"), "none");
+}
+
 TEST(ReadingADate, LeapDays) {
   EXPECT_EQ(russian("29.02.2024"), "2024-02-29");
   EXPECT_EQ(russian("29.02.1900"), "none");
