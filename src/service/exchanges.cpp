@@ -2,6 +2,8 @@
 
 #include <initializer_list>
 
+#include "platform/text.h"
+
 namespace awizo {
 namespace {
 
@@ -15,6 +17,12 @@ std::unique_ptr<XmlDocument> loaded(const Xml& xml, std::string_view text) {
   std::unique_ptr<XmlDocument> document = xml.createDocument();
   document->loadText(text);
   return document;
+}
+
+/// What stands in a file's name comes from documents and from the host's page; it must not lead out
+/// of the folder.
+std::string nameOnly(std::string_view text) {
+  return replaceAll(replaceAll(text, "\\", "_"), "/", "_");
 }
 
 }  // namespace
@@ -75,11 +83,11 @@ std::string userInfoFile(std::string_view folder) { return joined({folder, "\\us
 
 std::string partnerInfoFile(std::string_view folder, std::string_view sellerIln,
                             std::string_view buyerIln) {
-  return joined({folder, "\\", sellerIln, "_", buyerIln, "_partner_INFO.xml"});
+  return joined({folder, "\\", nameOnly(sellerIln), "_", nameOnly(buyerIln), "_partner_INFO.xml"});
 }
 
 std::string debugLogFile(std::string_view folder, std::string_view partnerName) {
-  return joined({folder, "\\", partnerName, "Awizo.log"});
+  return joined({folder, "\\", nameOnly(partnerName), "Awizo.log"});
 }
 
 }  // namespace awizo

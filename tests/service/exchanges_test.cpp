@@ -91,6 +91,12 @@ TEST(LocalFiles, StandInTheLocalFolder) {
   EXPECT_EQ(partnerInfoFile("c:\\VIRD", "", ""), "c:\\VIRD\\__partner_INFO.xml");
 }
 
+TEST(LocalFiles, StayInTheLocalFolderWhateverTheirNamesAreMadeOf) {
+  EXPECT_EQ(partnerInfoFile("c:\\VIRD", "..\\..\\a", "/b"),
+            "c:\\VIRD\\.._.._a__b_partner_INFO.xml");
+  EXPECT_EQ(debugLogFile("c:\\VIRD", "..\\../x\\"), "c:\\VIRD\\.._.._x_Awizo.log");
+}
+
 TEST(LocalFiles, LogBearsThePartnersName) {
   EXPECT_EQ(debugLogFile("c:\\VIRD", "X"), "c:\\VIRD\\XAwizo.log");
   EXPECT_EQ(debugLogFile("c:\\VIRD", ""), "c:\\VIRD\\Awizo.log");
