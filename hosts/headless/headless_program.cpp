@@ -24,7 +24,7 @@ namespace {
 /// The control in its surroundings, with what lines can do to it.
 class Program {
  public:
-  Program(const Options& options, std::istream& in, std::ostream& out);
+  Program(const Options& options, const Outside& outside, std::istream& in, std::ostream& out);
 
   /// From the control's creation to its end.
   void run();
@@ -44,8 +44,6 @@ class Program {
   Screen screen_{conversation_};
   Libxml2 xml_;
   IcuLocale locale_;
-  CurlHttp http_;
-  PosixFiles files_;
   OptionsPage page_;
   OptionsBag bag_;
   ReportingHost host_;
@@ -58,7 +56,8 @@ class Program {
   Desk desk_;
 };
 
-Program::Program(const Options& options, std::istream& in, std::ostream& out)
+Program::Program(const Options& options, const Outside& outside, std::istream& in,
+                 std::ostream& out)
     : conversation_(in, out),
       locale_(options.locale.empty() ? IcuLocale::environmentName() : options.locale),
       page_(options),
@@ -68,8 +67,8 @@ Program::Program(const Options& options, std::istream& in, std::ostream& out)
       }),
       settings_(makeSettings(options)),
       clock_(makeClock(options)),
-      platform_{xml_,   http_,   page_,   bag_,    host_,         *settings_,
-                files_, *clock_, locale_, screen_, programVersion},
+      platform_{xml_,          outside.http, page_,   bag_,    host_,         *settings_,
+                outside.files, *clock_,      locale_, screen_, programVersion},
       session_(platform_),
       control_(platform_, session_),
       forms_(control_.form),
@@ -164,7 +163,14 @@ void Program::run() {
 }  // namespace
 
 int runHeadless(const Options& options, std::istream& in, std::ostream& out) {
-  Program program(options, in, out);
+  CurlHttp http;
+  PosixFiles files;
+  return runHeadless(options, {http, files}, in, out);
+}
+
+int runHeadless(const Options& options, const Outside& outside, std::istream& in,
+                std::ostream& out) {
+  Program program(options, outside, in, out);
   try {
     program.run();
   } catch (const InputEnded&) {

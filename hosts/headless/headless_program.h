@@ -3,6 +3,8 @@
 #include <iosfwd>
 
 #include "hosts/common/options.h"
+#include "platform/files.h"
+#include "platform/http.h"
 
 namespace awizo::headless {
 
@@ -15,5 +17,15 @@ inline constexpr int exitInputEndedEarly = 3;  ///< under an open box or modal f
 /// Creates the control, serves the lines of `in` and takes the control down at their end. Gives
 /// the exit status. Throws RunTimeError where the settings asked for can't be kept.
 int runHeadless(const Options& options, std::istream& in, std::ostream& out);
+
+/// What the program reaches beside its lines.
+struct Outside {
+  Http& http;
+  Files& files;
+};
+
+/// The same with another network and other disks than the machine's own.
+int runHeadless(const Options& options, const Outside& outside, std::istream& in,
+                std::ostream& out);
 
 }  // namespace awizo::headless

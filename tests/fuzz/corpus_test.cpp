@@ -1,0 +1,65 @@
+// What the fuzzer has found once stays found: each target takes its corpus. A broken promise ends
+// this program with a word on what was broken.
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "fuzz/targets.h"
+
+namespace awizo::fuzz {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path project = AWIZO_SOURCE_DIR;
+
+std::string bytesOf(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+class Corpus : public testing::TestWithParam<NamedTarget> {
+ protected:
+  // A message that only chance has shown isn't shown by a test of its own.
+  static void SetUpTestSuite() { unsetenv("AWIZO_SEEN_BOXES"); }
+
+  /// Gives each file of the folder to the target; answers how many there were.
+  static int give(const fs::path& folder) {
+    int files = 0;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+      SCOPED_TRACE(entry.path());
+      GetParam().run(bytesOf(entry));
+      ++files;
+    }
+    return files;
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(Targets, Corpus, testing::ValuesIn(targets), [](const auto& test) {
+  std::string name(test.param.name);
+  std::erase(name, '-');
+  return name;
+});
+
+TEST_P(Corpus, BreaksNoPromise) { EXPECT_GT(give(project / "fuzz/corpus" / GetParam().name), 0); }
+
+TEST_P(Corpus, SamplesBreakNoPromiseWhateverTheyAreTakenFor) {
+  EXPECT_GT(give(project / "samples"), 0);
+}
+
+TEST(BrokenPromise, EndsTheProgramWithAWord) {
+  EXPECT_DEATH(require(false, "two and two are four"), "Broken: two and two are four");
+}
+
+TEST(Target, IsFoundByItsName) {
+  EXPECT_EQ(findTarget("order"), order);
+  EXPECT_EQ(findTarget("nobody"), nullptr);
+}
+
+}  // namespace
+}  // namespace awizo::fuzz
