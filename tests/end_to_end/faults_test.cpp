@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -114,13 +115,42 @@ TEST_P(FaultTest, OfTheSendingKeepsTheNumberForAnotherTry) {
   EXPECT_THAT(editor.answerAll(), ElementsAre("VIRD|information|Документ отправлен."));
 }
 
-TEST(Service, ThatIsSlowIsWaitedFor) {
+TEST(Service, ThatIsSlowAtEveryExchangeIsWaitedFor) {
   Supplier supplier;
-  const DemoService service(supplier.place.posted(),
-                            {"--fault", "order=slow:300", "--fault", "partner-info=slow:300"});
+  DemoService service(supplier.place.posted());
+  service.setFaults(
+      "partner-info=slow:200\ncatalogue=slow:200\nplaces=slow:200\norder=slow:200\n"
+      "upload=slow:200");
   Conversation editor = supplier.startOnLine(service);
   editor.show();
   EXPECT_THAT(editor.answerAll(), IsEmpty());
+  EXPECT_EQ(editor.get("session")["LineCount"], 25);
+  EXPECT_EQ(editor.get("session")["ProductCatalogLoaded"], true);
+  EXPECT_EQ(editor.get("session")["LocalizationsLoaded"], true);
+  completeHeader(editor);
+  editor.click("btnPrzeslij");
+  editor.answer("Yes");
+  EXPECT_THAT(editor.answerAll(), ElementsAre("VIRD|information|Документ отправлен."));
+}
+
+TEST(Service, ThatIsGoneWhenTheDocumentIsSentGivesItsBoxesAndTheControlGoesOn) {
+  Supplier supplier;
+  auto service = std::make_unique<DemoService>(supplier.place.posted());
+  Conversation editor = supplier.startOnLine(*service);
+  editor.show();
+  completeHeader(editor);
+  service.reset();
+  editor.click("btnPrzeslij");
+  editor.answer("Yes");
+  EXPECT_THAT(
+      editor.answerAll(),
+      ElementsAre("Bі№d w SendXMLDOMRequest()!|critical|The system cannot locate the resource "
+                  "specified.",
+                  "Bі№d w SendXMLDOMRequest()!|critical|The data necessary to complete this "
+                  "operation is not yet available.",
+                  "VIRD|critical|Произошла ошибка:-1"));
+  EXPECT_EQ(editor.get("control")["LastSentNumber"], "");
+  EXPECT_EQ(editor.get("control")["Enabled"], true);
   EXPECT_EQ(editor.get("session")["LineCount"], 25);
 }
 

@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <string>
@@ -200,15 +199,6 @@ TEST(UserFile, MayBeInWindows1251OrUtf16) {
   }
 }
 
-/// An off-line document without lines that may be saved; the file dialog is open.
-void openSaving(Conversation& editor) {
-  editor.show();
-  editor.type("txtNrAwiza", "1");
-  editor.type("txtNrZam", "2");
-  editor.click("btnZapisz");
-  if (editor.get("session")["AllPacked"] == false) editor.answer("Yes");
-}
-
 TEST(Saving, ToAFolderThatIsGoneTellsTheErrorAndGoesOn) {
   const Supplier supplier;
   Conversation editor = supplier.startOffLine();
@@ -243,21 +233,6 @@ TEST(Saving, OverAFolderTellsTheErrorAndLeavesIt) {
               ElementsAre("Произошла ошибка в btnZapisz_Click()|critical|Path/File access error"));
   EXPECT_TRUE(fs::is_directory(supplier.place.documents() / "old.xml"));
   EXPECT_EQ(std::distance(fs::directory_iterator(supplier.place.documents()), {}), 1);
-}
-
-TEST(Saving, IntoAReadOnlyFolderLeavesTheOldFileAsItWas) {
-  if (geteuid() == 0) GTEST_SKIP() << "root may write anywhere";
-  const Supplier supplier;
-  writeFile(supplier.place.documents() / "old.xml", "old");
-  fs::permissions(supplier.place.documents(), fs::perms::owner_read | fs::perms::owner_exec);
-  Conversation editor = supplier.startOffLine();
-  openSaving(editor);
-  editor.type("DlgWczytajZapisz.txtAwizoPlik", (supplier.place.documents() / "old.xml").string());
-  editor.click("DlgWczytajZapisz.ImageZapisz");
-  EXPECT_THAT(editor.answerAll(),
-              ElementsAre("Произошла ошибка в btnZapisz_Click()|critical|Permission denied"));
-  EXPECT_EQ(readFile(supplier.place.documents() / "old.xml"), "old");
-  fs::permissions(supplier.place.documents(), fs::perms::owner_all);
 }
 
 TEST(Saving, ClosedWithoutAChoiceSavesNothing) {

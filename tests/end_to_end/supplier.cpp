@@ -39,11 +39,12 @@ std::vector<std::string> Supplier::options() const {
           "--property",     "PartnerILN=9520002000019", "--property", "PartnerURL=partner"};
 }
 
-Conversation Supplier::startOffLine(const std::vector<std::string>& more) const {
+Conversation Supplier::startOffLine(const std::vector<std::string>& more,
+                                    const std::vector<std::string>& launcher) const {
   std::vector<std::string> all = options();
   all.insert(all.end(), {"--property", "OnLine=Off"});
   all.insert(all.end(), more.begin(), more.end());
-  return Conversation(all);
+  return Conversation(all, {}, launcher);
 }
 
 Conversation Supplier::startOnLine(const DemoService& service,
@@ -96,6 +97,23 @@ void packLine(Conversation& editor, int row, std::string_view package, std::stri
   editor.type("DlgdodajPule.txtQuantity", quantity);
   editor.click("DlgdodajPule.btnDodaj");
   editor.click("DlgDodaj.btnDodaj");
+}
+
+void openSaving(Conversation& editor) {
+  editor.show();
+  editor.type("txtNrAwiza", "1");
+  editor.type("txtNrZam", "2");
+  openSavingAgain(editor);
+}
+
+void openSavingAgain(Conversation& editor) {
+  editor.click("btnZapisz");
+  if (editor.get("session")["AllPacked"] == false) editor.answer("Yes");
+}
+
+void saveAs(Conversation& editor, const std::string& path) {
+  editor.type("DlgWczytajZapisz.txtAwizoPlik", path);
+  editor.click("DlgWczytajZapisz.ImageZapisz");
 }
 
 }  // namespace awizo::test

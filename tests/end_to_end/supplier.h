@@ -26,7 +26,8 @@ class Supplier {
   Supplier& operator=(const Supplier&) = delete;
 
   /// Starts the editor for off-line work; nothing is shown yet.
-  Conversation startOffLine(const std::vector<std::string>& more = {}) const;
+  Conversation startOffLine(const std::vector<std::string>& more = {},
+                            const std::vector<std::string>& launcher = {}) const;
   /// Starts it in the service's page.
   Conversation startOnLine(const DemoService& service,
                            const std::vector<std::string>& more = {}) const;
@@ -64,6 +65,12 @@ void addPackage(Conversation& editor, std::string_view description, std::string_
                 int parent = -1);
 /// Opens the line and puts so much of it into the package of that description.
 void packLine(Conversation& editor, int row, std::string_view package, std::string_view quantity);
+
+/// The file dialog is open for saving a document that has a header and no line.
+void openSaving(Conversation& editor);
+void openSavingAgain(Conversation& editor);
+/// Names the file in the dialog and saves.
+void saveAs(Conversation& editor, const std::string& path);
 
 /// Names of serials with right check digits.
 inline constexpr std::string_view serials[] = {"035200010000000016", "035200010000000023",

@@ -11,8 +11,10 @@ namespace awizo::test {
 
 namespace {
 
-std::vector<std::string> commandOf(const std::vector<std::string>& options) {
-  std::vector<std::string> command{AWIZO_HEADLESS};
+std::vector<std::string> commandOf(const std::vector<std::string>& launcher,
+                                   const std::vector<std::string>& options) {
+  std::vector<std::string> command = launcher;
+  command.emplace_back(AWIZO_HEADLESS);
   command.insert(command.end(), options.begin(), options.end());
   return command;
 }
@@ -42,8 +44,9 @@ void noteSeenBox(const Json& box) {
 }  // namespace
 
 Conversation::Conversation(const std::vector<std::string>& options,
-                           const std::vector<std::string>& environment)
-    : program_(commandOf(options), environment) {}
+                           const std::vector<std::string>& environment,
+                           const std::vector<std::string>& launcher)
+    : program_(commandOf(launcher, options), environment) {}
 
 void Conversation::act(const Json& line) {
   Json numbered = line;

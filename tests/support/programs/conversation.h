@@ -18,9 +18,11 @@ using Json = nlohmann::ordered_json;
 /// that is refused fails the test, unless it was said to be.
 class Conversation {
  public:
-  /// Starts the program with these options.
+  /// Starts the program with these options; where a launcher is given, through that, which takes
+  /// the program and its options as its own last arguments.
   explicit Conversation(const std::vector<std::string>& options,
-                        const std::vector<std::string>& environment = {});
+                        const std::vector<std::string>& environment = {},
+                        const std::vector<std::string>& launcher = {});
 
   // What the user does.
   void show() { act({{"do", "show"}}); }
