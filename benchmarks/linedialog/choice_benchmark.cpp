@@ -45,7 +45,9 @@ void PickingAProduct(benchmark::State& state, DropDownList DlgDodaj::*list) {
 }
 #define PICKING(list)                                       \
   BENCHMARK_CAPTURE(PickingAProduct, list, &DlgDodaj::list) \
+      ->Arg(mostCatalogueLines / 8)                         \
       ->Arg(mostCatalogueLines / 4)                         \
+      ->Arg(mostCatalogueLines / 2)                         \
       ->Arg(mostCatalogueLines)                             \
       ->UseManualTime()                                     \
       ->Unit(benchmark::kMicrosecond)
@@ -64,7 +66,9 @@ void OpeningForAnEdit(benchmark::State& state) {
   if (choice.lineDialog.txtIloscPotw.text() != "10,000") std::abort();
 }
 BENCHMARK(OpeningForAnEdit)
+    ->Arg(mostCatalogueLines / 8)
     ->Arg(mostCatalogueLines / 4)
+    ->Arg(mostCatalogueLines / 2)
     ->Arg(mostCatalogueLines)
     ->UseManualTime()
     ->Unit(benchmark::kMicrosecond);
