@@ -42,6 +42,7 @@ bool Document::load(std::string_view bytes, Decoding decoding) {
   // The old content goes first, so that two documents never stand in memory together.
   take(nullptr, {});
   Parsed parsed = parse(bytes, decoding);
+  failedAtLine_ = parsed.failedAtLine;
   if (!parsed.document) return false;
   take(std::move(parsed.document), std::move(parsed.declaration));
   return true;
@@ -99,6 +100,8 @@ std::string Document::nameOf(void* node) const { return libxml2::nameOf(nodeOf(n
 bool Document::isElementNamed(void* node, std::string_view name) const {
   return libxml2::isElementNamed(nodeOf(node), name);
 }
+
+std::int64_t Document::lineOf(void* node) const { return nodeOf(node)->line; }
 
 std::string Document::textOf(void* node) const { return trimmedText(nodeOf(node)); }
 

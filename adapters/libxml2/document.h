@@ -20,6 +20,7 @@ class Document final : public XmlDocument {
 
   bool loadText(std::string_view text) override;
   bool loadBytes(std::string_view bytes) override;
+  std::int64_t failedAtLine() const override { return failedAtLine_; }
   std::string fileBytes() const override;
 
   XmlNode node() override;
@@ -29,6 +30,7 @@ class Document final : public XmlDocument {
 
   std::string nameOf(void* node) const override;
   bool isElementNamed(void* node, std::string_view name) const override;
+  std::int64_t lineOf(void* node) const override;
   std::string textOf(void* node) const override;
   void setTextOf(void* node, std::string_view text) override;
   std::string xmlOf(void* node) const override;
@@ -46,6 +48,7 @@ class Document final : public XmlDocument {
 
   Owned<xmlDoc> document_;
   Declaration declaration_;
+  std::int64_t failedAtLine_ = 0;
   /// Elements that were created and not yet put anywhere.
   std::unordered_set<xmlNode*> loose_;
   mutable Selecting selecting_;

@@ -178,7 +178,7 @@ bool looksLikeUtf8(std::string_view text) {
   return guess == XML_CHAR_ENCODING_NONE || guess == XML_CHAR_ENCODING_UTF8;
 }
 
-Owned<xmlDoc> parseWellFormed(std::string_view bytes, int options) {
+Parsed parseWellFormed(std::string_view bytes, int options) {
   const Owned<xmlParserCtxt> context(xmlNewParserCtxt());
   if (!context) throw errors::outOfMemory();
   xmlDictSetLimit(context->dict, mostBytesOfNames);
@@ -187,12 +187,14 @@ Owned<xmlDoc> parseWellFormed(std::string_view bytes, int options) {
   hook(*context->sax);
   Owned<xmlDoc> document(xmlCtxtReadMemory(
       context.get(), bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr, options));
-  if (!document || loading.refused || !context->nsWellFormed) return nullptr;
+  if (!document || loading.refused || !context->nsWellFormed) {
+    return {nullptr, {}, context->lastError.line};
+  }
   // What is put into the document afterwards is our own.
   xmlDictSetLimit(document->dict, 0);
   xmlNode* root = xmlDocGetRootElement(document.get());
   if (root && loading.sweeps) dropBlanks(root);
-  return root ? std::move(document) : nullptr;
+  return {root ? std::move(document) : nullptr, {}, 0};
 }
 
 }  // namespace
@@ -205,9 +207,9 @@ Parsed parse(std::string_view bytes, Decoding decoding) {
     if (!looksLikeUtf8(bytes)) return {};
     options |= XML_PARSE_IGNORE_ENC;
   }
-  Owned<xmlDoc> document = parseWellFormed(bytes, options);
-  if (!document) return {};
-  return {std::move(document), declarationOf(bytes)};
+  Parsed parsed = parseWellFormed(bytes, options);
+  if (parsed.document) parsed.declaration = declarationOf(bytes);
+  return parsed;
 }
 
 }  // namespace awizo::libxml2

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 #include "adapters/libxml2/declaration.h"
@@ -12,6 +13,7 @@ enum class Decoding { utf8, byDeclaration };
 struct Parsed {
   Owned<xmlDoc> document;  ///< none when the load failed
   Declaration declaration;
+  std::int64_t failedAtLine = 0;  ///< 0 for a load that was right, or refused as a whole
 };
 
 /// Parses a document and drops the white space between its nodes. It fails when the bytes are

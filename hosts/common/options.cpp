@@ -47,6 +47,8 @@ void takeOption(Options& options, const std::string& name, const std::string& va
     options.settingsFile = value;
   } else if (name == "--offline-path") {
     options.offLinePath = value;
+  } else if (name == "--check") {
+    options.checkedFile = value;
   } else {
     throw BadArguments("no such option: " + name);
   }

@@ -20,6 +20,7 @@ struct Options {
   std::optional<std::string> offLinePath;
   std::string locale;  ///< empty: the environment's
   std::optional<Moment> now;
+  std::optional<std::string> checkedFile;  ///< the file is to be checked, and nothing else done
 };
 
 class BadArguments : public std::runtime_error {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "hosts/common/about.h"
+#include "hosts/headless/check_program.h"
 #include "hosts/headless/headless_program.h"
 
 namespace {
@@ -16,6 +17,7 @@ constexpr std::string_view usage =
     "usage: awizo-headless [--property NAME=VALUE]... [--page-url URL] [--cookie TEXT]\n"
     "                      [--settings FILE] [--offline-path DIR] [--locale NAME]\n"
     "                      [--now YYYY-MM-DDTHH:MM:SS]\n"
+    "       awizo-headless --check FILE [option]...\n"
     "       awizo-headless --help | --version\n";
 
 }  // namespace
@@ -33,7 +35,9 @@ int main(int argumentCount, char** arguments) {
     return 0;
   }
   try {
-    return headless::runHeadless(awizo::parseOptions(given), std::cin, std::cout);
+    const awizo::Options options = awizo::parseOptions(given);
+    if (options.checkedFile) return headless::runCheck(options, std::cout);
+    return headless::runHeadless(options, std::cin, std::cout);
   } catch (const awizo::BadArguments& error) {
     std::cerr << "awizo-headless: " << error.what() << '\n' << usage;
   } catch (const std::exception& error) {

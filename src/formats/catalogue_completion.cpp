@@ -5,6 +5,7 @@
 
 #include "formats/catalogue_index.h"
 #include "formats/order_line.h"
+#include "formats/order_reader.h"
 #include "platform/forms/report_errors.h"
 
 namespace awizo {
@@ -35,8 +36,7 @@ constexpr std::string_view placePath =
 constexpr std::string_view missing = "-1";
 
 void completeOrder(XmlDocument& catalogue, XmlDocument& order) {
-  const std::vector<XmlNode> lines =
-      order.node().selectSingle("/Document-Order/Order-Lines").children();
+  const std::vector<XmlNode> lines = order.node().selectSingle(orderLinesPath).children();
   std::vector<std::string> eans;
   eans.reserve(lines.size());
   for (const XmlNode& line : lines) {

@@ -3,15 +3,13 @@
 #include <functional>
 #include <string>
 
+#include "formats/despatch_advice_paths.h"
 #include "platform/forms/report_errors.h"
 #include "tables/columns.h"
 #include "tables/flat_index.h"
 
 namespace awizo {
 namespace {
-
-constexpr std::string_view consignmentPath = "/Document-DespatchAdvice/DespatchAdvice-Consignment";
-constexpr std::string_view linesPath = "/Document-DespatchAdvice/DespatchAdvice-Lines";
 
 std::string isoDate(const DatePicker& picker) {
   return picker.date() ? Conversions::FormatDateIso(*picker.date()) : "";
@@ -119,7 +117,7 @@ void DesAdvMaker::addPackages() {
 void DesAdvMaker::addLines() {
   step_ = "10";
   if (editor_.session.LineCount < 1) return;
-  addElements(linesPath, editor_.session.LineCount,
+  addElements(despatchLinesPath, editor_.session.LineCount,
               [this](std::int16_t row) { return lineText(line(row)); });
 }
 
@@ -243,7 +241,7 @@ void AddPackingSequence(const Xml& xml, XmlDocument& document,
 }
 
 void AddDesAdvLine(const Xml& xml, XmlDocument& document, const DesAdvLineValues& values) {
-  appendElement(xml, document.node().selectSingle(linesPath), lineText(values));
+  appendElement(xml, document.node().selectSingle(despatchLinesPath), lineText(values));
 }
 
 }  // namespace awizo

@@ -3,13 +3,11 @@
 #include <string>
 #include <string_view>
 
+#include "formats/line_source.h"
 #include "platform/xml.h"
 #include "service/transport.h"
 
 namespace awizo {
-
-/// What a missing value of an order reads as.
-enum class Missing { blank, minusOne };
 
 inline std::string orderValue(const XmlNode& node, std::string_view path, Missing missing) {
   return GetNodeValue(node, path, missing == Missing::blank);

@@ -54,7 +54,7 @@ void readHeader(Editor& editor, const XmlNode& order) {
 /// Gives each child a row. Answers false where there is none.
 bool readLines(Editor& editor, const XmlNode& order) {
   Table& table = editor.form.grdPozycje;
-  const std::vector<XmlNode> lines = order.selectSingle("/Document-Order/Order-Lines").children();
+  const std::vector<XmlNode> lines = order.selectSingle(orderLinesPath).children();
   table.setFixedRows(1);
   if (lines.empty()) {
     table.setRows(2);

@@ -1,11 +1,15 @@
 #pragma once
 
 #include <memory>
+#include <string_view>
 
 #include "platform/xml.h"
 #include "session/record/editor.h"
 
 namespace awizo {
+
+/// The element whose children are the lines.
+inline constexpr std::string_view orderLinesPath = "/Document-Order/Order-Lines";
 
 /// Makes the form a new despatch advice that answers this order: completes the order from the
 /// product catalogue, fills the header and gives each order line a row. `order` isn't none; it

@@ -1,6 +1,5 @@
 #include "formats/order_row.h"
 
-#include <array>
 #include <string>
 
 #include "formats/order_line.h"
@@ -10,20 +9,9 @@
 namespace awizo {
 namespace {
 
-constexpr int columnCount = 22;
-constexpr int asItStands = -1;
-
-/// Where a column comes from: the path below `Line`, empty for a column that the order doesn't
-/// fill, what a missing value reads as, and the decimals of a number.
-struct Source {
-  std::string_view path;
-  Missing missing = Missing::blank;
-  int decimals = asItStands;
-};
-
-constexpr std::array<Source, columnCount> sources = [] {
+constexpr LineSources sources = [] {
   using enum Missing;
-  std::array<Source, columnCount> all{};
+  LineSources all{};
   all[GRD_POZ_EAN] = {"Line-Item/EAN"};
   all[GRD_POZ_NAME] = {"Line-Item/ItemDescription"};
   all[GRD_POZ_QTY_ORDERED] = {"Line-Item/OrderedQuantity", minusOne, 3};
@@ -53,7 +41,7 @@ class OrderRow {
 
  private:
   std::string textOf(int column) const;
-  std::string readValue(const Source& source) const;
+  std::string readValue(const LineSource& source) const;
   std::string netAmount(std::string&& stated) const;
   std::string expiryDate() const;
 
@@ -72,7 +60,7 @@ class OrderRow {
 };
 
 void OrderRow::fill() {
-  for (int column = 0; column < columnCount; ++column) {
+  for (int column = 0; column < lineColumns; ++column) {
     setCell(column, textOf(column));
     if (column == GRD_POZ_PERIOD_FORMAT) setCell(GRD_POZ_EXPIRY_DATE, expiryDate());
   }
@@ -93,7 +81,7 @@ std::string OrderRow::textOf(int column) const {
   }
 }
 
-std::string OrderRow::readValue(const Source& source) const {
+std::string OrderRow::readValue(const LineSource& source) const {
   if (source.path.empty()) return "";
   std::string value = orderValue(line_, source.path, source.missing);
   if (source.decimals == asItStands) return value;
@@ -115,6 +103,8 @@ std::string OrderRow::expiryDate() const {
 }
 
 }  // namespace
+
+const LineSources& orderLineSources() { return sources; }
 
 void readOrderLine(Editor& editor, const XmlNode& line, std::int16_t row) {
   OrderRow(editor, line, row).fill();

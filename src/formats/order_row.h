@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "formats/line_source.h"
 #include "platform/xml.h"
 #include "session/record/editor.h"
 
@@ -10,5 +11,8 @@ namespace awizo {
 /// Fills one row of grdPozycje from an element `Line` of an order, column by column; from none,
 /// every value is missing. Error 6 beyond the last row that the cell index reaches.
 void readOrderLine(Editor& editor, const XmlNode& line, std::int16_t row);
+
+/// Where the columns come from.
+const LineSources& orderLineSources();
 
 }  // namespace awizo

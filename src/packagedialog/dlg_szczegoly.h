@@ -85,6 +85,9 @@ class DlgSzczegoly : public Form {
 std::string symbolPackageType(std::int16_t index);
 /// Row of a package type's code, case ignored; -1 for any other text.
 std::int16_t indexPackageType(const Locale& locale, std::string_view code);
+/// What is wrong with the serial number of a package, as the dialog tells it; empty where nothing
+/// is.
+std::string serialNumberRefusal(std::string_view serial);
 /// The right last digit of an 18-digit serial shipping container code, from its first 17.
 int containerCheckDigit(std::string_view digits);
 

@@ -23,6 +23,15 @@ int containerCheckDigit(std::string_view digits) {
   return (10 - sum % 10) % 10;
 }
 
+std::string serialNumberRefusal(std::string_view serial) {
+  if (serial.empty()) return "Не заполнено поле 'серийный номер'";
+  if (countCharacters(serial) != 18 || !isDigitText(serial)) return "Неправильный номер палеты";
+  const int expected = containerCheckDigit(serial);
+  if (expected == serial[17] - '0') return "";
+  return "Неправильный номер палеты. Последней- контрольной цифре должно быть задано значение " +
+         std::to_string(expected);
+}
+
 bool DlgSzczegoly::Walidacja() {
   return checkTypeAndDescription() && checkDeliveryPlace() && checkMeasures() &&
          checkSerialNumber();
@@ -72,17 +81,9 @@ bool DlgSzczegoly::checkMeasure(TextField& field, std::string_view message) {
 }
 
 bool DlgSzczegoly::checkSerialNumber() {
-  const std::string& serial = txtSerialNumberN.text();
-  if (serial.empty()) return refuse("Не заполнено поле 'серийный номер'", nullptr);
-  if (countCharacters(serial) != 18 || !isDigitText(serial)) {
-    return refuse("Неправильный номер палеты", &txtSerialNumberN);
-  }
-  const int expected = containerCheckDigit(serial);
-  if (expected == serial[17] - '0') return true;
-  return refuse(
-      "Неправильный номер палеты. Последней- контрольной цифре должно быть задано значение " +
-          std::to_string(expected),
-      &txtSerialNumberN);
+  const std::string refusal = serialNumberRefusal(txtSerialNumberN.text());
+  if (refusal.empty()) return true;
+  return refuse(refusal, txtSerialNumberN.text().empty() ? nullptr : &txtSerialNumberN);
 }
 
 bool DlgSzczegoly::refuse(std::string_view message, Control* focus) {

@@ -14,6 +14,7 @@ std::string XmlNode::name() const { return documentOf(*this).nameOf(handle_); }
 bool XmlNode::isElement(std::string_view name) const {
   return documentOf(*this).isElementNamed(handle_, name);
 }
+std::int64_t XmlNode::line() const { return documentOf(*this).lineOf(handle_); }
 std::string XmlNode::text() const { return documentOf(*this).textOf(handle_); }
 void XmlNode::setText(std::string_view text) const { documentOf(*this).setTextOf(handle_, text); }
 std::string XmlNode::xml() const { return documentOf(*this).xmlOf(handle_); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -29,6 +30,9 @@ class XmlNode {
   std::string name() const;
   /// Whether it is an element of this name, in no namespace: what a name stands for in a path.
   bool isElement(std::string_view name) const;
+  /// The line of the loaded text on which an element's start tag ends, from 1; 65535 stands for all
+  /// behind it, 0 for none known.
+  std::int64_t line() const;
   /// Text of the node and all below it, outer white space cut, inner kept.
   std::string text() const;
   /// Replaces all that is below by this text; it is escaped when written. A character that XML
@@ -65,6 +69,10 @@ class XmlDocument {
   /// From a file's bytes, by their byte order mark or declaration, else UTF-8.
   virtual bool loadBytes(std::string_view bytes) = 0;
 
+  /// The line of the text, from 1, at which the last load failed; 0 where it didn't, or where that
+  /// isn't known.
+  virtual std::int64_t failedAtLine() const { return 0; }
+
   /// The bytes of a file: in the declared encoding, or UTF-8 without adding a declaration.
   virtual std::string fileBytes() const = 0;
 
@@ -79,6 +87,7 @@ class XmlDocument {
   // What a node of this document does, by its handle.
   virtual std::string nameOf(void* node) const = 0;
   virtual bool isElementNamed(void* node, std::string_view name) const = 0;
+  virtual std::int64_t lineOf(void*) const { return 0; }
   virtual std::string textOf(void* node) const = 0;
   virtual void setTextOf(void* node, std::string_view text) = 0;
   virtual std::string xmlOf(void* node) const = 0;

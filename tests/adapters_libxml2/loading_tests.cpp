@@ -22,6 +22,34 @@ std::string utf16(std::u16string_view text, bool bigEndian, std::string_view mar
   return bytes;
 }
 
+TEST(Loading, AnElementKnowsItsLine) {
+  const auto document = loaded("<a>\n\n  <b\n/><c/></a>");
+  EXPECT_EQ(document->root().line(), 1);
+  EXPECT_EQ(document->root().firstChild().line(), 4);
+  EXPECT_EQ(document->createElement("d").line(), 0);
+}
+
+// Elements hold their lines in 16 bits.
+TEST(Loading, TheLastLineThatIsToldStandsForAllBehindIt) {
+  const auto document = loaded("<a>" + std::string(70000, '\n') + "<b/></a>");
+  EXPECT_EQ(document->root().firstChild().line(), 65535);
+}
+
+TEST(Loading, AFailureIsToldByItsLine) {
+  const auto document = Libxml2().createDocument();
+  EXPECT_EQ(document->failedAtLine(), 0);
+  EXPECT_FALSE(document->loadText("<a>\n<b>\n</a>"));
+  EXPECT_EQ(document->failedAtLine(), 3);
+  EXPECT_FALSE(document->loadBytes("<a>\n\n\n<b>"));
+  EXPECT_EQ(document->failedAtLine(), 4);
+  EXPECT_FALSE(document->loadText("\n<a>\n&unknown;</a>"));
+  EXPECT_EQ(document->failedAtLine(), 3);
+  EXPECT_TRUE(document->loadText("<a/>"));
+  EXPECT_EQ(document->failedAtLine(), 0);
+  EXPECT_FALSE(document->loadText(""));
+  EXPECT_EQ(document->failedAtLine(), 0);
+}
+
 TEST(Loading, AFreshDocumentIsEmpty) {
   const auto document = Libxml2().createDocument();
   EXPECT_FALSE(document->root());

@@ -22,6 +22,8 @@ TEST(Options, AreReadInBothForms) {
   EXPECT_EQ(options.settingsFile, "/s");
   EXPECT_EQ(options.offLinePath, "/o");
   EXPECT_EQ(options.locale, "ru_RU.UTF-8");
+  EXPECT_FALSE(options.checkedFile);
+  EXPECT_EQ(parseOptions({"--check", "a.xml"}).checkedFile, "a.xml");
   ASSERT_TRUE(options.now);
   EXPECT_EQ(options.now->date, makeDate(2026, 11, 30));
   EXPECT_EQ(options.now->time, (TimeOfDay{10, 15, 5}));

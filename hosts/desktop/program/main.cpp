@@ -37,6 +37,7 @@ std::vector<std::string> argumentsOf(const QApplication&) {
 Options optionsOf(const std::vector<std::string>& arguments) {
   std::vector<std::string> files;
   const Options options = parseOptions(arguments, &files);
+  if (options.checkedFile) throw BadArguments("awizo-headless checks files");
   if (files.size() > 1) throw BadArguments("more than one file");
   return files.empty() ? options : desktop::merged(options, desktop::readLaunchFile(files.front()));
 }

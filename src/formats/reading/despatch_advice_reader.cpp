@@ -1,8 +1,10 @@
 #include "formats/reading/despatch_advice_reader.h"
 
 #include <new>
+#include <utility>
 
 #include "formats/catalogue_completion.h"
+#include "formats/despatch_advice_paths.h"
 #include "formats/reading/line_reader.h"
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
@@ -17,23 +19,15 @@
 namespace awizo {
 namespace {
 
-// How far a file was taken into the form.
-enum class Outcome {
-  refused,     // the user has been told
-  failed,      // an error ended the reading
-  incomplete,  // something required was missing
-  complete,
-};
-
 bool usable(std::string_view text) { return !text.empty() && text != "-1"; }
 
 void showPlain(Editor& editor, std::string_view text) {
   editor.screen().messageBox({std::string(text), ""});
 }
 
-Outcome refuse(Editor& editor, std::string_view text) {
+ReadingResult refuse(Editor& editor, std::string_view text, ReadingOutcome why) {
   editor.screen().showExclamation(text, "VIRD");
-  return Outcome::refused;
+  return {why, {}, ""};
 }
 
 int packageDescriptionIndex(std::string_view code) {
@@ -58,13 +52,13 @@ class DocumentReader {
   DocumentReader(Editor& editor, XmlDocument& document)
       : editor_(editor), form_(editor.form), document_(document) {}
 
-  Outcome read() {
-    if (value("DespatchAdvice-Parties/Seller/ILN", true) != editor_.session.SellerILN) {
-      return refuse(editor_, "Неправильный ILN номер продавца");
+  ReadingResult read() {
+    if (GetNodeValue(document_.node(), sellerIlnPath, true) != editor_.session.SellerILN) {
+      return refuse(editor_, "Неправильный ILN номер продавца", ReadingOutcome::foreignSeller);
     }
     form_.txtCodeByBuyer.setText(value("DespatchAdvice-Parties/Seller/CodeByBuyer", true));
-    if (value("DespatchAdvice-Parties/Buyer/ILN", true) != editor_.session.BuyerILN) {
-      return refuse(editor_, "Неправильный ILN номер покупателя.");
+    if (GetNodeValue(document_.node(), buyerIlnPath, true) != editor_.session.BuyerILN) {
+      return refuse(editor_, "Неправильный ILN номер покупателя.", ReadingOutcome::foreignBuyer);
     }
     readHeader();
     readDelivery();
@@ -73,13 +67,17 @@ class DocumentReader {
     showPlain(editor_, "break1");
     readPackages();
     readLines();
-    return complete_ ? Outcome::complete : Outcome::incomplete;
+    const bool complete = missing_.empty();
+    return {complete ? ReadingOutcome::complete : ReadingOutcome::incomplete, std::move(missing_),
+            ""};
   }
 
  private:
+  static std::string whole(std::string_view path) {
+    return std::string("/Document-DespatchAdvice/").append(path);
+  }
   std::string value(std::string_view path, bool blankOnMissing) {
-    return GetNodeValue(document_.node(), std::string("/Document-DespatchAdvice/").append(path),
-                        blankOnMissing);
+    return GetNodeValue(document_.node(), whole(path), blankOnMissing);
   }
   std::optional<TimeOfDay> timeAt(std::string_view path) {
     const std::string text = value(path, true);
@@ -95,7 +93,7 @@ class DocumentReader {
     if (usable(text)) {
       field.setText(text);
     } else {
-      complete_ = false;
+      missing_.push_back(whole(path));
     }
   }
 
@@ -143,11 +141,10 @@ class DocumentReader {
 
   // The rows appear, but the count of packages stays what it was.
   void readPackages() {
-    const XmlNode consignment =
-        document_.node().selectSingle("/Document-DespatchAdvice/DespatchAdvice-Consignment");
+    const XmlNode consignment = document_.node().selectSingle(consignmentPath);
     if (!consignment) {
       showPlain(editor_, "break3");
-      complete_ = false;
+      missing_.emplace_back(consignmentPath);
       return;
     }
     Table& grid = form_.grdOpakowania;
@@ -163,11 +160,10 @@ class DocumentReader {
   }
 
   void readLines() {
-    const XmlNode parent =
-        document_.node().selectSingle("/Document-DespatchAdvice/DespatchAdvice-Lines");
+    const XmlNode parent = document_.node().selectSingle(despatchLinesPath);
     Table& grid = form_.grdPozycje;
     if (!parent) {
-      complete_ = false;
+      missing_.emplace_back(despatchLinesPath);
     } else {
       const std::vector<XmlNode> lines = parent.selectAll("Line");
       grid.setFixedRows(1);
@@ -189,17 +185,17 @@ class DocumentReader {
   Editor& editor_;
   AwizoForm& form_;
   XmlDocument& document_;
-  bool complete_ = true;
+  std::vector<std::string> missing_;
 };
 
 // An error while the document is read counts as a document that isn't complete.
-Outcome readInto(Editor& editor, XmlDocument& document) {
+ReadingResult readInto(Editor& editor, XmlDocument& document) {
   try {
     return DocumentReader(editor, document).read();
-  } catch (const RunTimeError&) {
-    return Outcome::failed;
+  } catch (const RunTimeError& error) {
+    return {ReadingOutcome::failed, {}, error.description()};
   } catch (const std::bad_alloc&) {
-    return Outcome::failed;
+    return {ReadingOutcome::failed, {}, errors::outOfMemory().description()};
   }
 }
 
@@ -228,33 +224,33 @@ void finish(Editor& editor, XmlDocument& document) {
   editor.form.btnEdytuj.setEnabled(true);
 }
 
+}  // namespace
+
 // The form is emptied before the file is looked at, and stays so when the file is refused.
-void readFile(Editor& editor, const std::string& path) {
+ReadingResult readDespatchAdvice(Editor& editor, XmlDocument& document, std::string_view path) {
+  using enum ReadingOutcome;
   closeOpenEdits(editor);
   SetHeader(editor);
   ClearForm(editor);
   showParties(editor);
-  const std::unique_ptr<XmlDocument> document = editor.platform.xml.createDocument();
-  if (!LoadDocument(editor, *document, path)) {
-    refuse(editor, "Неправильный формат файла XML.");
-    return;
+  if (!LoadDocument(editor, document, path)) {
+    return refuse(editor, "Неправильный формат файла XML.", noXml);
   }
-  if (!IsDespatchAdvice(*document)) {
-    refuse(editor, "Документ не соответствует спецификации подтверждения закза.");
-    return;
+  if (!IsDespatchAdvice(document)) {
+    return refuse(editor, "Документ не соответствует спецификации подтверждения закза.",
+                  notDespatchAdvice);
   }
-  const Outcome outcome = readInto(editor, *document);
-  if (outcome == Outcome::refused) return;
-  if (outcome != Outcome::failed) finish(editor, *document);
-  if (outcome != Outcome::complete) {
+  ReadingResult result = readInto(editor, document);
+  if (result.outcome == foreignSeller || result.outcome == foreignBuyer) return result;
+  if (result.outcome != failed) finish(editor, document);
+  if (result.outcome != complete) {
     editor.screen().showCritical(
         "Переписанный документ подтверждения заказа неправилен либо не содержит всех необходимых "
         "позиций.",
         "VIRD");
   }
+  return result;
 }
-
-}  // namespace
 
 void btnWczytaj_Click(Editor& editor, DlgWczytajZapisz& dialog) {
   reportErrors(editor.screen(), "Произошла ошибка в btnWczytaj_Click()", [&] {
@@ -264,7 +260,7 @@ void btnWczytaj_Click(Editor& editor, DlgWczytajZapisz& dialog) {
     dialog.showModal();
     const std::string path = editor.session.LastFilePath;
     if (!path.empty()) {
-      readFile(editor, path);
+      readDespatchAdvice(editor, *editor.platform.xml.createDocument(), path);
       editor.form.documentKept();
     }
     editor.form.setEnabled(true);

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "formats/file_dialog.h"
 #include "session/record/editor.h"
@@ -10,6 +12,26 @@ namespace awizo {
 /// Lets the user pick a file and puts the despatch advice in it into the form. What the reader
 /// takes, and what it forgets, differs from what the writer writes.
 void btnWczytaj_Click(Editor& editor, DlgWczytajZapisz& dialog);
+
+enum class ReadingOutcome {
+  noXml,
+  notDespatchAdvice,
+  foreignSeller,
+  foreignBuyer,
+  failed,      ///< an error ended the reading
+  incomplete,  ///< something required was missing
+  complete,
+};
+
+struct ReadingResult {
+  ReadingOutcome outcome = ReadingOutcome::complete;
+  std::vector<std::string> missing;  ///< paths of what was required and not there
+  std::string error;                 ///< description of the error that ended the reading
+};
+
+/// Empties the form, loads the file by its classic path into `document` and puts it into the form,
+/// as far as it goes. Tells the user what was wrong.
+ReadingResult readDespatchAdvice(Editor& editor, XmlDocument& document, std::string_view path);
 
 /// Loads a file by its classic path; one that doesn't parse is read again as text in the machine's
 /// single-byte encoding under a declaration of UTF-8. Answers whether the document parsed.

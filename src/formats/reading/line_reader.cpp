@@ -1,7 +1,5 @@
 #include "formats/reading/line_reader.h"
 
-#include <array>
-
 #include "service/transport.h"
 #include "tables/columns.h"
 #include "tables/flat_index.h"
@@ -10,33 +8,25 @@
 namespace awizo {
 namespace {
 
-constexpr int columnCount = 22;
-constexpr int asItStands = -1;
-
-// Path below `Line`, empty for a column that the document doesn't fill, and a number's decimals.
-struct Source {
-  std::string_view path;
-  int decimals = asItStands;
-};
-
-constexpr std::array<Source, columnCount> sources = [] {
-  std::array<Source, columnCount> all{};
+constexpr LineSources sources = [] {
+  using enum Missing;
+  LineSources all{};
   all[GRD_POZ_EAN] = {"Line-Item/EAN"};
   all[GRD_POZ_NAME] = {"Line-Item/ItemDescription"};
-  all[GRD_POZ_QTY_ORDERED] = {"Line-Item/OrderedQuantity", 3};
-  all[GRD_POZ_QTY_DESPATCHED] = {"Line-Item/DespatchedQuantity", 3};
-  all[GRD_POZ_PRICE] = {"Line-Item/UnitNetPrice", 2};
+  all[GRD_POZ_QTY_ORDERED] = {"Line-Item/OrderedQuantity", blank, 3};
+  all[GRD_POZ_QTY_DESPATCHED] = {"Line-Item/DespatchedQuantity", blank, 3};
+  all[GRD_POZ_PRICE] = {"Line-Item/UnitNetPrice", blank, 2};
   all[GRD_POZ_CODE_BY_BUYER] = {"Line-Item/BuyerItemCode"};
   all[GRD_POZ_CODE_BY_SELLER] = {"Line-Item/SupplierItemCode"};
   all[GRD_POZ_UNIT] = {"Line-Item/UnitOfMeasure"};
-  all[GRD_POZ_ORDER_LINE] = {"Line-Item/LineNumber", 0};
-  all[GRD_POZ_NET_AMOUNT] = {"Line-Item/NetAmount", 2};
-  all[GRD_POZ_TAX_RATE] = {"Line-Item/TaxRate", 0};
+  all[GRD_POZ_ORDER_LINE] = {"Line-Item/LineNumber", blank, 0};
+  all[GRD_POZ_NET_AMOUNT] = {"Line-Item/NetAmount", blank, 2};
+  all[GRD_POZ_TAX_RATE] = {"Line-Item/TaxRate", blank, 0};
   all[GRD_POZ_COUNTRY] = {"Line-Item/CountryOfOriginCode"};
   return all;
 }();
 
-std::string sourceText(Editor& editor, const XmlNode& line, const Source& source) {
+std::string sourceText(Editor& editor, const XmlNode& line, const LineSource& source) {
   if (source.path.empty()) return {};
   std::string text = GetNodeValue(line, source.path, true);
   if (source.decimals == asItStands || text.empty()) return text;
@@ -60,8 +50,10 @@ std::string cellText(Editor& editor, const XmlNode& line, std::int16_t row, int 
 
 }  // namespace
 
+const LineSources& despatchLineSources() { return sources; }
+
 void readDespatchLine(Editor& editor, const XmlNode& line, std::int16_t row) {
-  for (std::int16_t column = 0; column < columnCount; ++column) {
+  for (std::int16_t column = 0; column < lineColumns; ++column) {
     editor.form.grdPozycje.setCell(IndexGrdPozycje(editor, row, column),
                                    cellText(editor, line, row, column));
   }

@@ -11,14 +11,6 @@ namespace awizo::test {
 
 namespace {
 
-std::vector<std::string> commandOf(const std::vector<std::string>& launcher,
-                                   const std::vector<std::string>& options) {
-  std::vector<std::string> command = launcher;
-  command.emplace_back(AWIZO_HEADLESS);
-  command.insert(command.end(), options.begin(), options.end());
-  return command;
-}
-
 std::string visible(const std::string& text) {
   std::string result;
   for (const char character : text) {
@@ -43,10 +35,18 @@ void noteSeenBox(const Json& box) {
 
 }  // namespace
 
+std::vector<std::string> headlessCommand(const std::vector<std::string>& options,
+                                         const std::vector<std::string>& launcher) {
+  std::vector<std::string> command = launcher;
+  command.emplace_back(AWIZO_HEADLESS);
+  command.insert(command.end(), options.begin(), options.end());
+  return command;
+}
+
 Conversation::Conversation(const std::vector<std::string>& options,
                            const std::vector<std::string>& environment,
                            const std::vector<std::string>& launcher)
-    : program_(commandOf(launcher, options), environment) {}
+    : program_(headlessCommand(options, launcher), environment) {}
 
 void Conversation::act(const Json& line) {
   Json numbered = line;

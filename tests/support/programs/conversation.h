@@ -13,6 +13,10 @@ namespace awizo::test {
 
 using Json = nlohmann::ordered_json;
 
+/// The command that starts awizo-headless with these options, by the launcher if there is one.
+std::vector<std::string> headlessCommand(const std::vector<std::string>& options,
+                                         const std::vector<std::string>& launcher = {});
+
 /// A user who works with a running awizo-headless. Each action is a line; the conversation waits
 /// until the program has done what it can, up to a box or a form that waits for the user. An action
 /// that is refused fails the test, unless it was said to be.

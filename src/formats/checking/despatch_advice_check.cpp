@@ -1,0 +1,144 @@
+#include "formats/checking/despatch_advice_check.h"
+
+#include <set>
+
+#include "formats/checking/ignored_elements.h"
+#include "formats/checking/line_findings.h"
+#include "formats/checking/package_findings.h"
+#include "formats/checking/scratch_editor.h"
+#include "formats/checking/stopped_reading.h"
+#include "formats/despatch_advice_paths.h"
+#include "formats/despatch_advice_writer.h"
+#include "formats/reading/despatch_advice_reader.h"
+#include "formats/reading/line_reader.h"
+#include "service/transport.h"
+
+namespace awizo {
+namespace {
+
+void append(std::vector<Finding>& findings, const std::vector<Finding>& more) {
+  findings.insert(findings.end(), more.begin(), more.end());
+}
+
+/// Kinds of all elements that the editor can write, as the writer itself tells them.
+std::set<std::string> writtenKinds(const Xml& xml) {
+  const std::string any = "1";
+  const auto document = CreateDesAdvSkeleton(xml, any, any, any, 1, any, any, 1);
+  AddPackingSequence(xml, *document, {any, any, any, any, any, any, any, any, any});
+  DesAdvLineValues line{any, any, any, any, any, any, any, any,      any,
+                        any, any, any, any, any, any, any, "1@1@1@1"};
+  AddDesAdvLine(xml, *document, line);
+  std::set<std::string> kinds;
+  const DocumentMap map(*document);
+  for (const DocumentMap::Place& place : map.places()) kinds.insert(place.kind);
+  return kinds;
+}
+
+/// The element at the path, or the nearest above it that is there.
+XmlNode nearest(XmlDocument& document, std::string path) {
+  while (true) {
+    if (const XmlNode node = document.node().selectSingle(path)) return node;
+    path.erase(path.rfind('/'));
+  }
+}
+
+/// One reading of the document, and what it tells.
+class DespatchAdviceCheck {
+ public:
+  explicit DespatchAdviceCheck(const Platform& platform)
+      : scratch_(platform), document_(platform.xml.createDocument()) {}
+
+  ReadingResult read(std::string_view path, const ReaderIdentity& reader) {
+    scratch_.session.SellerILN = reader.sellerILN;
+    scratch_.session.BuyerILN = reader.buyerILN;
+    return readDespatchAdvice(scratch_.editor, document_, path);
+  }
+
+  std::vector<Finding> findings(const ReadingResult& result) {
+    const DocumentMap map(document_.within());
+    std::vector<Finding> all = packageFindings(map);
+    for (const std::string& path : result.missing) all.push_back(missing(path));
+    std::size_t end = map.places().size();
+    if (result.outcome == ReadingOutcome::failed) {
+      all.push_back(stoppedReading(map, document_, result.error));
+      end = map.numberOf(document_.last());
+    }
+    const std::set<std::string> written = writtenKinds(scratch_.platform.xml);
+    append(all, ignoredElements(map, document_, end,
+                                [&](const std::string& kind) { return written.contains(kind); }));
+    append(all, lines(map));
+    return all;
+  }
+
+ private:
+  Finding missing(const std::string& path) {
+    return {nearest(document_.within(), path).line(), belowRoot(path),
+            "нет обязательного значения: документ будет назван неполным"};
+  }
+
+  std::vector<Finding> lines(const DocumentMap& map) {
+    LineFindings lines(scratch_.editor, map, despatchLineSources());
+    std::int16_t row = 0;
+    try {
+      const std::string path = std::string(despatchLinesPath) + "/Line";
+      for (const XmlNode& line : document_.within().node().selectAll(path)) {
+        if (row == scratch_.session.LineCount) break;
+        lines.add(line, ++row);
+      }
+    } catch (const RunTimeError&) {
+      // The reading stopped at this row, which is told already.
+    }
+    return lines.found();
+  }
+
+  ScratchEditor scratch_;
+  TracedDocument document_;
+};
+
+/// The document's own number of a party stands for an unknown one, so that it is accepted.
+std::string partyOf(XmlDocument& document, std::string_view path) {
+  return GetNodeValue(document.node(), path, true);
+}
+
+Finding foreignParty(XmlDocument& document, std::string_view path, std::string_view who,
+                     const std::string& expected) {
+  const std::string value = partyOf(document, path);
+  std::string text = "ILN " + std::string(who);
+  text += value.empty() ? " не указан" : " «" + value + "»";
+  if (!expected.empty()) text += ", а должен быть «" + expected + "»";
+  const std::string whole(path);
+  return {nearest(document, whole).line(), belowRoot(whole), text + ": документ будет отвергнут"};
+}
+
+}  // namespace
+
+std::vector<Finding> checkDespatchAdvice(const Platform& platform, std::string_view path,
+                                         XmlDocument& loaded, const ReaderIdentity& reader) {
+  std::vector<Finding> refusals;
+  ReaderIdentity own{partyOf(loaded, sellerIlnPath), partyOf(loaded, buyerIlnPath)};
+  ReaderIdentity expected{reader.sellerILN.empty() ? own.sellerILN : reader.sellerILN,
+                          reader.buyerILN.empty() ? own.buyerILN : reader.buyerILN};
+  if (expected.sellerILN.empty()) {
+    refusals.push_back(foreignParty(loaded, sellerIlnPath, "продавца", ""));
+  }
+  if (expected.buyerILN.empty()) {
+    refusals.push_back(foreignParty(loaded, buyerIlnPath, "покупателя", ""));
+  }
+  // Behind a refusal the rest is told as if it were none.
+  while (true) {
+    DespatchAdviceCheck check(platform);
+    const ReadingResult result = check.read(path, expected);
+    if (result.outcome == ReadingOutcome::foreignSeller) {
+      refusals.push_back(foreignParty(loaded, sellerIlnPath, "продавца", expected.sellerILN));
+      expected.sellerILN = own.sellerILN;
+    } else if (result.outcome == ReadingOutcome::foreignBuyer) {
+      refusals.push_back(foreignParty(loaded, buyerIlnPath, "покупателя", expected.buyerILN));
+      expected.buyerILN = own.buyerILN;
+    } else {
+      append(refusals, check.findings(result));
+      return refusals;
+    }
+  }
+}
+
+}  // namespace awizo

@@ -1,0 +1,52 @@
+#include "formats/checking/document_check.h"
+
+#include <algorithm>
+
+#include "formats/checking/despatch_advice_check.h"
+#include "formats/checking/order_check.h"
+#include "formats/checking/scratch_editor.h"
+#include "formats/reading/despatch_advice_reader.h"
+#include "session/identity.h"
+
+namespace awizo {
+namespace {
+
+std::vector<Finding> unordered(const Platform& platform, std::string_view path,
+                               const ReaderIdentity& reader) {
+  ScratchEditor scratch(platform);
+  auto document = std::make_unique<TracedDocument>(platform.xml.createDocument());
+  document->loadBytes(platform.files.readAll(path));
+  // The second way of loading puts a line of its own before the file.
+  const std::int64_t failedAt = document->failedAtLine();
+  if (!LoadDocument(scratch.editor, *document, path)) {
+    return {{std::max<std::int64_t>(failedAt, 1), "",
+             "не XML, или файл здесь обрывается: документ будет отвергнут"}};
+  }
+  if (IsDespatchAdvice(*document)) {
+    return checkDespatchAdvice(platform, path, document->within(), reader);
+  }
+  const XmlNode root = document->within().root();
+  if (root.isElement("Document-Order")) return checkOrder(platform, std::move(document));
+  return {{root.line(), root.name(),
+           "не Document-DespatchAdvice и не Document-Order: документ будет отвергнут"}};
+}
+
+}  // namespace
+
+ReaderIdentity readerIdentity(const Platform& platform, std::string_view folder,
+                              std::string_view partnerILN) {
+  ScratchEditor scratch(platform);
+  scratch.session.BuyerILN = partnerILN;
+  scratch.session.OffLinePathValue = folder;
+  if (!folder.empty()) readIdentity(scratch.editor);
+  return {scratch.session.SellerILN, scratch.session.BuyerILN};
+}
+
+std::vector<Finding> checkDocument(const Platform& platform, std::string_view path,
+                                   const ReaderIdentity& reader) {
+  std::vector<Finding> findings = unordered(platform, path, reader);
+  std::ranges::stable_sort(findings, {}, &Finding::line);
+  return findings;
+}
+
+}  // namespace awizo

@@ -1,0 +1,95 @@
+#include "formats/checking/line_findings.h"
+
+#include <array>
+#include <string>
+
+#include "formats/row_check.h"
+#include "tables/columns.h"
+#include "tables/flat_index.h"
+
+namespace awizo {
+namespace {
+
+/// A column by the name that the line check gives it, and as the user calls it.
+struct CheckedColumn {
+  std::string_view checkName;
+  int column;
+  std::string_view name;
+};
+
+constexpr std::array<CheckedColumn, 5> checkedColumns{{
+    {"EAN", GRD_POZ_EAN, "EAN"},
+    {"Zamowiona ilosc", GRD_POZ_QTY_ORDERED, "количество заказа"},
+    {"Potwierdzana ilosc", GRD_POZ_QTY_DESPATCHED, "отгруженное количество"},
+    {"Cena netto", GRD_POZ_PRICE, "цена"},
+    {"Wartosc netto", GRD_POZ_NET_AMOUNT, "сумма"},
+}};
+
+constexpr int none = -1;
+
+/// More decimals than any number of a document has.
+std::string exactText(const Conversions& conversions, std::string text) {
+  return conversions.NormalizeDecimal(text, 15);
+}
+
+}  // namespace
+
+void LineFindings::add(const XmlNode& line, std::int16_t row) {
+  const int failing = failingColumn(row);
+  if (failing != none) addFailure(line, row, failing);
+  addNumbers(line, row, failing);
+}
+
+int LineFindings::failingColumn(std::int16_t row) {
+  if (CheckGridRow(editor_, row)) return none;
+  for (const CheckedColumn& checked : checkedColumns) {
+    if (checked.checkName == editor_.form.BadColumnName) return checked.column;
+  }
+  return none;
+}
+
+void LineFindings::addFailure(const XmlNode& line, std::int16_t row, int column) {
+  std::string name;
+  for (const CheckedColumn& checked : checkedColumns) {
+    if (checked.column == column) name = checked.name;
+  }
+  const std::string& value = cell(row, column);
+  const std::string text =
+      "строка не пройдёт проверку: " +
+      (value.empty() ? "нет значения (" + name + ")" : name + " «" + value + "» не число");
+  const XmlNode node = valueOf(line, column);
+  found_.push_back(map_.finding(node ? node : line, text));
+}
+
+void LineFindings::addNumbers(const XmlNode& line, std::int16_t row, int failing) {
+  const Conversions& conversions = editor_.conversions;
+  std::string_view lastPath;
+  for (int column = 0; column < lineColumns; ++column) {
+    const LineSource& source = sources_[static_cast<std::size_t>(column)];
+    // One value can fill two columns.
+    if (source.decimals == asItStands || source.path == lastPath) continue;
+    lastPath = source.path;
+    if (column == failing) continue;
+    const XmlNode node = valueOf(line, column);
+    const std::string& shown = cell(row, column);
+    if (!node || shown.empty()) continue;
+    if (!conversions.isNumeric(shown)) {
+      found_.push_back(map_.finding(node, "«" + shown + "» не число, останется как есть"));
+    } else if (exactText(conversions, node.text()) != exactText(conversions, shown)) {
+      found_.push_back(
+          map_.finding(node, "«" + node.text() + "» будет прочитано как «" + shown + "»"));
+    }
+  }
+}
+
+const std::string& LineFindings::cell(std::int16_t row, int column) const {
+  return editor_.form.grdPozycje.cell(
+      IndexGrdPozycje(editor_, row, static_cast<std::int16_t>(column)));
+}
+
+XmlNode LineFindings::valueOf(const XmlNode& line, int column) const {
+  const std::string_view path = sources_[static_cast<std::size_t>(column)].path;
+  return path.empty() || !line.isElement("Line") ? XmlNode() : line.selectSingle(path);
+}
+
+}  // namespace awizo

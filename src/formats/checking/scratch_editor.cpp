@@ -1,0 +1,27 @@
+#include "formats/checking/scratch_editor.h"
+
+#include "session/set_up.h"
+
+namespace awizo {
+
+Answer SilentFace::ask(const MessageBox& box) {
+  boxes.push_back(box);
+  return box.buttons == BoxButtons::ok ? Answer::ok : Answer::yes;
+}
+
+void SilentFace::runModal(Form& form) { form.hide(); }
+
+ScratchEditor::ScratchEditor(const Platform& surroundings)
+    : platform{surroundings.xml,    surroundings.http,
+               surroundings.page,   surroundings.bag,
+               surroundings.host,   surroundings.settings,
+               surroundings.files,  surroundings.clock,
+               surroundings.locale, screen,
+               surroundings.version},
+      session(platform),
+      form(screen, platform.clock),
+      editor(platform, session, form) {
+  setUpControl(editor);
+}
+
+}  // namespace awizo
