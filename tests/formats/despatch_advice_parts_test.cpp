@@ -1,0 +1,99 @@
+#include "written_despatch_advice.h"
+
+namespace awizo::test {
+namespace {
+
+TEST(DespatchAdviceInAPointLocale, WritesTheSameNumbersDatesAndTimes) {
+  TestEditor test("en_US");
+  AwizoForm& form = test.form;
+  form.txtDataAwiza.setDate(makeDate(2026, 2, 1));
+  form.txtEstimatedDeliveryDate.setDate(makeDate(2026, 3, 4));
+  form.txtDespatchAdviceTime.setTime(TimeOfDay{15, 4, 0});
+  std::vector<std::string> cells(23);
+  cells[GRD_POZ_QTY_DESPATCHED] = "1.500";
+  cells[GRD_POZ_PACK_REFS] = "2@A@1@1.500";
+  TestEditor::fill(form.grdPozycje, {cells});
+  test.session.LineCount = 1;
+  form.grdSuma.setCell(1, GRD_SUMA_QTY_DESPATCHED, "1.500");
+  const std::unique_ptr<XmlDocument> document = MakeDesAdv(test.editor);
+  ASSERT_NE(document, nullptr);
+  const auto value = [&](std::string_view path) {
+    return document->node().selectSingle(path).text();
+  };
+  EXPECT_EQ(value("//DespatchAdviceDate"), "2026-02-01");
+  EXPECT_EQ(value("//EstimatedDeliveryDate"), "2026-03-04");
+  EXPECT_EQ(value("//DespatchAdviceTime"), "15:04");
+  EXPECT_EQ(value("//DespatchedQuantity"), "1.500");
+  EXPECT_EQ(value("//Package-Reference/Quantity"), "1.500");
+  EXPECT_EQ(value("//TotalQuantity"), "1.50");
+}
+
+TEST(DespatchAdviceSkeleton, HoldsOnlyWhatAlwaysStands) {
+  const Libxml2 xml;
+  EXPECT_EQ(CreateDesAdvSkeleton(xml, "", "", "", 0, "", "", 5)->fileBytes(),
+            std::string("<Document-DespatchAdvice><DespatchAdvice-Header>"
+                        "<DespatchAdviceNumber/><DespatchAdviceDate/><EstimatedDeliveryDate/>"
+                        "<BuyerOrderNumber/><Currency>RUR</Currency></DespatchAdvice-Header>"
+                        "<DespatchAdvice-Parties><Buyer><ILN/></Buyer><Seller><ILN/></Seller>"
+                        "</DespatchAdvice-Parties>") +
+                emptyConsignment + "</Document-DespatchAdvice>");
+}
+
+TEST(DespatchAdviceSkeleton, HoldsPlacesForOptionalValuesWithoutTheValues) {
+  const Libxml2 xml;
+  EXPECT_EQ(
+      CreateDesAdvSkeleton(xml, "10:00", "11:00", "2026-01-01", 1, "77", "952", 0)->fileBytes(),
+      std::string("<Document-DespatchAdvice><DespatchAdvice-Header>"
+                  "<DespatchAdviceNumber/><DespatchAdviceDate/><DespatchAdviceTime/>"
+                  "<EstimatedDeliveryDate/><EstimatedDeliveryTime/><BuyerOrderNumber/>"
+                  "<BuyerOrderDate/><Currency>RUR</Currency></DespatchAdvice-Header>"
+                  "<DespatchAdvice-Parties><Buyer><ILN/></Buyer>"
+                  "<Seller><ILN/><CodeByBuyer/></Seller><DeliveryPoint><ILN/></DeliveryPoint>"
+                  "</DespatchAdvice-Parties>") +
+          emptyConsignment +
+          "<DespatchAdvice-Lines/><DespatchAdvice-Summary><TotalAmount/><TotalQuantity/>"
+          "</DespatchAdvice-Summary></Document-DespatchAdvice>");
+}
+
+TEST(DespatchAdviceParts, CanBeAddedOneByOne) {
+  const Libxml2 xml;
+  const auto document = CreateDesAdvSkeleton(xml, "", "", "", 1, "", "", 0);
+  PackingSequenceValues box;
+  box.packageId = "2";
+  box.weight = "1.5";
+  AddPackingSequence(xml, *document, box);
+  DesAdvLineValues line;
+  line.ean = "5";
+  line.taxCategory = "S";
+  line.expiryDate = "2026-01-01";
+  AddDesAdvLine(xml, *document, line);
+  EXPECT_THAT(document->fileBytes(),
+              ::testing::HasSubstr("<Packing-Sequence><PackageId>2</PackageId>"
+                                   "<PackageWeight>1.5</PackageWeight></Packing-Sequence>"
+                                   "</DespatchAdvice-Consignment><DespatchAdvice-Lines>"
+                                   "<Line><Line-Item><LineNumber/><EAN>5</EAN>"
+                                   "<DespatchedQuantity/></Line-Item></Line>"
+                                   "</DespatchAdvice-Lines>"));
+}
+
+TEST(DespatchAdviceParts, ThatAreNotWellFormedAreAnError) {
+  const Libxml2 xml;
+  const auto document = CreateDesAdvSkeleton(xml, "", "", "", 1, "", "", 0);
+  const auto errorNumber = [](const auto& act) {
+    try {
+      act();
+      return 0;
+    } catch (const RunTimeError& error) {
+      return static_cast<int>(error.number());
+    }
+  };
+  PackingSequenceValues box;
+  box.packageId = "<";
+  EXPECT_EQ(errorNumber([&] { AddPackingSequence(xml, *document, box); }), 5);
+  DesAdvLineValues line;
+  line.description = "]]>";
+  EXPECT_EQ(errorNumber([&] { AddDesAdvLine(xml, *document, line); }), 5);
+}
+
+}  // namespace
+}  // namespace awizo::test

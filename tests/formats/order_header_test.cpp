@@ -1,0 +1,120 @@
+#include "read_order.h"
+
+namespace awizo::test {
+namespace {
+
+using ::testing::IsEmpty;
+
+TEST_F(OrderReader, FillsTheHeader) {
+  form.txtNrAwiza.setText("old");
+  form.txtDespatchAdviceTime.setTime(TimeOfDay{1, 2, 3});
+  form.lblNiepelnaWagaKom.setCaption("old");
+  readHeader(fullHeader);
+  EXPECT_EQ(form.txtNrZam.text(), "ORD-7");
+  EXPECT_EQ(form.dpDataZam.date(), makeDate(2026, 11, 2));
+  EXPECT_EQ(form.txtNrAwiza.text(), "");
+  EXPECT_EQ(form.txtCodeByBuyer.text(), "77");
+  EXPECT_EQ(form.DeliveryILN, "9520002000026");
+  EXPECT_EQ(form.lblILNMiejscaDostValue.caption(), "9520002000026");
+  EXPECT_EQ(form.txtEstimatedDeliveryDate.date(), makeDate(2026, 12, 1));
+  EXPECT_EQ(form.txtDespatchAdviceTime.time(), std::nullopt);
+  EXPECT_EQ(form.txtEstimatedDeliveryTime.time(), (TimeOfDay{14, 30, 0}));
+  EXPECT_EQ(form.lblCurrencyWart.caption(), "EUR");
+  EXPECT_EQ(form.lblNiepelnaWagaKom.caption(), "");
+  expectNoBox();
+}
+
+TEST_F(OrderReader, ShowsThePartiesOfTheSessionAndNotThoseOfTheOrder) {
+  readHeader(fullHeader);
+  EXPECT_EQ(form.lblILNKupWart.caption(), "9520002000019");
+  EXPECT_EQ(form.lblNameKupWart.caption(), "Покупатель");
+  EXPECT_EQ(form.lblILNSprzedWart.caption(), "9520001000010");
+  EXPECT_EQ(form.lblNameSprzedWart.caption(), "Продавец");
+}
+
+TEST_F(OrderReader, FillsAnEmptyHeaderWithFallBacks) {
+  form.txtCodeByBuyer.setText("old");
+  form.DeliveryILN = "old";
+  form.lblCurrencyWart.setCaption("old");
+  form.lblNazwaMiejscaDostawy.setCaption("old");
+  readHeader("");
+  EXPECT_EQ(form.txtNrZam.text(), "-1");
+  EXPECT_EQ(form.dpDataZam.date(), std::nullopt);
+  EXPECT_EQ(form.txtCodeByBuyer.text(), "");
+  EXPECT_EQ(form.DeliveryILN, "");
+  EXPECT_EQ(form.lblILNMiejscaDostValue.caption(), "");
+  EXPECT_EQ(form.lblNazwaMiejscaDostawy.caption(), "");
+  EXPECT_EQ(form.txtEstimatedDeliveryDate.date(), makeDate(2026, 11, 21));
+  EXPECT_EQ(form.txtEstimatedDeliveryTime.time(), std::nullopt);
+  EXPECT_EQ(form.lblCurrencyWart.caption(), "RUR");
+  expectNoBox();
+}
+
+TEST_F(OrderReader, AnOrderNumberThatIsThereAndEmptyIsEmpty) {
+  readHeader("<Order-Header><OrderNumber/></Order-Header>");
+  EXPECT_EQ(form.txtNrZam.text(), "");
+}
+
+TEST_F(OrderReader, ADeliveryDateOfMinusOneIsToday) {
+  for (const char* missing : {"-1", "-1,00", "1-"}) {
+    form.txtEstimatedDeliveryDate.setDate(makeDate(2020, 1, 1));
+    readHeader(std::string("<Order-Header><ExpectedDeliveryDate>") + missing +
+               "</ExpectedDeliveryDate></Order-Header>");
+    EXPECT_EQ(form.txtEstimatedDeliveryDate.date(), makeDate(2026, 11, 21)) << missing;
+  }
+  expectNoBox();
+}
+
+TEST_F(OrderReader, ReadsDatesByTheLocale) {
+  readHeader(
+      "<Order-Header><OrderDate>02.03.2026</OrderDate>"
+      "<ExpectedDeliveryDate>2026-01-11</ExpectedDeliveryDate></Order-Header>");
+  EXPECT_EQ(form.dpDataZam.date(), makeDate(2026, 3, 2));
+  EXPECT_EQ(form.txtEstimatedDeliveryDate.date(), makeDate(2026, 1, 11));
+}
+
+TEST_F(OrderReaderInAPointLocale, ReadsDatesAndTimesByTheLocale) {
+  readHeader(
+      "<Order-Header><OrderDate>02/03/2026</OrderDate>"
+      "<ExpectedDeliveryDate>2026-01-11</ExpectedDeliveryDate>"
+      "<ExpectedDeliveryTime>2:30 PM</ExpectedDeliveryTime></Order-Header>");
+  EXPECT_EQ(form.dpDataZam.date(), makeDate(2026, 2, 3));
+  EXPECT_EQ(form.txtEstimatedDeliveryDate.date(), makeDate(2026, 1, 11));
+  EXPECT_EQ(form.txtEstimatedDeliveryTime.time(), (TimeOfDay{14, 30, 0}));
+  expectNoBox();
+}
+
+TEST_F(OrderReader, AnOrderDateThatIsNoneEndsTheReading) {
+  readHeader(
+      "<Order-Header><OrderNumber>9</OrderNumber><OrderDate>soon</OrderDate></Order-Header>");
+  expectFailure("Type mismatch");
+  EXPECT_EQ(form.txtNrZam.text(), "9");
+}
+
+TEST_F(OrderReader, AnOrderDateBeforeThePickersTimeEndsTheReading) {
+  readHeader("<Order-Header><OrderDate>1500-01-01</OrderDate></Order-Header>");
+  expectFailure(
+      "A date was specified that does not fall within the MinDate and MaxDate properties");
+}
+
+TEST_F(OrderReader, ADeliveryDateOrTimeThatIsNoneEndsTheReading) {
+  readHeader("<Order-Header><ExpectedDeliveryDate>soon</ExpectedDeliveryDate></Order-Header>");
+  expectFailure("Type mismatch");
+  readHeader("<Order-Header><ExpectedDeliveryTime>soon</ExpectedDeliveryTime></Order-Header>");
+  expectFailure("Type mismatch");
+}
+
+TEST_F(OrderReader, ShowsTheDeliveryPlaceFromItsCatalogue) {
+  test.session.LocalizationsLoaded = true;
+  test.session.LocalizationsDom->loadText(
+      "<dictionary-response><document-content><Document-LocalizationsCatalog><localizations>"
+      "<localization><iln>9520002000026</iln><number>Магазин 1</number>"
+      "<address>ул. Мира, 1</address></localization>"
+      "</localizations></Document-LocalizationsCatalog></document-content></dictionary-response>");
+  readHeader(fullHeader);
+  EXPECT_EQ(form.lblNazwaMiejscaDostawy.caption(), "Магазин 1");
+  EXPECT_EQ(form.lblAdresMiejscaDostawy.caption(), "ул. Мира, 1");
+}
+
+}  // namespace
+}  // namespace awizo::test
