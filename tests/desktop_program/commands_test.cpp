@@ -101,6 +101,7 @@ TEST_F(CommandsTest, MenusAndTipsTellTheKeys) {
 
 TEST_F(CommandsTest, TheWindowFitsASmallScreenAndCutsNoButton) {
   openCounting();
+  letLayoutsSettle();
   EXPECT_LE(widget().minimumSizeHint().width(), 1024);
   EXPECT_LE(widget().minimumSizeHint().height(), 676);
   for (const Control* control : form().controls()) {

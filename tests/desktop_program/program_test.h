@@ -46,6 +46,11 @@ class ProgramTest : public testing::Test {
   /// Answers every box that comes while the act runs with the Enter key; gives what was seen.
   static std::vector<std::string> answerWithEnter(const std::function<void()>& act);
 
+  /// A layout that moves another asks for one more turn of the event loop.
+  static void letLayoutsSettle() {
+    for (int turn = 0; turn < 5; ++turn) settle();
+  }
+
   /// Leads the focus to the control by the Tab key alone.
   void tabTo(const Control& control);
 

@@ -1,3 +1,4 @@
+#include <QEvent>
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
@@ -91,8 +92,31 @@ QLabel* caption(const std::string& text) {
   return label;
 }
 
+/// Takes as much height as its wrapped texts need. By a height that depends on the width the whole
+/// window would ask for more than its least height, and scroll on a screen that has just that.
+class WrappedTexts : public QWidget {
+ public:
+  bool hasHeightForWidth() const override { return false; }
+
+ protected:
+  bool event(QEvent* event) override {
+    // A layout that is at work doesn't hear of a height that changes under its hands.
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) {
+      QMetaObject::invokeMethod(
+          this, [this] { takeHeight(); }, Qt::QueuedConnection);
+    }
+    return QWidget::event(event);
+  }
+
+ private:
+  void takeHeight() {
+    const bool wraps = layout()->hasHeightForWidth();
+    setFixedHeight(wraps ? layout()->heightForWidth(width()) : layout()->sizeHint().height());
+  }
+};
+
 QWidget* makeParties(AwizoForm& form, FormFace& faces) {
-  auto* parties = new QWidget;
+  auto* parties = new WrappedTexts;
   auto* grid = new QGridLayout(parties);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(8);
@@ -105,20 +129,15 @@ QWidget* makeParties(AwizoForm& form, FormFace& faces) {
   addParty(0, form.lblILNSprzedWart, form.lblNameSprzedWart);
   addParty(1, form.lblILNKupWart, form.lblNameKupWart);
   grid->addWidget(caption(form.lblILNMiejscaDostValue.heading()), 0, 3);
-  auto* place = new QHBoxLayout;
-  place->setSpacing(8);
-  place->addWidget(value(faces, form.lblILNMiejscaDostValue));
-  place->addWidget(caption(form.lblNazwaMiejscaDostWart.heading()));
-  place->addWidget(value(faces, form.lblNazwaMiejscaDostWart), 1);
-  grid->addLayout(place, 0, 4);
+  grid->addWidget(value(faces, form.lblILNMiejscaDostValue), 0, 4);
+  grid->addWidget(caption(form.lblNazwaMiejscaDostWart.heading()), 0, 5);
+  grid->addWidget(value(faces, form.lblNazwaMiejscaDostWart), 0, 6);
   grid->addWidget(caption(form.lblAdresMiejscaDostawy.heading()), 1, 3);
-  auto* address = new QHBoxLayout;
-  address->setSpacing(8);
-  address->addWidget(value(faces, form.lblNazwaMiejscaDostawy), 1);
-  address->addWidget(value(faces, form.lblAdresMiejscaDostawy), 2);
-  grid->addLayout(address, 1, 4);
+  grid->addWidget(value(faces, form.lblNazwaMiejscaDostawy), 1, 4);
+  grid->addWidget(value(faces, form.lblAdresMiejscaDostawy), 1, 5, 1, 2);
   grid->setColumnStretch(2, 2);
-  grid->setColumnStretch(4, 3);
+  grid->setColumnStretch(4, 1);
+  grid->setColumnStretch(6, 2);
   const int ilnWidth = parties->fontMetrics().horizontalAdvance('0') * 14;
   for (const Label* iln :
        {&form.lblILNSprzedWart, &form.lblILNKupWart, &form.lblILNMiejscaDostValue}) {

@@ -1,0 +1,98 @@
+// The main window with a document in it: all its controls have a place and are in sight.
+
+#include <QAbstractScrollArea>
+#include <QLayout>
+#include <QScrollBar>
+
+#include "desktop_program/program_test.h"
+
+namespace awizo::test {
+namespace {
+
+/// The smallest window that the program is made for, with an order that has come from the service.
+class MainLayoutTest : public ProgramTest {
+ protected:
+  void openOrder() {
+    agreeTo(service_);
+    open(onLineOptions(service_));
+    window().resize(1024, 700);
+    letLayoutsSettle();
+  }
+  QScrollBar* windowsScrollBar() {
+    return qobject_cast<QAbstractScrollArea*>(window().centralWidget())->verticalScrollBar();
+  }
+  /// The place of each control that is seen, in the window; not that of frames, which hold others,
+  /// nor of the in-table editor.
+  std::vector<std::pair<std::string, QRect>> places() {
+    std::vector<std::pair<std::string, QRect>> found;
+    for (const Control* control : form().controls()) {
+      const QWidget* shown = face(*control).widget();
+      const bool holdsOthers = control->kind() == ControlKind::frame;
+      if (!shown->isVisible() || holdsOthers) continue;
+      found.emplace_back(control->name(), QRect(shown->mapTo(&window(), QPoint()), shown->size()));
+    }
+    return found;
+  }
+
+ private:
+  DemoService service_{place.posted()};
+};
+
+TEST_F(MainLayoutTest, EveryControlIsInSightWithoutScrolling) {
+  openOrder();
+  EXPECT_EQ(windowsScrollBar()->maximum(), 0);
+  for (const auto& [name, area] : places()) {
+    EXPECT_TRUE(window().rect().contains(area)) << name;
+  }
+}
+
+TEST_F(MainLayoutTest, NoFieldIsSqueezed) {
+  openOrder();
+  for (const Control* control : form().controls()) {
+    const QWidget* shown = face(*control).widget();
+    const bool grows =
+        control->kind() == ControlKind::table || control->kind() == ControlKind::frame;
+    if (!shown->isVisible() || grows) continue;
+    const int needed = control->kind() == ControlKind::label ? shown->heightForWidth(shown->width())
+                                                             : shown->sizeHint().height();
+    EXPECT_GE(shown->height(), needed) << control->name();
+  }
+}
+
+TEST_F(MainLayoutTest, NoTwoControlsOverlap) {
+  openOrder();
+  const auto all = places();
+  for (std::size_t one = 0; one < all.size(); ++one) {
+    for (std::size_t other = 0; other < one; ++other) {
+      EXPECT_FALSE(all[one].second.intersects(all[other].second))
+          << all[one].first << " and " << all[other].first;
+    }
+  }
+}
+
+TEST_F(MainLayoutTest, EveryControlIsGivenAPlace) {
+  openOrder();
+  for (const Control* control : form().controls()) {
+    QWidget* shown = face(*control).widget();
+    const QWidget& whole = widget().faces().window();
+    EXPECT_TRUE(shown->parentWidget() != &whole || whole.layout()->indexOf(shown) >= 0)
+        << control->name() << " was given no place";
+  }
+}
+
+TEST_F(MainLayoutTest, ALongAddressTakesLinesFromTheTablesAlone) {
+  openOrder();
+  QWidget* address = face(form().lblAdresMiejscaDostawy).widget();
+  const int before = address->height();
+  const int field = face(form().txtNrAwiza).widget()->height();
+  form().lblAdresMiejscaDostawy.setCaption(
+      "142100, Московская область, городской округ Подольск, посёлок Быково, улица Складская, "
+      "дом 3, строение 12, въезд с восточной стороны, ворота 5");
+  letLayoutsSettle();
+  EXPECT_GT(address->height(), before);
+  EXPECT_GE(address->height(), address->heightForWidth(address->width()));
+  EXPECT_EQ(face(form().txtNrAwiza).widget()->height(), field);
+}
+
+}  // namespace
+}  // namespace awizo::test
