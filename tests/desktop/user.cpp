@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include "hosts/desktop/faces/pictures.h"
+
 namespace awizo::test {
 
 using desktop::toText;
@@ -26,6 +28,17 @@ void leaveHiddenWindows() {
     if (top == nullptr && window->isVisible() && window->windowType() == Qt::Window) top = window;
   }
   if (top != nullptr) top->activateWindow();
+}
+
+/// The name of the icon that the box shows, told by its picture.
+std::string iconOf(const QMessageBox& box) {
+  const QPixmap shown = box.iconPixmap();
+  if (shown.isNull()) return "none";
+  for (const char* name : {"critical", "question", "exclamation", "information"}) {
+    const QPixmap known = desktop::pictureNamed(name).pixmap(shown.size());
+    if (known.toImage() == shown.toImage()) return name;
+  }
+  return "unknown";
 }
 
 /// Whether the window on top has heard that it is the active one.
@@ -118,13 +131,7 @@ std::string seen(const QMessageBox& box) {
     if (!buttons.empty()) buttons += ",";
     buttons += toText(button->text());
   }
-  const char* icon = "none";
-  if (box.icon() == QMessageBox::Critical) icon = "critical";
-  if (box.icon() == QMessageBox::Question) icon = "question";
-  if (box.icon() == QMessageBox::Warning) icon = "exclamation";
-  if (box.icon() == QMessageBox::Information) icon = "information";
-  return std::string(icon) + "|" + toText(box.windowTitle()) + "|" + toText(box.text()) + "|" +
-         buttons;
+  return iconOf(box) + "|" + toText(box.windowTitle()) + "|" + toText(box.text()) + "|" + buttons;
 }
 
 void answerNext(const QString& button, std::string* seenBox) {

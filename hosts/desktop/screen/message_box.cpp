@@ -1,7 +1,9 @@
 #include "hosts/desktop/screen/message_box.h"
 
 #include <QPushButton>
+#include <QStyle>
 
+#include "hosts/desktop/faces/pictures.h"
 #include "hosts/desktop/faces/text.h"
 
 namespace awizo::desktop {
@@ -9,20 +11,28 @@ namespace {
 
 constexpr int longestText = 5000;
 
-QMessageBox::Icon iconOf(BoxIcon icon) {
+const char* pictureOf(BoxIcon icon) {
   switch (icon) {
     case BoxIcon::critical:
-      return QMessageBox::Critical;
+      return "critical";
     case BoxIcon::question:
-      return QMessageBox::Question;
+      return "question";
     case BoxIcon::exclamation:
-      return QMessageBox::Warning;
+      return "exclamation";
     case BoxIcon::information:
-      return QMessageBox::Information;
+      return "information";
     case BoxIcon::none:
       break;
   }
-  return QMessageBox::NoIcon;
+  return nullptr;
+}
+
+/// The icon is the program's own: a system without an icon theme has none.
+void showIcon(QMessageBox& window, BoxIcon icon) {
+  const char* picture = pictureOf(icon);
+  if (picture == nullptr) return;
+  const int side = window.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &window);
+  window.setIconPixmap(pictureNamed(picture).pixmap(QSize(side, side), window.devicePixelRatioF()));
 }
 
 }  // namespace
@@ -35,8 +45,9 @@ QString boxText(std::string_view text) {
 }
 
 Answer askUser(const MessageBox& box, QWidget* over) {
-  QMessageBox window(iconOf(box.icon), fromText(box.title), boxText(box.text),
+  QMessageBox window(QMessageBox::NoIcon, fromText(box.title), boxText(box.text),
                      QMessageBox::NoButton, over);
+  showIcon(window, box.icon);
   window.setTextFormat(Qt::PlainText);
   if (box.buttons == BoxButtons::ok) {
     QPushButton* ok = window.addButton("ОК", QMessageBox::AcceptRole);
