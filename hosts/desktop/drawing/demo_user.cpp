@@ -21,7 +21,8 @@ void DemoUser::during(const std::function<void()>& action, const std::function<v
 }
 
 void DemoUser::take(const std::string& name) {
-  QCoreApplication::processEvents();
+  // A layout that moves another asks for one more turn.
+  for (int turn = 0; turn < 5; ++turn) QCoreApplication::processEvents();
   QWidget* shown = QApplication::activeModalWidget();
   if (shown == nullptr) shown = widget_.window();
   const std::filesystem::path file = pictures_ / (name + ".png");
