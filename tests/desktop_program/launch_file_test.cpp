@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "support/programs/workplace.h"
 
 namespace awizo::desktop {
@@ -17,6 +19,16 @@ std::string refusalOf(const std::string& text) {
     return error.what();
   }
   return "(taken)";
+}
+
+TEST(LaunchFile, ThatBuildersOfPortalsAreShownIsTaken) {
+  const std::string guide =
+      test::readFile(std::filesystem::path(AWIZO_SOURCE_DIR) / "docs/integration.md");
+  const std::size_t start = guide.find("# Подтверждение отгрузки\npage-url=");
+  ASSERT_NE(start, std::string::npos);
+  const std::string shown = guide.substr(start, guide.find("```", start) - start);
+  EXPECT_EQ(refusalOf(shown), "(taken)");
+  EXPECT_EQ(parseLaunchFile(shown).properties.size(), 3U);
 }
 
 TEST(LaunchFile, TellsPageCookieAndProperties) {

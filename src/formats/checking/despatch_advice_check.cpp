@@ -70,6 +70,17 @@ class DespatchAdviceCheck {
     return all;
   }
 
+  /// The party named at the path, and who should be.
+  Finding foreignParty(std::string_view path, std::string_view who, const std::string& named,
+                       const std::string& expected) {
+    const std::string whole(path);
+    std::string text = "ILN " + std::string(who);
+    text += named.empty() ? " не указан" : " «" + named + "»";
+    if (!expected.empty()) text += ", а должен быть «" + expected + "»";
+    return {nearest(document_.within(), whole).line(), belowRoot(whole),
+            text + ": документ будет отвергнут"};
+  }
+
  private:
   Finding missing(const std::string& path) {
     return {nearest(document_.within(), path).line(), belowRoot(path),
@@ -95,49 +106,45 @@ class DespatchAdviceCheck {
   TracedDocument document_;
 };
 
-/// The document's own number of a party stands for an unknown one, so that it is accepted.
-std::string partyOf(XmlDocument& document, std::string_view path) {
-  return GetNodeValue(document.node(), path, true);
-}
-
-Finding foreignParty(XmlDocument& document, std::string_view path, std::string_view who,
-                     const std::string& expected) {
-  const std::string value = partyOf(document, path);
-  std::string text = "ILN " + std::string(who);
-  text += value.empty() ? " не указан" : " «" + value + "»";
-  if (!expected.empty()) text += ", а должен быть «" + expected + "»";
-  const std::string whole(path);
-  return {nearest(document, whole).line(), belowRoot(whole), text + ": документ будет отвергнут"};
+const std::string& knownOr(const std::string& known, const std::string& other) {
+  return known.empty() ? other : known;
 }
 
 }  // namespace
 
+ReaderIdentity intendedReader(XmlDocument& document) {
+  return {GetNodeValue(document.node(), sellerIlnPath, true),
+          GetNodeValue(document.node(), buyerIlnPath, true)};
+}
+
 std::vector<Finding> checkDespatchAdvice(const Platform& platform, std::string_view path,
-                                         XmlDocument& loaded, const ReaderIdentity& reader) {
-  std::vector<Finding> refusals;
-  ReaderIdentity own{partyOf(loaded, sellerIlnPath), partyOf(loaded, buyerIlnPath)};
-  ReaderIdentity expected{reader.sellerILN.empty() ? own.sellerILN : reader.sellerILN,
-                          reader.buyerILN.empty() ? own.buyerILN : reader.buyerILN};
-  if (expected.sellerILN.empty()) {
-    refusals.push_back(foreignParty(loaded, sellerIlnPath, "продавца", ""));
-  }
-  if (expected.buyerILN.empty()) {
-    refusals.push_back(foreignParty(loaded, buyerIlnPath, "покупателя", ""));
-  }
+                                         const ReaderIdentity& intended,
+                                         const ReaderIdentity& reader) {
+  // A party's number in the document stands for one that isn't known, so that it is accepted.
+  ReaderIdentity expected{knownOr(reader.sellerILN, intended.sellerILN),
+                          knownOr(reader.buyerILN, intended.buyerILN)};
+  const bool namesSeller = !expected.sellerILN.empty();
+  const bool namesBuyer = !expected.buyerILN.empty();
+  std::vector<Finding> findings;
   // Behind a refusal the rest is told as if it were none.
   while (true) {
     DespatchAdviceCheck check(platform);
     const ReadingResult result = check.read(path, expected);
-    if (result.outcome == ReadingOutcome::foreignSeller) {
-      refusals.push_back(foreignParty(loaded, sellerIlnPath, "продавца", expected.sellerILN));
-      expected.sellerILN = own.sellerILN;
-    } else if (result.outcome == ReadingOutcome::foreignBuyer) {
-      refusals.push_back(foreignParty(loaded, buyerIlnPath, "покупателя", expected.buyerILN));
-      expected.buyerILN = own.buyerILN;
-    } else {
-      append(refusals, check.findings(result));
-      return refusals;
+    const bool isLast = result.outcome != ReadingOutcome::foreignSeller &&
+                        result.outcome != ReadingOutcome::foreignBuyer;
+    if (result.outcome == ReadingOutcome::foreignSeller || (isLast && !namesSeller)) {
+      findings.push_back(
+          check.foreignParty(sellerIlnPath, "продавца", intended.sellerILN, expected.sellerILN));
+      expected.sellerILN = intended.sellerILN;
     }
+    if (result.outcome == ReadingOutcome::foreignBuyer || (isLast && !namesBuyer)) {
+      findings.push_back(
+          check.foreignParty(buyerIlnPath, "покупателя", intended.buyerILN, expected.buyerILN));
+      expected.buyerILN = intended.buyerILN;
+    }
+    if (!isLast) continue;
+    append(findings, check.findings(result));
+    return findings;
   }
 }
 

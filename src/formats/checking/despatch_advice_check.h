@@ -7,8 +7,12 @@
 
 namespace awizo {
 
-/// Findings in a despatch advice, in no order. `loaded` is what the file holds.
+/// Who may read the document by what it says itself.
+ReaderIdentity intendedReader(XmlDocument& document);
+
+/// Findings in the despatch advice of a file, in no order.
 std::vector<Finding> checkDespatchAdvice(const Platform& platform, std::string_view path,
-                                         XmlDocument& loaded, const ReaderIdentity& reader);
+                                         const ReaderIdentity& intended,
+                                         const ReaderIdentity& reader);
 
 }  // namespace awizo

@@ -23,7 +23,10 @@ std::vector<Finding> unordered(const Platform& platform, std::string_view path,
              "не XML, или файл здесь обрывается: документ будет отвергнут"}};
   }
   if (IsDespatchAdvice(*document)) {
-    return checkDespatchAdvice(platform, path, document->within(), reader);
+    const ReaderIdentity intended = intendedReader(document->within());
+    // The document is read anew; two large ones needn't be in memory together.
+    document.reset();
+    return checkDespatchAdvice(platform, path, intended, reader);
   }
   const XmlNode root = document->within().root();
   if (root.isElement("Document-Order")) return checkOrder(platform, std::move(document));
