@@ -143,6 +143,18 @@ TEST_P(CheckingADespatchAdvice, NumbersThatAreNoneStayAndMostFailTheLineCheck) {
                   "11|" + item + "TaxRate|«нет» не число, останется как есть"));
 }
 
+TEST_P(CheckingADespatchAdvice, AValueIsShownOnOneLineAndALongOneByItsStart) {
+  const std::string where =
+      "DespatchAdvice-Lines/Line/Line-Item/EAN|строка не пройдёт проверку: EAN ";
+  EXPECT_THAT(checkWith("4607000000116", "A\nB"), ElementsAre("11|" + where + "«AB» не число"));
+  std::string start;
+  for (int i = 0; i < 60; ++i) start += "Я";
+  EXPECT_THAT(checkWith("4607000000116", start),
+              ElementsAre("11|" + where + "«" + start + "» не число"));
+  EXPECT_THAT(checkWith("4607000000116", start + "Б"),
+              ElementsAre("11|" + where + "«" + start + "…» не число"));
+}
+
 TEST_P(CheckingADespatchAdvice, NumbersThatAreRoundedAreTold) {
   const std::string item = "DespatchAdvice-Lines/Line/Line-Item/";
   for (const char* number : {"1.2345", "1,2345"}) {

@@ -75,8 +75,8 @@ class DespatchAdviceCheck {
                        const std::string& expected) {
     const std::string whole(path);
     std::string text = "ILN " + std::string(who);
-    text += named.empty() ? " не указан" : " «" + named + "»";
-    if (!expected.empty()) text += ", а должен быть «" + expected + "»";
+    text += named.empty() ? " не указан" : " " + quoted(named);
+    if (!expected.empty()) text += ", а должен быть " + quoted(expected);
     return {nearest(document_.within(), whole).line(), belowRoot(whole),
             text + ": документ будет отвергнут"};
   }

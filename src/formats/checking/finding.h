@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace awizo {
 
@@ -11,5 +12,9 @@ struct Finding {
   std::string element;    ///< path below the document element; empty for the whole file
   std::string text;       ///< in Russian
 };
+
+/// A value in quotation marks, as a finding shows it: on one line, and only the start of a long
+/// one.
+std::string quoted(std::string_view value);
 
 }  // namespace awizo

@@ -56,7 +56,7 @@ void LineFindings::addFailure(const XmlNode& line, std::int16_t row, int column)
   const std::string& value = cell(row, column);
   const std::string text =
       "строка не пройдёт проверку: " +
-      (value.empty() ? "нет значения (" + name + ")" : name + " «" + value + "» не число");
+      (value.empty() ? "нет значения (" + name + ")" : name + " " + quoted(value) + " не число");
   const XmlNode node = valueOf(line, column);
   found_.push_back(map_.finding(node ? node : line, text));
 }
@@ -74,10 +74,10 @@ void LineFindings::addNumbers(const XmlNode& line, std::int16_t row, int failing
     const std::string& shown = cell(row, column);
     if (!node || shown.empty()) continue;
     if (!conversions.isNumeric(shown)) {
-      found_.push_back(map_.finding(node, "«" + shown + "» не число, останется как есть"));
+      found_.push_back(map_.finding(node, quoted(shown) + " не число, останется как есть"));
     } else if (exactText(conversions, node.text()) != exactText(conversions, shown)) {
       found_.push_back(
-          map_.finding(node, "«" + node.text() + "» будет прочитано как «" + shown + "»"));
+          map_.finding(node, quoted(node.text()) + " будет прочитано как " + quoted(shown)));
     }
   }
 }

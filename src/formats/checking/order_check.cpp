@@ -63,7 +63,7 @@ class OrderCheck {
         ++row;
         if (!lineElement(line)) {
           found.push_back(
-              {line.line(), ordersLines(), "«" + line.name() + "» не Line: строка будет пустой"});
+              {line.line(), ordersLines(), quoted(line.name()) + " не Line: строка будет пустой"});
         } else {
           rows.add(line, row);
         }
@@ -93,8 +93,8 @@ class OrderCheck {
     const std::string ean = orderValue(element, "Line-Item/EAN", Missing::blank);
     if (!canBeCompleted(*catalogue_, ean)) {
       found.push_back({line.line(), element ? map_.pathOf(line) : ordersLines(),
-                       "EAN «" + ean +
-                           "» нельзя искать в каталоге: с каталогом заказ не будет "
+                       "EAN " + quoted(ean) +
+                           " нельзя искать в каталоге: с каталогом заказ не будет "
                            "прочитан"});
     }
   }

@@ -28,14 +28,15 @@ std::vector<Finding> packageFindings(const DocumentMap& map) {
     if (!isOfPackage(place, "PackageId")) continue;
     const std::string serial = place.node.text();
     if (!serials.insert(serial).second) {
-      findings.push_back(map.finding(place.node, "упаковка «" + serial + "» уже есть"));
+      findings.push_back(map.finding(place.node, "упаковка " + quoted(serial) + " уже есть"));
     }
   }
   for (const DocumentMap::Place& place : map.places()) {
     if (place.kind == referenceKind || isOfPackage(place, "ParentId")) {
       const std::string serial = place.node.text();
       if (serials.contains(serial)) continue;
-      findings.push_back(map.finding(place.node, "упаковки «" + serial + "» в документе нет"));
+      findings.push_back(
+          map.finding(place.node, "упаковки " + quoted(serial) + " в документе нет"));
     } else if (isOfPackage(place, "SerialNumber")) {
       const std::string refusal = serialNumberRefusal(place.node.text());
       if (!refusal.empty()) findings.push_back(map.finding(place.node, refusal));
