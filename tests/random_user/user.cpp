@@ -24,14 +24,20 @@ std::string demoDocument(const std::string& name) {
   return text.substr(text.find("?>") + 2);
 }
 
-/// Whether a procedure that writes the tables may have been ended half-way. Errors of the platform
-/// are told in English, and all that the system itself says in a critical box is Russian. A
-/// document that can't be made, saved or sent leaves the tables alone.
-bool mayHaveBrokenTables(const MessageBox& box) {
-  for (const char* harmless : {"MakeDesAdv", "btnZapisz_Click", "SendXMLDOMRequest"}) {
-    if (box.title.find(harmless) != std::string::npos) return false;
+/// Whether a document couldn't be made, saved or sent or a disk failed, which leaves the tables
+/// alone.
+bool tellsOfFailure(const MessageBox& box) {
+  if (Outages::isDiskError(box.text)) return true;
+  for (const char* title : {"MakeDesAdv", "btnZapisz_Click", "SendXMLDOMRequest"}) {
+    if (box.title.find(title) != std::string::npos) return true;
   }
-  return box.icon == BoxIcon::critical &&
+  return false;
+}
+
+/// Whether a procedure that writes the tables may have been ended half-way. Errors of the platform
+/// are told in English, and all that the system itself says in a critical box is Russian.
+bool mayHaveBrokenTables(const MessageBox& box) {
+  return !tellsOfFailure(box) && box.icon == BoxIcon::critical &&
          std::none_of(box.text.begin(), box.text.end(), [](char c) { return (c & 0x80) != 0; });
 }
 
@@ -48,7 +54,7 @@ const std::vector<std::string> mainForm{
 }  // namespace
 
 RandomUser::RandomUser(Dice& dice, const Beginning& beginning)
-    : dice_(dice), desk_(beginning.localeName) {
+    : dice_(dice), desk_(beginning.localeName), withOutages_(beginning.outages) {
   prepare(beginning);
   desk_.start();
   desk_.files.putFolder("c:\\docs");
@@ -72,22 +78,41 @@ void RandomUser::prepare(const Beginning& beginning) {
   }
   desk_.preparePage();
   desk_.http.reply(TestControl::partnerInfo("ООО Покупатель"));
-  desk_.http.reply("<document-response><status>CHANGED</status><document-content>" +
-                   demoDocument("catalogue.xml") + "</document-content></document-response>");
-  desk_.http.reply("<dictionary-response><status>CHANGED</status><document-content>" +
-                   demoDocument("delivery-places.xml") +
-                   "</document-content></dictionary-response>");
-  desk_.http.reply("<receive-document-response><document-content>" + demoDocument("order.xml") +
-                   "</document-content></receive-document-response>");
+  prepareReply("<document-response><status>CHANGED</status><document-content>" +
+               demoDocument("catalogue.xml") + "</document-content></document-response>");
+  prepareReply("<dictionary-response><status>CHANGED</status><document-content>" +
+               demoDocument("delivery-places.xml") + "</document-content></dictionary-response>");
+  prepareReply("<receive-document-response><document-content>" + demoDocument("order.xml") +
+               "</document-content></receive-document-response>");
+}
+
+void RandomUser::prepareReply(const std::string& text) {
+  if (withOutages_ && dice_.percent(20)) return outages_.failRequest();
+  desk_.http.reply(text);
 }
 
 void RandomUser::act() {
+  if (withOutages_ && dice_.percent(10)) outages_.change();
+  if (withOutages_ && dice_.percent(10)) return keepDocument();
   Control* control = &anyControl(desk_.form);
   if (dice_.percent(85)) control = desk_.form.find(dice_.pick(mainForm));
   if (desk_.form.txtEdycja.visible() && dice_.percent(50)) control = &desk_.form.txtEdycja;
   // Reading a file ends what can be said about the tables, so it is rare.
   if (control == &desk_.form.btnWczytaj && dice_.percent(70)) control = &desk_.form.grdSuma;
   actOn(*control);
+  lookAround();
+}
+
+void RandomUser::keepDocument() {
+  for (TextField* field :
+       {&desk_.form.txtNrAwiza, &desk_.form.txtNrZam, &desk_.form.txtCodeByBuyer}) {
+    attempt("type 417 into " + field->name(), [&] { field->userType("417"); });
+  }
+  actOn(dice_.percent(50) ? static_cast<Control&>(desk_.form.btnZapisz) : desk_.form.btnPrzeslij);
+  lookAround();
+}
+
+void RandomUser::lookAround() {
   lookAtBoxes();
   lookAtDocuments();
   lowerTrust(desk_, trust_);
@@ -210,7 +235,7 @@ void RandomUser::actOnButton(Button& button) {
         "<send-document-response><submission-status>ERROR</submission-status>"
         "</send-document-response>",
         "<cut off", ""};
-    desk_.http.reply(dice_.pick(replies));
+    prepareReply(dice_.pick(replies));
   }
   if (&button == &desk_.form.btnWczytaj) trust_.tables = false;
   if (dice_.percent(5)) {
@@ -268,6 +293,7 @@ void RandomUser::attempt(const std::string& what, const std::function<void()>& a
 void RandomUser::lookAtBoxes() {
   for (const MessageBox& box : desk_.face.takeBoxes()) {
     history_.push_back("    " + describe(box));
+    if (tellsOfFailure(box)) ++failures_;
     if (mayHaveBrokenTables(box)) trust_.tables = false;
   }
 }

@@ -7,6 +7,7 @@
 
 #include "random_user/dice.h"
 #include "random_user/invariants.h"
+#include "random_user/outages.h"
 
 namespace awizo::test {
 
@@ -15,6 +16,7 @@ struct Beginning {
   std::string localeName = "ru_RU";
   bool onLine = false;
   bool logOpen = false;
+  bool outages = false;  ///< disks and service fail now and then once the control has started
 };
 
 /// A user who does anything that the forms let him do, by chance, on a control of his own.
@@ -32,10 +34,13 @@ class RandomUser {
   std::string history() const;
   int actions() const { return actions_; }
   int documents() const { return documents_; }
+  /// Boxes that told of a failed save or request.
+  int failures() const { return failures_; }
   int linesAndPackages() const { return desk_.session.LineCount + desk_.session.IloscPozycjiOpak; }
 
  private:
   void prepare(const Beginning& beginning);
+  void prepareReply(const std::string& text);
   void actOnModal(Form& form);
   void fillPlausibly(Form& form);
   void fillText(TextField& field);
@@ -49,18 +54,24 @@ class RandomUser {
   /// Does a thing that the form may refuse.
   void attempt(const std::string& what, const std::function<void()>& action);
   Control& anyControl(Form& form);
+  /// Completes the header and saves or sends, which takes long to happen by chance.
+  void keepDocument();
+  void lookAround();
   void lookAtBoxes();
   void lookAtDocuments();
   void requireDocument(const std::string& text, const std::string& where);
 
   Dice& dice_;
   TestControl desk_;
+  bool withOutages_;
+  Outages outages_{dice_, desk_};
   Trust trust_;
   std::vector<std::string> complaints_;
   std::deque<std::string> history_;
   std::size_t postedBefore_ = 0;
   int actions_ = 0;
   int documents_ = 0;
+  int failures_ = 0;
 };
 
 }  // namespace awizo::test

@@ -39,6 +39,10 @@ void raiseIfSet(const std::map<std::string, RunTimeError>& errors, const std::st
   if (const auto found = errors.find(path); found != errors.end()) throw found->second;
 }
 
+void raiseIfSet(const std::optional<RunTimeError>& error) {
+  if (error) throw *error;
+}
+
 }  // namespace
 
 class MemoryTextStream : public TextStream {
@@ -47,6 +51,7 @@ class MemoryTextStream : public TextStream {
 
   void writeLine(std::string_view bytes) override {
     if (!files_.lineErrors_.empty()) throw files_.lineErrors_.front();
+    raiseIfSet(files_.allWriteError_);
     std::string& text = files_.files_[path_];
     text += bytes;
     text += "\r\n";
@@ -83,6 +88,7 @@ void MemoryFiles::failWriting(std::string_view path, const RunTimeError& error) 
 
 std::string MemoryFiles::readAll(std::string_view path) {
   const std::string name = plain(path);
+  raiseIfSet(allReadError_);
   raiseIfSet(readErrors_, name);
   if (const auto found = files_.find(name); found != files_.end()) return found->second;
   throw folders_.contains(folderOf(name)) ? errors::fileNotFound() : errors::pathNotFound();
@@ -131,6 +137,7 @@ std::vector<std::string> MemoryFiles::files(std::string_view path, std::string_v
 }
 
 void MemoryFiles::requireWritable(const std::string& path) const {
+  raiseIfSet(allWriteError_);
   raiseIfSet(writeErrors_, path);
   if (path.empty()) throw errors::badFileName();
   if (!folders_.contains(folderOf(path))) throw errors::pathNotFound();
@@ -138,6 +145,7 @@ void MemoryFiles::requireWritable(const std::string& path) const {
 }
 
 void MemoryFiles::requireFolder(const std::string& path) const {
+  raiseIfSet(allReadError_);
   raiseIfSet(readErrors_, path);
   if (!path.starts_with("c:")) throw errors::deviceUnavailable();
   if (!folders_.contains(path)) throw errors::pathNotFound();

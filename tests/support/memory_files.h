@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -26,6 +27,9 @@ class MemoryFiles : public Files {
   void failReading(std::string_view path, const RunTimeError& error);
   /// From now on writing this file, or making this folder, raises the error; an old file stays.
   void failWriting(std::string_view path, const RunTimeError& error);
+  /// From now on all reading, or all writing and making, raises the error; none ends that.
+  void failAllReading(const std::optional<RunTimeError>& error) { allReadError_ = error; }
+  void failAllWriting(const std::optional<RunTimeError>& error) { allWriteError_ = error; }
   /// From now on every line written to an open text file raises the error.
   void failLines(const RunTimeError& error) { lineErrors_.assign(1, error); }
 
@@ -49,6 +53,8 @@ class MemoryFiles : public Files {
   std::map<std::string, RunTimeError> readErrors_;
   std::map<std::string, RunTimeError> writeErrors_;
   std::vector<RunTimeError> lineErrors_;
+  std::optional<RunTimeError> allReadError_;
+  std::optional<RunTimeError> allWriteError_;
 };
 
 }  // namespace awizo::test
