@@ -4,7 +4,7 @@
 
 #include "adapters/curl/curl_http.h"
 #include "platform/run_time_error.h"
-#include "tests/adapters_curl/raw_server.h"
+#include "support/servers/raw_server.h"
 
 namespace awizo {
 namespace {

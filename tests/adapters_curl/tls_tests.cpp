@@ -4,7 +4,7 @@
 
 #include "adapters/curl/curl_http.h"
 #include "platform/run_time_error.h"
-#include "tests/adapters_curl/tls_server.h"
+#include "support/servers/tls_server.h"
 
 namespace awizo {
 namespace {
@@ -19,6 +19,7 @@ std::string outcome(const std::string& url, const std::string& trustedCertificat
   CurlHttp http({{}, trustedCertificates});
   auto request = http.createRequest();
   request->open("POST", url);
+  request->setHeader("Cookie", "SID=1");
   try {
     request->send("<a/>");
     return request->responseText();
