@@ -18,6 +18,10 @@ namespace {
 /// ours has some hundred.
 constexpr std::size_t mostBytesOfNames = 256 * 1024;
 
+/// Elements, attributes and other nodes of a document together. A catalogue at the system's limits
+/// has some 900,000; without a limit, 100 MB of nothing but tags would take more than 3 GB.
+constexpr std::size_t mostNodes = 5'000'000;
+
 /// What one load knows beside libxml2's parser context; the context's `_private` points to it.
 struct Loading {
   /// libxml2 doesn't count what parameter entities cost that are made of one another.
@@ -28,12 +32,26 @@ struct Loading {
   /// Where that can't be known, blanks become nodes and the finished tree is swept as a whole.
   bool sweeps = false;
   int parameterEntities = 0;
+  std::size_t nodes = 0;
   bool refused = false;
 };
 
 xmlParserCtxt* contextOf(void* context) { return static_cast<xmlParserCtxt*>(context); }
 
 Loading& loadingOf(void* context) { return *static_cast<Loading*>(contextOf(context)->_private); }
+
+void refuse(void* context) {
+  loadingOf(context).refused = true;
+  contextOf(context)->wellFormed = 0;
+  contextOf(context)->disableSAX = 1;
+  contextOf(context)->instate = XML_PARSER_EOF;
+}
+
+void countNodes(void* context, std::size_t more) {
+  Loading& loading = loadingOf(context);
+  loading.nodes += more;
+  if (loading.nodes > mostNodes) refuse(context);
+}
 
 void writeHeldBlanks(void* context) {
   std::string& held = loadingOf(context).heldBlanks;
@@ -55,6 +73,7 @@ void onCharacters(void* context, const xmlChar* text, int length) {
     }
   }
   writeHeldBlanks(context);
+  countNodes(context, 1);
   xmlSAX2Characters(context, text, length);
 }
 
@@ -62,6 +81,7 @@ void onStartElement(void* context, const xmlChar* name, const xmlChar* prefix, c
                     int namespaceCount, const xmlChar** namespaces, int attributeCount,
                     int defaultedCount, const xmlChar** attributes) {
   loadingOf(context).heldBlanks.clear();
+  countNodes(context, 1 + static_cast<std::size_t>(attributeCount + namespaceCount));
   xmlSAX2StartElementNs(context, name, prefix, uri, namespaceCount, namespaces, attributeCount,
                         defaultedCount, attributes);
 }
@@ -75,11 +95,13 @@ void onEndElement(void* context, const xmlChar* name, const xmlChar* prefix, con
 
 void onComment(void* context, const xmlChar* text) {
   loadingOf(context).heldBlanks.clear();
+  countNodes(context, 1);
   xmlSAX2Comment(context, text);
 }
 
 void onInstruction(void* context, const xmlChar* target, const xmlChar* data) {
   loadingOf(context).heldBlanks.clear();
+  countNodes(context, 1);
   xmlSAX2ProcessingInstruction(context, target, data);
 }
 
@@ -95,13 +117,8 @@ void onCData(void* context, const xmlChar* text, int length) {
   // Without the blanks between them the two sections would become one.
   if (parts) sweepLater(context);
   loadingOf(context).heldBlanks.clear();
+  countNodes(context, 1);
   xmlSAX2CDataBlock(context, text, length);
-}
-
-void refuse(void* context) {
-  loadingOf(context).refused = true;
-  contextOf(context)->wellFormed = 0;
-  contextOf(context)->disableSAX = 1;
 }
 
 /// Only what the document itself declares may be referred to.

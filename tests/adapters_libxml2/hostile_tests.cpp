@@ -206,6 +206,26 @@ TEST(Sizes, AHundredMegabytesOfNonsenseAreRefused) {
   expectRefusedWithinBounds("<a><!--" + std::string(100'000'000, 'x') + "--></a>");
 }
 
+TEST(Sizes, AHundredMegabytesOfNothingButTagsAreRefused) {
+  const auto repeated = [](const std::string& piece) {
+    std::string text = "<a>";
+    while (text.size() < 100'000'000) text += piece;
+    return text + "</a>";
+  };
+  expectRefusedWithinBounds(repeated("<b/>"));
+  expectRefusedWithinBounds(repeated("<b>x</b>"));
+  expectRefusedWithinBounds(repeated("<b c='' d=''/>"));
+  expectRefusedWithinBounds(repeated("<!---->"));
+  expectRefusedWithinBounds(repeated("<?p?>"));
+  expectRefusedWithinBounds(repeated("x<![CDATA[y]]>"));
+}
+
+TEST(Sizes, AMillionElementsAreFine) {
+  std::string text = "<a>";
+  for (int i = 0; i < 1'000'000; ++i) text += "<b>x</b>";
+  EXPECT_TRUE(Libxml2().createDocument()->loadText(text + "</a>"));
+}
+
 TEST(Sizes, OneTextOfAHundredMegabytesDoesNoHarm) {
   expectAnyOutcomeWithinBounds("<a>" + std::string(100'000'000, 'x') + "</a>");
   expectAnyOutcomeWithinBounds("<a>" + std::string(100'000'000, ' ') + "x</a>");
