@@ -99,7 +99,9 @@ class Inspection {
     }
   }
 
-  // Removing a package takes its references, so a line refers only to packages that are there.
+  // Removing a package takes its references, so a line refers only to packages that are there. The
+  // list from which an assignment is changed may be older than that: its last row can have become
+  // one without a serial.
   void checkReferences(const std::map<std::string, int>& levels) {
     const Table& lines = desk_.form.grdPozycje;
     for (int row = 1; row <= desk_.session.LineCount; ++row) {
@@ -107,7 +109,7 @@ class Inspection {
       std::size_t start = 0;
       while (start < text.size()) {
         const std::string serial = text.substr(start, text.find('@', start) - start);
-        require(serial != "1" && levels.contains(serial),
+        require(serial.empty() || (serial != "1" && levels.contains(serial)),
                 "line " + std::to_string(row) + " lies in package '" + serial + "'");
         const std::size_t end = text.find('$', start);
         start = end == text.npos ? text.size() : end + 1;
