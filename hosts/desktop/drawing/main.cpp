@@ -1,5 +1,5 @@
 // Draws the main window and every dialog, filled with the demo's data, into PNG files.
-// usage: awizo-pictures FOLDER [--dark] [--size WIDTHxHEIGHT]
+// usage: awizo-pictures FOLDER [--dark] [--size WIDTHxHEIGHT] [--font POINTS]
 
 #include <QApplication>
 #include <QDir>
@@ -20,6 +20,9 @@ namespace {
 // Nothing includes a program's own file. NOLINTNEXTLINE(google-build-using-namespace)
 using namespace awizo;
 namespace fs = std::filesystem;
+
+constexpr const char* usage =
+    "usage: awizo-pictures FOLDER [--dark] [--size WIDTHxHEIGHT] [--font POINTS]\n";
 
 QPalette darkPalette() {
   QPalette palette(QColor(45, 48, 52));
@@ -88,6 +91,21 @@ void draw(const fs::path& pictures, const QSize& size) {
   QApplication::exec();
 }
 
+/// Takes the option and its value out of the arguments; empty where it isn't given.
+QString takeOption(QStringList& given, const QString& name) {
+  const auto at = given.indexOf(name);
+  if (at < 0 || at + 1 >= given.size()) return {};
+  const QString value = given[at + 1];
+  given.remove(at, 2);
+  return value;
+}
+
+void useFont(double points) {
+  QFont font = QApplication::font();
+  font.setPointSizeF(points);
+  QApplication::setFont(font);
+}
+
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
@@ -97,14 +115,12 @@ int main(int argumentCount, char** arguments) {
   QLocale::setDefault(desktop::localeNamed("ru_RU"));
   QStringList given = QApplication::arguments().mid(1);
   if (given.removeAll("--dark") > 0) QApplication::setPalette(darkPalette());
-  QSize size(1024, 700);
-  if (const auto at = given.indexOf("--size"); at >= 0 && at + 1 < given.size()) {
-    const QStringList sides = given[at + 1].split('x');
-    size = QSize(sides.value(0).toInt(), sides.value(1).toInt());
-    given.remove(at, 2);
-  }
+  const QStringList sides = takeOption(given, "--size").split('x');
+  const QSize size =
+      sides.size() == 2 ? QSize(sides[0].toInt(), sides[1].toInt()) : QSize(1024, 700);
+  if (const double points = takeOption(given, "--font").toDouble(); points > 0) useFont(points);
   if (given.size() != 1) {
-    std::cerr << "usage: awizo-pictures FOLDER [--dark] [--size WIDTHxHEIGHT]\n";
+    std::cerr << usage;
     return 2;
   }
   const fs::path pictures = given.front().toStdString();
