@@ -205,6 +205,21 @@ TEST_F(TableOnDesktop, APinkCellHasADarkText) {
   EXPECT_FALSE(cell.data(Qt::BackgroundRole).isValid()) << "white is the scheme's own";
 }
 
+TEST_F(TableOnDesktop, TheMarkIsPaleWhileKeysGoElsewhere) {
+  const auto markedColour = [this] {
+    settle();
+    const QRect cell = view()->visualRect(view()->currentIndex());
+    return view()->viewport()->grab().toImage().pixelColor(cell.bottomRight() - QPoint(4, 4));
+  };
+  clickCell(2, 1);
+  const QColor withFocus = markedColour();
+  click(faceOf(field));
+  const QColor without = markedColour();
+  const QColor base = view()->palette().color(QPalette::Base);
+  EXPECT_GT(without.lightness(), withFocus.lightness() + 30) << "on the light scheme";
+  EXPECT_LT(without.lightness(), base.lightness());
+}
+
 TEST_F(TableOnDesktop, AlignsAndEmboldensAsTheModelSays) {
   table.setLook(1, 0, {white, Alignment::right, true, false});
   const QModelIndex cell = view()->model()->index(0, 0);

@@ -18,6 +18,19 @@ class TableView : public QTableView {
   using QTableView::QTableView;
 
  protected:
+  // What is marked in a table that keys don't go to is pale.
+  void initViewItemOption(QStyleOptionViewItem* option) const override {
+    QTableView::initViewItemOption(option);
+    if (hasFocus() || !isEnabled()) return;
+    const QPalette& colours = palette();
+    const QColor base = colours.color(QPalette::Base);
+    const QColor mark = colours.color(QPalette::Highlight);
+    const auto between = [](int one, int other) { return (7 * one + 3 * other) / 10; };
+    option->palette.setColor(QPalette::Highlight, QColor(between(base.red(), mark.red()),
+                                                         between(base.green(), mark.green()),
+                                                         between(base.blue(), mark.blue())));
+    option->palette.setColor(QPalette::HighlightedText, colours.color(QPalette::Text));
+  }
   void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
   void mousePressEvent(QMouseEvent*) override {}
   void mouseMoveEvent(QMouseEvent*) override {}
