@@ -102,5 +102,27 @@ TEST_F(StartTest, AgainBeginsAFreshSession) {
   EXPECT_EQ(form().focus(), &form().txtNrAwiza);
 }
 
+TEST_F(StartTest, TwoCopiesWorkInOneFolderAndKeepIt) {
+  const DemoService service(place.posted());
+  agreeTo(service);
+  open(onLineOptions(service));
+  bool started = false;
+  {
+    desktop::MainWindow other(onLineOptions(service));
+    QObject::connect(&other.widget(), &desktop::AwizoWysylkiWidget::startEnded,
+                     [&] { started = true; });
+    other.show();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return started; }, 30000));
+    EXPECT_TRUE(other.widget().control().form.enabled());
+    // The one order there is went to the copy that came first.
+    EXPECT_EQ(other.widget().control().form.txtNrZam.text(), "");
+  }
+  EXPECT_EQ(form().txtNrZam.text(), "ЗК-2026/1147");
+  Options third = offLineOptions();
+  third.offLinePath.reset();
+  open(third);
+  EXPECT_TRUE(form().enabled()) << "the folder is still set, and its files are whole";
+}
+
 }  // namespace
 }  // namespace awizo::test

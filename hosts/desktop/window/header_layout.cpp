@@ -89,6 +89,11 @@ QLabel* caption(const std::string& text) {
   auto* label = new QLabel(fromText(text));
   label->setTextFormat(Qt::PlainText);
   label->setForegroundRole(QPalette::PlaceholderText);
+  // Qt has no paler colour of this role for a disabled form: it would stand out there.
+  QPalette colours;
+  colours.setColor(QPalette::Disabled, QPalette::PlaceholderText,
+                   label->palette().color(QPalette::Disabled, QPalette::WindowText));
+  label->setPalette(colours);
   return label;
 }
 
