@@ -1,12 +1,11 @@
 #include "fuzz/fuzzed_control.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <map>
 
 #include "formats/despatch_advice_writer.h"
 #include "fuzz/targets.h"
+#include "support/files/files.h"
 
 namespace awizo::fuzz {
 
@@ -54,9 +53,7 @@ const std::string& FuzzedControl::sample(const std::string& name) {
   static std::map<std::string, std::string> read;
   std::string& bytes = read[name];
   if (bytes.empty()) {
-    std::ifstream file(std::string(AWIZO_SOURCE_DIR) + "/samples/" + name, std::ios::binary);
-    bytes.assign(std::istreambuf_iterator<char>(file), {});
-    require(!bytes.empty(), "the samples are there");
+    bytes = test::projectFile("samples/" + name);
   }
   return bytes;
 }

@@ -12,6 +12,7 @@
 #include "benchmarks/support/full_size.h"
 #include "hosts/common/surroundings.h"
 #include "hosts/desktop/program/addresses.h"
+#include "support/files/files.h"
 #include "support/programs/demo_service.h"
 #include "support/programs/workplace.h"
 
@@ -33,7 +34,7 @@ class FullSizeService {
   FullSizeService() {
     fs::create_directories(data_);
     for (const char* name : {"partner-info.xml", "delivery-places.xml"}) {
-      fs::copy_file(fs::path(AWIZO_SOURCE_DIR) / "demo/data" / name, data_ / name);
+      fs::copy_file(test::projectFolder() / "demo/data" / name, data_ / name);
     }
     const std::string goods = catalogue(mostCatalogueLines);
     const std::string reply = orderReply(mostOrderLines, mostCatalogueLines);

@@ -4,7 +4,8 @@
 #include <csignal>
 
 #include "adapters/posix/posix_files.h"
-#include "tests/adapters_posix/temporary_folder.h"
+#include "support/files/temporary_folder.h"
+#include "tests/adapters_posix/ordinary_user.h"
 
 namespace awizo {
 namespace {

@@ -1,7 +1,10 @@
 #include <sys/stat.h>
 
+#include <fstream>
+
 #include "adapters/posix/settings_stores.h"
-#include "tests/adapters_posix/temporary_folder.h"
+#include "support/files/temporary_folder.h"
+#include "tests/adapters_posix/ordinary_user.h"
 
 namespace awizo {
 namespace {

@@ -8,6 +8,7 @@
 
 #include "demo/running_service.h"
 #include "demo/xml_file.h"
+#include "support/files/files.h"
 
 namespace awizo::demo {
 namespace {
@@ -160,9 +161,9 @@ TEST(LocalFolder, HoldsTheSellerAndWhatTheServiceSaysOfTheBuyer) {
     const XmlFile user = XmlFile::read(folder + "/userinfo.xml");
     EXPECT_EQ(user.text("/*/partner-info/info/iln"), sellerIln);
     EXPECT_EQ(user.text("/*/partner-info/info/name"), "ООО «Товары каждый день»");
-    EXPECT_EQ(fileContent(std::filesystem::path(AWIZO_SOURCE_DIR) / folder /
-                          (std::string(sellerIln) + "_" + buyerIln + "_partner_INFO.xml")),
-              fileContent(AWIZO_SOURCE_DIR "/demo/data/partner-info.xml"));
+    EXPECT_EQ(test::readFile(test::projectFolder() / folder /
+                             (std::string(sellerIln) + "_" + buyerIln + "_partner_INFO.xml")),
+              test::projectFile("demo/data/partner-info.xml"));
   }
   EXPECT_THAT(sellerIln, testing::Truly(hasCheckDigit));
   EXPECT_THAT(buyerIln, testing::Truly(hasCheckDigit));
@@ -197,7 +198,7 @@ TEST(SampleDespatchAdvice, InWindows1251IsTheSameDocument) {
   const XmlFile one = XmlFile::read("samples/despatch-advice.xml");
   const XmlFile other = XmlFile::read("samples/despatch-advice-windows-1251.xml");
   EXPECT_EQ(other.texts("//*"), one.texts("//*"));
-  EXPECT_THAT(fileContent(AWIZO_SOURCE_DIR "/samples/despatch-advice-windows-1251.xml"),
+  EXPECT_THAT(test::projectFile("samples/despatch-advice-windows-1251.xml"),
               testing::StartsWith("<?xml version=\"1.0\" encoding=\"windows-1251\"?>"));
 }
 

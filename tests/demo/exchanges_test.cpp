@@ -5,6 +5,7 @@
 
 #include "demo/running_service.h"
 #include "demo/xml_file.h"
+#include "support/files/files.h"
 
 namespace awizo::demo {
 namespace {
@@ -122,18 +123,18 @@ TEST(PostedDocument, IsKeptByteForByteAndAnsweredOk) {
       "<Document-DespatchAdvice>\r\n <a>Ж&amp;</a></Document-DespatchAdvice>";
   EXPECT_EQ(statusOf(service.post(uploadPath, advice)), "OK");
   ASSERT_THAT(service.postedFiles(), ElementsAre("despatch-advice-0001.xml"));
-  EXPECT_EQ(fileContent(service.postedFolder() / "despatch-advice-0001.xml"), advice);
+  EXPECT_EQ(test::readFile(service.postedFolder() / "despatch-advice-0001.xml"), advice);
 }
 
 TEST(PostedDocument, LeavesEarlierOnesAlone) {
   const RunningService service;
   std::filesystem::create_directory(service.postedFolder());
-  writeFile(service.postedFolder() / "despatch-advice-0001.xml", "earlier");
+  test::writeFile(service.postedFolder() / "despatch-advice-0001.xml", "earlier");
   EXPECT_EQ(statusOf(service.post(uploadPath, "<a/>")), "OK");
   EXPECT_EQ(statusOf(service.post(uploadPath, "<b/>")), "OK");
-  EXPECT_EQ(fileContent(service.postedFolder() / "despatch-advice-0001.xml"), "earlier");
-  EXPECT_EQ(fileContent(service.postedFolder() / "despatch-advice-0002.xml"), "<a/>");
-  EXPECT_EQ(fileContent(service.postedFolder() / "despatch-advice-0003.xml"), "<b/>");
+  EXPECT_EQ(test::readFile(service.postedFolder() / "despatch-advice-0001.xml"), "earlier");
+  EXPECT_EQ(test::readFile(service.postedFolder() / "despatch-advice-0002.xml"), "<a/>");
+  EXPECT_EQ(test::readFile(service.postedFolder() / "despatch-advice-0003.xml"), "<b/>");
 }
 
 TEST(PostedDocument, ThatIsNotWellFormedIsRefusedWithItsLine) {
@@ -160,7 +161,7 @@ TEST(PostedDocument, ThatIsAMillionLevelsDeepIsRefused) {
 
 TEST(PostedDocument, ThatCannotBeStoredIsRefused) {
   const RunningService service;
-  writeFile(service.postedFolder(), "a file stands where the folder should be");
+  test::writeFile(service.postedFolder(), "a file stands where the folder should be");
   EXPECT_EQ(statusOf(service.post(uploadPath, "<a/>")),
             "Документ не принят: его не удалось сохранить.");
 }
@@ -202,11 +203,12 @@ TEST(Service, NeedsNoCookieAndTellsWhatItGot) {
 }
 
 TEST(Service, ServesWhatLiesInAnotherDataFolder) {
-  const TemporaryFolder data;
-  writeFile(data.path() / "partner-info.xml",
-            "<partner-info-response><partner-info><info><iln>42</iln><name>N</name></info>"
-            "</partner-info></partner-info-response>");
-  writeFile(data.path() / "order.xml", "\xEF\xBB\xBF<?xml version=\"1.0\"?>\n<Document-Order/>");
+  const test::TemporaryFolder data;
+  test::writeFile(data.path() / "partner-info.xml",
+                  "<partner-info-response><partner-info><info><iln>42</iln><name>N</name></info>"
+                  "</partner-info></partner-info-response>");
+  test::writeFile(data.path() / "order.xml",
+                  "\xEF\xBB\xBF<?xml version=\"1.0\"?>\n<Document-Order/>");
   const RunningService service({"--data", data.path().string()});
   EXPECT_THAT(service
                   .post(partnerInfoPath,
@@ -219,10 +221,10 @@ TEST(Service, ServesWhatLiesInAnotherDataFolder) {
 }
 
 TEST(Service, WithoutACatalogueAnswersWithAnError) {
-  const TemporaryFolder data;
-  writeFile(data.path() / "partner-info.xml",
-            "<partner-info-response><partner-info><info><iln>9520002000019</iln></info>"
-            "</partner-info></partner-info-response>");
+  const test::TemporaryFolder data;
+  test::writeFile(data.path() / "partner-info.xml",
+                  "<partner-info-response><partner-info><info><iln>9520002000019</iln></info>"
+                  "</partner-info></partner-info-response>");
   const RunningService service({"--data", data.path().string()});
   EXPECT_THAT(service.post(cataloguePath, catalogueRequest).body,
               HasSubstr("<status>ERROR</status><description>Каталога нет</description>"));
@@ -231,12 +233,12 @@ TEST(Service, WithoutACatalogueAnswersWithAnError) {
 }
 
 TEST(Service, HandsOutACatalogueOfManyMegabytesWhole) {
-  const TemporaryFolder data;
-  std::filesystem::copy(AWIZO_SOURCE_DIR "/demo/data", data.path(),
+  const test::TemporaryFolder data;
+  std::filesystem::copy(test::projectFolder() / "demo/data", data.path(),
                         std::filesystem::copy_options::recursive);
   const std::string big =
       "<Document-ProductCatalogue>" + std::string(20'000'000, 'x') + "</Document-ProductCatalogue>";
-  writeFile(data.path() / "catalogue.xml", big);
+  test::writeFile(data.path() / "catalogue.xml", big);
   const RunningService service({"--data", data.path().string()});
   const auto reply = service.post(cataloguePath, catalogueRequest);
   EXPECT_TRUE(reply.body.find(big) != std::string::npos);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/files/files.h"
+
 namespace awizo::demo {
 namespace {
 
@@ -17,8 +19,8 @@ std::string complaintAbout(const std::vector<std::string>& arguments) {
 TEST(Options, HaveDefaults) {
   const Options options = parseOptions({});
   EXPECT_EQ(options.port, 0);
-  EXPECT_EQ(options.dataFolder, AWIZO_SOURCE_DIR "/demo/data");
-  EXPECT_EQ(options.pageFolder, AWIZO_SOURCE_DIR "/demo/page");
+  EXPECT_EQ(options.dataFolder, test::projectFolder() / "demo/data");
+  EXPECT_EQ(options.pageFolder, test::projectFolder() / "demo/page");
   EXPECT_EQ(options.postedFolder, "posted");
   EXPECT_TRUE(options.faults.empty());
   EXPECT_FALSE(options.help);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "demo/demo_service.h"
+#include "support/files/temporary_folder.h"
 
 namespace awizo::demo {
 
@@ -27,22 +28,6 @@ inline constexpr const char* placesRequest =
     "<version>VIRDV0R0</version><date-from/></dictionary-request>";
 inline constexpr const char* orderRequest =
     "<order-request><deleteafter>true</deleteafter></order-request>";
-
-// An empty folder of its own, removed at the end.
-class TemporaryFolder {
- public:
-  TemporaryFolder();
-  ~TemporaryFolder();
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  const std::filesystem::path& path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
-
-std::string fileContent(const std::filesystem::path& path);
-void writeFile(const std::filesystem::path& path, const std::string& content);
 
 // A service on a free port, and a client of it.
 class RunningService {
@@ -71,7 +56,7 @@ class RunningService {
  private:
   Options optionsFrom(std::vector<std::string> arguments) const;
 
-  TemporaryFolder temporary_;
+  test::TemporaryFolder temporary_;
   DemoService service_;
 };
 

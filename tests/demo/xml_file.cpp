@@ -5,6 +5,8 @@
 
 #include <stdexcept>
 
+#include "support/files/files.h"
+
 namespace awizo::demo {
 
 namespace {
@@ -18,7 +20,7 @@ XmlFile::XmlFile(_xmlDoc* document) : document_(document, &xmlFreeDoc) {
 }
 
 XmlFile XmlFile::read(const std::string& name) {
-  return XmlFile(xmlReadFile((AWIZO_SOURCE_DIR "/" + name).c_str(), nullptr, quiet));
+  return XmlFile(xmlReadFile((test::projectFolder() / name).c_str(), nullptr, quiet));
 }
 
 XmlFile XmlFile::parse(const std::string& text) {

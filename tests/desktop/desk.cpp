@@ -1,24 +1,18 @@
 #include "desk.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QMessageBox>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "hosts/desktop/faces/table_face.h"
+#include "support/files/files.h"
 #include "tables/columns.h"
 
 namespace awizo::test {
 namespace {
 
 constexpr int patienceMilliseconds = 10000;
-
-std::string contentOf(const std::string& path) {
-  QFile file(QString::fromStdString(std::string(AWIZO_SOURCE_DIR) + "/" + path));
-  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path;
-  return file.readAll().toStdString();
-}
 
 }  // namespace
 
@@ -29,9 +23,9 @@ Desk::Desk(std::string_view localeName)
       session(deskPlatform),
       control(deskPlatform, session) {
   settings.values["VIRD\\VirdActiveX\\OffLinePath"] = "c:\\VIRD";
-  files.put("c:\\VIRD\\userinfo.xml", contentOf("demo/folder/userinfo.xml"));
+  files.put("c:\\VIRD\\userinfo.xml", projectFile("demo/folder/userinfo.xml"));
   files.put("c:\\VIRD\\9520001000010_9520002000019_partner_INFO.xml",
-            contentOf("demo/folder/9520001000010_9520002000019_partner_INFO.xml"));
+            projectFile("demo/folder/9520001000010_9520002000019_partner_INFO.xml"));
   bag.values["PartnerILN"] = "9520002000019";
   bag.values["OnLine"] = "Off";
 
@@ -86,9 +80,9 @@ testing::AssertionResult Desk::keysGoTo(const Control& shown) {
 }
 
 void Desk::loadCatalogues() {
-  ASSERT_TRUE(session.ProductCatalogDom->loadText(contentOf("demo/data/catalogue.xml")));
+  ASSERT_TRUE(session.ProductCatalogDom->loadText(projectFile("demo/data/catalogue.xml")));
   session.ProductCatalogLoaded = true;
-  std::string places = contentOf("demo/data/delivery-places.xml");
+  std::string places = projectFile("demo/data/delivery-places.xml");
   places.erase(0, places.find("<Document-LocalizationsCatalog>"));
   ASSERT_TRUE(session.LocalizationsDom->loadText("<dictionary-response><document-content>" +
                                                  places +

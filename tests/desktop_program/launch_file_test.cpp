@@ -5,6 +5,7 @@
 
 #include <filesystem>
 
+#include "support/files/files.h"
 #include "support/programs/workplace.h"
 
 namespace awizo::desktop {
@@ -22,8 +23,7 @@ std::string refusalOf(const std::string& text) {
 }
 
 TEST(LaunchFile, ThatBuildersOfPortalsAreShownIsTaken) {
-  const std::string guide =
-      test::readFile(std::filesystem::path(AWIZO_SOURCE_DIR) / "docs/integration.md");
+  const std::string guide = test::projectFile("docs/integration.md");
   const std::size_t start = guide.find("# Подтверждение отгрузки\npage-url=");
   ASSERT_NE(start, std::string::npos);
   const std::string shown = guide.substr(start, guide.find("```", start) - start);

@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "end_to_end/supplier.h"
+#include "support/files/files.h"
 
 namespace awizo::test {
 namespace {
@@ -40,8 +41,8 @@ class CheckTest : public testing::TestWithParam<const char*> {
   }
 
   const Supplier supplier;
-  const fs::path samples = fs::path(AWIZO_SOURCE_DIR) / "samples";
-  const fs::path demo = fs::path(AWIZO_SOURCE_DIR) / "demo";
+  const fs::path samples = projectFolder() / "samples";
+  const fs::path demo = projectFolder() / "demo";
 };
 
 INSTANTIATE_TEST_SUITE_P(BothLocales, CheckTest, testing::Values("ru_RU", "en_US"));

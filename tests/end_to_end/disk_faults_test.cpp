@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "end_to_end/supplier.h"
+#include "support/files/files.h"
 
 namespace awizo::test {
 namespace {

@@ -7,6 +7,7 @@
 #include <filesystem>
 
 #include "end_to_end/supplier.h"
+#include "support/files/files.h"
 #include "support/schemas/schema.h"
 
 namespace awizo::test {
@@ -18,7 +19,7 @@ using testing::IsEmpty;
 
 /// The XML examples of the page: request and reply of each exchange in turn.
 std::vector<std::string> examples() {
-  const std::string page = readFile(fs::path(AWIZO_SOURCE_DIR) / "docs/integration.md");
+  const std::string page = projectFile("docs/integration.md");
   const std::string open = "```xml\n";
   std::vector<std::string> found;
   for (std::size_t at = page.find(open); at != std::string::npos; at = page.find(open, at)) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "end_to_end/supplier.h"
+#include "support/files/files.h"
 #include "support/schemas/schema.h"
 
 namespace awizo::test {

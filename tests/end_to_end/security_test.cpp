@@ -10,6 +10,7 @@
 
 #include "end_to_end/supplier.h"
 #include "platform/run_time_error.h"
+#include "support/files/files.h"
 #include "support/servers/tls_server.h"
 
 namespace awizo::test {

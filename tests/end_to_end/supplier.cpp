@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "support/files/files.h"
 #include "support/schemas/schema.h"
 
 namespace awizo::test {

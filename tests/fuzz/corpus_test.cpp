@@ -5,23 +5,17 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include "fuzz/targets.h"
+#include "support/files/files.h"
 
 namespace awizo::fuzz {
 namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path project = AWIZO_SOURCE_DIR;
-
-std::string bytesOf(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
+using test::projectFolder;
 
 class Corpus : public testing::TestWithParam<NamedTarget> {
  protected:
@@ -33,7 +27,7 @@ class Corpus : public testing::TestWithParam<NamedTarget> {
     int files = 0;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
       SCOPED_TRACE(entry.path());
-      GetParam().run(bytesOf(entry));
+      GetParam().run(test::readFile(entry));
       ++files;
     }
     return files;
@@ -46,10 +40,12 @@ INSTANTIATE_TEST_SUITE_P(Targets, Corpus, testing::ValuesIn(targets), [](const a
   return name;
 });
 
-TEST_P(Corpus, BreaksNoPromise) { EXPECT_GT(give(project / "fuzz/corpus" / GetParam().name), 0); }
+TEST_P(Corpus, BreaksNoPromise) {
+  EXPECT_GT(give(projectFolder() / "fuzz/corpus" / GetParam().name), 0);
+}
 
 TEST_P(Corpus, SamplesBreakNoPromiseWhateverTheyAreTakenFor) {
-  EXPECT_GT(give(project / "samples"), 0);
+  EXPECT_GT(give(projectFolder() / "samples"), 0);
 }
 
 TEST(BrokenPromise, EndsTheProgramWithAWord) {

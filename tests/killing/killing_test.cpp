@@ -13,6 +13,7 @@
 
 #include "killing/folder_watch.h"
 #include "killing/prepared_editor.h"
+#include "support/files/files.h"
 
 namespace awizo::test {
 namespace {

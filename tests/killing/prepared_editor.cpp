@@ -8,6 +8,7 @@
 
 #include "hosts/headless/headless_program.h"
 #include "packagedialog/dlg_szczegoly.h"
+#include "support/files/files.h"
 
 namespace awizo::test {
 

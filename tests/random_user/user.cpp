@@ -1,14 +1,13 @@
 #include "random_user/user.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 
 #include "platform/forms/file_lists.h"
 #include "platform/forms/keys.h"
 #include "platform/forms/pickers.h"
 #include "platform/forms/spin_buttons.h"
 #include "random_user/texts.h"
+#include "support/files/files.h"
 #include "support/schemas/schema.h"
 
 namespace awizo::test {
@@ -20,8 +19,7 @@ const std::string accepted =
     "<send-document-response><submission-status>OK</submission-status></send-document-response>";
 
 std::string demoDocument(const std::string& name) {
-  std::ifstream file(std::string(AWIZO_SOURCE_DIR) + "/demo/data/" + name, std::ios::binary);
-  std::string text{std::istreambuf_iterator<char>(file), {}};
+  const std::string text = projectFile("demo/data/" + name);
   return text.substr(text.find("?>") + 2);
 }
 

@@ -6,8 +6,9 @@
 #include <filesystem>
 #include <set>
 
-#include "schemas/files.h"
+#include "support/files/files.h"
 #include "support/schemas/schema.h"
+#include "tests/schemas/with.h"
 
 namespace awizo::test {
 namespace {
@@ -56,7 +57,7 @@ TEST_P(SampleTest, FitsItsSchema) {
 TEST(Samples, AreAllHeldAgainstASchema) {
   std::set<std::string> checked;
   for (const Fitting& fitting : fittings) checked.insert(fitting.file);
-  const std::filesystem::path root = AWIZO_SOURCE_DIR;
+  const std::filesystem::path root = projectFolder();
   for (const char* folder : {"samples", "demo/data", "demo/folder"}) {
     for (const auto& entry : std::filesystem::directory_iterator(root / folder)) {
       if (entry.path().extension() != ".xml") continue;

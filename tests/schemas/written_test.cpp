@@ -5,8 +5,8 @@
 
 #include "demo/replies.h"
 #include "formats/despatch_advice_writer.h"
-#include "schemas/files.h"
 #include "service/exchanges.h"
+#include "support/files/files.h"
 #include "support/schemas/schema.h"
 #include "support/test_editor.h"
 #include "tables/columns.h"
@@ -131,7 +131,7 @@ TEST(WrittenRequests, Fit) {
 TEST(RepliesOfTheDemoService, Fit) {
   const TestSurroundings around;
   const Schema schema("exchanges");
-  demo::Replies replies(std::string(AWIZO_SOURCE_DIR) + "/demo/data");
+  demo::Replies replies(projectFolder() / "demo/data");
   const auto text = [](const std::unique_ptr<XmlDocument>& request) {
     return request->node().xml();
   };

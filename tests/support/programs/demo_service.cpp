@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "support/programs/workplace.h"
+#include "support/files/files.h"
 
 namespace awizo::test {
 

@@ -7,6 +7,8 @@
 
 #include <stdexcept>
 
+#include "support/files/files.h"
+
 namespace awizo::test {
 namespace {
 
@@ -38,8 +40,7 @@ struct Schema::Parsed {
 };
 
 Schema::Schema(std::string_view name) : parsed_(std::make_unique<Parsed>()) {
-  const std::string path =
-      std::string(AWIZO_SOURCE_DIR).append("/docs/formats/").append(name).append(".xsd");
+  const std::string path = (projectFolder() / "docs/formats" / name).string() + ".xsd";
   std::vector<std::string> problems;
   const Owned<xmlSchemaParserCtxt> context(xmlSchemaNewParserCtxt(path.c_str()));
   xmlSchemaSetParserStructuredErrors(context.get(), note, &problems);
