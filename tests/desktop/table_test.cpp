@@ -13,8 +13,10 @@
 namespace awizo::test {
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::Not;
 
 class TableOnDesktop : public FormWindow {
  protected:
@@ -194,6 +196,26 @@ TEST_F(TableOnDesktop, KeepsWhatItShowsWhileRedrawingIsOff) {
   settle();
   EXPECT_EQ(view()->model()->rowCount(), 1);
   EXPECT_EQ(shown(1, 0), "new");
+}
+
+// An error half-way leaves a table so, and its rows may go before it is painted again.
+TEST_F(TableOnDesktop, ARowThatIsShownButGoneCantBeClicked) {
+  table.setRedraw(false);
+  table.setRows(2);
+  settle();
+  view()->viewport()->grab();
+  clickCell(5, 1);
+  EXPECT_THAT(takeEvents(), Not(Contains("Click")));
+  EXPECT_EQ(table.row(), 1);
+  clickCell(1, 1);
+  EXPECT_EQ(table.column(), 1);
+  view()->verticalScrollBar()->setValue(30);
+  press(Qt::Key_PageDown);
+  EXPECT_EQ(table.row(), 1);
+  table.setRedraw(true);
+  settle();
+  EXPECT_EQ(view()->model()->rowCount(), 1);
+  EXPECT_EQ(shownCurrent(), std::pair(1, 1));
 }
 
 TEST_F(TableOnDesktop, APinkCellHasADarkText) {

@@ -319,6 +319,7 @@ TEST_F(AddingALine, TheRowPastTheLimitIsWrittenHalfWay) {
   EXPECT_EQ(lines.cell(1424, GRD_POZ_CDN), "");
   EXPECT_EQ(lines.cell(1424, GRD_POZ_PACKED_QTY), "");
   EXPECT_EQ(lines.row(), 1);
+  EXPECT_FALSE(lines.redraw());
   EXPECT_TRUE(form.enabled());
 }
 

@@ -263,6 +263,7 @@ TEST_F(AddingAPackage, TheRowPastTheLimitStaysEmpty) {
   EXPECT_EQ(cell(2184, GRD_OPAK_DESC), "");
   EXPECT_EQ(form.LastPackageSerial, 2184);
   EXPECT_EQ(packages.row(), 1);
+  EXPECT_FALSE(packages.redraw());
   EXPECT_TRUE(form.enabled());
 }
 

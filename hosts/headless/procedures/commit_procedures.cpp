@@ -1,5 +1,7 @@
 // Procedures that write dialogs into the tables, and that fill columns over all lines.
 
+#include <tuple>
+
 #include "bulkfill/bulk_fill.h"
 #include "hosts/headless/procedures/control_procedures.h"
 #include "tables/editing/line_commit.h"
@@ -8,17 +10,18 @@
 
 namespace awizo::headless {
 
+// The outside gets no answer of those that answer to their buttons alone.
 void addCommitProcedures(Procedures& procedures, AwizoWysylki& control) {
   using Text = const std::string&;
   Editor& editor = control.editor;
   procedures.add("ZatwierdzPozycje", [&](std::int16_t row) {
-    ZatwierdzPozycje(editor, control.dlgDodaj.touch(), row);
+    std::ignore = ZatwierdzPozycje(editor, control.dlgDodaj.touch(), row);
   });
   procedures.add("JednostkiMiaryNazwaToSymbol", [&](Text name) {
     return JednostkiMiaryNazwaToSymbol(editor.platform.locale, name);
   });
   procedures.add("ZatwierdzPozycjeOpak", [&](std::int16_t row, bool isNew) {
-    ZatwierdzPozycjeOpak(editor, control.dlgSzczegoly.touch(), row, isNew);
+    std::ignore = ZatwierdzPozycjeOpak(editor, control.dlgSzczegoly.touch(), row, isNew);
   });
   procedures.add("PreparePackageArrays", [&](Text text) { PreparePackageArrays(editor, text); });
   procedures.add("PrepareParents", [](Text text) { PrepareParents(text); });

@@ -126,8 +126,8 @@ void btnDodaj_Click(Editor& editor, DlgDodaj& dialog) {
     Table& grid = editor.form.grdPozycje;
     if (dialog.DlgResult == 1) {
       grid.setRedraw(false);
-      ZatwierdzPozycje(editor, dialog,
-                       addNumberedRow(editor.form.grdPozycje, editor.session.LineCount));
+      const std::int16_t row = addNumberedRow(grid, editor.session.LineCount);
+      if (!ZatwierdzPozycje(editor, dialog, row)) return;
       grid.setRedraw(true);
     }
     grid.refresh();
@@ -147,7 +147,7 @@ void btnEdytuj_Click(Editor& editor, DlgDodaj& dialog) {
     copyCountries(editor, dialog);
     if (dialog.DlgResult == 1) {
       grid.setRedraw(false);
-      ZatwierdzPozycje(editor, dialog, narrow16(grid.row()));
+      if (!ZatwierdzPozycje(editor, dialog, narrow16(grid.row()))) return;
       paintRow(grid, grid.row(), GRD_POZ_PACKED_QTY, white);
       grid.setRedraw(true);
     }
@@ -155,8 +155,8 @@ void btnEdytuj_Click(Editor& editor, DlgDodaj& dialog) {
   });
 }
 
-void ZatwierdzPozycje(Editor& editor, DlgDodaj& dialog, std::int16_t row) {
-  reportErrors(editor.screen(), "Произошла ошибка в ZatwierdzPozycje()", [&] {
+bool ZatwierdzPozycje(Editor& editor, DlgDodaj& dialog, std::int16_t row) {
+  return reportErrors(editor.screen(), "Произошла ошибка в ZatwierdzPozycje()", [&] {
     LineWriter(editor, dialog, row).writeAll();
     editor.form.grdPozycje.setRow(row);
     CountValidRows(editor);

@@ -13,8 +13,10 @@ namespace awizo {
 void btnDodaj_Click(Editor& editor, DlgDodaj& dialog);
 /// Changes the line in the current row.
 void btnEdytuj_Click(Editor& editor, DlgDodaj& dialog);
-/// Writes the dialog's fields into a row of grdPozycje.
-void ZatwierdzPozycje(Editor& editor, DlgDodaj& dialog, std::int16_t row);
+/// Writes the dialog's fields into a row of grdPozycje. Answers whether it came to its end: an
+/// error is told and leaves what was written, and a button that gets that answer ends where it
+/// stands, with the table unpainted and the control as it then is.
+[[nodiscard]] bool ZatwierdzPozycje(Editor& editor, DlgDodaj& dialog, std::int16_t row);
 /// Symbol of a unit by its name, case ignored; an unknown name comes back as it is.
 std::string JednostkiMiaryNazwaToSymbol(const Locale& locale, std::string_view name);
 

@@ -106,9 +106,8 @@ void btnDodajOpak_Click(Editor& editor, DlgSzczegoly& dialog) {
     Table& grid = editor.form.grdOpakowania;
     if (dialog.DialogResult == 1) {
       grid.setRedraw(false);
-      ZatwierdzPozycjeOpak(
-          editor, dialog,
-          addNumberedRow(editor.form.grdOpakowania, editor.session.IloscPozycjiOpak), true);
+      const std::int16_t row = addNumberedRow(grid, editor.session.IloscPozycjiOpak);
+      if (!ZatwierdzPozycjeOpak(editor, dialog, row, true)) return;
       grid.setRedraw(true);
     }
     grid.refresh();
@@ -133,7 +132,7 @@ void btnEdytujOpak_Click(Editor& editor, DlgSzczegoly& dialog) {
     dialog.showModal();
     if (dialog.DialogResult == 1) {
       grid.setRedraw(false);
-      ZatwierdzPozycjeOpak(editor, dialog, row, false);
+      if (!ZatwierdzPozycjeOpak(editor, dialog, row, false)) return;
       paintRow(grid, row, GRD_OPAK_SERIAL, white);
       grid.setRedraw(true);
     }
@@ -141,8 +140,8 @@ void btnEdytujOpak_Click(Editor& editor, DlgSzczegoly& dialog) {
   });
 }
 
-void ZatwierdzPozycjeOpak(Editor& editor, DlgSzczegoly& dialog, std::int16_t row, bool isNew) {
-  reportErrors(editor.screen(), "Произошла ошибка в ZatwierdzPozycjeOpak()", [&] {
+bool ZatwierdzPozycjeOpak(Editor& editor, DlgSzczegoly& dialog, std::int16_t row, bool isNew) {
+  return reportErrors(editor.screen(), "Произошла ошибка в ZatwierdzPozycjeOpak()", [&] {
     const auto write = [&](std::int16_t column, std::string_view text) {
       setPackageCell(editor, row, column, text);
     };
