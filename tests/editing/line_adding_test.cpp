@@ -259,6 +259,13 @@ TEST_F(AddingALine, CountriesOfTheDialogReachTheMainForm) {
   EXPECT_EQ(form.comboCountry.rows(), lineDialog.comboCountry.rows());
 }
 
+TEST_F(AddingALine, WhatWasTypedInTheCountriesOfTheMainFormGoes) {
+  form.comboCountry.userType("PL");
+  look([&] { EXPECT_EQ(form.comboCountry.text(), "PL"); });
+  EXPECT_EQ(form.comboCountry.text(), "");
+  EXPECT_EQ(form.comboCountry.index(), -1);
+}
+
 TEST_F(AddingALine, ACancelledDialogChangesNoCellAndNoCounter) {
   addLine({});
   const auto before = TestEditor::row(lines, 1);

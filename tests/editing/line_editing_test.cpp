@@ -199,6 +199,13 @@ TEST_F(EditingALine, CountriesOfTheDialogReachTheMainForm) {
   EXPECT_EQ(form.comboCountry.rows().back(), "(JP)Япония");
 }
 
+TEST_F(EditingALine, WhatWasTypedInTheCountriesOfTheMainFormGoes) {
+  form.comboCountry.userType("PL");
+  look([&] { EXPECT_EQ(form.comboCountry.text(), "PL"); });
+  EXPECT_EQ(form.comboCountry.text(), "");
+  EXPECT_EQ(form.comboCountry.index(), -1);
+}
+
 TEST_F(EditingALine, WithoutACustomsNumberItsFieldsAreEmptyAndItsDateIsToday) {
   put(GRD_POZ_CDN, "");
   look([&] {
