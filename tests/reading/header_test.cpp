@@ -1,9 +1,13 @@
+#include <algorithm>
+
+#include "platform/text.h"
 #include "reading_desk.h"
 
 namespace awizo::test {
 namespace {
 
 using ::testing::Contains;
+using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::Not;
 
@@ -35,6 +39,26 @@ class ReadingTheHeader : public ::testing::Test, public ReadingDesk {
     read(document);
   }
 };
+
+/// The values of the document that stand in the form, by their elements, in the order in which they
+/// are read.
+std::vector<std::string> valuesTaken(const AwizoForm& form) {
+  std::vector<std::string> taken;
+  const auto note = [&](const char* element, bool isThere) {
+    if (isThere) taken.emplace_back(element);
+  };
+  note("CodeByBuyer", form.txtCodeByBuyer.text() == "77");
+  note("DespatchAdviceNumber", form.txtNrAwiza.text() == "WZ-7");
+  note("DespatchAdviceDate", form.txtDataAwiza.date() == makeDate(2026, 11, 2));
+  note("BuyerOrderNumber", form.txtNrZam.text() == "ORD-7");
+  note("OrderDate", form.dpDataZam.date() == makeDate(2026, 10, 30));
+  note("EstimatedDeliveryDate", form.txtEstimatedDeliveryDate.date() == makeDate(2026, 12, 1));
+  note("EstimatedDeliveryTime", form.txtEstimatedDeliveryTime.time() == TimeOfDay{14, 45, 0});
+  note("DespatchAdviceTime", form.txtDespatchAdviceTime.time() == TimeOfDay{8, 30, 0});
+  note("DeliveryPoint", form.DeliveryILN == "9520002000026");
+  note("GoodsIdentity", form.txtGoodsIdentity.text() == "5");
+  return taken;
+}
 
 struct ReadingTheHeaderInAPointLocale : ReadingTheHeader {
   ReadingTheHeaderInAPointLocale() : ReadingTheHeader("en_US") {}
@@ -162,6 +186,67 @@ TEST_F(ReadingTheHeader, EveryOtherDateAndTimeEndsTheReadingToo) {
     readHeader(wrong);
     EXPECT_THAT(takeBoxes(), ElementsAre(incomplete)) << wrong;
   }
+}
+
+// The values are taken in their order, so those behind the wrong one are missing.
+TEST(ReadingAWrongHeader, EndsAtTheValueThatIsWrong) {
+  const std::vector<std::string> order{
+      "CodeByBuyer",   "DespatchAdviceNumber",  "DespatchAdviceDate",    "BuyerOrderNumber",
+      "OrderDate",     "EstimatedDeliveryDate", "EstimatedDeliveryTime", "DespatchAdviceTime",
+      "DeliveryPoint", "GoodsIdentity"};
+  for (const char* wrong : {"DespatchAdviceDate", "OrderDate", "EstimatedDeliveryDate",
+                            "EstimatedDeliveryTime", "DespatchAdviceTime"}) {
+    ReadingDesk desk;
+    DespatchAdvice document;
+    const std::string tag = "<" + std::string(wrong) + ">";
+    document.header = replaceAll(document.header, tag, tag + "x");
+    document.consignment = replaceAll(
+        document.consignment, "<PackageId>",
+        "<Package-Identification><GoodsIdentity>5</GoodsIdentity></Package-Identification>"
+        "<PackageId>");
+    desk.read(document);
+    EXPECT_THAT(desk.takeBoxes(), ElementsAre(ReadingDesk::incomplete)) << wrong;
+    const auto end = std::find(order.begin(), order.end(), wrong);
+    EXPECT_EQ(valuesTaken(desk.form), std::vector<std::string>(order.begin(), end)) << wrong;
+  }
+}
+
+// Nothing that follows the reading is done for a document that ended it.
+class ReadingOverAnAnswer : public ReadingTheHeader {
+ protected:
+  ReadingOverAnAnswer() {
+    form.OrderAnswer = true;
+    form.lblNiepelnaWagaKom.setCaption("Не для всех позиций указан вес");
+    totals.setCell(1, GRD_SUMA_QTY_DESPATCHED, "9,000");
+    document.summary =
+        "<DespatchAdvice-Summary><TotalQuantity>7</TotalQuantity>"
+        "<TotalAmount>8</TotalAmount></DespatchAdvice-Summary>";
+  }
+  void expectNothingFinished(const std::string& box) {
+    read(document);
+    EXPECT_THAT(takeBoxes(), ElementsAre(box));
+    EXPECT_TRUE(form.OrderAnswer);
+    EXPECT_EQ(form.lblNiepelnaWagaKom.caption(), "Не для всех позиций указан вес");
+    EXPECT_THAT(TestEditor::row(totals, 1), Each(""));
+    EXPECT_TRUE(form.enabled());
+  }
+
+  DespatchAdvice document;
+};
+
+TEST_F(ReadingOverAnAnswer, AnErrorLeavesAnAnswerAndNoTotals) {
+  document.header = replaceAll(document.header, "<OrderDate>", "<OrderDate>x");
+  expectNothingFinished(incomplete);
+}
+
+TEST_F(ReadingOverAnAnswer, AnotherSellerLeavesAnAnswerAndNoTotals) {
+  document.parties = replaceAll(document.parties, "9520001000010", "1");
+  expectNothingFinished("VIRD|exclamation|OK|Неправильный ILN номер продавца");
+}
+
+TEST_F(ReadingOverAnAnswer, AnotherBuyerLeavesAnAnswerAndNoTotals) {
+  document.parties = replaceAll(document.parties, "9520002000019", "1");
+  expectNothingFinished("VIRD|exclamation|OK|Неправильный ILN номер покупателя.");
 }
 
 TEST_F(ReadingTheHeader, DatesAreReadByTheLocale) {
