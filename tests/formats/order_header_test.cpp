@@ -1,9 +1,38 @@
+#include "platform/text.h"
 #include "read_order.h"
 
 namespace awizo::test {
 namespace {
 
 using ::testing::IsEmpty;
+
+/// Every field of the header holds something of an earlier document.
+struct OrderReaderOverAnOldHeader : OrderReader {
+  OrderReaderOverAnOldHeader() {
+    form.txtNrZam.setText("old");
+    form.dpDataZam.setDate(makeDate(2020, 1, 1));
+    form.txtNrAwiza.setText("old");
+    for (Label* label : partyLabels()) label->setCaption("old");
+    form.txtCodeByBuyer.setText("old");
+    form.DeliveryILN = "old";
+    form.txtEstimatedDeliveryDate.setDate(makeDate(2020, 1, 1));
+    form.txtDespatchAdviceTime.setTime(TimeOfDay{1, 2, 3});
+    form.txtEstimatedDeliveryTime.setTime(TimeOfDay{4, 5, 6});
+    form.lblCurrencyWart.setCaption("old");
+  }
+
+  std::vector<Label*> partyLabels() {
+    return {&form.lblILNKupWart, &form.lblNameKupWart, &form.lblILNSprzedWart,
+            &form.lblNameSprzedWart};
+  }
+  /// Reads the full header with one value that can't be read.
+  void readHeaderWithout(std::string_view value, std::string_view wrong) {
+    const std::string header = replaceAll(fullHeader, value, wrong);
+    ASSERT_NE(header, fullHeader);
+    readHeader(header);
+    expectFailure("Type mismatch");
+  }
+};
 
 TEST_F(OrderReader, FillsTheHeader) {
   form.txtNrAwiza.setText("old");
@@ -102,6 +131,40 @@ TEST_F(OrderReader, ADeliveryDateOrTimeThatIsNoneEndsTheReading) {
   expectFailure("Type mismatch");
   readHeader("<Order-Header><ExpectedDeliveryTime>soon</ExpectedDeliveryTime></Order-Header>");
   expectFailure("Type mismatch");
+}
+
+// Fields keep what they hold from the value on at which the reading ended.
+
+TEST_F(OrderReaderOverAnOldHeader, AnOrderDateThatIsNoneKeepsAllBehindTheOrderNumber) {
+  readHeaderWithout("<OrderDate>2026-11-02", "<OrderDate>soon");
+  EXPECT_EQ(form.txtNrZam.text(), "ORD-7");
+  EXPECT_EQ(form.dpDataZam.date(), makeDate(2020, 1, 1));
+  EXPECT_EQ(form.txtNrAwiza.text(), "old");
+  for (const Label* label : partyLabels()) EXPECT_EQ(label->caption(), "old") << label->name();
+  EXPECT_EQ(form.txtCodeByBuyer.text(), "old");
+  EXPECT_EQ(form.DeliveryILN, "old");
+}
+
+TEST_F(OrderReaderOverAnOldHeader, ADeliveryDateThatIsNoneKeepsAllBehindTheDeliveryPlace) {
+  readHeaderWithout("<ExpectedDeliveryDate>2026-12-01", "<ExpectedDeliveryDate>soon");
+  EXPECT_EQ(form.dpDataZam.date(), makeDate(2026, 11, 2));
+  EXPECT_EQ(form.txtNrAwiza.text(), "");
+  for (const Label* label : partyLabels()) EXPECT_NE(label->caption(), "old") << label->name();
+  EXPECT_EQ(form.txtCodeByBuyer.text(), "77");
+  EXPECT_EQ(form.DeliveryILN, "9520002000026");
+  EXPECT_EQ(form.lblILNMiejscaDostValue.caption(), "9520002000026");
+  EXPECT_EQ(form.txtEstimatedDeliveryDate.date(), makeDate(2020, 1, 1));
+  EXPECT_EQ(form.txtDespatchAdviceTime.time(), (TimeOfDay{1, 2, 3}));
+  EXPECT_EQ(form.txtEstimatedDeliveryTime.time(), (TimeOfDay{4, 5, 6}));
+  EXPECT_EQ(form.lblCurrencyWart.caption(), "old");
+}
+
+TEST_F(OrderReaderOverAnOldHeader, ADeliveryTimeThatIsNoneKeepsTheCurrency) {
+  readHeaderWithout("<ExpectedDeliveryTime>14:30", "<ExpectedDeliveryTime>soon");
+  EXPECT_EQ(form.txtEstimatedDeliveryDate.date(), makeDate(2026, 12, 1));
+  EXPECT_EQ(form.txtDespatchAdviceTime.time(), std::nullopt);
+  EXPECT_EQ(form.txtEstimatedDeliveryTime.time(), (TimeOfDay{4, 5, 6}));
+  EXPECT_EQ(form.lblCurrencyWart.caption(), "old");
 }
 
 TEST_F(OrderReader, ShowsTheDeliveryPlaceFromItsCatalogue) {
