@@ -172,6 +172,18 @@ TEST_F(FileDialog, ADoubleClickOnAFileAcceptsIt) {
   EXPECT_EQ(chosen, "c:\\root.xml");
 }
 
+// The click comes first, so its name stands over the proposed and over the typed one.
+TEST_F(FileDialog, ADoubleClickOnAFileSavesUnderItsName) {
+  dialog.setUpForSaving("proposed.xml");
+  show([&] {
+    dialog.FileList.userChoose(0);
+    dialog.txtAwizoPlik.userType("typed.xml");
+    dialog.FileList.userDoubleClick();
+  });
+  EXPECT_EQ(dialog.txtAwizoPlik.text(), "root.xml");
+  EXPECT_EQ(chosen, "c:\\root.xml");
+}
+
 TEST_F(FileDialog, ReadingWithNoFileSelectedChoosesNothing) {
   dialog.setUpForReading();
   show([&] { dialog.ImageWczytaj.userClick(); });
@@ -331,6 +343,20 @@ TEST_F(FileDialog, TheFolderOfOffLineWorkMayBeTyped) {
   askOffLineFolder(dialog);
   EXPECT_TRUE(test.files.folderExists("c:\\home\\anna\\VIRD"));
   EXPECT_EQ(setting(), "/home/anna/VIRD");
+}
+
+TEST_F(FileDialog, ADoubleClickOnAFileAcceptsTheFolderOfOffLineWork) {
+  test.face.onModal([&] {
+    dialog.DirList.userOpen("c:\\home\\anna");
+    dialog.FileList.userChoose(0);
+    dialog.FileList.userDoubleClick();
+    EXPECT_FALSE(dialog.shown());
+  });
+  askOffLineFolder(dialog);
+  EXPECT_TRUE(test.files.folderExists("c:\\home\\anna\\VIRD"));
+  EXPECT_EQ(test.session.OffLinePathValue, "c:\\home\\anna\\VIRD");
+  EXPECT_EQ(setting(), "c:\\home\\anna\\VIRD");
+  EXPECT_EQ(chosen, "");
 }
 
 TEST_F(FileDialog, AFolderThatCantBeCreatedIsShownAndTheDialogStays) {

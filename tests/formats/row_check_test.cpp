@@ -1,5 +1,8 @@
 #include "formats/row_check.h"
 
+#include <map>
+#include <string>
+
 #include "platform/run_time_error.h"
 #include "support/test_editor.h"
 #include "tables/columns.h"
@@ -62,6 +65,16 @@ TEST_F(RowCheck, EmptyCellsPassWhereAnEmptyOneIsAllowed) {
   for (const int column :
        {GRD_POZ_QTY_ORDERED, GRD_POZ_PRICE, GRD_POZ_NET_AMOUNT, GRD_POZ_CDN, GRD_POZ_NAME}) {
     EXPECT_TRUE(check({column, ""})) << column;
+  }
+}
+
+TEST_F(RowCheck, BlanksAreNoEmptyCell) {
+  for (const auto& [column, name] :
+       std::map<int, std::string>{{GRD_POZ_QTY_ORDERED, "Zamowiona ilosc"},
+                                  {GRD_POZ_PRICE, "Cena netto"},
+                                  {GRD_POZ_NET_AMOUNT, "Wartosc netto"}}) {
+    EXPECT_FALSE(check({column, " "})) << name;
+    EXPECT_EQ(test.form.BadColumnName, name);
   }
 }
 

@@ -155,6 +155,7 @@ TEST_F(Saving, ClosingTheDialogSavesNothing) {
 }
 
 TEST_F(Saving, AHeaderThatFailsNeverOpensTheDialog) {
+  test.face.whileBoxIsOpen([&](const MessageBox&) { EXPECT_TRUE(form.enabled()); });
   form.txtNrAwiza.setText("");
   test.session.IloscPozycjiOpak = 0;
   btnZapisz_Click(test.editor, dialog);
@@ -167,6 +168,7 @@ TEST_F(Saving, AHeaderThatFailsNeverOpensTheDialog) {
 
 TEST_F(Saving, AsksBeforeADocumentThatIsPartlyPacked) {
   setLines({{"1,000", "0,000"}});
+  test.face.whileBoxIsOpen([&](const MessageBox&) { EXPECT_TRUE(form.enabled()); });
   test.face.answer(Answer::yes);
   save("c:\\out\\new.xml");
   expectBoxes({partlyPacked});
@@ -182,6 +184,7 @@ TEST_F(Saving, AsksBeforeADocumentWithoutPackages) {
 
 TEST_F(Saving, ANoEndsIt) {
   setLines({{"1,000", "0,000"}});
+  test.face.whileBoxIsOpen([&](const MessageBox&) { EXPECT_TRUE(form.enabled()); });
   test.face.answer(Answer::no);
   btnZapisz_Click(test.editor, dialog);
   expectBoxes({partlyPacked});
