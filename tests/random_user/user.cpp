@@ -1,6 +1,7 @@
 #include "random_user/user.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/forms/file_lists.h"
 #include "platform/forms/keys.h"
@@ -56,6 +57,7 @@ RandomUser::RandomUser(Dice& dice, const Beginning& beginning)
     : dice_(dice), desk_(beginning.localeName), withOutages_(beginning.outages) {
   prepare(beginning);
   desk_.start();
+  desk_.form.onDocumentKept = [this] { documentKept_ = true; };
   desk_.files.putFolder("c:\\docs");
   desk_.form.comboStawkaVAT.setVisible(dice.percent(50));
   desk_.form.btnUzupelnij.setVisible(desk_.form.comboStawkaVAT.visible());
@@ -301,10 +303,10 @@ void RandomUser::lookAtDocuments() {
   for (; postedBefore_ < desk_.http.sent.size(); ++postedBefore_) {
     requireDocument(desk_.http.sent[postedBefore_].body, "posted document");
   }
-  std::string& path = desk_.session.LastFilePath;
-  if (path.empty() || !desk_.files.has(path)) return;
-  requireDocument(desk_.files.bytes(path), path);
-  path.clear();
+  // A save that failed leaves the file that was there, whatever it is.
+  const bool kept = std::exchange(documentKept_, false);
+  const std::string path = std::exchange(desk_.session.LastFilePath, "");
+  if (kept && desk_.files.has(path)) requireDocument(desk_.files.bytes(path), path);
 }
 
 void RandomUser::requireDocument(const std::string& text, const std::string& where) {

@@ -69,6 +69,7 @@ class RandomUser {
   std::vector<std::string> complaints_;
   std::deque<std::string> history_;
   std::size_t postedBefore_ = 0;
+  bool documentKept_ = false;  ///< since the files were last looked at
   int actions_ = 0;
   int documents_ = 0;
   int failures_ = 0;
