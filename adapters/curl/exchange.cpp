@@ -47,13 +47,16 @@ std::string partOf(CURLU* url, CURLUPart part) {
   return text;
 }
 
-/// The address, with what can't stand in one as it is put into percent signs.
+/// The address, with what can't stand in one as it is put into percent signs. A name and a password
+/// in it fall away: the cookie alone says who the user is, and libcurl would add a header for them.
 Url parsed(const std::string& text) {
   Url url = made(Url(curl_url()));
   const bool isWhole = text.find('\0') == text.npos &&
                        curl_url_set(url.get(), CURLUPART_URL, text.c_str(), CURLU_URLENCODE) == 0;
   const std::string scheme = isWhole ? partOf(url.get(), CURLUPART_SCHEME) : "";
   if (scheme != "http" && scheme != "https") throw errors::hostNotFound();
+  curl_url_set(url.get(), CURLUPART_USER, nullptr, 0);
+  curl_url_set(url.get(), CURLUPART_PASSWORD, nullptr, 0);
   return url;
 }
 

@@ -25,9 +25,11 @@ void Request::open(std::string_view method, std::string_view url) {
 
 void Request::setHeader(std::string_view name, std::string_view value) {
   if (!isToken(name) || !staysOnItsLine(value)) throw errors::invalidProcedureCall();
-  // In libcurl's lists a semicolon in the colon's place stands for a header without a value.
+  // libcurl leaves out a header that has nothing but blanks behind its colon; a semicolon in the
+  // colon's place stands for a header without a value.
+  const bool isBlank = value.find_first_not_of(" \t") == value.npos;
   std::string line(name);
-  outgoing_.headers.push_back(value.empty() ? line + ";" : line + ": " + std::string(value));
+  outgoing_.headers.push_back(isBlank ? line + ";" : line + ": " + std::string(value));
 }
 
 void Request::send(std::string_view body) {

@@ -83,11 +83,26 @@ TEST(Sending, OnlyTheCookieIsSetByUs) {
   EXPECT_THAT(server.requests()[0], testing::EndsWith("\r\n\r\n<a>Ёж</a>"));
 }
 
+TEST(Sending, NameAndPasswordInTheAddressAreNotSent) {
+  RawServer server(okReply("OK"));
+  CurlHttp http;
+  const std::string host = "127.0.0.1:" + std::to_string(server.port());
+  for (const char* who : {"us:pw@", "us@", ":pw@", "@"}) {
+    posted(http, "http://" + (who + host) + "/x");
+    EXPECT_THAT(
+        headLines(server.requests().back()),
+        ElementsAre("POST /x HTTP/1.1", "Host: " + host, "Cookie: id=1", "Content-Length: 4"))
+        << who;
+  }
+}
+
 TEST(Sending, AnEmptyCookieIsAnEmptyHeader) {
   RawServer server(okReply("OK"));
   CurlHttp http;
-  posted(http, server.url(), "<a/>", "");
-  EXPECT_THAT(headLines(server.requests()[0]), testing::Contains("Cookie:"));
+  for (const char* cookie : {"", " ", "\t", " \t  "}) {
+    posted(http, server.url(), "<a/>", cookie);
+    EXPECT_THAT(headLines(server.requests().back()), testing::Contains("Cookie:")) << cookie;
+  }
 }
 
 TEST(Sending, ALargeBodyGoesOutWholeWithoutAskingFirst) {
