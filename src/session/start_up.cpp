@@ -37,7 +37,8 @@ void prepareFields(Editor& editor) {
 
 void openLog(Editor& editor) {
   const std::optional<std::int16_t> level = debugLevel(editor);
-  if (!level || *level < 1) return;
+  // The value itself decides: 0,6 is below 1, though a level would be rounded up to it.
+  if (!level || editor.conversions.toDouble(editor.form.DebugLevel) < 1) return;
   SessionState& session = editor.session;
   session.log.OpenDebugLog(debugLogFile(session.OffLinePathValue, editor.form.PartnerName), *level);
 }

@@ -122,7 +122,7 @@ TEST_F(StartUp, KeepsALogUnderThePartnersName) {
 }
 
 TEST_F(StartUp, KeepsNoLogBelowLevelOneOrWithoutALevel) {
-  for (const char* level : {"0", "-1", "", "abc", "40000"}) {
+  for (const char* level : {"0", "-1", "", "abc", "40000", "0,5", "0,6", "0,999"}) {
     TestControl other;
     other.prepareFolder();
     other.bag.values["OnLine"] = "Off";
@@ -131,6 +131,18 @@ TEST_F(StartUp, KeepsNoLogBelowLevelOneOrWithoutALevel) {
     other.start();
     EXPECT_FALSE(other.files.has(logFile)) << level;
     EXPECT_THAT(other.boxes(), IsEmpty()) << level;
+  }
+}
+
+TEST_F(StartUp, KeepsALogFromLevelOneUpWhichAFractionDoesNotRaiseToIt) {
+  const std::pair<const char*, int> levels[] = {{"1", 1}, {"1,4", 1}, {"1,6", 2}};
+  for (const auto& [level, expected] : levels) {
+    TestControl other;
+    other.prepareFolder();
+    other.bag.values["DebugLevel"] = level;
+    other.start();
+    EXPECT_TRUE(other.files.has(logFile)) << level;
+    EXPECT_EQ(other.session.log.LogLevel, expected) << level;
   }
 }
 
