@@ -134,10 +134,14 @@ void readNumberFacts(const icu::Locale& locale, LocaleFacts& facts) {
   facts.decimalSeparator = symbol(icu::DecimalFormatSymbols::kDecimalSeparatorSymbol);
   facts.currencySign = symbol(icu::DecimalFormatSymbols::kCurrencySymbol);
   const std::string group = symbol(icu::DecimalFormatSymbols::kGroupingSeparatorSymbol);
-  const std::string blanks[] = {"\u00A0", " ", "\u202F"};
-  if (group == blanks[0] || group == blanks[1] || group == blanks[2]) {
+  const std::string blank = " ";
+  const std::string noBreak = "\u00A0";
+  const std::string narrow = "\u202F";
+  if (group == blank || group == noBreak) {
     // Whoever types a number types the ordinary blank.
-    facts.groupSeparators.assign(std::begin(blanks), std::end(blanks));
+    facts.groupSeparators = {noBreak, blank};
+  } else if (group == narrow) {
+    facts.groupSeparators = {narrow, noBreak, blank};
   } else {
     facts.groupSeparators = {group};
   }

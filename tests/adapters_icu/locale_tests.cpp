@@ -36,8 +36,13 @@ const IcuLocale& american() {
 
 TEST(Facts, RussianNumbersHaveACommaAndBlanksBetweenGroups) {
   EXPECT_EQ(russian().facts().decimalSeparator, ",");
-  EXPECT_THAT(russian().facts().groupSeparators, UnorderedElementsAre(" ", "\u00A0", "\u202F"));
+  EXPECT_THAT(russian().facts().groupSeparators, UnorderedElementsAre(" ", "\u00A0"));
   EXPECT_EQ(russian().facts().currencySign, "₽");
+}
+
+TEST(Facts, ANarrowBlankStandsBetweenGroupsOnlyWhereItIsTheLocalesOwn) {
+  EXPECT_THAT(IcuLocale("fr_FR").facts().groupSeparators,
+              UnorderedElementsAre(" ", "\u00A0", "\u202F"));
 }
 
 TEST(Facts, AmericanNumbersHaveAPointAndCommasBetweenGroups) {
