@@ -4,6 +4,7 @@
 
 #include <string_view>
 
+#include "adapters/libxml2/loading.h"
 #include "platform/run_time_error.h"
 
 namespace awizo::libxml2 {
@@ -89,6 +90,17 @@ std::string write(xmlDoc* document, const Declaration& declaration, const char* 
   return output.finish();
 }
 
+/// Whether the encoding is known and a reader finds its declaration again: UTF-7, for one, writes
+/// even the first "<" in another way.
+bool readsBack(const char* encoding) {
+  xmlCharEncodingHandler* encoder = xmlFindCharEncodingHandler(encoding);
+  if (!encoder) return false;
+  Output output(encoder);
+  output.write(
+      std::string("<?xml version=\"1.0\" encoding=\"").append(encoding).append("\"?><a/>"));
+  return parse(output.finish(), Decoding::byDeclaration).document != nullptr;
+}
+
 }  // namespace
 
 std::string nodeText(xmlNode* node) {
@@ -107,9 +119,8 @@ std::string documentBytes(xmlDoc* document, const Declaration& declaration) {
   if (declaration.encoding.empty() || xmlParseCharEncoding(encoding) == XML_CHAR_ENCODING_UTF8) {
     return documentText(document, declaration);
   }
-  xmlCharEncodingHandler* encoder = xmlFindCharEncodingHandler(encoding);
-  if (!encoder) return documentText(document, declaration);
-  return write(document, declaration, encoding, encoder);
+  if (!readsBack(encoding)) return documentText(document, declaration);
+  return write(document, declaration, encoding, xmlFindCharEncodingHandler(encoding));
 }
 
 }  // namespace awizo::libxml2

@@ -88,6 +88,23 @@ TEST(Files, InAnUnknownEncodingAreWrittenInUtf8) {
   EXPECT_EQ(document->fileBytes(), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a>Ёж</a>\n");
 }
 
+TEST(Files, ReadBackWhateverEncodingATextDeclares) {
+  for (const std::string encoding :
+       {"UTF-7", "UNICODE-1-1-UTF-7", "UTF-32", "UTF-32LE", "UCS-4", "UTF-16LE", "UTF-16BE",
+        "IBM037", "ISO-2022-KR", "KOI8-R", "ISO-8859-5"}) {
+    const auto document =
+        loaded("<?xml version=\"1.0\" encoding=\"" + encoding + "\"?><a b=\"+Ж\">Ёж</a>");
+    const auto again = Libxml2().createDocument();
+    ASSERT_TRUE(again->loadBytes(document->fileBytes())) << encoding;
+    EXPECT_EQ(again->root().xml(), "<a b=\"+Ж\">Ёж</a>") << encoding;
+  }
+}
+
+TEST(Files, InAnEncodingThatHidesItsOwnDeclarationAreWrittenInUtf8) {
+  const auto document = loaded("<?xml version=\"1.0\" encoding=\"UTF-7\"?><a>Ёж</a>");
+  EXPECT_EQ(document->fileBytes(), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a>Ёж</a>\n");
+}
+
 TEST(Files, KeepTheDocumentType) {
   const std::string text = "<!DOCTYPE a [\n<!ENTITY e \"x\">\n]>\n<a>x</a>";
   EXPECT_EQ(loaded(text)->fileBytes(), text);

@@ -67,6 +67,19 @@ TEST_F(OnLineStart, ALaterStartOffLineReadsWhatItKept) {
   EXPECT_EQ(later.session.BuyerName, "ООО Покупатель");
 }
 
+TEST_F(OnLineStart, ALaterStartOffLineReadsItWhateverEncodingTheReplyDeclared) {
+  http.reply("<?xml version=\"1.0\" encoding=\"UTF-7\"?>" + partnerInfo("ООО Покупатель"));
+  for (int exchange = 2; exchange <= 4; ++exchange) http.reply("<none/>");
+  start();
+  TestControl later;
+  later.prepareFolder();
+  later.bag.values["OnLine"] = "Off";
+  later.files.put(partnerFile, files.bytes(partnerFile));
+  later.start();
+  EXPECT_THAT(later.boxes(), IsEmpty());
+  EXPECT_EQ(later.session.BuyerName, "ООО Покупатель");
+}
+
 TEST_F(OnLineStart, GoesOnWithAPartnersFileThatIsMissingOrBroken) {
   files.put(partnerFile, "<broken");
   startWith("<none/>", "<none/>", "<none/>");
