@@ -158,6 +158,32 @@ TEST_F(Transport, LogsTheWholeOfAFailedExchangeAtLevel4) {
               ::testing::HasSubstr("Response: \r\n21.11.2026 10:15 ResponseParsed: \r\n"));
 }
 
+/// Runs out of memory for documents once the test says so.
+struct ScarceXml : Xml {
+  Libxml2 plenty;
+  bool isOut = false;
+  std::unique_ptr<XmlDocument> createDocument() const override {
+    if (isOut) throw errors::outOfMemory();
+    return plenty.createDocument();
+  }
+};
+
+TEST_F(Transport, HasNothingMoreToTellOfAReplyThatNoDocumentCouldBeMadeFor) {
+  ScarceXml scarce;
+  const Platform surroundings{scarce, http,  page,   bag,    host,     settings,
+                              files,  clock, locale, screen, {1, 2, 3}};
+  SessionState record(surroundings);
+  Editor other(surroundings, record, form);
+  files.putFolder("c:\\VIRD");
+  record.log.OpenDebugLog("c:\\VIRD\\Awizo.log", 4);
+  http.reply("<a/>");
+  scarce.isOut = true;
+  EXPECT_EQ(SendXMLDOMRequest(other, url, *request), nullptr);
+  EXPECT_THAT(face.texts(), ElementsAre("Out of memory"));
+  EXPECT_THAT(logText(),
+              ::testing::EndsWith("Out of memory\r\n21.11.2026 10:15 ResponseParsed: \r\n"));
+}
+
 class NodeValue : public ::testing::Test, public TestSurroundings {
  protected:
   std::unique_ptr<XmlDocument> data =
