@@ -55,6 +55,7 @@ TEST_F(Initialize, CentresColumns) {
   control.UserControl_Initialize();
   EXPECT_THAT(centredColumns(form.grdOpakowania), ElementsAre(2, 4, 13));
   EXPECT_THAT(centredColumns(form.grdPozycje), ElementsAre(1, 2));
+  EXPECT_THAT(centredColumns(form.grdSuma), ElementsAre(0, 1, 2));
   EXPECT_EQ(form.grdOpakowania.look(1, 4).alignment, Alignment::centre);
   EXPECT_EQ(form.grdPozycje.look(1, 4).alignment, Alignment::left);
 }
@@ -215,6 +216,25 @@ TEST_F(Properties, SettingOnLineShowsAtOnceAndReportsTheChange) {
   EXPECT_EQ(form.lblOnLineStatus.caption(), "On-Line");
   EXPECT_TRUE(form.btnPrzeslij.visible());
   EXPECT_THAT(host.changedProperties, ElementsAre("OnLine", "OnLine"));
+}
+
+TEST_F(Properties, SettingOnLineReportsTheNewValueBeforeItShows) {
+  create();
+  std::vector<std::string> seen;
+  host.onPropertyChanged = [&] {
+    seen = {control.OnLine(), form.lblOnLineStatus.caption(),
+            form.btnPrzeslij.visible() ? "button" : "no button"};
+  };
+  control.setOnLine("Off");
+  EXPECT_THAT(seen, ElementsAre("Off", "On-Line", "button"));
+}
+
+TEST_F(Properties, SettingDebugLevelReportsTheNewValue) {
+  create();
+  std::string seen;
+  host.onPropertyChanged = [&] { seen = control.DebugLevel(); };
+  control.setDebugLevel("2");
+  EXPECT_EQ(seen, "2");
 }
 
 TEST_F(Properties, SettingDebugLevelReportsTheChange) {

@@ -35,6 +35,23 @@ TEST_F(OnLineStart, TakesAddressesAndCookieFromThePage) {
   EXPECT_EQ(session.SessionCookie, "SID=abc");
 }
 
+TEST_F(OnLineStart, OffInSmallLettersIsOnLineAndNeedsNoPartnersFile) {
+  bag.values["OnLine"] = "off";
+  startWith("<none/>", "<none/>", "<none/>");
+  EXPECT_EQ(http.sent.size(), 4U);
+  EXPECT_THAT(boxes(), IsEmpty());
+  EXPECT_TRUE(finished());
+}
+
+TEST_F(OnLineStart, OffInSmallLettersGoesOnWithoutAPageAndAPartnersFile) {
+  bag.values["OnLine"] = "off";
+  page.pageCookie.reset();
+  start();
+  EXPECT_THAT(http.sent, IsEmpty());
+  EXPECT_THAT(boxes(), IsEmpty());
+  EXPECT_TRUE(finished());
+}
+
 // Exchange 1, partner info.
 
 TEST_F(OnLineStart, LearnsThePartnerAndKeepsTheReplyAsThePartnersFile) {
@@ -126,6 +143,8 @@ TEST_F(OnLineStart, EndsWithoutAHeaderWhenThePartnersFileCantBeWritten) {
   EXPECT_TRUE(control.Enabled());
   EXPECT_FALSE(finished());
   EXPECT_EQ(session.BuyerName, "ООО Покупатель");
+  EXPECT_EQ(form.HeaderBuyerILN, "");
+  EXPECT_EQ(form.lblNameKupWart.caption(), "");
   EXPECT_EQ(http.sent.size(), 1U);
 }
 
@@ -160,6 +179,23 @@ TEST_F(OnLineStart, HasNoCatalogueAtAnyOtherStatus) {
     EXPECT_THAT(other.boxes(), IsEmpty()) << status;
     EXPECT_TRUE(other.control.Enabled()) << status;
     EXPECT_TRUE(other.session.LocalizationsLoaded) << status;
+  }
+}
+
+TEST_F(OnLineStart, ForgetsNoCatalogueAtAnyOtherStatus) {
+  for (const char* status : {"NONE", "ERROR", ""}) {
+    TestControl other;
+    other.prepareFolder();
+    other.preparePage();
+    other.http.reply(partnerInfo("ООО Покупатель"));
+    other.http.reply("<document-response><status>" + std::string(status) +
+                     "</status></document-response>");
+    other.http.reply("<none/>");
+    other.http.reply("<none/>");
+    other.create();
+    other.session.ProductCatalogLoaded = true;
+    other.control.UserControl_Show();
+    EXPECT_TRUE(other.session.ProductCatalogLoaded) << status;
   }
 }
 

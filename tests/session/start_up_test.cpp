@@ -105,6 +105,16 @@ TEST_F(StartUp, WithoutALocalFolderIsFatalOffLineAndOnLine) {
   EXPECT_THAT(onLine.http.sent, IsEmpty());
 }
 
+TEST_F(StartUp, DisablesTheControlOnlyWhenTheUserHasReadWhy) {
+  settings.values.clear();
+  create();
+  bool enabledAtBox = false;
+  face.whileBoxIsOpen([&](const MessageBox&) { enabledAtBox = control.Enabled(); });
+  control.UserControl_Show();
+  EXPECT_TRUE(enabledAtBox);
+  EXPECT_FALSE(control.Enabled());
+}
+
 TEST_F(StartUp, TakesTheFolderFromTheSettings) {
   prepareOffLine();
   start();
@@ -144,6 +154,32 @@ TEST_F(StartUp, KeepsALogFromLevelOneUpWhichAFractionDoesNotRaiseToIt) {
     EXPECT_TRUE(other.files.has(logFile)) << level;
     EXPECT_EQ(other.session.log.LogLevel, expected) << level;
   }
+}
+
+TEST_F(StartUp, AnOpenLogKeepsItsLevel) {
+  prepareOffLine();
+  bag.values["DebugLevel"] = "4";
+  start();
+  control.setDebugLevel("0");
+  session.log.WriteDebugLine("still traced", 4);
+  EXPECT_THAT(logText(), ::testing::EndsWith("21.11.2026 10:15 still traced\r\n"));
+}
+
+TEST_F(StartUp, ALevelThatIsSetLaterOpensNoLog) {
+  prepareOffLine();
+  start();
+  control.setDebugLevel("4");
+  session.log.WriteDebugLine("not traced", 4);
+  EXPECT_FALSE(files.has(logFile));
+}
+
+TEST_F(StartUp, OpensTheLogBeforeItReadsTheUsersFile) {
+  prepareOffLine();
+  bag.values["DebugLevel"] = "4";
+  files.put("c:\\VIRD\\userinfo.xml", "<broken");
+  start();
+  expectFatal("Нет или неправильный формат файла XML о пользователе.");
+  EXPECT_THAT(logText(), HasSubstr("Start logowania..."));
 }
 
 TEST_F(StartUp, GoesOnWithoutALogThatCantBeWritten) {
@@ -329,6 +365,8 @@ TEST_F(StartUp, EndsWithoutAHeaderWhenThePagesAddressCantBeRead) {
   EXPECT_TRUE(control.Enabled());
   EXPECT_FALSE(finished());
   EXPECT_EQ(session.SellerName, "ООО Поставщик");
+  control.dlgDodaj.touch();
+  EXPECT_TRUE(control.dlgDodaj.loaded());
 }
 
 }  // namespace

@@ -91,6 +91,21 @@ TEST_F(WaitingOrder, WaitsWhileItChecksTheLinesRowByRow) {
   EXPECT_EQ(screen.cursor(), Cursor::normal);
 }
 
+TEST_F(WaitingOrder, GivesBackTheCursorThatWasThere) {
+  screen.setCursor(Cursor::wait);
+  startWith("<none/>", "<none/>", orderReply(orderLine("1", "1")));
+  EXPECT_EQ(screen.cursor(), Cursor::wait);
+}
+
+TEST_F(WaitingOrder, GivesBackTheCursorThatWasThereAfterAnErrorToo) {
+  std::string lines;
+  for (int line = 0; line < 1424; ++line) lines += orderLine("4607000000116", "1");
+  screen.setCursor(Cursor::wait);
+  startWith("<none/>", "<none/>", orderReply(lines));
+  EXPECT_FALSE(finished());
+  EXPECT_EQ(screen.cursor(), Cursor::wait);
+}
+
 TEST_F(WaitingOrder, LeavesTheCurrentCellWhereTheTotalsPutIt) {
   startWith("<none/>", "<none/>", orderReply(orderLine("1", "1") + orderLine("2", "1")));
   EXPECT_EQ(form.grdPozycje.row(), 2);
@@ -103,6 +118,8 @@ TEST_F(WaitingOrder, AnOrderWithoutLinesLeavesAnEmptyTable) {
   EXPECT_TRUE(form.OrderAnswer);
   EXPECT_EQ(session.LineCount, 0);
   EXPECT_EQ(form.grdPozycje.rows(), 2);
+  EXPECT_EQ(form.grdPozycje.row(), 1);
+  EXPECT_EQ(form.grdPozycje.column(), 1);
   EXPECT_TRUE(finished());
 }
 

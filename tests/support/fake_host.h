@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -59,8 +60,13 @@ class FakeBag : public PropertyBag {
 class FakeControlHost : public ControlHost {
  public:
   std::vector<std::string> changedProperties;
+  /// What the host does when it hears of a change.
+  std::function<void()> onPropertyChanged;
 
-  void propertyChanged(std::string_view name) override { changedProperties.emplace_back(name); }
+  void propertyChanged(std::string_view name) override {
+    changedProperties.emplace_back(name);
+    if (onPropertyChanged) onPropertyChanged();
+  }
 };
 
 /// Settings in memory, by "application\section\key".
