@@ -85,6 +85,13 @@ TEST_F(Sending, WaitsWithTheControlDisabledUntilAllIsDone) {
   EXPECT_EQ(face.cursors(), (std::vector<Cursor>{Cursor::wait, Cursor::normal}));
 }
 
+TEST_F(Sending, GivesBackTheCursorThatWasThere) {
+  screen.setCursor(Cursor::wait);
+  face.answer(Answer::no);
+  send();
+  EXPECT_EQ(screen.cursor(), Cursor::wait);
+}
+
 TEST_F(Sending, StopsAtAHeaderThatIsNotValid) {
   form.txtNrAwiza.setText("");
   session.LineCount = 0;
@@ -154,12 +161,30 @@ TEST_F(Sending, AsksBeforeTheSameNumberGoesOutAgain) {
   EXPECT_EQ(form.LastSentNumber, "WZ-2");
 }
 
+TEST_F(Sending, TakesTheNumberAsSentOnlyWhenTheUserHasReadSo) {
+  form.LastSentNumber = "WZ-0";
+  face.answer(Answer::yes);
+  http.reply(accepted);
+  std::string atSentBox;
+  face.whileBoxIsOpen([](const MessageBox&) {});  // the question
+  face.whileBoxIsOpen([&](const MessageBox&) { atSentBox = form.LastSentNumber; });
+  send();
+  EXPECT_THAT(takeBoxes(), ElementsAre(plainQuestion, sentBox));
+  EXPECT_EQ(atSentBox, "WZ-0");
+  EXPECT_EQ(form.LastSentNumber, "WZ-1");
+}
+
 TEST_F(Sending, AtNoToTheRepeatedNumberSendsNothing) {
   form.LastSentNumber = "WZ-1";
+  bool painted = false;
+  for (Table* table : {&form.grdPozycje, &form.grdSuma}) {
+    table->observer = [&](const Change&) { painted = true; };
+  }
   face.answer(Answer::no);
   send();
   EXPECT_THAT(takeBoxes(), ElementsAre(repeatQuestion));
   EXPECT_THAT(http.sent, IsEmpty());
+  EXPECT_FALSE(painted);
   EXPECT_TRUE(form.enabled());
   EXPECT_EQ(screen.cursor(), Cursor::normal);
 }
@@ -255,6 +280,15 @@ TEST_F(Sending, OffLineBuildsTheDocumentAndSendsNothing) {
   EXPECT_EQ(face.cursors(), (std::vector<Cursor>{Cursor::wait, Cursor::normal}));
 }
 
+TEST_F(Sending, OffInSmallLettersIsOnLine) {
+  form.OnLine = "off";
+  face.answer(Answer::yes);
+  http.reply(accepted);
+  send();
+  EXPECT_THAT(takeBoxes(), ElementsAre(plainQuestion, sentBox));
+  EXPECT_EQ(http.sent.size(), 1U);
+}
+
 TEST_F(Sending, TakesAQuantityThatIsStillBeingTyped) {
   form.grdPozycje.setRow(1);
   form.grdPozycje.setColumn(GRD_POZ_QTY_DESPATCHED);
@@ -291,7 +325,13 @@ TEST_F(Sending, EnablesTheControlAfterAnUnexpectedError) {
   form.grdSuma.observer = [](const Change&) { throw errors::outOfMemory(); };
   form.LastSentNumber = "WZ-1";
   face.answer(Answer::yes);
+  bool waitingAtError = false;
+  face.whileBoxIsOpen([](const MessageBox&) {});  // the question
+  face.whileBoxIsOpen([&](const MessageBox&) {
+    waitingAtError = !form.enabled() && screen.cursor() == Cursor::wait;
+  });
   send();
+  EXPECT_TRUE(waitingAtError);
   EXPECT_THAT(takeBoxes(), ElementsAre(repeatQuestion,
                                        "Произошла ошибка в btnPrzeslij_Click()|"
                                        "critical|OK|Out of memory"));
