@@ -16,7 +16,7 @@ struct HeaderValidation : ::testing::Test {
   TestEditor test;
   AwizoForm& form = test.form;
 
-  HeaderValidation() {
+  explicit HeaderValidation(const char* locale = "ru_RU") : test(locale) {
     form.txtNrAwiza.setText("WZ 1/2026");
     form.txtDataAwiza.setDate(today);
     form.txtEstimatedDeliveryDate.setDate(tomorrow);
@@ -31,12 +31,28 @@ struct HeaderValidation : ::testing::Test {
     EXPECT_EQ(form.focus(), &form.grdPozycje);
   }
 
+  /// The focus moves only when the user has read the message.
   void expectRefused(const std::string& message, const Control& focus) {
+    const Control* const before = form.focus();
+    const Control* atBox = nullptr;
+    test.face.whileBoxIsOpen([&](const MessageBox&) { atBox = form.focus(); });
     EXPECT_FALSE(ValidateHeader(test.editor));
     ASSERT_EQ(test.face.boxes().size(), 1U);
     EXPECT_EQ(describe(test.face.lastBox()), "VIRD|exclamation|OK|" + message);
+    EXPECT_EQ(atBox, before);
     EXPECT_EQ(form.focus(), &focus);
   }
+  void expectCodeRefused(const char* code) {
+    form.txtCodeByBuyer.setText(code);
+    expectRefused("Неправильно количество в поле 'Код поставщика у покупателя'",
+                  form.txtCodeByBuyer);
+    test.face.takeBoxes();
+    form.grdPozycje.setFocus();
+  }
+};
+
+struct HeaderValidationInAPointLocale : HeaderValidation {
+  HeaderValidationInAPointLocale() : HeaderValidation("en_US") {}
 };
 
 TEST_F(HeaderValidation, PassesAFullHeader) { expectPassed(); }
@@ -99,13 +115,23 @@ TEST_F(HeaderValidation, TheMarkOfAMissingOrderNumberPasses) {
 }
 
 TEST_F(HeaderValidation, ACodeByBuyerMustBeNumeric) {
-  for (const char* code : {"12A", "A", "1 2 x"}) {
+  for (const char* code : {"12A", "A", "1 2 x"}) expectCodeRefused(code);
+}
+
+TEST_F(HeaderValidation, ACodeByBuyerIsNumericByTheLocale) {
+  for (const char* code : {"1 2", "1,5"}) {
     form.txtCodeByBuyer.setText(code);
-    expectRefused("Неправильно количество в поле 'Код поставщика у покупателя'",
-                  form.txtCodeByBuyer);
-    test.face.takeBoxes();
-    form.grdPozycje.setFocus();
+    expectPassed();
   }
+  expectCodeRefused("1.5");
+}
+
+TEST_F(HeaderValidationInAPointLocale, ACodeByBuyerIsNumericByTheLocale) {
+  for (const char* code : {"1.5", "1,5"}) {
+    form.txtCodeByBuyer.setText(code);
+    expectPassed();
+  }
+  expectCodeRefused("1 2");
 }
 
 TEST_F(HeaderValidation, BlanksAroundACodeByBuyerDontMatter) {

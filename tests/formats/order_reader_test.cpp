@@ -218,6 +218,15 @@ TEST_F(OrderReader, ShowsTheWaitCursorWhileItReadsAlsoWhenItFails) {
   EXPECT_EQ(test.screen.cursor(), Cursor::normal);
 }
 
+TEST_F(OrderReader, GivesBackTheCursorThatWasThere) {
+  test.screen.setCursor(Cursor::wait);
+  readLines(line("<EAN>1</EAN>"));
+  EXPECT_EQ(test.screen.cursor(), Cursor::wait);
+  read("<Document-Order/>");
+  expectFailure("Object variable or With block variable not set");
+  EXPECT_EQ(test.screen.cursor(), Cursor::wait);
+}
+
 TEST_F(OrderReader, AnOrderWithoutLinesElementFailsAfterTheHeader) {
   read(std::string("<Document-Order>") + fullHeader + "</Document-Order>");
   expectFailure("Object variable or With block variable not set");
