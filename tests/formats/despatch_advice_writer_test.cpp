@@ -192,6 +192,33 @@ TEST_F(DespatchAdvice, CarriesALineWithAllItsValues) {
                   "</Document-DespatchAdvice>"));
 }
 
+TEST_F(DespatchAdvice, CommasOfALineStayWhereNoNumberStands) {
+  std::vector<std::string> cells = line("1");
+  for (const int column :
+       {GRD_POZ_LP, GRD_POZ_ORDER_LINE, GRD_POZ_EAN, GRD_POZ_CODE_BY_BUYER, GRD_POZ_CODE_BY_SELLER,
+        GRD_POZ_UNIT, GRD_POZ_NAME, GRD_POZ_COUNTRY, GRD_POZ_CDN}) {
+    cells[static_cast<std::size_t>(column)] = "A, B";
+  }
+  setLines({cells});
+  for (const char* element :
+       {"LineNumber", "OrderLineNumber", "EAN", "BuyerItemCode", "SupplierItemCode",
+        "UnitOfMeasure", "ItemDescription", "CountryOfOriginCode", "CustomsDeclarationNumber"}) {
+    EXPECT_EQ(value(std::string("//Line-Item/") + element), "A, B") << element;
+  }
+}
+
+TEST_F(DespatchAdvice, CommasOfAPackageStayWhereNoNumberStands) {
+  std::vector<std::string> cells = package("A, B", "A, B");
+  for (const int column : {GRD_OPAK_TYPE, GRD_OPAK_SERIAL_NUMBER, GRD_OPAK_LOCATION_ILN}) {
+    cells[static_cast<std::size_t>(column)] = "A, B";
+  }
+  setPackages({package("2", "1"), cells});
+  for (const char* element :
+       {"PackageId", "ParentId", "PackageType", "SerialNumber", "DeliveryPlace"}) {
+    EXPECT_EQ(value(std::string("//Packing-Sequence[3]/") + element), "A, B") << element;
+  }
+}
+
 TEST_F(DespatchAdvice, ALineWithoutValuesKeepsTheElementsThatAlwaysStand) {
   setLines({std::vector<std::string>(23)});
   EXPECT_THAT(written(), ::testing::HasSubstr("<Line><Line-Item><LineNumber/><EAN/>"
