@@ -1,6 +1,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <set>
 
 #include "desktop_program/program_test.h"
 #include "hosts/desktop/faces/table_face.h"
@@ -97,6 +98,33 @@ TEST_F(CommandsTest, MenusAndTipsTellTheKeys) {
   EXPECT_EQ(face(form().btnDodaj).widget()->toolTip(), "Добавить строку (Ins)");
   EXPECT_EQ(face(form().btnZapisz).widget()->toolTip(), "Сохранить (Ctrl+S)");
   EXPECT_EQ(face(form().btnEdytujOpak).widget()->toolTip(), "Изменить упаковку (F2)");
+}
+
+TEST_F(CommandsTest, MenusOpenAndActByTheirLetters) {
+  openCounting();
+  constexpr auto cyrillicD = static_cast<Qt::Key>(0x414);
+  constexpr auto cyrillicI = static_cast<Qt::Key>(0x418);
+  constexpr auto cyrillicO = static_cast<Qt::Key>(0x41E);
+  constexpr auto cyrillicP = static_cast<Qt::Key>(0x41F);
+  press(cyrillicD, Qt::AltModifier);
+  press(cyrillicO);
+  EXPECT_EQ(pressed, "btnWczytaj ");
+  press(cyrillicP, Qt::AltModifier);
+  press(cyrillicI);
+  EXPECT_EQ(pressed, "btnWczytaj btnEdytuj ");
+}
+
+TEST_F(CommandsTest, NoTwoItemsOfAMenuShareALetter) {
+  openCounting();
+  for (const QAction* menu : window().menuBar()->actions()) {
+    std::set<QKeySequence> letters;
+    for (const QAction* action : menu->menu()->actions()) {
+      if (action->isSeparator()) continue;
+      const QKeySequence letter = QKeySequence::mnemonic(action->text());
+      EXPECT_FALSE(letter.isEmpty()) << action->text().toStdString();
+      EXPECT_TRUE(letters.insert(letter).second) << action->text().toStdString();
+    }
+  }
 }
 
 TEST_F(CommandsTest, TheWindowFitsASmallScreenAndCutsNoButton) {
