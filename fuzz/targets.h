@@ -19,6 +19,9 @@ void places(std::string_view bytes);
 void identity(std::string_view bytes);
 /// A despatch advice in a file, read, written and read again.
 void despatchAdvice(std::string_view bytes);
+/// A despatch advice or an order that is checked: what is found wanting in none is read without a
+/// word.
+void checking(std::string_view bytes);
 /// A package reference string: to a table and back, to XML and back.
 void packageReferences(std::string_view bytes);
 /// A customs number: taken apart and put together.
@@ -35,12 +38,13 @@ struct NamedTarget {
   Target run;
 };
 
-inline constexpr std::array<NamedTarget, 9> targets{{
+inline constexpr std::array<NamedTarget, 10> targets{{
     {"order", order},
     {"catalogue", catalogue},
     {"places", places},
     {"identity", identity},
     {"despatch-advice", despatchAdvice},
+    {"checking", checking},
     {"package-references", packageReferences},
     {"customs-number", customsNumber},
     {"numbers-and-dates", numbersAndDates},
