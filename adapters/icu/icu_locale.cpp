@@ -7,11 +7,41 @@
 #include "adapters/icu/formats.h"
 #include "adapters/icu/locale_name.h"
 #include "adapters/icu/single_byte.h"
+#include "platform/text.h"
 
 namespace awizo {
 
 using icu_locale::localeNamed;
 using icu_locale::writesCyrillic;
+
+namespace {
+
+using CaseMapping = void (*)(const char* locale, std::uint32_t options, icu::StringPiece,
+                             icu::ByteSink&, icu::Edits*, UErrorCode&);
+
+std::string mapped(CaseMapping map, const icu::Locale& locale, std::string_view text) {
+  std::string result;
+  icu::StringByteSink<std::string> sink(&result);
+  UErrorCode status = U_ZERO_ERROR;
+  map(locale.getName(), 0, {text.data(), static_cast<int32_t>(text.size())}, sink, nullptr, status);
+  return result;
+}
+
+/// The text in another case. A character that has no single counterpart there stays.
+std::string inCase(CaseMapping map, const icu::Locale& locale, std::string_view text) {
+  std::string whole = mapped(map, locale, text);
+  if (countCharacters(whole) == countCharacters(text)) return whole;
+  std::string result;
+  while (!text.empty()) {
+    const std::string_view character = firstCharacters(text, 1);
+    const std::string other = mapped(map, locale, character);
+    result += countCharacters(other) == 1 ? other : character;
+    text.remove_prefix(character.size());
+  }
+  return result;
+}
+
+}  // namespace
 
 struct IcuLocale::Parts {
   explicit Parts(const icu::Locale& named)
@@ -42,23 +72,11 @@ std::string IcuLocale::shortTime(TimeOfDay time) const { return parts_->formats.
 std::string IcuLocale::longDate(Date date) const { return parts_->formats.longDate(date); }
 
 std::string IcuLocale::upper(std::string_view text) const {
-  std::string result;
-  icu::StringByteSink<std::string> sink(&result);
-  UErrorCode status = U_ZERO_ERROR;
-  icu::CaseMap::utf8ToUpper(parts_->locale.getName(), 0,
-                            {text.data(), static_cast<int32_t>(text.size())}, sink, nullptr,
-                            status);
-  return result;
+  return inCase(&icu::CaseMap::utf8ToUpper, parts_->locale, text);
 }
 
 std::string IcuLocale::lower(std::string_view text) const {
-  std::string result;
-  icu::StringByteSink<std::string> sink(&result);
-  UErrorCode status = U_ZERO_ERROR;
-  icu::CaseMap::utf8ToLower(parts_->locale.getName(), 0,
-                            {text.data(), static_cast<int32_t>(text.size())}, sink, nullptr,
-                            status);
-  return result;
+  return inCase(&icu::CaseMap::utf8ToLower, parts_->locale, text);
 }
 
 std::string IcuLocale::collationKey(std::string_view text) const {

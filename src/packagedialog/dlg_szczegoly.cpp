@@ -118,9 +118,9 @@ bool DlgSzczegoly::IsKnownDescription(std::string_view text) const {
 // The last element stands for no package.
 bool DlgSzczegoly::isKnown(const std::vector<std::string>& entries, std::string_view text) const {
   const Locale& locale = editor_.platform.locale;
-  const std::string key = locale.collationKey(text);
+  const std::string upper = locale.upper(text);
   for (std::size_t i = 0; i + 1 < entries.size(); ++i) {
-    if (entries[i] == text || locale.collationKey(entries[i]) == key) return true;
+    if (entries[i] == text || locale.upper(entries[i]) == upper) return true;
   }
   return false;
 }

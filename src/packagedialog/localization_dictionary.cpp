@@ -32,7 +32,7 @@ void DlgSzczegoly::readLocalizations(const XmlNode& catalogue) {
   LocalizationOrder.assign(last + 1, 0);
   LocalizationIlns.assign(last + 1, "");
   for (std::size_t i = 0; i < entries.size(); ++i) {
-    const bool isPlace = entries[i].name() == "localization";
+    const bool isPlace = entries[i].isElement("localization");
     const XmlNode place = isPlace ? entries[i] : XmlNode{};
     LocalizationNumbers[i] = GetNodeValue(place, "number", false);
     LocalizationOrder[i] = narrow32(static_cast<std::int64_t>(i));

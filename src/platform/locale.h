@@ -34,11 +34,13 @@ class Locale {
   /// Long date: "21 ноября 2026 г.".
   virtual std::string longDate(Date date) const = 0;
 
+  /// Character by character: "ß" stays, and the ligature "ﬁ" too.
   virtual std::string upper(std::string_view text) const = 0;
   virtual std::string lower(std::string_view text) const = 0;
 
   /// Bytes whose order is the locale's case-blind order of texts, and which are equal for texts
-  /// that differ only in case. Punctuation counts.
+  /// that differ only in case. Punctuation counts. Forms of one character (full width, raised,
+  /// ligatures) have equal keys, so keys order texts but don't tell whether they are the same.
   virtual std::string collationKey(std::string_view text) const = 0;
 
   /// The machine's single-byte encoding (windows-1251 for Cyrillic locales, windows-1252 for
@@ -48,7 +50,7 @@ class Locale {
 
   /// Whether two texts are the same but for case.
   bool sameIgnoringCase(std::string_view left, std::string_view right) const {
-    return left == right || collationKey(left) == collationKey(right);
+    return left == right || upper(left) == upper(right);
   }
 };
 

@@ -138,6 +138,18 @@ TEST(Case, CoversCyrillicWithYo) {
   EXPECT_EQ(american().upper("щи"), "ЩИ");
 }
 
+TEST(Case, KeepsTheNumberOfCharacters) {
+  EXPECT_EQ(russian().upper("ﬁ, Straße, ё"), "ﬁ, STRAßE, Ё");
+  EXPECT_EQ(russian().lower("İ, Ё"), "İ, ё");
+}
+
+TEST(Case, IsAllThatIsIgnored) {
+  EXPECT_TRUE(russian().sameIgnoringCase("Ёлка №1", "ёЛКА №1"));
+  for (const char* other : {"Паллета No1", "Паллета №1\u200B", "Паллета №¹", "Паллета\u00A0№1"}) {
+    EXPECT_FALSE(russian().sameIgnoringCase("Паллета №1", other)) << other;
+  }
+}
+
 TEST(Case, FollowsTheLocale) {
   EXPECT_EQ(american().upper("i"), "I");
   EXPECT_EQ(IcuLocale("tr_TR").upper("i"), "İ");

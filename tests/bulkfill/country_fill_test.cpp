@@ -85,6 +85,15 @@ TEST_F(FillingTheCountry, AnotherCodeJoinsBothLists) {
   EXPECT_EQ(list.count(), 11);
 }
 
+TEST_F(FillingTheCountry, ARowInAnotherCaseIsAnotherRow) {
+  list.addRow("(jp)япония");
+  lineDialog.touch().comboCountry.addRow("(jp)япония");
+  list.userType("jp");
+  overwrite();
+  EXPECT_EQ(list.rows().back(), "(JP)Япония");
+  EXPECT_EQ(lineDialog.comboCountry.rows().back(), "(JP)Япония");
+}
+
 // The short list calls the country by another name than the table of all countries.
 TEST_F(FillingTheCountry, BelarusJoinsTheListASecondTime) {
   list.userType("BY");

@@ -67,12 +67,14 @@ TEST_F(FillingTheRate, AnEmptyRateEmptiesRatesAndCategories) {
 
 TEST_F(FillingTheRate, NoMeansThatNothingHappens) {
   form.comboStawkaVAT.userChoose(3);
+  form.ValidLineCount = 77;
   face.answer(Answer::no);
   form.btnUzupelnij.userClick();
   face.answer(Answer::no);
   form.btnNadpisz.userClick();
   EXPECT_THAT(rates(), ElementsAre("", "-1", "0", "10"));
   EXPECT_THAT(categories(), Each("E"));
+  EXPECT_EQ(form.ValidLineCount, 77) << "nothing is counted";
 }
 
 TEST_F(FillingTheRate, WithoutLinesNothingIsAsked) {

@@ -210,5 +210,14 @@ TEST_F(InTableEditing, ATextThatIsNoNumberIsToldAndTheCellKeepsItsValue) {
   }
 }
 
+TEST_F(InTableEditing, ARefusedTextMovesOnAsAnAcceptedOneDoes) {
+  for (const auto& [key, row] : {std::pair(keys::enter, 3), {keys::up, 1}, {keys::down, 3}}) {
+    openEditor(2);
+    field.userType("abc");
+    field.userKey(key);
+    expectCurrent(row, GRD_POZ_QTY_DESPATCHED);
+  }
+}
+
 }  // namespace
 }  // namespace awizo::test

@@ -125,6 +125,21 @@ TEST_F(EditingALine, WhatWasPickedForAnotherLineIsGone) {
   });
 }
 
+TEST_F(EditingALine, AnEmptyCodeIsThatOfTheFirstProductWithoutOne) {
+  session.ProductCatalogLoaded = session.ProductCatalogDom->loadText(
+      "<Document-ProductCatalogue><ProductCatalogue-Lines><Line><Line-Item><EAN>1</EAN>"
+      "<ItemDescription>Соль</ItemDescription></Line-Item></Line></ProductCatalogue-Lines>"
+      "</Document-ProductCatalogue>");
+  lineDialog.touch().cboxKodAPP.setText("old");
+  look([&] {
+    EXPECT_EQ(lineDialog.cboxKodAPP.index(), 0);
+    EXPECT_EQ(lineDialog.cboxEANProd.index(), 0);
+    EXPECT_EQ(lineDialog.txtlEANProdWart.text(), "4607000000116") << "the line's own fields stay";
+    EXPECT_EQ(lineDialog.txtNazwaProdWart.text(), "Чай");
+    EXPECT_EQ(lineDialog.txtKodKup.text(), "B-1");
+  });
+}
+
 // Equal rows are all selected in turn; the text changes with the first alone.
 TEST_F(EditingALine, OfEqualRowsOfTheCodeTheLastIsSelected) {
   DropDownList& list = lineDialog.touch().cboxEANProd;

@@ -58,6 +58,7 @@ TEST_P(CountryCheck, RefusesThreeLettersAndOne) {
   EXPECT_EQ(check("(RU"), "(none)") << "the brackets of three characters stay";
   EXPECT_EQ(check("R"), "(none)");
   EXPECT_EQ(check(" "), "(none)");
+  EXPECT_EQ(check("ﬁ"), "(none)") << "one character, though it looks like the two of a code";
 }
 
 TEST_P(CountryCheck, DropsBracketsWhereverTheyStand) {

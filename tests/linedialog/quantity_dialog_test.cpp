@@ -118,6 +118,33 @@ TEST_P(QuantityDialog, WhatIsOutOfRangeBecomesTheLargestQuantity) {
   }
 }
 
+TEST_P(QuantityDialog, AWrongQuantityThatWasNotTypedTakesTheFocus) {
+  show([&] {
+    dialog.cboxPackages.userFocus();
+    dialog.txtQuantity.setText("x");
+    EXPECT_EQ(focus(), "txtQuantity");
+    dialog.cboxPackages.userFocus();
+    dialog.txtQuantity.setText("8");
+    EXPECT_EQ(focus(), "txtQuantity");
+  });
+  EXPECT_THAT(boxes(), ElementsAre(noNumber, outOfRange));
+}
+
+// Grouped thousands are a number, of which a comma becomes a second point.
+TEST_P(QuantityDialog, GroupedThousandsAreAnErrorWhereACommaGroupsThem) {
+  dialog.UpDown1.setMax(2000);
+  const bool comma = test.session.DecimalSeparator == ",";
+  const std::string typed = comma ? "1 000,5" : "1,000.5";
+  show([&] {
+    dialog.txtQuantity.userType(typed);
+    EXPECT_EQ(dialog.txtQuantity.text(), typed);
+  });
+  if (comma)
+    EXPECT_THAT(boxes(), IsEmpty());
+  else
+    EXPECT_THAT(boxes(), ElementsAre("VIRD|critical|OK|Type mismatch"));
+}
+
 TEST_P(QuantityDialog, TheLimitsThemselvesAndWhatLiesBetweenPass) {
   for (const std::string& typed : {std::string("1"), local("1,25"), std::string("7")}) {
     show([&] {

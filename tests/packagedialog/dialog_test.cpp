@@ -164,6 +164,14 @@ TEST_F(PackageDialog, KnowsSerialsAndDescriptionsWithoutRegardToCase) {
   EXPECT_FALSE(dialog.IsKnownDescription("Коробка "));
 }
 
+TEST_F(PackageDialog, TakesOtherFormsOfACharacterForOthers) {
+  session.ParentDescriptions = {"Паллета №1", "Короб м²", ""};
+  for (const char* other : {"Паллета No1", "Короб м2", "Короб м²\u00AD"}) {
+    EXPECT_FALSE(dialog.IsKnownDescription(other)) << other;
+  }
+  EXPECT_EQ(indexPackageType(locale, "²01"), -1);
+}
+
 TEST_F(PackageDialog, TheElementForNoPackageIsNoPackage) {
   offerParents();
   EXPECT_FALSE(dialog.IsKnownSerial(""));
@@ -240,6 +248,14 @@ TEST_F(PackageDialog, TheLogTellsHowParentsArePrepared) {
               ::testing::HasSubstr(time + "P1\r\n" + time + "cboxParentPackage.ListCount = 0\r\n" +
                                    time + "P2\r\n" + time + "P3\r\n"));
   EXPECT_THAT(log, ::testing::HasSubstr(time + "cboxParentPackage_Click: index = 1\r\n"));
+}
+
+TEST_F(PackageDialog, TheLogTellsHowManyParentsTheListHadBefore) {
+  offerParents();
+  dialog.PreparePackages(false);
+  session.log.OpenDebugLog("c:\\log", 4);
+  dialog.PreparePackages(false);
+  EXPECT_THAT(files.bytes("c:\\log"), ::testing::HasSubstr("cboxParentPackage.ListCount = 2\r\n"));
 }
 
 }  // namespace

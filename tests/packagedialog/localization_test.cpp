@@ -95,11 +95,13 @@ TEST_F(Localizations, AMissingValueReadsAsMinusOne) {
 }
 
 TEST_F(Localizations, ChildrenOfAnotherKindCountAsPlacesWithoutValues) {
-  loadPlaces(places("<!-- closed --><other><number>x</number></other>" + place("А", "1") +
-                    place("Я", "9")));
+  loadPlaces(
+      places("<!-- closed --><other><number>x</number></other>"
+             "<localization xmlns='urn:o'><number xmlns=''>А</number></localization>" +
+             place("А", "1") + place("Я", "9")));
   open();
-  EXPECT_THAT(names(), ElementsAre("-1", "-1", "А"));
-  EXPECT_THAT(ilns(), ElementsAre("-1", "-1", "1"));
+  EXPECT_THAT(names(), ElementsAre("-1", "-1", "-1", "А"));
+  EXPECT_THAT(ilns(), ElementsAre("-1", "-1", "-1", "1"));
 }
 
 TEST_F(Localizations, EqualNumbersAreOfferedEachWithItsILN) {
@@ -115,6 +117,8 @@ TEST_F(Localizations, ACatalogueWithoutItsListIsAnError) {
   EXPECT_THAT(boxes(),
               ElementsAre("Произошла ошибка в LoadLocalizationDictionary() (Opak)|critical|OK|"
                           "Object variable or With block variable not set"));
+  open();
+  EXPECT_THAT(boxes(), IsEmpty()) << "the catalogue is read once, whatever came of it";
 }
 
 TEST_F(Localizations, AReplyWithoutTheCatalogueOffersNone) {

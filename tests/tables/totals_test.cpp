@@ -174,6 +174,10 @@ TEST_F(PartWeightTest, RoundsTheResultToThreeDecimals) {
   EXPECT_EQ(weigh("1,111", "1,11"), 1.233);
 }
 
+TEST_F(PartWeightTest, RoundsTheQuantityToThreeDecimalsFirst) {
+  EXPECT_EQ(weigh("1,0004", "10"), 10);
+}
+
 TEST_F(PartWeightTest, WithoutAWeightIsZeroAndIncomplete) {
   for (const char* weight : {"0", "-1", "", "ABC", "0,004"}) {
     test.form.WeightComplete = true;

@@ -179,8 +179,9 @@ void fillDialogForEdit(Editor& editor, DlgDodaj& dialog, std::int16_t row) {
   PreparePackageArrays(editor);
   dialog.cboxEANProd.clearSelection();
   dialog.cboxNazwaProd.clearSelection();
-  dialog.cboxKodAPP.clearSelection();
-  dialog.cboxKodSprzed.clearSelection();
+  // The empty text is an entry where a product has no such code.
+  dialog.cboxKodAPP.setText("");
+  dialog.cboxKodSprzed.setText("");
   dialog.txtNazwaProdWart.setText("");
   DialogFiller(editor, dialog, row).fillAll();
   dialog.LineFromOrder = editor.form.OrderAnswer;
