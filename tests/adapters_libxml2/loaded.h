@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "adapters/libxml2/libxml2.h"
+#include "support/error_of.h"
 
 namespace awizo::test {
 
@@ -24,17 +25,6 @@ inline std::vector<std::string> texts(const std::vector<XmlNode>& nodes) {
   std::vector<std::string> found;
   for (const XmlNode& node : nodes) found.push_back(node.text());
   return found;
-}
-
-/// The number of the run-time error that the work raises; 0 for none.
-template <typename Work>
-int errorOf(Work work) {
-  try {
-    work();
-  } catch (const RunTimeError& error) {
-    return error.number();
-  }
-  return 0;
 }
 
 }  // namespace awizo::test

@@ -4,7 +4,7 @@
 namespace awizo {
 namespace {
 
-using test::errorOf;
+using test::errorNumberOf;
 using test::loaded;
 using test::texts;
 using testing::ElementsAre;
@@ -95,10 +95,10 @@ TEST(Selecting, AnInvalidPathIsAnError) {
   for (const char* path :
        {"", " ", "/a/", "a//", "b[", "b[]", "b[=1]", "/L/Line[I/EAN=]", "b]", "a b", "1b/", "//",
         "none()", "$x", "p:b", "b[p:c]", "'", "a/b[c=12 34]", "-"}) {
-    EXPECT_EQ(errorOf([&] { document->root().selectSingle(path); }), invalidPath) << path;
-    EXPECT_EQ(errorOf([&] { document->root().selectAll(path); }), invalidPath) << path;
+    EXPECT_EQ(errorNumberOf([&] { document->root().selectSingle(path); }), invalidPath) << path;
+    EXPECT_EQ(errorNumberOf([&] { document->root().selectAll(path); }), invalidPath) << path;
   }
-  EXPECT_EQ(errorOf([&] { document->root().selectSingle(std::string_view("b\0c", 3)); }),
+  EXPECT_EQ(errorNumberOf([&] { document->root().selectSingle(std::string_view("b\0c", 3)); }),
             invalidPath);
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
   EXPECT_EQ(document->root().selectSingle("b").text(), "1");
@@ -107,20 +107,21 @@ TEST(Selecting, AnInvalidPathIsAnError) {
 TEST(Selecting, APathThatGivesNoNodesByItsNatureIsAnError) {
   const auto document = loaded("<a/>");
   for (const char* path : {"1", "'text'", "count(*)", "1=1", "string(.)"}) {
-    EXPECT_EQ(errorOf([&] { document->root().selectSingle(path); }), invalidPath) << path;
+    EXPECT_EQ(errorNumberOf([&] { document->root().selectSingle(path); }), invalidPath) << path;
   }
 }
 
 TEST(Selecting, AnInvalidPathIsOneInAnEmptyDocumentToo) {
   const auto document = Libxml2().createDocument();
-  EXPECT_EQ(errorOf([&] { document->node().selectSingle("/L/Line[EAN=]"); }), invalidPath);
+  EXPECT_EQ(errorNumberOf([&] { document->node().selectSingle("/L/Line[EAN=]"); }), invalidPath);
 }
 
 TEST(Selecting, APathThatWouldRunForeverIsAnError) {
   std::string text = "<a>";
   for (int i = 0; i < 3000; ++i) text += "<b>x</b>";
   const auto document = loaded(text + "</a>");
-  EXPECT_EQ(errorOf([&] { document->node().selectSingle("//*[//*[//*[//*='y']]]"); }), invalidPath);
+  EXPECT_EQ(errorNumberOf([&] { document->node().selectSingle("//*[//*[//*[//*='y']]]"); }),
+            invalidPath);
   EXPECT_EQ(document->node().selectSingle("//b[2999]").text(), "x");
 }
 
@@ -130,10 +131,11 @@ TEST(Selecting, APathOfAnyLengthIsTaken) {
   std::string parentheses = "a";
   for (int i = 0; i < 100'000; ++i) path += "/a";
   for (int i = 0; i < 100'000; ++i) parentheses = "(" + parentheses;
-  EXPECT_EQ(errorOf([&] { EXPECT_FALSE(document->node().selectSingle(path.substr(0, 1000))); }), 0);
-  EXPECT_THAT(errorOf([&] { document->node().selectSingle(path); }),
+  EXPECT_EQ(
+      errorNumberOf([&] { EXPECT_FALSE(document->node().selectSingle(path.substr(0, 1000))); }), 0);
+  EXPECT_THAT(errorNumberOf([&] { document->node().selectSingle(path); }),
               testing::AnyOf(0, invalidPath));
-  EXPECT_EQ(errorOf([&] { document->node().selectSingle(parentheses); }), invalidPath);
+  EXPECT_EQ(errorNumberOf([&] { document->node().selectSingle(parentheses); }), invalidPath);
 }
 
 TEST(Selecting, FromATextThereIsNothingBelow) {

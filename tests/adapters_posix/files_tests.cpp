@@ -10,7 +10,7 @@
 namespace awizo {
 namespace {
 
-using test::errorOf;
+using test::errorNumberOf;
 using test::expectErrorForOrdinaryUser;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -63,18 +63,18 @@ TEST_F(Paths, TheyMayHoldRussianLetters) {
 }
 
 TEST_F(Paths, AnotherDriveIsUnavailable) {
-  EXPECT_EQ(errorOf([&] { files.readAll("d:\\a.xml"); }), 68);
-  EXPECT_EQ(errorOf([&] { files.replace("A:\\a.xml", ""); }), 68);
-  EXPECT_EQ(errorOf([&] { files.createText("d:\\a.log"); }), 68);
-  EXPECT_EQ(errorOf([&] { files.makeFolder("d:\\a"); }), 68);
-  EXPECT_EQ(errorOf([&] { files.folders("d:\\"); }), 68);
+  EXPECT_EQ(errorNumberOf([&] { files.readAll("d:\\a.xml"); }), 68);
+  EXPECT_EQ(errorNumberOf([&] { files.replace("A:\\a.xml", ""); }), 68);
+  EXPECT_EQ(errorNumberOf([&] { files.createText("d:\\a.log"); }), 68);
+  EXPECT_EQ(errorNumberOf([&] { files.makeFolder("d:\\a"); }), 68);
+  EXPECT_EQ(errorNumberOf([&] { files.folders("d:\\"); }), 68);
   EXPECT_FALSE(files.folderExists("d:\\"));
 }
 
 TEST_F(Paths, WhatCanBeNoNameIsABadName) {
-  EXPECT_EQ(errorOf([&] { files.readAll(""); }), 52);
-  EXPECT_EQ(errorOf([&] { files.replace(std::string_view("a\0b", 3), ""); }), 52);
-  EXPECT_EQ(errorOf([&] { files.replace(classic(std::string(300, 'a')), ""); }), 52);
+  EXPECT_EQ(errorNumberOf([&] { files.readAll(""); }), 52);
+  EXPECT_EQ(errorNumberOf([&] { files.replace(std::string_view("a\0b", 3), ""); }), 52);
+  EXPECT_EQ(errorNumberOf([&] { files.replace(classic(std::string(300, 'a')), ""); }), 52);
   EXPECT_FALSE(files.folderExists(""));
 }
 
@@ -89,20 +89,20 @@ TEST_F(Reading, GivesAllBytes) {
 }
 
 TEST_F(Reading, AMissingFileIsNotFound) {
-  EXPECT_EQ(errorOf([&] { files.readAll(classic("a.xml")); }), 53);
+  EXPECT_EQ(errorNumberOf([&] { files.readAll(classic("a.xml")); }), 53);
 }
 
 TEST_F(Reading, AMissingFolderIsAPathNotFound) {
-  EXPECT_EQ(errorOf([&] { files.readAll(classic("none\\a.xml")); }), 76);
+  EXPECT_EQ(errorNumberOf([&] { files.readAll(classic("none\\a.xml")); }), 76);
   folder.put("file", "");
-  EXPECT_EQ(errorOf([&] { files.readAll(classic("file\\a.xml")); }), 76);
+  EXPECT_EQ(errorNumberOf([&] { files.readAll(classic("file\\a.xml")); }), 76);
 }
 
 TEST_F(Reading, AFolderOrADeviceIsNoFile) {
-  EXPECT_EQ(errorOf([&] { files.readAll(classic("")); }), 75);
-  EXPECT_EQ(errorOf([&] { files.readAll("/dev/zero"); }), 75);
+  EXPECT_EQ(errorNumberOf([&] { files.readAll(classic("")); }), 75);
+  EXPECT_EQ(errorNumberOf([&] { files.readAll("/dev/zero"); }), 75);
   ASSERT_EQ(mkfifo(plain("pipe").c_str(), 0600), 0);
-  EXPECT_EQ(errorOf([&] { files.readAll(classic("pipe")); }), 75);
+  EXPECT_EQ(errorNumberOf([&] { files.readAll(classic("pipe")); }), 75);
 }
 
 TEST_F(Reading, AFileOfSomebodyElseIsDenied) {
@@ -145,13 +145,13 @@ TEST_F(Replacing, ALinkStaysALink) {
 }
 
 TEST_F(Replacing, AMissingFolderIsAPathNotFound) {
-  EXPECT_EQ(errorOf([&] { files.replace(classic("none\\a.xml"), ""); }), 76);
+  EXPECT_EQ(errorNumberOf([&] { files.replace(classic("none\\a.xml"), ""); }), 76);
   EXPECT_THAT(folder.names(), IsEmpty());
 }
 
 TEST_F(Replacing, AFolderIsNotReplaced) {
   files.makeFolder(classic("a.xml"));
-  EXPECT_EQ(errorOf([&] { files.replace(classic("a.xml"), ""); }), 75);
+  EXPECT_EQ(errorNumberOf([&] { files.replace(classic("a.xml"), ""); }), 75);
   EXPECT_TRUE(files.folderExists(classic("a.xml")));
 }
 
@@ -180,13 +180,13 @@ TEST_F(Replacing, ADiskThatFillsUpLeavesTheOldFileAndNothingElse) {
     setrlimit(RLIMIT_FSIZE, &limit);
     files.replace(classic("a.xml"), std::string(1'000'000, 'x'));
   };
-  EXPECT_EXIT(_exit(errorOf(fillUp)), testing::ExitedWithCode(61), "");
+  EXPECT_EXIT(_exit(errorNumberOf(fillUp)), testing::ExitedWithCode(61), "");
   EXPECT_EQ(folder.bytes("a.xml"), "old");
   EXPECT_THAT(folder.names(), ElementsAre("a.xml"));
 }
 
 TEST_F(Replacing, AFullDeviceIsADiskFullAndStaysADevice) {
-  EXPECT_EQ(errorOf([&] { files.replace("c:\\dev\\full", "text"); }), 61);
+  EXPECT_EQ(errorNumberOf([&] { files.replace("c:\\dev\\full", "text"); }), 61);
   EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
 }
 
@@ -226,20 +226,20 @@ TEST_F(TextFiles, AnOldFileIsEmptiedAndClosedToOthers) {
 TEST_F(TextFiles, ALinkIsNotFollowedToAFileElsewhere) {
   folder.put("precious", "text");
   std::filesystem::create_symlink("precious", folder.path() / "Awizo.log");
-  EXPECT_EQ(errorOf([&] { files.createText(classic("Awizo.log")); }), 75);
+  EXPECT_EQ(errorNumberOf([&] { files.createText(classic("Awizo.log")); }), 75);
   EXPECT_EQ(folder.bytes("precious"), "text");
 }
 
 TEST_F(TextFiles, FailuresByTheirCause) {
-  EXPECT_EQ(errorOf([&] { files.createText(classic("none\\Awizo.log")); }), 76);
-  EXPECT_EQ(errorOf([&] { files.createText(classic("")); }), 75);
+  EXPECT_EQ(errorNumberOf([&] { files.createText(classic("none\\Awizo.log")); }), 76);
+  EXPECT_EQ(errorNumberOf([&] { files.createText(classic("")); }), 75);
   chmod(folder.path().c_str(), 0555);
   expectErrorForOrdinaryUser(70, [&] { files.createText(classic("Awizo.log")); });
 }
 
 TEST_F(TextFiles, ALineThatFindsTheDiskFullIsADiskFull) {
   const auto log = files.createText("c:\\dev\\full");
-  EXPECT_EQ(errorOf([&] { log->writeLine("text"); }), 61);
+  EXPECT_EQ(errorNumberOf([&] { log->writeLine("text"); }), 61);
 }
 
 using Folders = FilesTest;
@@ -258,8 +258,8 @@ TEST_F(Folders, AFileIsNoFolder) {
 
 TEST_F(Folders, FailuresOfMakingByTheirCause) {
   files.makeFolder(classic("VIRD"));
-  EXPECT_EQ(errorOf([&] { files.makeFolder(classic("VIRD")); }), 75);
-  EXPECT_EQ(errorOf([&] { files.makeFolder(classic("none\\VIRD")); }), 76);
+  EXPECT_EQ(errorNumberOf([&] { files.makeFolder(classic("VIRD")); }), 75);
+  EXPECT_EQ(errorNumberOf([&] { files.makeFolder(classic("none\\VIRD")); }), 76);
   chmod(folder.path().c_str(), 0555);
   expectErrorForOrdinaryUser(70, [&] { files.makeFolder(classic("new")); });
 }
@@ -287,10 +287,10 @@ TEST_F(Folders, NamesThatNoClassicPathCanSayAreNotListed) {
 }
 
 TEST_F(Folders, AMissingOneIsAPathNotFound) {
-  EXPECT_EQ(errorOf([&] { files.folders(classic("none")); }), 76);
-  EXPECT_EQ(errorOf([&] { files.files(classic("none"), ".xml"); }), 76);
+  EXPECT_EQ(errorNumberOf([&] { files.folders(classic("none")); }), 76);
+  EXPECT_EQ(errorNumberOf([&] { files.files(classic("none"), ".xml"); }), 76);
   folder.put("file", "");
-  EXPECT_EQ(errorOf([&] { files.files(classic("file"), ".xml"); }), 76);
+  EXPECT_EQ(errorNumberOf([&] { files.files(classic("file"), ".xml"); }), 76);
 }
 
 TEST_F(Folders, OneOfSomebodyElseIsDenied) {

@@ -9,7 +9,7 @@
 namespace awizo {
 namespace {
 
-using test::errorOf;
+using test::errorNumberOf;
 
 class SettingsFileTest : public testing::Test {
  protected:

@@ -1,3 +1,4 @@
+#include "support/error_of.h"
 #include "written_despatch_advice.h"
 
 namespace awizo::test {
@@ -79,20 +80,12 @@ TEST(DespatchAdviceParts, CanBeAddedOneByOne) {
 TEST(DespatchAdviceParts, ThatAreNotWellFormedAreAnError) {
   const Libxml2 xml;
   const auto document = CreateDesAdvSkeleton(xml, "", "", "", 1, "", "", 0);
-  const auto errorNumber = [](const auto& act) {
-    try {
-      act();
-      return 0;
-    } catch (const RunTimeError& error) {
-      return static_cast<int>(error.number());
-    }
-  };
   PackingSequenceValues box;
   box.packageId = "<";
-  EXPECT_EQ(errorNumber([&] { AddPackingSequence(xml, *document, box); }), 5);
+  EXPECT_EQ(errorNumberOf([&] { AddPackingSequence(xml, *document, box); }), 5);
   DesAdvLineValues line;
   line.description = "]]>";
-  EXPECT_EQ(errorNumber([&] { AddDesAdvLine(xml, *document, line); }), 5);
+  EXPECT_EQ(errorNumberOf([&] { AddDesAdvLine(xml, *document, line); }), 5);
 }
 
 }  // namespace

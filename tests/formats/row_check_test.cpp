@@ -3,7 +3,7 @@
 #include <map>
 #include <string>
 
-#include "platform/run_time_error.h"
+#include "support/error_of.h"
 #include "support/test_editor.h"
 #include "tables/columns.h"
 
@@ -162,12 +162,7 @@ TEST_F(RowCheck, BeyondTheReachOfTheCellIndexIsAnOverflow) {
   table.setRows(1425);
   table.setCell(1424, GRD_POZ_EAN, "1");
   table.setCell(1424, GRD_POZ_QTY_DESPATCHED, "1");
-  try {
-    CheckGridRow(test.editor, 1424);
-    FAIL() << "no error";
-  } catch (const RunTimeError& error) {
-    EXPECT_EQ(error.number(), 6);
-  }
+  EXPECT_EQ(errorNumberOf([&] { CheckGridRow(test.editor, 1424); }), 6);
 }
 
 TEST_F(RowCheck, RepaintingMakesPassingLinesWhiteInColumns1To21) {

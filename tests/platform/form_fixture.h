@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/forms/form.h"
-#include "platform/run_time_error.h"
+#include "support/error_of.h"
 #include "support/scripted_screen.h"
 
 namespace awizo::test {
@@ -42,16 +42,6 @@ inline std::string refusal(const std::function<void()>& act) {
     act();
   } catch (const Refused& refused) {
     return refused.what();
-  }
-  return "";
-}
-
-/// "number description" of the run-time error that this raises, or "" where it raises none.
-inline std::string errorOf(const std::function<void()>& act) {
-  try {
-    act();
-  } catch (const RunTimeError& error) {
-    return std::to_string(error.number()) + " " + error.description();
   }
   return "";
 }

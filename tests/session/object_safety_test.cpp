@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/run_time_error.h"
+#include "support/error_of.h"
 
 namespace awizo::test {
 namespace {
@@ -23,14 +23,8 @@ std::int32_t enabledFor(std::string_view iid) {
   return enabled;
 }
 
-/// The number of the error that setting raises, 0 for none.
 std::int32_t errorOfSetting(std::string_view iid, std::int32_t mask, std::int32_t options) {
-  try {
-    IObjectSafety_SetInterfaceSafetyOptions(iid, mask, options);
-    return 0;
-  } catch (const RunTimeError& error) {
-    return error.number();
-  }
+  return errorNumberOf([&] { IObjectSafety_SetInterfaceSafetyOptions(iid, mask, options); });
 }
 
 TEST(ObjectSafety, OffersScriptingForDispatchAndInitialisingForPersistence) {
@@ -55,12 +49,9 @@ TEST(ObjectSafety, LeavesEnabledAloneWithoutAnInterface) {
 TEST(ObjectSafety, RefusesAnUnknownInterfaceWithSupportedAlreadySet) {
   std::int32_t supported = 0;
   std::int32_t enabled = 77;
-  try {
-    IObjectSafety_GetInterfaceSafetyOptions(unknown, supported, enabled);
-    FAIL() << "no error";
-  } catch (const RunTimeError& error) {
-    EXPECT_EQ(error.number(), noSuchInterface);
-  }
+  EXPECT_EQ(
+      errorNumberOf([&] { IObjectSafety_GetInterfaceSafetyOptions(unknown, supported, enabled); }),
+      noSuchInterface);
   EXPECT_EQ(supported, 3);
   EXPECT_EQ(enabled, 77);
 }

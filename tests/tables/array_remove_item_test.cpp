@@ -1,19 +1,14 @@
 #include "tables/array_remove_item.h"
 
-#include "platform/run_time_error.h"
+#include "support/error_of.h"
 
 namespace awizo::test {
 namespace {
 
 using testing::ElementsAre;
 
-std::string errorOf(HostValue& value, std::int32_t index) {
-  try {
-    ArrayRemoveItem(value, index);
-  } catch (const RunTimeError& error) {
-    return std::to_string(error.number()) + " " + error.description();
-  }
-  return "none";
+std::string errorOfRemoving(HostValue& value, std::int32_t index) {
+  return errorOf([&] { ArrayRemoveItem(value, index); });
 }
 
 TEST(ArrayRemoveItem, MovesTheElementsAboveDown) {
@@ -34,28 +29,28 @@ TEST(ArrayRemoveItem, CountsFromTheLowerBound) {
 
 TEST(ArrayRemoveItem, OfWhatIsNoArrayIsATypeMismatch) {
   HostValue value = "abc";
-  EXPECT_EQ(errorOf(value, 0), "13 Type Mismatch");
+  EXPECT_EQ(errorOfRemoving(value, 0), "13 Type Mismatch");
 }
 
 TEST(ArrayRemoveItem, OutsideTheBoundsIsSubscriptOutOfRange) {
   HostValue value = HostArray{1, {"a", "b"}};
-  EXPECT_EQ(errorOf(value, 0), "9 Subscript out of Range");
-  EXPECT_EQ(errorOf(value, 3), "9 Subscript out of Range");
-  EXPECT_EQ(errorOf(value, -2147483647), "9 Subscript out of Range");
+  EXPECT_EQ(errorOfRemoving(value, 0), "9 Subscript out of Range");
+  EXPECT_EQ(errorOfRemoving(value, 3), "9 Subscript out of Range");
+  EXPECT_EQ(errorOfRemoving(value, -2147483647), "9 Subscript out of Range");
   EXPECT_THAT(std::get<HostArray>(value).elements, ElementsAre("a", "b"));
   HostValue empty = HostArray{0, {}};
-  EXPECT_EQ(errorOf(empty, 0), "9 Subscript out of Range");
+  EXPECT_EQ(errorOfRemoving(empty, 0), "9 Subscript out of Range");
 }
 
 TEST(ArrayRemoveItem, OfAFixedArrayIsRefusedAfterTheMove) {
   HostValue value = HostArray{0, {"a", "b", "c"}, false};
-  EXPECT_EQ(errorOf(value, 0), "10 You must pass a resizable array to this function");
+  EXPECT_EQ(errorOfRemoving(value, 0), "10 You must pass a resizable array to this function");
   EXPECT_THAT(std::get<HostArray>(value).elements, ElementsAre("b", "c", "c"));
 }
 
 TEST(ArrayRemoveItem, TheLastElementCantBeTaken) {
   HostValue value = HostArray{0, {"a"}};
-  EXPECT_EQ(errorOf(value, 0), "9 You must pass a resizable array to this function");
+  EXPECT_EQ(errorOfRemoving(value, 0), "9 You must pass a resizable array to this function");
   EXPECT_THAT(std::get<HostArray>(value).elements, ElementsAre("a"));
 }
 

@@ -1,5 +1,6 @@
 #include "tables/flat_index.h"
 
+#include "support/error_of.h"
 #include "support/test_editor.h"
 #include "tables/columns.h"
 
@@ -10,16 +11,6 @@ struct FlatIndexTest : testing::Test {
   TestEditor test;
   const Editor& editor = test.editor;
 };
-
-template <class Body>
-std::string errorOf(Body&& body) {
-  try {
-    body();
-  } catch (const RunTimeError& error) {
-    return std::to_string(error.number()) + " " + error.description();
-  }
-  return "none";
-}
 
 TEST_F(FlatIndexTest, IsRowTimesColumnsPlusColumn) {
   EXPECT_EQ(IndexGrdPozycje(editor, 0, 0), 0);
