@@ -96,6 +96,13 @@ TEST_P(CheckingAnOrder, WhatIsntReadIsTold) {
               ElementsAre("4|" + item + "EAN[2]|повторный элемент, читается только первый"));
 }
 
+TEST_P(CheckingAnOrder, AnotherEncodingThanTheDeclaredOneIsTold) {
+  EXPECT_THAT(
+      checkWith("<OrderedQuantity>", "\xD7\xE0\xE9<OrderedQuantity>"),
+      ElementsAre("5||кодировка не та, что объявлена (без объявления — UTF-8): буквы заказа "
+                  "будут искажены или он будет отвергнут"));
+}
+
 TEST_P(CheckingAnOrder, WhereTheTableIsFullIsTold) {
   std::string lines;
   for (int i = 1; i < 1430; ++i) {

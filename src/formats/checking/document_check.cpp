@@ -11,11 +11,16 @@
 namespace awizo {
 namespace {
 
+// Only a despatch advice is read a second time, as text of the machine's encoding.
+constexpr const char* otherEncoding =
+    "кодировка не та, что объявлена (без объявления — UTF-8): буквы заказа будут искажены или он "
+    "будет отвергнут";
+
 std::vector<Finding> unordered(const Platform& platform, std::string_view path,
                                const ReaderIdentity& reader) {
   ScratchEditor scratch(platform);
   auto document = std::make_unique<TracedDocument>(platform.xml.createDocument());
-  document->loadBytes(platform.files.readAll(path));
+  const bool isXml = document->loadBytes(platform.files.readAll(path));
   // The second way of loading puts a line of its own before the file.
   const std::int64_t failedAt = document->failedAtLine();
   if (!LoadDocument(scratch.editor, *document, path)) {
@@ -29,7 +34,11 @@ std::vector<Finding> unordered(const Platform& platform, std::string_view path,
     return checkDespatchAdvice(platform, path, intended, reader);
   }
   const XmlNode root = document->within().root();
-  if (root.isElement("Document-Order")) return checkOrder(platform, std::move(document));
+  if (root.isElement("Document-Order")) {
+    std::vector<Finding> findings = checkOrder(platform, std::move(document));
+    if (!isXml) findings.push_back({std::max<std::int64_t>(failedAt, 1), "", otherEncoding});
+    return findings;
+  }
   return {{root.line(), root.name(),
            "не Document-DespatchAdvice и не Document-Order: документ будет отвергнут"}};
 }
