@@ -26,6 +26,12 @@ void addEmptyHeaders(const std::string& head, httplib::Request& request) {
   }
 }
 
+// A request that announces no body has none. The library would wait for the connection's end.
+void announceNoBody(httplib::Request& request) {
+  if (request.has_header("Content-Length") || request.has_header("Transfer-Encoding")) return;
+  request.headers.emplace("Content-Length", "0");
+}
+
 }  // namespace
 
 ssize_t Connection::read(char* target, size_t size) {
@@ -77,9 +83,11 @@ bool OneShotServer::process_and_close_socket(socket_t socket) {
   ::setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
   Connection connection(socket);
   bool connectionClosed = false;
-  const bool done = process_request(
-      connection, true, connectionClosed,
-      [&](httplib::Request& request) { addEmptyHeaders(connection.takeHead(), request); });
+  const bool done =
+      process_request(connection, true, connectionClosed, [&](httplib::Request& request) {
+        addEmptyHeaders(connection.takeHead(), request);
+        announceNoBody(request);
+      });
   const std::lock_guard lock(mutex_);
   open_.erase(socket);
   ::shutdown(socket, SHUT_RDWR);

@@ -5,6 +5,7 @@
 #include <exception>
 
 #include "demo/demo_service.h"
+#include "hosts/common/about.h"
 
 namespace {
 
@@ -34,10 +35,12 @@ void serve(const awizo::demo::Options& options) {
 int main(int argumentCount, char** arguments) {
   try {
     const auto options = awizo::demo::parseOptions({arguments + 1, arguments + argumentCount});
-    if (options.help) {
-      std::fputs(awizo::demo::optionsHelp().c_str(), stdout);
-    } else {
+    if (options.about.empty()) {
       serve(options);
+    } else {
+      const std::string about =
+          awizo::aboutProgram("awizo-demo-service", awizo::demo::optionsHelp(), {options.about});
+      std::fputs(about.c_str(), stdout);
     }
     return 0;
   } catch (const awizo::demo::BadOption& error) {

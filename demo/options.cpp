@@ -45,8 +45,8 @@ Options parseOptions(const std::vector<std::string>& arguments) {
   options.dataFolder = AWIZO_DEMO_DIR "/data";
   options.pageFolder = AWIZO_DEMO_DIR "/page";
   for (std::size_t i = 0; i < arguments.size(); ++i) {
-    if (arguments[i] == "--help") {
-      options.help = true;
+    if (arguments[i] == "--help" || arguments[i] == "--version") {
+      options.about = arguments[i];
       return options;
     }
     if (i + 1 == arguments.size()) throw BadOption("'" + arguments[i] + "' needs a value");
@@ -66,7 +66,8 @@ std::string optionsHelp() {
          "                         EXCHANGE: partner-info, catalogue, places, order, upload\n"
          "                         KIND: none, drop, cut, garbage, empty, status500, slow, "
          "slow:MS\n"
-         "  --help                 shows this\n";
+         "  --help                 shows this\n"
+         "  --version              shows the version\n";
 }
 
 }  // namespace awizo::demo

@@ -15,7 +15,7 @@ struct Options {
   std::filesystem::path pageFolder;
   std::filesystem::path postedFolder = "posted";
   std::vector<FaultSetting> faults;
-  bool help = false;
+  std::string about;  // "--help" or "--version": nothing else is to be done
 };
 
 class BadOption : public std::runtime_error {

@@ -172,6 +172,15 @@ TEST(FaultCommand, ThatIsNoFaultIsRefusedAndChangesNothing) {
   EXPECT_THAT(service.post(orderPath, orderRequest).body, HasSubstr("Document-Order"));
 }
 
+TEST(Command, NeedsNeitherABodyNorItsLength) {
+  const RunningService service;
+  for (const std::string command : {"/_reset", "/_release"}) {
+    EXPECT_THAT(service.wireReply("POST " + command + " HTTP/1.1\r\nHost: 127.0.0.1\r\n\r\n"),
+                StartsWith("HTTP/1.1 200 "))
+        << command;
+  }
+}
+
 TEST(Service, EndsAtOnceWhileARequestIsHeldBackAndAClientIsIdle) {
   auto service =
       std::make_unique<RunningService>(std::vector<std::string>{"--fault", "upload=slow"});

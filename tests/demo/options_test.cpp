@@ -23,7 +23,7 @@ TEST(Options, HaveDefaults) {
   EXPECT_EQ(options.pageFolder, test::projectFolder() / "demo/page");
   EXPECT_EQ(options.postedFolder, "posted");
   EXPECT_TRUE(options.faults.empty());
-  EXPECT_FALSE(options.help);
+  EXPECT_EQ(options.about, "");
 }
 
 TEST(Options, AreTakenInAnyOrder) {

@@ -86,5 +86,12 @@ TEST(Program, ShowsItsOptions) {
   EXPECT_EQ(program.wait(), 0);
 }
 
+TEST(Program, TellsItsVersion) {
+  Program program({"--version"});
+  EXPECT_THAT(program.readLine(),
+              testing::MatchesRegex("awizo-demo-service [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+  EXPECT_EQ(program.wait(), 0);
+}
+
 }  // namespace
 }  // namespace awizo::demo

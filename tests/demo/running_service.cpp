@@ -53,6 +53,11 @@ void RunningService::clearFaults() const {
 }
 
 std::string RunningService::wireReply(const std::string& path, const std::string& body) const {
+  return wireReply("POST " + path + " HTTP/1.1\r\nHost: 127.0.0.1\r\nContent-Length: " +
+                   std::to_string(body.size()) + "\r\n\r\n" + body);
+}
+
+std::string RunningService::wireReply(const std::string& request) const {
   const int connection = ::socket(AF_INET, SOCK_STREAM, 0);
   sockaddr_in address{};
   address.sin_family = AF_INET;
@@ -62,8 +67,6 @@ std::string RunningService::wireReply(const std::string& path, const std::string
     ::close(connection);
     throw std::runtime_error("can't connect");
   }
-  const std::string request = "POST " + path + " HTTP/1.1\r\nHost: 127.0.0.1\r\nContent-Length: " +
-                              std::to_string(body.size()) + "\r\n\r\n" + body;
   ::send(connection, request.data(), request.size(), MSG_NOSIGNAL);
   std::string reply;
   std::array<char, 4096> buffer{};

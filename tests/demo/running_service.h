@@ -52,6 +52,8 @@ class RunningService {
   void clearFaults() const;
   // All bytes that come back for a POST, up to the end of the connection.
   std::string wireReply(const std::string& path, const std::string& body) const;
+  // The same for a request that is given byte for byte.
+  std::string wireReply(const std::string& request) const;
 
  private:
   Options optionsFrom(std::vector<std::string> arguments) const;
