@@ -1,6 +1,9 @@
-// A Qt program of your own that shows the control: build it with the project, and start it as
+// A Qt program of your own that shows the control, off line. Start it as
 //   awizo-embed FOLDER
-// where FOLDER holds the user's files (demo/folder, for one). It works off line.
+// where FOLDER holds the user's files (demo/folder, for one).
+// It is built as a part of the project, of whose sources it needs the headers and the libraries:
+//   cmake --preset release && cmake --build --preset release --target awizo-embed
+// The Debian package holds it to be read; headers and libraries aren't in it.
 
 #include <QApplication>
 

@@ -15,13 +15,12 @@ void openGuide(QWidget& owner) {
   window->setWindowTitle("Руководство пользователя");
   auto* text = new QTextBrowser;
   text->setOpenExternalLinks(true);
-  text->setPlainText("Руководство не установлено.");
-  for (const QString& path : QString(AWIZO_GUIDE_PATHS).split(':')) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) continue;
-    text->setSearchPaths({QFileInfo(path).absolutePath()});
+  QFile file(AWIZO_GUIDE);
+  if (file.open(QIODevice::ReadOnly)) {
+    text->setSearchPaths({QFileInfo(file).absolutePath()});
     text->setMarkdown(QString::fromUtf8(file.readAll()));
-    break;
+  } else {
+    text->setPlainText("Руководство не установлено.");
   }
   auto* rows = new QVBoxLayout(window);
   rows->setContentsMargins(0, 0, 0, 0);
