@@ -57,21 +57,40 @@ class AwizoWysylki {
   /// Keeps the local folder for the next run. An unsaved document is lost.
   void UserControl_Terminate();
 
-  // Methods that the system itself doesn't call and a host may. Errors that leave them reach the
-  // host.
+  // Methods that the system itself doesn't call and a host may. Where an error is named, it reaches
+  // the host as RunTimeError; the others raise none.
+
+  /// Weight of all lines in kilograms, a number with the locale's separator. Lines without a weight
+  /// add nothing, and the form then warns. Error 6 for a weight too large.
   std::string MyCalculateWeight();
+  /// Weight of one line in kilograms, rounded to 3 decimals: its quantity times the kilograms of
+  /// one unit. Commas and points in both texts become the locale's separator. A text that is no
+  /// number and a unit's weight not above 0 give 0.
   double MyCalculatePartWeight(std::string& quantity, std::string& weight);
+  /// Symbol of a unit by its name, case ignored ("PCE"); an unknown name comes back as it is.
   std::string JednostkiMiaryNazwaToSymbol(std::string_view name) const;
+  /// Takes the element at `index` out of the array. Error 13 for a value that is no array, error 9
+  /// outside its bounds and for the last element left; an array that can't shrink raises its own.
   static void ArrayRemoveItem(HostValue& array, std::int32_t index);
-  /// The assignments in the line dialog's table, as a package reference string.
+
+  // A package reference string is "serial@description@level@quantity" for each package of a line,
+  // joined by "$"; the quantity is a screen number with 3 decimals.
+  /// The assignments in the line dialog's table, as such a string; empty where there are none.
   std::string GridToString();
+  /// Fills the line dialog's table anew. At a reference without a serial it stops without a word.
   void StringToGrid(std::string_view text);
+  /// The string without the references of these serials. An error is shown and gives the empty
+  /// text.
   std::string RemoveOldPackRef(std::string_view text, const std::vector<std::string>& delSerials);
+  /// Sum of its quantities, with 3 decimals. An error, such as a quantity that is no number, is
+  /// shown and gives the empty text.
   std::string GetPackedQuantity(std::string_view text);
+
+  // Flat index of a cell, row x columns + column, both counted from 0: of the lines, the packages,
+  // the totals, and the line dialog's table. Error 6 beyond 32767.
   std::int16_t IndexGrdPozycje(std::int16_t row, std::int16_t col) const;
   std::int16_t IndexGrdOpak(std::int16_t row, std::int16_t col) const;
   std::int16_t IndexGrdSuma(std::int16_t row, std::int16_t col) const;
-  /// Flat index in the line dialog's table, as the three above in the document's.
   std::int16_t IndexGrdPozycjeDlgDodaj(std::int16_t row, std::int16_t col);
 
  private:

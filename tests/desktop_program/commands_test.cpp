@@ -1,6 +1,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTextBrowser>
 #include <set>
 
 #include "desktop_program/program_test.h"
@@ -112,6 +113,17 @@ TEST_F(CommandsTest, MenusOpenAndActByTheirLetters) {
   press(cyrillicP, Qt::AltModifier);
   press(cyrillicI);
   EXPECT_EQ(pressed, "btnWczytaj btnEdytuj ");
+}
+
+TEST_F(CommandsTest, F1ShowsTheUserGuideWithItsPictures) {
+  openCounting();
+  press(Qt::Key_F1);
+  const auto* guide = window().findChild<QWidget*>("guide");
+  ASSERT_NE(guide, nullptr);
+  EXPECT_TRUE(guide->isVisible());
+  auto* text = guide->findChild<QTextBrowser*>();
+  EXPECT_TRUE(text->toPlainText().startsWith("Руководство пользователя\nAwizo"));
+  EXPECT_FALSE(text->loadResource(QTextDocument::ImageResource, QUrl("images/line.png")).isNull());
 }
 
 TEST_F(CommandsTest, NoTwoItemsOfAMenuShareALetter) {

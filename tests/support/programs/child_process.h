@@ -33,7 +33,7 @@ class ChildProcess {
   void closeOutput();
   /// Asks the program to end.
   void terminate();
-  /// Kills it without a word, as a power cut does.
+  /// Ends it at once, by a signal that it can't catch.
   void kill();
   /// Waits for the end; the exit status, or minus the signal's number. None when patience ran out.
   std::optional<int> waitForEnd();
