@@ -4,7 +4,6 @@
 #include "fuzz/targets.h"
 #include "hosts/headless/headless_program.h"
 #include "hosts/headless/procedures/json.h"
-#include "platform/text.h"
 #include "tests/session/test_control.h"
 #include "tests/support/fake_http.h"
 #include "tests/support/memory_files.h"

@@ -15,14 +15,10 @@ struct CloseConverter {
 };
 using Converter = std::unique_ptr<UConverter, CloseConverter>;
 
-char lowerLetter(char letter) {
-  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + ('a' - 'A')) : letter;
-}
-
 bool startsIgnoringCase(std::string_view text, std::string_view start) {
   if (text.size() < start.size()) return false;
   for (std::size_t at = 0; at < start.size(); ++at) {
-    if (lowerLetter(text[at]) != start[at]) return false;
+    if (lowerLatin(text[at]) != start[at]) return false;
   }
   return true;
 }

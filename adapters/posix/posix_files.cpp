@@ -43,12 +43,8 @@ class FileStream final : public TextStream {
   Descriptor file_;
 };
 
-char lowerLetter(char letter) {
-  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + ('a' - 'A')) : letter;
-}
-
 std::string lowered(std::string text) {
-  std::transform(text.begin(), text.end(), text.begin(), lowerLetter);
+  std::transform(text.begin(), text.end(), text.begin(), lowerLatin);
   return text;
 }
 

@@ -1,7 +1,6 @@
 #include "hosts/common/options.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 
 #include "hosts/common/value_texts.h"

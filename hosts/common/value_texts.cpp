@@ -1,6 +1,5 @@
 #include "hosts/common/value_texts.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdio>
 #include <vector>
@@ -26,22 +25,7 @@ std::vector<int> numbersIn(std::string_view text, std::string_view picture) {
   return numbers;
 }
 
-std::string padded(int value, int width) {
-  std::string digits = std::to_string(value);
-  return std::string(static_cast<std::size_t>(std::max(0, width - static_cast<int>(digits.size()))),
-                     '0') +
-         digits;
-}
-
 }  // namespace
-
-std::string dateText(Date date) {
-  return padded(static_cast<int>(date.year()), 4) + "-" +
-         padded(static_cast<int>(static_cast<unsigned>(date.month())), 2) + "-" +
-         padded(static_cast<int>(static_cast<unsigned>(date.day())), 2);
-}
-
-std::string timeText(TimeOfDay time) { return padded(time.hour, 2) + ":" + padded(time.minute, 2); }
 
 std::optional<Date> parseDate(std::string_view text) {
   const std::vector<int> numbers = numbersIn(text, "dddd-dd-dd");

@@ -8,12 +8,8 @@
 
 namespace awizo {
 
-// Dates and times as lines of JSON hold them.
-
-/// "2026-11-30".
-std::string dateText(Date date);
-/// "10:30".
-std::string timeText(TimeOfDay time);
+// Dates and times as lines of JSON and options hold them; the texts of isoDate and hourMinute are
+// among them.
 
 /// "2026-11-30"; none for a text that is no such day.
 std::optional<Date> parseDate(std::string_view text);

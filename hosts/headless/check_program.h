@@ -9,7 +9,6 @@ namespace awizo::headless {
 // Exit statuses of a check.
 inline constexpr int exitNothingFound = 0;
 inline constexpr int exitFound = 1;
-inline constexpr int exitUnreadable = 2;
 
 /// Writes what of the options' file will be refused, ignored or changed when it is read, a line for
 /// each finding. Gives the exit status. Throws std::runtime_error, naming the file, for one that

@@ -1,6 +1,6 @@
 #include "hosts/headless/control_state.h"
 
-#include "hosts/common/value_texts.h"
+#include "foundation/date_text.h"
 #include "hosts/headless/table_state.h"
 #include "platform/forms/button.h"
 #include "platform/forms/drop_down_list.h"
@@ -38,15 +38,15 @@ Json dropDownListState(const DropDownList& list) {
 
 Json datePickerState(const DatePicker& picker) {
   return {{"caption", picker.caption()},
-          {"date", picker.date() ? Json(dateText(*picker.date())) : Json(nullptr)},
+          {"date", picker.date() ? Json(isoDate(*picker.date())) : Json(nullptr)},
           {"checked", picker.date().has_value()},
-          {"min", dateText(DatePicker::min())},
-          {"max", dateText(DatePicker::max())}};
+          {"min", isoDate(DatePicker::min())},
+          {"max", isoDate(DatePicker::max())}};
 }
 
 Json timePickerState(const TimePicker& picker) {
   return {{"caption", picker.caption()},
-          {"time", picker.time() ? Json(timeText(*picker.time())) : Json(nullptr)},
+          {"time", picker.time() ? Json(hourMinute(*picker.time())) : Json(nullptr)},
           {"checked", picker.time().has_value()}};
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "hosts/headless/procedures/json.h"
-#include "platform/settings.h"
 #include "session/record/session_state.h"
 
 namespace awizo::headless {

@@ -4,8 +4,10 @@
 
 #include "formats/row_check.h"
 #include "platform/forms/report_errors.h"
+#include "platform/forms/verdicts.h"
 #include "platform/narrow.h"
 #include "platform/text.h"
+#include "session/record/countries.h"
 #include "session/record/header_panel.h"
 #include "tables/columns.h"
 #include "tables/flat_index.h"
@@ -14,11 +16,6 @@ namespace awizo {
 namespace {
 
 bool isBlank(std::string_view cell) { return cell.empty() || cell == "-1"; }
-
-bool userAgrees(Editor& editor, std::string_view question) {
-  return editor.screen().messageBox(
-             {std::string(question), "VIRD", BoxIcon::question, BoxButtons::yesNo}) == Answer::yes;
-}
 
 // Runs `fill` for every line whose cell is to be written.
 template <class Fill>
@@ -61,11 +58,11 @@ void fillCountry(Editor& editor, DlgIsoCodes& isoCodes, DlgDodaj& lineDialog, bo
 void FillLines(Editor& editor, bool overwrite) {
   if (editor.session.LineCount == 0) return;
   reportErrors(editor.screen(), "Ошибка в FillLines()", [&] {
-    if (!userAgrees(editor,
-                    overwrite
-                        ? "Вы уверены, что хотите заполнить все поля для НДС выбранной ставкой?\r"
-                          "В этом случае текущие значения будут изменены."
-                        : "Пустые поля для НДС будут заполнены.")) {
+    if (!isConfirmed(editor.screen(),
+                     overwrite
+                         ? "Вы уверены, что хотите заполнить все поля для НДС выбранной ставкой?\r"
+                           "В этом случае текущие значения будут изменены."
+                         : "Пустые поля для НДС будут заполнены.")) {
       return;
     }
     const std::string rate = editor.form.comboStawkaVAT.text();
@@ -81,11 +78,11 @@ void FillLines(Editor& editor, bool overwrite) {
 void FillLines2(Editor& editor, bool overwrite) {
   if (editor.session.LineCount == 0) return;
   reportErrors(editor.screen(), "Ошибка в FillLines2()", [&] {
-    if (!userAgrees(editor, overwrite
-                                ? "Вы уверены, что хотите заполнить все поля для 'Код страны "
-                                  "производителя'?\r"
-                                  "В этом случае текущие значения будут изменены."
-                                : "Пустые поля для 'Код страны производителя' будут заполнены.")) {
+    if (!isConfirmed(editor.screen(),
+                     overwrite ? "Вы уверены, что хотите заполнить все поля для 'Код страны "
+                                 "производителя'?\r"
+                                 "В этом случае текущие значения будут изменены."
+                               : "Пустые поля для 'Код страны производителя' будут заполнены.")) {
       return;
     }
     const DropDownList& countries = editor.form.comboCountry;

@@ -8,8 +8,6 @@
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
 #include "session/record/header_panel.h"
-#include "tables/columns.h"
-#include "tables/flat_index.h"
 
 namespace awizo {
 namespace {

@@ -1,6 +1,7 @@
 #include "linedialog/dlg_dodaj.h"
 
 #include "platform/text.h"
+#include "session/record/countries.h"
 
 namespace awizo {
 

@@ -177,8 +177,6 @@ class DlgDodaj : public Form {
   bool checkAmounts();
   bool checkCustomsNumber();
   bool checkCountry();
-  bool refuse(std::string_view message, Control* focus);
-  bool warn(std::string_view message, Control* focus);
 
   void txtIloscZam_Validate();
   void txtIloscPotw_Validate();

@@ -3,6 +3,7 @@
 #include "linedialog/iso_countries.h"
 #include "platform/narrow.h"
 #include "platform/text.h"
+#include "session/record/countries.h"
 
 namespace awizo {
 namespace {

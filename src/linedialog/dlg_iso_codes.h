@@ -7,7 +7,6 @@
 #include "platform/forms/form.h"
 #include "platform/forms/table.h"
 #include "platform/locale.h"
-#include "session/record/countries.h"
 #include "session/record/session_state.h"
 
 namespace awizo {

@@ -1,6 +1,7 @@
 #include <array>
 
 #include "linedialog/dlg_dodaj.h"
+#include "session/record/countries.h"
 
 namespace awizo {
 namespace {

@@ -2,6 +2,7 @@
 
 #include "formats/customs_number.h"
 #include "linedialog/dlg_dodaj.h"
+#include "platform/forms/verdicts.h"
 #include "platform/text.h"
 
 namespace awizo {
@@ -20,16 +21,17 @@ bool DlgDodaj::Walidacja() {
 bool DlgDodaj::checkProductAndQuantities() {
   const Conversions& conversions = editor_.conversions;
   if (!conversions.isNumeric(txtlEANProdWart.text())) {
-    return refuse("Стоимость для поля 'Штрих-код товара' есть ошибочная или отсутсвует",
+    return refuse(screen(), "Стоимость для поля 'Штрих-код товара' есть ошибочная или отсутсвует",
                   &txtlEANProdWart);
   }
   txtIloscZam_Validate();
   if (!txtIloscZam.text().empty() && !conversions.isNumeric(txtIloscZam.text())) {
-    return refuse("Неправильно количество в поле 'Количество заказа'", &txtIloscZam);
+    return refuse(screen(), "Неправильно количество в поле 'Количество заказа'", &txtIloscZam);
   }
   txtIloscPotw_Validate();
   if (!conversions.isNumeric(txtIloscPotw.text())) {
-    return refuse("Стоимость для поля 'Количество отгружено' есть ошибочная или отсутсвует",
+    return refuse(screen(),
+                  "Стоимость для поля 'Количество отгружено' есть ошибочная или отсутсвует",
                   &txtIloscPotw);
   }
   if (txtIloscZam.text().empty()) return true;
@@ -39,27 +41,29 @@ bool DlgDodaj::checkProductAndQuantities() {
   for (const std::string_view buyer : buyersTakingMore) {
     if (editor_.platform.locale.sameIgnoringCase(editor_.session.BuyerILN, buyer)) return true;
   }
-  return refuse("Подтверждённое количество больше заказанного количества товара", &txtIloscPotw);
+  return refuse(screen(), "Подтверждённое количество больше заказанного количества товара",
+                &txtIloscPotw);
 }
 
 bool DlgDodaj::checkPackedQuantity() {
   if (GetMaxQuantity() >= 0) return true;
-  return refuse(
-      "Подтверждённое количество меньше, чем суммарное количество товара в упаковках.\r"
-      "Удалите, пожалуйста, принадлежность товарных позиции к упаковке  или увеличте \r"
-      "подтверждённое количество товара.",
-      nullptr);
+  return refuse(screen(),
+                "Подтверждённое количество меньше, чем суммарное количество товара в упаковках.\r"
+                "Удалите, пожалуйста, принадлежность товарных позиции к упаковке  или увеличте \r"
+                "подтверждённое количество товара.",
+                nullptr);
 }
 
 bool DlgDodaj::checkAmounts() {
   const Conversions& conversions = editor_.conversions;
   txtCenaNetto_Validate();
   if (!txtCenaNetto.text().empty() && !conversions.isNumeric(txtCenaNetto.text())) {
-    return refuse("Неправильно количество в поле 'Цена за единицу без НДС'", &txtCenaNetto);
+    return refuse(screen(), "Неправильно количество в поле 'Цена за единицу без НДС'",
+                  &txtCenaNetto);
   }
   txtAmount_Validate();
   if (!txtAmount.text().empty() && !conversions.isNumeric(txtAmount.text())) {
-    return refuse("Неправильно количество в поле 'Сумма без НДС'", &txtAmount);
+    return refuse(screen(), "Неправильно количество в поле 'Сумма без НДС'", &txtAmount);
   }
   return true;
 }
@@ -69,12 +73,12 @@ bool DlgDodaj::checkCustomsNumber() {
   txtCDN1_Validate();
   if (countCharacters(txtCDN1.text()) < 8 ||
       !IsCDNPartNumeric(editor_.conversions, txtCDN1.text())) {
-    return warn("ГТД - обязательный", &txtCDN1);
+    return warn(screen(), "ГТД - обязательный", &txtCDN1);
   }
   txtCDN3_Validate();
   if (countCharacters(txtCDN3.text()) != 7 ||
       !IsCDNPartNumeric(editor_.conversions, txtCDN3.text())) {
-    return warn("ГТД - обязательный", &txtCDN3);
+    return warn(screen(), "ГТД - обязательный", &txtCDN3);
   }
   return true;
 }
@@ -83,21 +87,9 @@ bool DlgDodaj::checkCustomsNumber() {
 bool DlgDodaj::checkCountry() {
   std::string country = comboCountry.text();
   CheckIsoCountry(editor_.session, isoCodes_, editor_.platform.locale, country);
-  if (!editor_.session.IsoCheckOk) return warn("Код ISO неправильный", nullptr);
+  if (!editor_.session.IsoCheckOk) return warn(screen(), "Код ISO неправильный", nullptr);
   comboCountry.setText(editor_.session.IsoCheckCode);
   return true;
-}
-
-bool DlgDodaj::refuse(std::string_view message, Control* focus) {
-  screen().showCritical(message, "VIRD");
-  if (focus != nullptr) focus->setFocus();
-  return false;
-}
-
-bool DlgDodaj::warn(std::string_view message, Control* focus) {
-  screen().showExclamation(message, "VIRD");
-  if (focus != nullptr) focus->setFocus();
-  return false;
 }
 
 void DlgDodaj::CheckVAT(std::int16_t which) {

@@ -74,7 +74,6 @@ class DlgSzczegoly : public Form {
   bool checkMeasures();
   bool checkMeasure(TextField& field, std::string_view message);
   bool checkSerialNumber();
-  bool refuse(std::string_view message, Control* focus);
   void readLocalizations(const XmlNode& catalogue);
 
   Editor& editor_;

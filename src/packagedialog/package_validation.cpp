@@ -1,4 +1,5 @@
 #include "packagedialog/dlg_szczegoly.h"
+#include "platform/forms/verdicts.h"
 #include "platform/text.h"
 
 namespace awizo {
@@ -39,14 +40,14 @@ bool DlgSzczegoly::Walidacja() {
 
 bool DlgSzczegoly::checkTypeAndDescription() {
   if (cboxPackageType.index() < 0) {
-    return refuse("В поле 'Тип упаковки' не указана величина", &cboxPackageType);
+    return refuse(screen(), "В поле 'Тип упаковки' не указана величина", &cboxPackageType);
   }
   const std::string description(trimmed(txtPackageDesc.text()));
   if (description.empty()) {
-    return refuse("В поле 'Описание упаковки' не указана величина", &txtPackageDesc);
+    return refuse(screen(), "В поле 'Описание упаковки' не указана величина", &txtPackageDesc);
   }
   if (AddMode && IsKnownDescription(description)) {
-    return refuse("Данное значение поля 'Описание упаковки' уже используется в системе",
+    return refuse(screen(), "Данное значение поля 'Описание упаковки' уже используется в системе",
                   &txtPackageDesc);
   }
   return true;
@@ -56,10 +57,11 @@ bool DlgSzczegoly::checkTypeAndDescription() {
 bool DlgSzczegoly::checkDeliveryPlace() {
   const std::string_view iln = trimmed(cboxILNLokalizacji.text());
   if (!iln.empty() && (countCharacters(iln) < 13 || !editor_.conversions.isNumeric(iln))) {
-    return refuse("Неправильно количество в поле 'ILN места доставки'", &cboxILNLokalizacji);
+    return refuse(screen(), "Неправильно количество в поле 'ILN места доставки'",
+                  &cboxILNLokalizacji);
   }
   if (cboxILNLokalizacji.text().empty())
-    return refuse("Не заполнено поле 'место доставки'", nullptr);
+    return refuse(screen(), "Не заполнено поле 'место доставки'", nullptr);
   return true;
 }
 
@@ -77,19 +79,13 @@ bool DlgSzczegoly::checkMeasures() {
 bool DlgSzczegoly::checkMeasure(TextField& field, std::string_view message) {
   measure_Validate(field);
   if (field.text().empty() || editor_.conversions.isNumeric(field.text())) return true;
-  return refuse(message, &field);
+  return refuse(screen(), message, &field);
 }
 
 bool DlgSzczegoly::checkSerialNumber() {
   const std::string refusal = serialNumberRefusal(txtSerialNumberN.text());
   if (refusal.empty()) return true;
-  return refuse(refusal, txtSerialNumberN.text().empty() ? nullptr : &txtSerialNumberN);
-}
-
-bool DlgSzczegoly::refuse(std::string_view message, Control* focus) {
-  screen().showCritical(message, "VIRD");
-  if (focus != nullptr) focus->setFocus();
-  return false;
+  return refuse(screen(), refusal, txtSerialNumberN.text().empty() ? nullptr : &txtSerialNumberN);
 }
 
 void DlgSzczegoly::measure_Validate(TextField& field) {

@@ -26,7 +26,6 @@ inline RunTimeError invalidProcedureCall() { return {5, "Invalid procedure call 
 inline RunTimeError overflow() { return {6, "Overflow"}; }
 inline RunTimeError outOfMemory() { return {7, "Out of memory"}; }
 inline RunTimeError subscriptOutOfRange() { return {9, "Subscript out of range"}; }
-inline RunTimeError divisionByZero() { return {11, "Division by zero"}; }
 inline RunTimeError typeMismatch() { return {13, "Type mismatch"}; }
 inline RunTimeError outOfStackSpace() { return {28, "Out of stack space"}; }
 inline RunTimeError badFileName() { return {52, "Bad file name or number"}; }

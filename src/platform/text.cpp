@@ -73,6 +73,12 @@ std::vector<std::string> split(std::string_view text, std::string_view separator
   }
 }
 
+std::string joined(std::initializer_list<std::string_view> pieces) {
+  std::string text;
+  for (const std::string_view piece : pieces) text += piece;
+  return text;
+}
+
 std::string join(const std::vector<std::string>& pieces, std::string_view separator) {
   std::string joined;
   for (std::size_t i = 0; i < pieces.size(); ++i) {
@@ -122,6 +128,10 @@ bool isUtf8(std::string_view bytes) {
     at += followers.count;
   }
   return true;
+}
+
+char lowerLatin(char letter) {
+  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + ('a' - 'A')) : letter;
 }
 
 std::string characterText(char32_t codePoint) {

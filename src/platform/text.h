@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,6 +27,9 @@ std::string_view trimmed(std::string_view text);
 /// separator isn't empty.
 std::vector<std::string> split(std::string_view text, std::string_view separator);
 
+/// The pieces one after another.
+std::string joined(std::initializer_list<std::string_view> pieces);
+
 /// The pieces with the separator between them.
 std::string join(const std::vector<std::string>& pieces, std::string_view separator);
 
@@ -37,6 +41,9 @@ std::string withoutControlCharacters(std::string_view text);
 
 /// Whether the bytes are well-formed UTF-8: no overlong form, no surrogate, nothing cut off.
 bool isUtf8(std::string_view bytes);
+
+/// A Latin capital as its small letter; any other byte as it is.
+char lowerLatin(char letter);
 
 /// The UTF-8 form of a code point.
 std::string characterText(char32_t codePoint);

@@ -1,17 +1,9 @@
 #include "service/exchanges.h"
 
-#include <initializer_list>
-
 #include "platform/text.h"
 
 namespace awizo {
 namespace {
-
-std::string joined(std::initializer_list<std::string_view> pieces) {
-  std::string text;
-  for (const std::string_view piece : pieces) text += piece;
-  return text;
-}
 
 std::unique_ptr<XmlDocument> loaded(const Xml& xml, std::string_view text) {
   std::unique_ptr<XmlDocument> document = xml.createDocument();

@@ -1,20 +1,15 @@
 #include "service/transport.h"
 
 #include <exception>
-#include <initializer_list>
 #include <new>
+
+#include "platform/text.h"
 
 namespace awizo {
 namespace {
 
 constexpr std::string_view errorLogText = "Bі№d w SendXMLDOMRequest():";
 constexpr std::string_view errorTitle = "Bі№d w SendXMLDOMRequest()!";
-
-std::string joined(std::initializer_list<std::string_view> pieces) {
-  std::string text;
-  for (const std::string_view piece : pieces) text += piece;
-  return text;
-}
 
 void reportStep(Editor& editor, const RunTimeError& error) {
   DebugLog& log = editor.session.log;

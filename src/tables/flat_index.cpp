@@ -20,4 +20,8 @@ std::int16_t IndexGrdSuma(const Editor& editor, std::int16_t row, std::int16_t c
   return flatIndex(editor.form.grdSuma, row, col);
 }
 
+const std::string& packageCell(const Editor& editor, std::int16_t row, std::int16_t column) {
+  return editor.form.grdOpakowania.cell(IndexGrdOpak(editor, row, column));
+}
+
 }  // namespace awizo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "session/record/editor.h"
 
@@ -14,5 +15,8 @@ std::int16_t flatIndex(const Table& table, std::int16_t row, std::int16_t column
 std::int16_t IndexGrdPozycje(const Editor& editor, std::int16_t row, std::int16_t col);
 std::int16_t IndexGrdOpak(const Editor& editor, std::int16_t row, std::int16_t col);
 std::int16_t IndexGrdSuma(const Editor& editor, std::int16_t row, std::int16_t col);
+
+/// A cell of grdOpakowania; the same error.
+const std::string& packageCell(const Editor& editor, std::int16_t row, std::int16_t column);
 
 }  // namespace awizo

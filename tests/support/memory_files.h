@@ -10,8 +10,8 @@
 
 namespace awizo::test {
 
-/// Files and folders in memory, under classic paths ("c:\home\a.xml"); "/home/a.xml" names the
-/// same file. The drives are "c:" alone; the root is there from the start.
+/// Files and folders in memory, under classic paths ("c:\home\anna.xml"); "/home/anna.xml" names
+/// the same file. The drives are "c:" alone; the root is there from the start.
 class MemoryFiles : public Files {
  public:
   // What a test puts in and looks at.

@@ -10,7 +10,6 @@
 #include <iostream>
 
 #include "adapters/posix/clocks.h"
-#include "adapters/posix/settings_stores.h"
 #include "hosts/common/surroundings.h"
 #include "hosts/desktop/drawing/demo_http.h"
 #include "hosts/desktop/drawing/demo_user.h"

@@ -2,7 +2,6 @@
 
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/pictures.h"
-#include "hosts/desktop/faces/table_face.h"
 
 namespace awizo::desktop {
 

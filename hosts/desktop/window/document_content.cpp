@@ -1,6 +1,6 @@
 #include "hosts/desktop/window/document_content.h"
 
-#include "hosts/common/value_texts.h"
+#include "foundation/date_text.h"
 
 namespace awizo::desktop {
 namespace {
@@ -20,10 +20,10 @@ void addHeader(std::string& content, const AwizoForm& form) {
   }
   for (const DatePicker* picker :
        {&form.txtDataAwiza, &form.dpDataZam, &form.txtEstimatedDeliveryDate}) {
-    add(content, picker->date() ? dateText(*picker->date()) : "");
+    add(content, picker->date() ? isoDate(*picker->date()) : "");
   }
   for (const TimePicker* picker : {&form.txtDespatchAdviceTime, &form.txtEstimatedDeliveryTime}) {
-    add(content, picker->time() ? timeText(*picker->time()) : "");
+    add(content, picker->time() ? hourMinute(*picker->time()) : "");
   }
   add(content, form.cboxPackageDescription.text());
 }

@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "foundation/date_text.h"
 #include "hosts/common/value_texts.h"
 
 namespace awizo::headless {
@@ -51,8 +52,8 @@ void fromJson(const Json& json, TimeOfDay& value) {
   value = *read;
 }
 
-Json toJson(const Date& value) { return dateText(value); }
+Json toJson(const Date& value) { return isoDate(value); }
 
-Json toJson(const TimeOfDay& value) { return timeText(value); }
+Json toJson(const TimeOfDay& value) { return hourMinute(value); }
 
 }  // namespace awizo::headless

@@ -4,22 +4,19 @@
 #include <utility>
 
 #include "platform/run_time_error.h"
+#include "platform/text.h"
 
 namespace awizo {
 namespace {
 
-char lowerLetter(char letter) {
-  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + ('a' - 'A')) : letter;
-}
-
 /// Whether a path begins with a drive: a letter and a colon.
 bool namesDrive(std::string_view path) {
-  const char letter = path.empty() ? ' ' : lowerLetter(path[0]);
+  const char letter = path.empty() ? ' ' : lowerLatin(path[0]);
   return path.size() >= 2 && letter >= 'a' && letter <= 'z' && path[1] == ':';
 }
 
 bool sameDrive(std::string_view left, std::string_view right) {
-  return namesDrive(left) && namesDrive(right) && lowerLetter(left[0]) == lowerLetter(right[0]);
+  return namesDrive(left) && namesDrive(right) && lowerLatin(left[0]) == lowerLatin(right[0]);
 }
 
 std::string presentDrive(std::string_view presentPath, Files& files) {

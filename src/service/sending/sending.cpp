@@ -6,17 +6,13 @@
 #include "formats/header_validation.h"
 #include "formats/saving.h"
 #include "platform/forms/report_errors.h"
+#include "platform/forms/verdicts.h"
 #include "service/exchanges.h"
 #include "service/transport.h"
 #include "tables/editing/in_table_editing.h"
 
 namespace awizo {
 namespace {
-
-bool isConfirmed(Editor& editor, std::string_view question) {
-  return editor.screen().messageBox(
-             {std::string(question), "VIRD", BoxIcon::question, BoxButtons::yesNo}) == Answer::yes;
-}
 
 /// Whether the document may be built: header, lines, and the user's will to send it as packed.
 bool mayBeBuilt(Editor& editor) {
@@ -37,7 +33,7 @@ bool mayBeBuilt(Editor& editor) {
 bool maySend(Editor& editor) {
   AwizoForm& form = editor.form;
   if (form.txtNrAwiza.text() == form.LastSentNumber) {
-    if (!isConfirmed(editor,
+    if (!isConfirmed(editor.screen(),
                      "Вы пытаетесь отослать документ с уже существующим номером.\r"
                      "Продолжить?")) {
       return false;
@@ -47,7 +43,7 @@ bool maySend(Editor& editor) {
     return true;
   }
   if (editor.session.SendQuestionAsked) return true;
-  return isConfirmed(editor, "Выслать составленный документ подтверждения отгрузки?");
+  return isConfirmed(editor.screen(), "Выслать составленный документ подтверждения отгрузки?");
 }
 
 void post(Editor& editor, XmlDocument& document) {

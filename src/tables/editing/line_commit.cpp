@@ -11,7 +11,6 @@
 #include "tables/editing/in_table_editing.h"
 #include "tables/editing/line_dialog_fill.h"
 #include "tables/editing/numbered_row.h"
-#include "tables/editing/package_commit.h"
 #include "tables/flat_index.h"
 #include "tables/package_references.h"
 #include "tables/row_colour.h"

@@ -12,10 +12,6 @@
 namespace awizo {
 namespace {
 
-const std::string& packageCell(const Editor& editor, std::int16_t row, std::int16_t column) {
-  return editor.form.grdOpakowania.cell(IndexGrdOpak(editor, row, column));
-}
-
 void setPackageCell(Editor& editor, std::int16_t row, std::int16_t column, std::string_view text) {
   editor.form.grdOpakowania.setCell(IndexGrdOpak(editor, row, column), text);
 }

@@ -13,10 +13,6 @@
 namespace awizo {
 namespace {
 
-const std::string& packageCell(const Editor& editor, std::int16_t row, std::int16_t column) {
-  return editor.form.grdOpakowania.cell(IndexGrdOpak(editor, row, column));
-}
-
 // The longest chain of packages that lie in one another without running in a circle. It may begin
 // with one package more than are counted: a file brings rows that nobody counts.
 std::size_t longestChain(const Editor& editor, std::int16_t firstRow) {
