@@ -16,8 +16,8 @@ void PoprawGrdSuma(Editor& editor);
 std::string MyCalculateWeight(Editor& editor);
 
 /// Weight of one line in kilograms: quantity (3 decimals) times the weight of one unit
-/// (2 decimals), rounded to 3. Both texts become screen numbers in place. A weight that is no
-/// number or not above 0 gives 0 and marks the weight as incomplete.
+/// (2 decimals), rounded to 3. Commas and points of both texts become the locale's separator in
+/// place. A weight that is no number or not above 0 gives 0 and marks the weight as incomplete.
 double MyCalculatePartWeight(Editor& editor, std::string& quantity, std::string& weight);
 
 }  // namespace awizo
