@@ -109,6 +109,8 @@ void useFont(double points) {
 
 int main(int argumentCount, char** arguments) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  // What the platform can't do without a screen isn't worth a line each time.
+  qputenv("QT_LOGGING_RULES", "default.warning=false");
   QApplication application(argumentCount, arguments);
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   QLocale::setDefault(desktop::localeNamed("ru_RU"));
