@@ -26,7 +26,7 @@ namespace {
 constexpr int mostProducts = 32767;
 constexpr int mostLines = 1423;
 
-/// A form in a window, shown and painted.
+/// A form in a window, shown and painted, with the most products and lines or a part of them.
 struct ShownForm {
   test::ScriptedScreen face;
   Screen screen{face};
@@ -35,15 +35,18 @@ struct ShownForm {
   Table lines{form, "lines", 23};
   QWidget window;
   desktop::FormFace* faces = nullptr;
+  int lineCount = 0;
 
-  ShownForm() {
+  explicit ShownForm(std::int64_t part) {
+    const int products = mostProducts / static_cast<int>(part);
+    lineCount = mostLines / static_cast<int>(part);
     std::vector<std::string> rows;
-    for (int i = 0; i < mostProducts; ++i) {
+    for (int i = 0; i < products; ++i) {
       rows.push_back("Молоко пастеризованное отборное, упаковка № " + std::to_string(i));
     }
     names.setRows(std::move(rows));
-    lines.setRows(mostLines + 1);
-    for (int row = 1; row <= mostLines; ++row) {
+    lines.setRows(lineCount + 1);
+    for (int row = 1; row <= lineCount; ++row) {
       for (int column = 0; column < 23; ++column) lines.setCell(row, column, std::to_string(row));
     }
     faces = new desktop::FormFace(form, window);
@@ -85,7 +88,7 @@ void frames(benchmark::State& state, Prepare&& prepare, Act&& act) {
 void nothing() {}
 
 void TypingAKeyInTheListOfAllProducts(benchmark::State& state) {
-  ShownForm shown;
+  ShownForm shown(state.range(0));
   auto* box = qobject_cast<QComboBox*>(shown.faces->widget(shown.names));
   QTest::mouseClick(box->lineEdit(), Qt::LeftButton);
   // Each key leaves fewer rows; the last fits none, for which every row is searched to its end.
@@ -103,18 +106,30 @@ void TypingAKeyInTheListOfAllProducts(benchmark::State& state) {
                         Qt::NoModifier);
   });
 }
-BENCHMARK(TypingAKeyInTheListOfAllProducts)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(TypingAKeyInTheListOfAllProducts)
+    ->Arg(8)
+    ->Arg(4)
+    ->Arg(2)
+    ->Arg(1)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 
 void OpeningTheListOfAllProducts(benchmark::State& state) {
-  ShownForm shown;
+  ShownForm shown(state.range(0));
   auto* box = qobject_cast<QComboBox*>(shown.faces->widget(shown.names));
   frames(
       state, [&] { box->hidePopup(); }, [&] { box->showPopup(); });
 }
-BENCHMARK(OpeningTheListOfAllProducts)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(OpeningTheListOfAllProducts)
+    ->Arg(8)
+    ->Arg(4)
+    ->Arg(2)
+    ->Arg(1)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 
 void EnteringTheListOfAllProducts(benchmark::State& state) {
-  ShownForm shown;
+  ShownForm shown(state.range(0));
   auto* box = qobject_cast<QComboBox*>(shown.faces->widget(shown.names));
   const auto changeTheList = [&] {
     shown.lines.setFocus();
@@ -122,24 +137,42 @@ void EnteringTheListOfAllProducts(benchmark::State& state) {
   };
   frames(state, changeTheList, [&] { QTest::mouseClick(box->lineEdit(), Qt::LeftButton); });
 }
-BENCHMARK(EnteringTheListOfAllProducts)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(EnteringTheListOfAllProducts)
+    ->Arg(8)
+    ->Arg(4)
+    ->Arg(2)
+    ->Arg(1)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 
 void ScrollingThroughAllLines(benchmark::State& state) {
-  ShownForm shown;
+  ShownForm shown(state.range(0));
   auto& table = static_cast<desktop::TableFace&>(shown.faces->face(shown.lines));
   int row = 0;
   frames(state, nothing, [&] {
-    row = (row + 7) % (mostLines - 50);
+    row = (row + 7) % (shown.lineCount - 50);
     table.view()->verticalScrollBar()->setValue(row);
   });
 }
-BENCHMARK(ScrollingThroughAllLines)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(ScrollingThroughAllLines)
+    ->Arg(8)
+    ->Arg(4)
+    ->Arg(2)
+    ->Arg(1)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 
 void ShowingAllLinesAnew(benchmark::State& state) {
-  ShownForm shown;
+  ShownForm shown(state.range(0));
   frames(state, nothing, [&] { shown.lines.addItem("ещё"); });
 }
-BENCHMARK(ShowingAllLinesAnew)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(ShowingAllLinesAnew)
+    ->Arg(8)
+    ->Arg(4)
+    ->Arg(2)
+    ->Arg(1)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace awizo::benchmarks

@@ -44,10 +44,10 @@ void ReadingTheCatalogue(benchmark::State& state, LineOrder order, Repeats repea
       ->UseManualTime()->Unit(benchmark::kMillisecond)
 // clang-format on
 CATALOGUE(random, random, few)->Arg(8)->Arg(4)->Arg(2)->Arg(1);
-CATALOGUE(sorted, sorted, few)->Arg(1);
-CATALOGUE(reversed, reversed, few)->Arg(1);
-CATALOGUE(noBuyerCodes, random, noBuyerCodes)->Arg(1);
-CATALOGUE(namesTwice, random, namesTwice)->Arg(1);
+CATALOGUE(sorted, sorted, few)->Arg(8)->Arg(4)->Arg(2)->Arg(1);
+CATALOGUE(reversed, reversed, few)->Arg(8)->Arg(4)->Arg(2)->Arg(1);
+CATALOGUE(noBuyerCodes, random, noBuyerCodes)->Arg(8)->Arg(4)->Arg(2)->Arg(1);
+CATALOGUE(namesTwice, random, namesTwice)->Arg(8)->Arg(4)->Arg(2)->Arg(1);
 
 }  // namespace
 }  // namespace awizo::benchmarks

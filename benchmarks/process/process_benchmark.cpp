@@ -28,16 +28,18 @@ constexpr double windowsAllowed = 2.5;
 
 void put(const fs::path& file, const std::string& text) { std::ofstream(file) << text; }
 
-/// A service with a catalogue and an order at the limits, and the bare files of what it replies.
-class FullSizeService {
+/// A service with a catalogue and an order at the limits, or a part of these, and the bare files of
+/// what it replies.
+class LargeService {
  public:
-  FullSizeService() {
+  explicit LargeService(std::int64_t part) {
+    const int catalogueLines = mostCatalogueLines / static_cast<int>(part);
     fs::create_directories(data_);
     for (const char* name : {"partner-info.xml", "delivery-places.xml"}) {
       fs::copy_file(test::projectFolder() / "demo/data" / name, data_ / name);
     }
-    const std::string goods = catalogue(mostCatalogueLines);
-    const std::string reply = orderReply(mostOrderLines, mostCatalogueLines);
+    const std::string goods = catalogue(catalogueLines);
+    const std::string reply = orderReply(mostOrderLines / static_cast<int>(part), catalogueLines);
     const std::size_t start = reply.find("<Document-Order>");
     const std::size_t end = reply.find("</document-content>");
     put(data_ / "catalogue.xml", goods);
@@ -81,7 +83,7 @@ class FullSizeService {
 
 /// awizo-headless from its start to its end, with all that it asks of a service.
 void WholeProcess(benchmark::State& state) {
-  FullSizeService service;
+  LargeService service(state.range(0));
   Cost ours;
   Cost bare;
   for ([[maybe_unused]] const auto turn : state) {
@@ -93,8 +95,9 @@ void WholeProcess(benchmark::State& state) {
   }
   state.counters["ratio"] = ours.seconds / bare.seconds;
   state.counters["memoryRatio"] = ours.megabytes / bare.megabytes;
+  state.counters["megabytes"] = ours.megabytes / static_cast<double>(state.iterations());
 }
-BENCHMARK(WholeProcess)->UseManualTime()->Iterations(5);
+BENCHMARK(WholeProcess)->Arg(8)->Arg(4)->Arg(2)->Arg(1)->UseManualTime()->Iterations(5);
 
 /// Time to a painted main window, off line, against a bare window with an empty table.
 void ShowingTheMainWindow(benchmark::State& state) {
@@ -114,10 +117,10 @@ void ShowingTheMainWindow(benchmark::State& state) {
 }
 BENCHMARK(ShowingTheMainWindow)->UseManualTime()->Iterations(10);
 
-/// The same on line with everything at its limits, against what the window and the documents may
+/// The same on line, up to everything at its limits, against what the window and the documents may
 /// take together.
-void ShowingTheMainWindowAtFullSize(benchmark::State& state) {
-  FullSizeService service;
+void ShowingTheMainWindowOnLine(benchmark::State& state) {
+  LargeService service(state.range(0));
   double ours = 0;
   double allowed = 0;
   for ([[maybe_unused]] const auto turn : state) {
@@ -129,7 +132,13 @@ void ShowingTheMainWindowAtFullSize(benchmark::State& state) {
   }
   state.counters["ratio"] = ours / allowed;
 }
-BENCHMARK(ShowingTheMainWindowAtFullSize)->UseManualTime()->Iterations(5);
+BENCHMARK(ShowingTheMainWindowOnLine)
+    ->Arg(8)
+    ->Arg(4)
+    ->Arg(2)
+    ->Arg(1)
+    ->UseManualTime()
+    ->Iterations(5);
 
 }  // namespace
 }  // namespace awizo::benchmarks

@@ -75,8 +75,9 @@ BENCHMARK(StartingOnLine)->Arg(8)->Arg(4)->Arg(2)->Arg(1)->UseManualTime();
 
 /// The same work's peak memory; the bytes themselves count on both sides.
 void MemoryOfStartingOnLine(benchmark::State& state) {
-  const std::string reply = catalogueReply(catalogue(mostCatalogueLines));
-  const std::string order = orderReply(mostOrderLines, mostCatalogueLines);
+  const int part = static_cast<int>(state.range(0));
+  const std::string reply = catalogueReply(catalogue(mostCatalogueLines / part));
+  const std::string order = orderReply(mostOrderLines / part, mostCatalogueLines / part);
   double ours = 0;
   double bare = 0;
   for ([[maybe_unused]] const auto turn : state) {
@@ -88,13 +89,13 @@ void MemoryOfStartingOnLine(benchmark::State& state) {
     ours += peakKilobytesOf([&] {
       const auto control = preparedControl(reply, order);
       control->control.UserControl_Show();
-      requireFinished(*control, mostOrderLines);
+      requireFinished(*control, mostOrderLines / part);
     });
   }
   state.counters["ratio"] = ours / bare;
   state.counters["megabytes"] = ours / 1024 / static_cast<double>(state.iterations());
 }
-BENCHMARK(MemoryOfStartingOnLine)->Iterations(3);
+BENCHMARK(MemoryOfStartingOnLine)->Arg(8)->Arg(4)->Arg(2)->Arg(1)->Iterations(3);
 
 }  // namespace
 }  // namespace awizo::benchmarks
