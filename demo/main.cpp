@@ -5,7 +5,7 @@
 #include <exception>
 
 #include "demo/demo_service.h"
-#include "hosts/common/about.h"
+#include "hosts/common/program/about.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include "fuzz/targets.h"
 #include "hosts/headless/headless_program.h"
-#include "hosts/headless/procedures/json.h"
+#include "hosts/protocol/values/json.h"
 #include "tests/session/test_control.h"
 #include "tests/support/fake_http.h"
 #include "tests/support/memory_files.h"
@@ -27,7 +27,7 @@ void lines(std::string_view bytes) {
   headless::runHeadless(options, {http, files}, in, out);
   std::istringstream replies(out.str());
   for (std::string line; std::getline(replies, line);) {
-    const auto reply = headless::Json::parse(line, nullptr, false);
+    const auto reply = protocol::Json::parse(line, nullptr, false);
     require(!reply.is_discarded() && reply.is_object(), "every line that comes back is an object");
   }
 }

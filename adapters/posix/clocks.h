@@ -10,14 +10,4 @@ class SystemClock final : public Clock {
   Moment now() const override;
 };
 
-/// A clock that stands still.
-class FixedClock final : public Clock {
- public:
-  explicit FixedClock(Moment moment) : moment_(moment) {}
-  Moment now() const override { return moment_; }
-
- private:
-  Moment moment_;
-};
-
 }  // namespace awizo

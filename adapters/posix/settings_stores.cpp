@@ -70,11 +70,6 @@ std::string nameOf(std::string_view application, std::string_view section, std::
   return escaped(application) + "/" + escaped(section) + "/" + escaped(key);
 }
 
-std::string valueOf(const Values& values, const std::string& name, std::string_view defaultValue) {
-  const auto found = values.find(name);
-  return found == values.end() ? std::string(defaultValue) : found->second;
-}
-
 void createFoldersOf(const std::string& path) {
   for (std::size_t at = path.find('/', 1); at != path.npos; at = path.find('/', at + 1)) {
     if (mkdir(path.substr(0, at).c_str(), S_IRWXU) != 0 && errno != EEXIST) {
@@ -116,7 +111,9 @@ Values SettingsFile::load() const {
 
 std::string SettingsFile::read(std::string_view application, std::string_view section,
                                std::string_view key, std::string_view defaultValue) {
-  return valueOf(load(), nameOf(application, section, key), defaultValue);
+  const Values values = load();
+  const auto found = values.find(nameOf(application, section, key));
+  return found == values.end() ? std::string(defaultValue) : found->second;
 }
 
 void SettingsFile::write(std::string_view application, std::string_view section,
@@ -127,16 +124,6 @@ void SettingsFile::write(std::string_view application, std::string_view section,
   for (const auto& [name, content] : values) text += name + "=" + escaped(content) + "\n";
   createFoldersOf(path_);
   posix::replaceFile(path_, text);
-}
-
-std::string SettingsInMemory::read(std::string_view application, std::string_view section,
-                                   std::string_view key, std::string_view defaultValue) {
-  return valueOf(values_, nameOf(application, section, key), defaultValue);
-}
-
-void SettingsInMemory::write(std::string_view application, std::string_view section,
-                             std::string_view key, std::string_view value) {
-  values_[nameOf(application, section, key)] = value;
 }
 
 }  // namespace awizo

@@ -31,16 +31,4 @@ class SettingsFile final : public SettingsStore {
   std::string path_;
 };
 
-/// Settings that end with the program.
-class SettingsInMemory final : public SettingsStore {
- public:
-  std::string read(std::string_view application, std::string_view section, std::string_view key,
-                   std::string_view defaultValue) override;
-  void write(std::string_view application, std::string_view section, std::string_view key,
-             std::string_view value) override;
-
- private:
-  std::map<std::string, std::string> values_;
-};
-
 }  // namespace awizo

@@ -7,8 +7,8 @@
 
 #include <QApplication>
 
-#include "adapters/posix/settings_stores.h"
-#include "hosts/common/surroundings.h"
+#include "adapters/memory/settings_in_memory.h"
+#include "hosts/common/given_host.h"
 #include "hosts/desktop/window/awizo_wysylki_widget.h"
 
 int main(int argumentCount, char** arguments) {

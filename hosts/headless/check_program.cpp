@@ -10,7 +10,8 @@
 #include "adapters/posix/posix_files.h"
 #include "formats/checking/document_check.h"
 #include "formats/checking/scratch_editor.h"
-#include "hosts/common/surroundings.h"
+#include "hosts/common/given_host.h"
+#include "hosts/common/program/machine.h"
 #include "hosts/version.h"
 
 namespace awizo::headless {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "hosts/headless/line_stream.h"
-#include "hosts/headless/procedures/json.h"
+#include "hosts/protocol/values/json.h"
 #include "platform/screen_face.h"
 
 namespace awizo::headless {
@@ -24,16 +24,17 @@ class Conversation : public ScreenFace {
   Conversation(std::istream& in, std::ostream& out) : lines_(in, out) {}
 
   /// Does what a line asks that is no answer to a box. What it returns stands in the closing line
-  /// ("value", "args"). Throws BadLine, Refused or RunTimeError; nothing has changed then but what
-  /// a procedure did before its error. While a box is open only lines that get something come here.
-  std::function<Json(const Json& line)> act;
+  /// ("value", "args"). Throws protocol::BadLine, Refused or RunTimeError; nothing has changed then
+  /// but what a procedure did before its error. While a box is open only lines that get something
+  /// come here.
+  std::function<protocol::Json(const protocol::Json& line)> act;
 
   /// Tells from now on when the form is shown modally and when it hides.
   void watch(Form& dialog);
   /// Serves lines until the end of input.
   void run();
   /// Writes an event; nothing is told any more once the input has ended under an open box or form.
-  void emit(const Json& event);
+  void emit(const protocol::Json& event);
 
   Answer ask(const MessageBox& box) override;
   /// Serves lines until the form has hidden.

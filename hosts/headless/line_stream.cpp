@@ -22,8 +22,8 @@ std::optional<std::string> LineStream::read() {
   return line;
 }
 
-void LineStream::write(const Json& json) {
-  out_ << lineText(json) << '\n';
+void LineStream::write(const protocol::Json& json) {
+  out_ << protocol::lineText(json) << '\n';
   out_.flush();
 }
 

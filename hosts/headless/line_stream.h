@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "hosts/headless/procedures/json.h"
+#include "hosts/protocol/values/json.h"
 
 namespace awizo::headless {
 
@@ -20,7 +20,7 @@ class LineStream {
   /// The next line without its end; none at the end of input. A line over the limit is read to its
   /// end and comes back empty, which is no JSON.
   std::optional<std::string> read();
-  void write(const Json& json);
+  void write(const protocol::Json& json);
 
  private:
   std::istream& in_;

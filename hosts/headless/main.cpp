@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "hosts/common/about.h"
+#include "hosts/common/program/about.h"
 #include "hosts/headless/check_program.h"
 #include "hosts/headless/headless_program.h"
 

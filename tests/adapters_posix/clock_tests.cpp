@@ -31,11 +31,5 @@ TEST(SystemClockTest, TellsTheTimeOfTheZone) {
   tzset();
 }
 
-TEST(FixedClockTest, StandsStill) {
-  const FixedClock clock({makeDate(2026, 11, 21), {10, 15, 7}});
-  EXPECT_EQ(clock.today(), makeDate(2026, 11, 21));
-  EXPECT_EQ(clock.now().time, (TimeOfDay{10, 15, 7}));
-}
-
 }  // namespace
 }  // namespace awizo

@@ -84,12 +84,5 @@ TEST(SettingsPath, LiesInTheUsersConfigurationFolder) {
   EXPECT_EQ(SettingsFile::usersOwnPath(), "/home/anna/.config/awizo/settings");
 }
 
-TEST(SettingsInMemoryTest, KeepsValuesAndGivesDefaults) {
-  SettingsInMemory settings;
-  EXPECT_EQ(settings.read("VIRD", "VirdActiveX", "OffLinePath", "-"), "-");
-  settings.write("VIRD", "VirdActiveX", "OffLinePath", "");
-  EXPECT_EQ(settings.read("VIRD", "VirdActiveX", "OffLinePath", "-"), "");
-}
-
 }  // namespace
 }  // namespace awizo

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "headless/sample_desk.h"
+#include "headless/sample_conversation.h"
 #include "platform/run_time_error.h"
 
 namespace awizo::headless::test {
@@ -21,18 +21,18 @@ class ConversationTest : public testing::Test {
  protected:
   /// Plays the lines; the input ends under an open box or form.
   std::vector<std::string> playAbandoned(const std::vector<std::string>& lines) {
-    EXPECT_THROW(desk.play(lines), InputEnded);
-    return texts(desk.output());
+    EXPECT_THROW(talk.play(lines), InputEnded);
+    return texts(talk.output());
   }
   std::vector<std::string> play(const std::vector<std::string>& lines) {
-    return texts(desk.play(lines));
+    return texts(talk.play(lines));
   }
 
-  SampleDesk desk;
+  SampleConversation talk;
 };
 
 TEST_F(ConversationTest, ClickThatOpensADialogClosesAfterAllThatWasDoneInTheDialog) {
-  desk.form.button.onClick = [&] { desk.dialog.showModal(); };
+  talk.form.button.onClick = [&] { talk.dialog.showModal(); };
   EXPECT_EQ(play({R"({"id":1,"do":"click","on":"button"})",
                   R"({"id":2,"do":"click","on":"Dialog.close"})"}),
             (std::vector<std::string>{R"({"event":"modal","form":"Dialog","caption":"A dialog"})",
@@ -41,8 +41,8 @@ TEST_F(ConversationTest, ClickThatOpensADialogClosesAfterAllThatWasDoneInTheDial
 }
 
 TEST_F(ConversationTest, ModalEventStandsBeforeWhatTheFormDoesWhenItIsShown) {
-  desk.form.button.onClick = [&] { desk.dialog.showModal(); };
-  desk.dialog.onActivate = [&] { desk.screen.showCritical("At once", "VIRD"); };
+  talk.form.button.onClick = [&] { talk.dialog.showModal(); };
+  talk.dialog.onActivate = [&] { talk.sample.screen.showCritical("At once", "VIRD"); };
   const auto lines = play(
       {R"({"do":"click","on":"button"})", R"({"answer":"OK"})", R"({"do":"close","on":"Dialog"})"});
   ASSERT_EQ(lines.size(), 6U);
@@ -55,9 +55,9 @@ TEST_F(ConversationTest, ModalEventStandsBeforeWhatTheFormDoesWhenItIsShown) {
 
 TEST_F(ConversationTest, BoxIsAnsweredByTheNextLineAndItsClosingLineComesFirst) {
   Answer given = Answer::ok;
-  desk.form.button.onClick = [&] {
-    given =
-        desk.screen.messageBox({"One\rtwo\r\nthree", "VIRD", BoxIcon::question, BoxButtons::yesNo});
+  talk.form.button.onClick = [&] {
+    given = talk.sample.screen.messageBox(
+        {"One\rtwo\r\nthree", "VIRD", BoxIcon::question, BoxButtons::yesNo});
   };
   EXPECT_EQ(
       play({R"({"id":1,"do":"click","on":"button"})", R"({"id":2,"answer":"Yes"})"}),
@@ -71,8 +71,10 @@ TEST_F(ConversationTest, EveryIconHasItsName) {
   std::vector<std::string> icons;
   for (const BoxIcon icon : {BoxIcon::none, BoxIcon::critical, BoxIcon::question,
                              BoxIcon::exclamation, BoxIcon::information}) {
-    desk.form.button.onClick = [&] { desk.screen.messageBox({"Text", "", icon, BoxButtons::ok}); };
-    const auto lines = desk.play({R"({"do":"click","on":"button"})", R"({"answer":"OK"})"});
+    talk.form.button.onClick = [&] {
+      talk.sample.screen.messageBox({"Text", "", icon, BoxButtons::ok});
+    };
+    const auto lines = talk.play({R"({"do":"click","on":"button"})", R"({"answer":"OK"})"});
     icons.push_back(lines[0]["icon"]);
     EXPECT_EQ(lines[0]["title"], "VIRDDesAdv");
   }
@@ -81,11 +83,11 @@ TEST_F(ConversationTest, EveryIconHasItsName) {
 }
 
 TEST_F(ConversationTest, OpenBoxTakesOnlyItsAnswersAndGets) {
-  desk.form.button.onClick = [&] {
-    desk.screen.messageBox({"Sure?", "VIRD", BoxIcon::none, BoxButtons::yesNo});
+  talk.form.button.onClick = [&] {
+    talk.sample.screen.messageBox({"Sure?", "VIRD", BoxIcon::none, BoxButtons::yesNo});
   };
-  desk.desk.procedures.add("Now", [] { return 1; });
-  const auto lines = desk.play(
+  talk.sample.dispatcher.procedures.add("Now", [] { return 1; });
+  const auto lines = talk.play(
       {R"({"do":"click","on":"button"})", R"({"do":"type","on":"field","text":"a"})",
        R"({"call":"Now"})", R"({"answer":"OK"})", R"({"answer":"yes"})", R"({"answer":1})",
        "nonsense", R"({"get":"field"})", R"({"answer":"No"})", R"({"answer":"No"})"});
@@ -95,29 +97,29 @@ TEST_F(ConversationTest, OpenBoxTakesOnlyItsAnswersAndGets) {
   }
   EXPECT_EQ(outcomes,
             (std::vector<bool>{false, false, false, false, false, false, true, true, true, false}));
-  EXPECT_EQ(desk.form.field.text(), "");
+  EXPECT_EQ(talk.form.field.text(), "");
 }
 
 TEST_F(ConversationTest, FormBehindAModalOneTakesNoInput) {
-  desk.form.button.onClick = [&] { desk.dialog.showModal(); };
+  talk.form.button.onClick = [&] { talk.dialog.showModal(); };
   const auto lines =
-      desk.play({R"({"do":"click","on":"button"})", R"({"do":"type","on":"field","text":"a"})",
+      talk.play({R"({"do":"click","on":"button"})", R"({"do":"type","on":"field","text":"a"})",
                  R"({"get":"field"})", R"({"do":"close","on":"Dialog"})"});
   EXPECT_EQ(lines[1]["ok"], false);
   EXPECT_EQ(lines[2]["value"]["text"], "");
 }
 
 TEST_F(ConversationTest, FormsOverFormsCloseLastOpenedFirst) {
-  SampleDialog second(desk.screen, desk.files);
-  Form inner(desk.screen, "Inner");
+  protocol::test::SampleDialog second(talk.sample.screen, talk.sample.files);
+  Form inner(talk.sample.screen, "Inner");
   Button innerClose(inner, "close");
   innerClose.onClick = [&] { inner.hide(); };
-  desk.forms.add(inner, nullptr);
-  desk.conversation.watch(inner);
-  desk.form.button.onClick = [&] { desk.dialog.showModal(); };
-  desk.dialog.close.onClick = [&] {
+  talk.sample.directory.add(inner, nullptr);
+  talk.conversation.watch(inner);
+  talk.form.button.onClick = [&] { talk.dialog.showModal(); };
+  talk.dialog.close.onClick = [&] {
     inner.showModal();
-    desk.dialog.hide();
+    talk.dialog.hide();
   };
   EXPECT_EQ(
       play({R"({"id":1,"do":"click","on":"button"})",
@@ -132,12 +134,12 @@ TEST_F(ConversationTest, FormsOverFormsCloseLastOpenedFirst) {
 
 TEST_F(ConversationTest, EndOfInputUnderABoxGivesUpAndSaysNothingMore) {
   bool wentOn = false;
-  desk.form.button.onClick = [&] {
-    desk.dialog.showModal();
+  talk.form.button.onClick = [&] {
+    talk.dialog.showModal();
     wentOn = true;
   };
-  desk.dialog.close.onClick = [&] {
-    desk.screen.showCritical("Text", "VIRD");
+  talk.dialog.close.onClick = [&] {
+    talk.sample.screen.showCritical("Text", "VIRD");
     wentOn = true;
   };
   const auto lines =
@@ -147,21 +149,21 @@ TEST_F(ConversationTest, EndOfInputUnderABoxGivesUpAndSaysNothingMore) {
 }
 
 TEST_F(ConversationTest, EndOfTheProgramIsTold) {
-  EXPECT_THROW(desk.conversation.endProgram(), ProgramEnded);
-  EXPECT_EQ(desk.out.str(), "{\"event\":\"end\"}\n");
+  EXPECT_THROW(talk.conversation.endProgram(), ProgramEnded);
+  EXPECT_EQ(talk.out.str(), "{\"event\":\"end\"}\n");
 }
 
 TEST_F(ConversationTest, ErrorThatLeavesAProcedureHasItsNumber) {
-  desk.desk.procedures.add("Fail", [] { throw errors::overflow(); });
-  EXPECT_EQ(desk.closingOf(R"({"id":5,"call":"Fail"})").dump(),
+  talk.sample.dispatcher.procedures.add("Fail", [] { throw errors::overflow(); });
+  EXPECT_EQ(talk.closingOf(R"({"id":5,"call":"Fail"})").dump(),
             R"({"ok":false,"id":5,"error":"Overflow","number":6})");
 }
 
 TEST_F(ConversationTest, OutputThatNobodyReadsIsLostInSilence) {
-  desk.out.setstate(std::ios::badbit);
-  desk.form.button.onClick = [&] { desk.form.label.setCaption("Clicked"); };
-  desk.play({R"({"do":"click","on":"button"})"});
-  EXPECT_EQ(desk.form.label.caption(), "Clicked");
+  talk.out.setstate(std::ios::badbit);
+  talk.form.button.onClick = [&] { talk.form.label.setCaption("Clicked"); };
+  talk.play({R"({"do":"click","on":"button"})"});
+  EXPECT_EQ(talk.form.label.caption(), "Clicked");
 }
 
 }  // namespace

@@ -5,19 +5,19 @@
 #include <string>
 #include <vector>
 
-#include "headless/sample_desk.h"
+#include "headless/sample_conversation.h"
 
 namespace awizo::headless::test {
 namespace {
 
 class Nonsense : public testing::TestWithParam<std::string> {
  protected:
-  SampleDesk desk;
+  SampleConversation talk;
 };
 
 TEST_P(Nonsense, IsRefusedChangesNothingAndTheProgramGoesOn) {
-  const Json before = desk.play({R"({"get":"Main"})", R"({"get":"field"})"}).back();
-  const std::vector<Json> lines = desk.play({GetParam(), R"({"get":"field"})"});
+  const Json before = talk.play({R"({"get":"Main"})", R"({"get":"field"})"}).back();
+  const std::vector<Json> lines = talk.play({GetParam(), R"({"get":"field"})"});
   ASSERT_EQ(lines.size(), 2U);
   EXPECT_EQ(lines[0]["ok"], false);
   EXPECT_FALSE(lines[0]["error"].get<std::string>().empty());
@@ -75,46 +75,46 @@ INSTANTIATE_TEST_SUITE_P(
         R"({"do":"scroll","on":"list","top":1})", R"({"do":"path","on":"list","value":"c:"})"));
 
 TEST(Line, OfSomeMegabytesWorks) {
-  SampleDesk desk;
+  SampleConversation talk;
   const std::string text(5'000'000, 'x');
-  const Json closing = desk.closingOf(R"({"do":"type","on":"list","text":")" + text + R"("})");
+  const Json closing = talk.closingOf(R"({"do":"type","on":"list","text":")" + text + R"("})");
   EXPECT_EQ(closing["ok"], true);
-  EXPECT_EQ(desk.form.list.text().size(), text.size());
+  EXPECT_EQ(talk.form.list.text().size(), text.size());
 }
 
 TEST(Line, OverTheLimitIsRefusedAndTheNextOneWorks) {
-  SampleDesk desk;
+  SampleConversation talk;
   const std::string text(LineStream::longestLine, 'x');
   const std::vector<Json> lines =
-      desk.playText(R"({"do":"type","on":"list","text":")" + text + "\"}\n{\"get\":\"focus\"}\n");
+      talk.playText(R"({"do":"type","on":"list","text":")" + text + "\"}\n{\"get\":\"focus\"}\n");
   ASSERT_EQ(lines.size(), 2U);
   EXPECT_EQ(lines[0]["ok"], false);
   EXPECT_EQ(lines[1]["ok"], true);
 }
 
 TEST(Line, NestedAMillionDeepIsRefused) {
-  SampleDesk desk;
+  SampleConversation talk;
   const std::string deep(1'000'000, '[');
-  EXPECT_EQ(desk.closingOf(R"({"get":"field","id":)" + deep)["ok"], false);
+  EXPECT_EQ(talk.closingOf(R"({"get":"field","id":)" + deep)["ok"], false);
   const std::string closed = deep + std::string(1'000'000, ']');
-  EXPECT_EQ(desk.closingOf(R"({"get":"field","id":)" + closed + "}")["ok"], false);
+  EXPECT_EQ(talk.closingOf(R"({"get":"field","id":)" + closed + "}")["ok"], false);
 }
 
 TEST(Line, MayEndWithCarriageReturnOrWithTheInput) {
-  SampleDesk desk;
-  const std::vector<Json> lines = desk.playText("{\"get\":\"focus\"}\r\n{\"get\":\"focus\"}");
+  SampleConversation talk;
+  const std::vector<Json> lines = talk.playText("{\"get\":\"focus\"}\r\n{\"get\":\"focus\"}");
   ASSERT_EQ(lines.size(), 2U);
   EXPECT_EQ(lines[0]["ok"], true);
   EXPECT_EQ(lines[1]["ok"], true);
 }
 
 TEST(Line, GetsItsIdBackWhateverItIs) {
-  SampleDesk desk;
-  EXPECT_EQ(desk.closingOf(R"({"id":1,"do":"click","on":"button"})").dump(),
+  SampleConversation talk;
+  EXPECT_EQ(talk.closingOf(R"({"id":1,"do":"click","on":"button"})").dump(),
             R"({"ok":true,"id":1})");
-  EXPECT_EQ(desk.closingOf(R"({"id":"a","get":"focus"})").dump(),
+  EXPECT_EQ(talk.closingOf(R"({"id":"a","get":"focus"})").dump(),
             R"({"ok":true,"id":"a","value":"button"})");
-  const Json refused = desk.closingOf(R"({"id":[1,null],"get":"nobody"})");
+  const Json refused = talk.closingOf(R"({"id":[1,null],"get":"nobody"})");
   EXPECT_EQ(refused["id"].dump(), "[1,null]");
   EXPECT_EQ(refused["ok"], false);
 }

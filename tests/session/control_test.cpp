@@ -304,7 +304,7 @@ TEST_F(LastEvents, TerminationKeepsTheLocalFolder) {
 }
 
 TEST_F(LastEvents, AFolderThatCantBeKeptIsToldInABox) {
-  class BrokenSettings : public MemorySettings {
+  class BrokenSettings : public SettingsInMemory {
     void write(std::string_view, std::string_view, std::string_view, std::string_view) override {
       throw errors::diskFull();
     }

@@ -7,10 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/clock.h"
 #include "platform/host.h"
 #include "platform/run_time_error.h"
-#include "platform/settings.h"
 
 namespace awizo::test {
 
@@ -67,39 +65,6 @@ class FakeControlHost : public ControlHost {
     changedProperties.emplace_back(name);
     if (onPropertyChanged) onPropertyChanged();
   }
-};
-
-/// Settings in memory, by "application\section\key".
-class MemorySettings : public SettingsStore {
- public:
-  std::map<std::string, std::string> values;
-
-  std::string read(std::string_view application, std::string_view section, std::string_view key,
-                   std::string_view defaultValue) override {
-    const auto found = values.find(nameOf(application, section, key));
-    return found == values.end() ? std::string(defaultValue) : found->second;
-  }
-
-  void write(std::string_view application, std::string_view section, std::string_view key,
-             std::string_view value) override {
-    values[nameOf(application, section, key)] = value;
-  }
-
- private:
-  static std::string nameOf(std::string_view application, std::string_view section,
-                            std::string_view key) {
-    std::string name(application);
-    name.append("\\").append(section).append("\\").append(key);
-    return name;
-  }
-};
-
-/// A clock that stands still until a test sets it.
-class FixedClock : public Clock {
- public:
-  Moment moment{makeDate(2026, 11, 21), TimeOfDay{10, 15, 0}};
-
-  Moment now() const override { return moment; }
 };
 
 }  // namespace awizo::test

@@ -6,6 +6,8 @@
 
 #include "adapters/icu/icu_locale.h"
 #include "adapters/libxml2/libxml2.h"
+#include "adapters/memory/fixed_clock.h"
+#include "adapters/memory/settings_in_memory.h"
 #include "platform/forms/screen.h"
 #include "platform/platform.h"
 #include "session/record/awizo_form.h"
@@ -32,9 +34,9 @@ struct TestSurroundings {
   FakePage page;  ///< no page until its texts are set
   FakeBag bag;
   FakeControlHost host;
-  MemorySettings settings;
+  SettingsInMemory settings;
   MemoryFiles files;
-  FixedClock clock;  ///< 21 November 2026, 10:15
+  FixedClock clock{{makeDate(2026, 11, 21), {10, 15, 0}}};
   Platform platform;
 
   /// A document from text; the test fails when the text is no XML.

@@ -10,7 +10,8 @@
 #include <iostream>
 
 #include "adapters/posix/clocks.h"
-#include "hosts/common/surroundings.h"
+#include "hosts/common/given_host.h"
+#include "hosts/common/program/machine.h"
 #include "hosts/desktop/drawing/demo_http.h"
 #include "hosts/desktop/drawing/demo_user.h"
 

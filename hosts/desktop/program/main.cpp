@@ -7,7 +7,7 @@
 #include <exception>
 #include <iostream>
 
-#include "hosts/common/about.h"
+#include "hosts/common/program/about.h"
 #include "hosts/desktop/faces/pictures.h"
 #include "hosts/desktop/program/launch_file.h"
 #include "hosts/desktop/program/main_window.h"

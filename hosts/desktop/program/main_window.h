@@ -3,8 +3,9 @@
 #include <QMainWindow>
 #include <memory>
 
+#include "hosts/common/given_host.h"
 #include "hosts/common/options.h"
-#include "hosts/common/surroundings.h"
+#include "hosts/common/program/machine.h"
 #include "hosts/desktop/window/awizo_wysylki_widget.h"
 
 namespace awizo::desktop {

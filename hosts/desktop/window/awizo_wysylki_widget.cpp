@@ -9,7 +9,7 @@
 #include "adapters/libxml2/libxml2.h"
 #include "adapters/posix/clocks.h"
 #include "adapters/posix/posix_files.h"
-#include "hosts/common/surroundings.h"
+#include "hosts/common/given_host.h"
 #include "hosts/desktop/faces/form_face.h"
 #include "hosts/desktop/window/commands.h"
 #include "hosts/desktop/window/document_content.h"

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+
+#include "hosts/protocol/form_directory.h"
+#include "hosts/protocol/procedures/procedures.h"
+#include "hosts/protocol/user_actions.h"
+#include "hosts/protocol/values/json.h"
+#include "platform/forms/screen.h"
+
+namespace awizo::protocol {
+
+/// All that lines act on: reads which kind of line it is and does it.
+class Dispatcher {
+ public:
+  Dispatcher(const Screen& screen, FormDirectory& forms)
+      : screen_(screen), forms_(forms), actions_(forms) {}
+
+  /// What the host itself does ("show", "terminate"): by the name of its "do".
+  std::map<std::string, std::function<void(const Json& line)>, std::less<>> hostActions;
+  /// What "get" answers beside the forms and their controls ("session", "settings").
+  std::map<std::string, std::function<Json()>, std::less<>> records;
+  Procedures procedures;
+  /// After the control's end nothing but a "get" is allowed.
+  bool ended = false;
+
+  /// The line's result, as ControlAccess::act gives it.
+  Json act(const Json& line);
+
+ private:
+  void perform(const Json& line);
+  Json get(const Json& line) const;
+  Json call(const Json& line) const;
+  Json formState(const Form& form) const;
+
+  const Screen& screen_;
+  FormDirectory& forms_;
+  UserActions actions_;
+};
+
+}  // namespace awizo::protocol

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "hosts/protocol/values/json.h"
+#include "platform/forms/table.h"
+
+namespace awizo::protocol {
+
+/// Sizes, current cell and marked range, texts and looks of all cells. Looks are told only of
+/// cells that differ from the plain white, left-aligned one.
+Json tableState(const Table& table);
+
+}  // namespace awizo::protocol
