@@ -4,15 +4,15 @@
 #include <vector>
 
 #include "benchmarks/support/full_size.h"
-#include "tables/columns.h"
+#include "tests/support/cells.h"
 #include "tests/support/test_editor.h"
 
 namespace awizo::benchmarks {
 
 // A document in the tables. Its user links the tests' support.
 
-inline std::vector<std::string> packageCells(int row) {
-  std::vector<std::string> cells(15);
+inline std::vector<std::string> packageOfRow(int row) {
+  std::vector<std::string> cells = test::packageCells();
   cells[GRD_OPAK_PARENT_SERIAL] = std::to_string(row / 2 + 1);
   cells[GRD_OPAK_SERIAL] = std::to_string(row + 1);
   cells[GRD_OPAK_TYPE] = "201";
@@ -24,8 +24,8 @@ inline std::vector<std::string> packageCells(int row) {
   return cells;
 }
 
-inline std::vector<std::string> lineCells(int row) {
-  std::vector<std::string> cells(23);
+inline std::vector<std::string> lineOfRow(int row) {
+  std::vector<std::string> cells = test::lineCells();
   const std::string number = std::to_string(row);
   cells[GRD_POZ_LP] = number;
   cells[GRD_POZ_EAN] = catalogueEAN(row);
@@ -49,11 +49,11 @@ inline std::vector<std::string> lineCells(int row) {
 /// row i / 2.
 inline void fillDocument(Editor& editor, int lines, int packages) {
   std::vector<std::vector<std::string>> rows;
-  for (int row = 1; row <= lines; ++row) rows.push_back(lineCells(row));
+  for (int row = 1; row <= lines; ++row) rows.push_back(lineOfRow(row));
   test::TestEditor::fill(editor.form.grdPozycje, rows);
   editor.session.LineCount = static_cast<std::int16_t>(lines);
   rows.clear();
-  for (int row = 1; row <= packages; ++row) rows.push_back(packageCells(row));
+  for (int row = 1; row <= packages; ++row) rows.push_back(packageOfRow(row));
   test::TestEditor::fill(editor.form.grdOpakowania, rows);
   editor.session.IloscPozycjiOpak = static_cast<std::int16_t>(packages);
 }

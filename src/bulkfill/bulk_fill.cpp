@@ -9,8 +9,8 @@
 #include "platform/text.h"
 #include "session/record/countries.h"
 #include "session/record/header_panel.h"
-#include "tables/columns.h"
-#include "tables/flat_index.h"
+#include "tables/columns/columns.h"
+#include "tables/row.h"
 
 namespace awizo {
 namespace {
@@ -19,10 +19,10 @@ bool isBlank(std::string_view cell) { return cell.empty() || cell == "-1"; }
 
 // Runs `fill` for every line whose cell is to be written.
 template <class Fill>
-void forLinesToFill(Editor& editor, std::int16_t column, bool overwrite, Fill fill) {
-  for (std::int16_t row = 1; row <= editor.session.LineCount; ++row) {
-    const std::int16_t index = IndexGrdPozycje(editor, row, column);
-    if (overwrite || isBlank(editor.form.grdPozycje.cell(index))) fill(row, index);
+void forLinesToFill(Editor& editor, int column, bool overwrite, Fill fill) {
+  for (int row = 1; row <= editor.session.LineCount; ++row) {
+    const Row line = lineRow(editor, row);
+    if (overwrite || isBlank(line.cell(column))) fill(line);
   }
 }
 
@@ -66,10 +66,9 @@ void FillLines(Editor& editor, bool overwrite) {
       return;
     }
     const std::string rate = editor.form.comboStawkaVAT.text();
-    Table& grid = editor.form.grdPozycje;
-    forLinesToFill(editor, GRD_POZ_TAX_RATE, overwrite, [&](std::int16_t row, std::int16_t index) {
-      grid.setCell(index, rate);
-      grid.setCell(IndexGrdPozycje(editor, row, GRD_POZ_TAX_CATEGORY), rate.empty() ? "" : "S");
+    forLinesToFill(editor, GRD_POZ_TAX_RATE, overwrite, [&](const Row& line) {
+      line.set(GRD_POZ_TAX_RATE, rate);
+      line.set(GRD_POZ_TAX_CATEGORY, rate.empty() ? "" : "S");
     });
     CountValidRows(editor);
   });
@@ -87,9 +86,8 @@ void FillLines2(Editor& editor, bool overwrite) {
     }
     const DropDownList& countries = editor.form.comboCountry;
     const std::string country = symbolKraj(narrow16(countries.index()), countries.text());
-    forLinesToFill(editor, GRD_POZ_COUNTRY, overwrite, [&](std::int16_t, std::int16_t index) {
-      editor.form.grdPozycje.setCell(index, country);
-    });
+    forLinesToFill(editor, GRD_POZ_COUNTRY, overwrite,
+                   [&](const Row& line) { line.set(GRD_POZ_COUNTRY, country); });
   });
 }
 

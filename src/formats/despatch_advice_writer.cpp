@@ -5,8 +5,8 @@
 
 #include "formats/despatch_advice_paths.h"
 #include "platform/forms/report_errors.h"
-#include "tables/columns.h"
-#include "tables/flat_index.h"
+#include "tables/columns/columns.h"
+#include "tables/row.h"
 
 namespace awizo {
 namespace {
@@ -47,7 +47,7 @@ class DesAdvMaker {
   PackingSequenceValues package(std::int16_t row) const;
   DesAdvLineValues line(std::int16_t row) const;
   /// The cell of row 1 of grdSuma as XML number with 2 decimals, "-1" for an empty one.
-  std::string total(std::int16_t column) const;
+  std::string total(int column) const;
 
   Editor& editor_;
   AwizoForm& form_;
@@ -141,17 +141,14 @@ void DesAdvMaker::fillTotals() {
 }
 
 PackingSequenceValues DesAdvMaker::package(std::int16_t row) const {
-  const auto cell = [&](int column) {
-    const auto number = static_cast<std::int16_t>(column);
-    return form_.grdOpakowania.cell(IndexGrdOpak(editor_, row, number));
-  };
-  const auto number = [&](int column) { return Conversions::CommaToDot(cell(column)); };
+  const Row package = packageRow(editor_, row);
+  const auto number = [&](int column) { return Conversions::CommaToDot(package.cell(column)); };
   PackingSequenceValues values;
-  values.packageId = cell(GRD_OPAK_SERIAL);
-  values.parentId = row == 1 ? "1" : cell(GRD_OPAK_PARENT_SERIAL);
-  values.packageType = cell(GRD_OPAK_TYPE);
-  values.serialNumber = cell(GRD_OPAK_SERIAL_NUMBER);
-  values.deliveryPlace = cell(GRD_OPAK_LOCATION_ILN);
+  values.packageId = package.cell(GRD_OPAK_SERIAL);
+  values.parentId = row == 1 ? "1" : package.cell(GRD_OPAK_PARENT_SERIAL);
+  values.packageType = package.cell(GRD_OPAK_TYPE);
+  values.serialNumber = package.cell(GRD_OPAK_SERIAL_NUMBER);
+  values.deliveryPlace = package.cell(GRD_OPAK_LOCATION_ILN);
   values.weight = number(GRD_OPAK_WEIGHT);
   values.height = number(GRD_OPAK_HEIGHT);
   values.length = number(GRD_OPAK_LENGTH);
@@ -160,34 +157,31 @@ PackingSequenceValues DesAdvMaker::package(std::int16_t row) const {
 }
 
 DesAdvLineValues DesAdvMaker::line(std::int16_t row) const {
-  const auto cell = [&](int column) {
-    const auto number = static_cast<std::int16_t>(column);
-    return form_.grdPozycje.cell(IndexGrdPozycje(editor_, row, number));
-  };
-  const auto number = [&](int column) { return Conversions::CommaToDot(cell(column)); };
+  const Row line = lineRow(editor_, row);
+  const auto number = [&](int column) { return Conversions::CommaToDot(line.cell(column)); };
   DesAdvLineValues values;
-  values.lineNumber = cell(GRD_POZ_LP);
-  values.orderLineNumber = cell(GRD_POZ_ORDER_LINE);
-  values.ean = cell(GRD_POZ_EAN);
+  values.lineNumber = line.cell(GRD_POZ_LP);
+  values.orderLineNumber = line.cell(GRD_POZ_ORDER_LINE);
+  values.ean = line.cell(GRD_POZ_EAN);
   values.despatchedQty = number(GRD_POZ_QTY_DESPATCHED);
   values.orderedQty = number(GRD_POZ_QTY_ORDERED);
-  values.unit = cell(GRD_POZ_UNIT);
-  values.description = cell(GRD_POZ_NAME);
+  values.unit = line.cell(GRD_POZ_UNIT);
+  values.description = line.cell(GRD_POZ_NAME);
   values.price = number(GRD_POZ_PRICE);
   values.netAmount = number(GRD_POZ_NET_AMOUNT);
   values.taxRate = number(GRD_POZ_TAX_RATE);
-  values.taxCategory = cell(GRD_POZ_TAX_CATEGORY);
-  values.expiryDate = cell(GRD_POZ_EXPIRY_DATE);
-  values.country = cell(GRD_POZ_COUNTRY);
-  values.customsNumber = cell(GRD_POZ_CDN);
-  values.buyerCode = cell(GRD_POZ_CODE_BY_BUYER);
-  values.supplierCode = cell(GRD_POZ_CODE_BY_SELLER);
-  values.packRefs = cell(GRD_POZ_PACK_REFS);
+  values.taxCategory = line.cell(GRD_POZ_TAX_CATEGORY);
+  values.expiryDate = line.cell(GRD_POZ_EXPIRY_DATE);
+  values.country = line.cell(GRD_POZ_COUNTRY);
+  values.customsNumber = line.cell(GRD_POZ_CDN);
+  values.buyerCode = line.cell(GRD_POZ_CODE_BY_BUYER);
+  values.supplierCode = line.cell(GRD_POZ_CODE_BY_SELLER);
+  values.packRefs = line.cell(GRD_POZ_PACK_REFS);
   return values;
 }
 
-std::string DesAdvMaker::total(std::int16_t column) const {
-  std::string text = form_.grdSuma.cell(IndexGrdSuma(editor_, 1, column));
+std::string DesAdvMaker::total(int column) const {
+  std::string text = totalsRow(editor_).cell(column);
   return editor_.conversions.FormatForXml(text, 2);
 }
 

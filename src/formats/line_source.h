@@ -3,13 +3,13 @@
 #include <array>
 #include <string_view>
 
+#include "tables/columns/columns.h"
+
 namespace awizo {
 
 /// What a missing value of a document reads as.
 enum class Missing { blank, minusOne };
 
-/// Columns of grdPozycje that a document's line fills.
-inline constexpr int lineColumns = 22;
 inline constexpr int asItStands = -1;
 
 /// Where a column comes from: the path below `Line`, empty for a column that the document doesn't
@@ -20,6 +20,7 @@ struct LineSource {
   int decimals = asItStands;
 };
 
-using LineSources = std::array<LineSource, lineColumns>;
+/// One for each column of grdPozycje, by its number.
+using LineSources = std::array<LineSource, lineColumns.size()>;
 
 }  // namespace awizo

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "formats/order_line.h"
-#include "tables/columns.h"
-#include "tables/flat_index.h"
+#include "tables/columns/columns.h"
+#include "tables/row.h"
 
 namespace awizo {
 namespace {
@@ -31,75 +31,39 @@ constexpr LineSources sources = [] {
   return all;
 }();
 
-/// The row under way.
-class OrderRow {
- public:
-  OrderRow(Editor& editor, const XmlNode& line, std::int16_t row)
-      : editor_(editor), line_(line), row_(row), today_(editor.platform.clock.today()) {}
-
-  void fill();
-
- private:
-  std::string textOf(int column) const;
-  std::string readValue(const LineSource& source) const;
-  std::string netAmount(std::string&& stated) const;
-  std::string expiryDate() const;
-
-  int index(int column) const {
-    return IndexGrdPozycje(editor_, row_, static_cast<std::int16_t>(column));
-  }
-  const std::string& cell(int column) const { return editor_.form.grdPozycje.cell(index(column)); }
-  void setCell(int column, std::string_view text) {
-    editor_.form.grdPozycje.setCell(index(column), text);
-  }
-
-  Editor& editor_;
-  const XmlNode& line_;
-  std::int16_t row_;
-  Date today_;
-};
-
-void OrderRow::fill() {
-  for (int column = 0; column < lineColumns; ++column) {
-    setCell(column, textOf(column));
-    if (column == GRD_POZ_PERIOD_FORMAT) setCell(GRD_POZ_EXPIRY_DATE, expiryDate());
-  }
-}
-
-std::string OrderRow::textOf(int column) const {
-  switch (column) {
-    case GRD_POZ_LP:
-      return std::to_string(row_);
-    case GRD_POZ_NET_AMOUNT:
-      return netAmount(readValue(sources[GRD_POZ_NET_AMOUNT]));
-    case GRD_POZ_PRODUCTION_DATE:
-      return editor_.platform.locale.shortDate(today_);
-    case GRD_POZ_PACKED_QTY:
-      return editor_.conversions.NormalizeDecimal("0", 3);
-    default:
-      return readValue(sources[static_cast<std::size_t>(column)]);
-  }
-}
-
-std::string OrderRow::readValue(const LineSource& source) const {
+std::string readValue(const Editor& editor, const XmlNode& line, const LineSource& source) {
   if (source.path.empty()) return "";
-  std::string value = orderValue(line_, source.path, source.missing);
+  std::string value = orderValue(line, source.path, source.missing);
   if (source.decimals == asItStands) return value;
-  return editor_.conversions.NormalizeDecimal(value, source.decimals);
+  return editor.conversions.NormalizeDecimal(value, source.decimals);
 }
 
-std::string OrderRow::netAmount(std::string&& stated) const {
-  const Conversions& conversions = editor_.conversions;
+/// The amount that the order states, else the price of what is despatched.
+std::string netAmount(const Conversions& conversions, const Row& row, std::string&& stated) {
   if (stated.empty()) {
-    stated = conversions.MultiplyToAmount(Conversions::CommaToDot(cell(GRD_POZ_QTY_DESPATCHED)),
-                                          Conversions::CommaToDot(cell(GRD_POZ_PRICE)));
+    stated = conversions.MultiplyToAmount(Conversions::CommaToDot(row.cell(GRD_POZ_QTY_DESPATCHED)),
+                                          Conversions::CommaToDot(row.cell(GRD_POZ_PRICE)));
   }
   return conversions.NormalizeDecimal(stated, 2);
 }
 
-std::string OrderRow::expiryDate() const {
-  return editor_.conversions.AddPeriodToDate(today_, cell(GRD_POZ_PERIOD),
-                                             cell(GRD_POZ_PERIOD_FORMAT));
+std::string cellText(const Editor& editor, const XmlNode& line, const Row& row, int column,
+                     Date today) {
+  const auto stated = [&] {
+    return readValue(editor, line, sources[static_cast<std::size_t>(column)]);
+  };
+  switch (column) {
+    case GRD_POZ_LP:
+      return std::to_string(row.number());
+    case GRD_POZ_NET_AMOUNT:
+      return netAmount(editor.conversions, row, stated());
+    case GRD_POZ_PRODUCTION_DATE:
+      return editor.platform.locale.shortDate(today);
+    case GRD_POZ_PACKED_QTY:
+      return editor.conversions.NormalizeDecimal("0", 3);
+    default:
+      return stated();
+  }
 }
 
 }  // namespace
@@ -107,7 +71,16 @@ std::string OrderRow::expiryDate() const {
 const LineSources& orderLineSources() { return sources; }
 
 void readOrderLine(Editor& editor, const XmlNode& line, std::int16_t row) {
-  OrderRow(editor, line, row).fill();
+  const Row filled = lineRow(editor, row);
+  const Date today = editor.platform.clock.today();
+  for (const Column& column : lineColumns) {
+    filled.set(column.number, cellText(editor, line, filled, column.number, today));
+    if (column.number == GRD_POZ_PERIOD_FORMAT) {
+      filled.set(GRD_POZ_EXPIRY_DATE,
+                 editor.conversions.AddPeriodToDate(today, filled.cell(GRD_POZ_PERIOD),
+                                                    filled.cell(GRD_POZ_PERIOD_FORMAT)));
+    }
+  }
 }
 
 }  // namespace awizo

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "formats/customs_number.h"
-#include "tables/columns.h"
-#include "tables/flat_index.h"
+#include "tables/columns/columns.h"
+#include "tables/row.h"
 #include "tables/row_colour.h"
 #include "tables/totals.h"
 
@@ -24,19 +24,18 @@ bool isEmptyOrNumber(const Editor& editor, const std::string& text) {
 }  // namespace
 
 bool CheckGridRow(Editor& editor, std::int16_t row) {
-  const auto cell = [&](int column) -> const std::string& {
-    return editor.form.grdPozycje.cell(
-        IndexGrdPozycje(editor, row, static_cast<std::int16_t>(column)));
-  };
+  const Row line = lineRow(editor, row);
   const Conversions& conversions = editor.conversions;
-  if (!conversions.isNumeric(cell(GRD_POZ_EAN))) return fails(editor, "EAN");
-  if (!isEmptyOrNumber(editor, cell(GRD_POZ_QTY_ORDERED))) return fails(editor, "Zamowiona ilosc");
-  if (!conversions.isNumeric(Conversions::DotToComma(cell(GRD_POZ_QTY_DESPATCHED)))) {
+  if (!conversions.isNumeric(line.cell(GRD_POZ_EAN))) return fails(editor, "EAN");
+  if (!isEmptyOrNumber(editor, line.cell(GRD_POZ_QTY_ORDERED)))
+    return fails(editor, "Zamowiona ilosc");
+  if (!conversions.isNumeric(Conversions::DotToComma(line.cell(GRD_POZ_QTY_DESPATCHED)))) {
     return fails(editor, "Potwierdzana ilosc");
   }
-  if (!isEmptyOrNumber(editor, cell(GRD_POZ_PRICE))) return fails(editor, "Cena netto");
-  if (!isEmptyOrNumber(editor, cell(GRD_POZ_NET_AMOUNT))) return fails(editor, "Wartosc netto");
-  const std::string faulty = faultyCustomsNumberField(editor, cell(GRD_POZ_CDN));
+  if (!isEmptyOrNumber(editor, line.cell(GRD_POZ_PRICE))) return fails(editor, "Cena netto");
+  if (!isEmptyOrNumber(editor, line.cell(GRD_POZ_NET_AMOUNT)))
+    return fails(editor, "Wartosc netto");
+  const std::string faulty = faultyCustomsNumberField(editor, line.cell(GRD_POZ_CDN));
   return faulty.empty() || fails(editor, faulty);
 }
 

@@ -6,16 +6,14 @@
 #include "formats/header_validation.h"
 #include "platform/forms/report_errors.h"
 #include "platform/text.h"
-#include "tables/columns.h"
-#include "tables/flat_index.h"
+#include "tables/columns/columns.h"
+#include "tables/row.h"
 
 namespace awizo {
 namespace {
 
-bool isPacked(const Editor& editor, std::int16_t row) {
-  const Table& table = editor.form.grdPozycje;
-  return table.cell(IndexGrdPozycje(editor, row, GRD_POZ_QTY_DESPATCHED)) ==
-         table.cell(IndexGrdPozycje(editor, row, GRD_POZ_PACKED_QTY));
+bool isPacked(const Row& line) {
+  return line.cell(GRD_POZ_QTY_DESPATCHED) == line.cell(GRD_POZ_PACKED_QTY);
 }
 
 /// A separator of paths in the document's number would put the file into another folder.
@@ -49,8 +47,8 @@ void CheckAllPacked(Editor& editor) {
   SessionState& session = editor.session;
   if (session.LineCount < 1) return;
   session.AllPacked = true;
-  for (std::int16_t row = 1; row <= session.LineCount; ++row) {
-    if (!isPacked(editor, row)) {
+  for (int row = 1; row <= session.LineCount; ++row) {
+    if (!isPacked(lineRow(editor, row))) {
       session.AllPacked = false;
       return;
     }

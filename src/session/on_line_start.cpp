@@ -5,7 +5,7 @@
 #include "platform/narrow.h"
 #include "service/exchanges.h"
 #include "service/transport.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 #include "tables/row_colour.h"
 
 namespace awizo {

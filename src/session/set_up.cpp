@@ -1,34 +1,11 @@
 #include "session/set_up.h"
 
-#include <initializer_list>
-#include <map>
 #include <new>
 
-#include "session/record/header_panel.h"
+#include "tables/set_up_tables.h"
 
 namespace awizo {
 namespace {
-
-/// Gives the named columns a width in twips and hides all others.
-void setWidths(Table& table, const std::map<int, int>& widths) {
-  for (int column = 0; column < table.columns(); ++column) {
-    const auto shown = widths.find(column);
-    table.setColumnWidth(column, shown == widths.end() ? 0 : shown->second);
-  }
-}
-
-void centre(Table& table, std::initializer_list<int> columns) {
-  for (const int column : columns) table.setColumnAlignment(column, Alignment::centre);
-}
-
-void setUpTables(AwizoForm& form) {
-  setWidths(form.grdOpakowania, {{0, 525}, {2, 1150}, {3, 4605}, {4, 950}});
-  centre(form.grdOpakowania, {13, 4, 2});
-  setWidths(form.grdPozycje, {{0, 525}, {1, 1850}, {2, 4625}, {4, 2200}, {21, 1900}});
-  centre(form.grdPozycje, {1, 2});
-  setWidths(form.grdSuma, {{0, 1800}, {1, 3300}, {2, 0}});
-  centre(form.grdSuma, {0, 1, 2});
-}
 
 std::string versionText(const ProgramVersion& version) {
   return "VIRDDesAdv " + std::to_string(version.major) + "." + std::to_string(version.minor) +

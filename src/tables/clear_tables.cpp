@@ -1,14 +1,13 @@
 #include "tables/clear_tables.h"
 
-#include "tables/flat_index.h"
+#include "tables/row.h"
 
 namespace awizo {
 namespace {
 
 void emptyFirstRow(Table& table) {
-  for (std::int16_t column = 0; column < table.columns(); ++column) {
-    table.setCell(flatIndex(table, 1, column), "");
-  }
+  const Row first(table, 1);
+  for (int column = 0; column < table.columns(); ++column) first.set(column, "");
 }
 
 }  // namespace

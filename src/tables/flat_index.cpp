@@ -4,7 +4,7 @@
 
 namespace awizo {
 
-std::int16_t flatIndex(const Table& table, std::int16_t row, std::int16_t column) {
+std::int16_t flatIndex(const Table& table, int row, int column) {
   return narrow16(std::int64_t{row} * table.columns() + column);
 }
 
@@ -18,10 +18,6 @@ std::int16_t IndexGrdOpak(const Editor& editor, std::int16_t row, std::int16_t c
 
 std::int16_t IndexGrdSuma(const Editor& editor, std::int16_t row, std::int16_t col) {
   return flatIndex(editor.form.grdSuma, row, col);
-}
-
-const std::string& packageCell(const Editor& editor, std::int16_t row, std::int16_t column) {
-  return editor.form.grdOpakowania.cell(IndexGrdOpak(editor, row, column));
 }
 
 }  // namespace awizo

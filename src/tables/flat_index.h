@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
 #include "session/record/editor.h"
 
@@ -9,14 +8,11 @@ namespace awizo {
 
 /// Flat index of a cell, row x columns + column, in 16 bits: error 6 beyond 32767. That overflow,
 /// and no bound of the table, is the capacity of the tables, so every access goes through here.
-std::int16_t flatIndex(const Table& table, std::int16_t row, std::int16_t column);
+std::int16_t flatIndex(const Table& table, int row, int column);
 
 // The same for the three tables of the document.
 std::int16_t IndexGrdPozycje(const Editor& editor, std::int16_t row, std::int16_t col);
 std::int16_t IndexGrdOpak(const Editor& editor, std::int16_t row, std::int16_t col);
 std::int16_t IndexGrdSuma(const Editor& editor, std::int16_t row, std::int16_t col);
-
-/// A cell of grdOpakowania; the same error.
-const std::string& packageCell(const Editor& editor, std::int16_t row, std::int16_t column);
 
 }  // namespace awizo

@@ -6,7 +6,7 @@
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
 #include "platform/text.h"
-#include "tables/flat_index.h"
+#include "tables/row.h"
 
 namespace awizo {
 namespace {
@@ -15,6 +15,7 @@ constexpr std::string_view referenceSeparator = "$";
 constexpr std::string_view fieldSeparator = "@";
 constexpr std::size_t fieldCount = 4;
 constexpr std::size_t quantityField = 3;
+constexpr int quantityColumn = 4;
 constexpr std::array<std::string_view, 5> headings{"№ п.п", "ID упаковки", "Описание упаковки",
                                                    "Уровень", "Количество"};
 
@@ -43,7 +44,7 @@ std::string gridText(const Table& table) {
   const std::int16_t last = narrow16(table.rows() - 1);
   for (std::int16_t row = 1; row <= last; ++row) {
     if (row > 1) text.append(referenceSeparator);
-    for (std::int16_t column = 1; column <= static_cast<std::int16_t>(fieldCount); ++column) {
+    for (int column = 1; column <= quantityColumn; ++column) {
       if (column > 1) text.append(fieldSeparator);
       text.append(table.cell(flatIndex(table, row, column)));
     }
@@ -58,15 +59,13 @@ void fillGrid(Table& table, std::string_view text) {
   const std::vector<std::string> references = referencesOf(text);
   if (references.empty()) return;
   table.setRows(narrow16(static_cast<std::int64_t>(references.size()) + 1));
-  std::int16_t row = 0;
+  int number = 0;
   for (const std::string& reference : references) {
-    ++row;
+    const Row row(table, ++number);
     const std::vector<std::string> fields = fieldsOf(reference);
-    table.setCell(flatIndex(table, row, 1), serialOf(fields));
-    const auto last = static_cast<std::int16_t>(std::min(fields.size(), fieldCount));
-    for (std::int16_t column = 2; column <= last; ++column) {
-      table.setCell(flatIndex(table, row, column), fields[static_cast<std::size_t>(column) - 1]);
-    }
+    row.set(1, serialOf(fields));
+    const std::size_t count = std::min(fields.size(), fieldCount);
+    for (std::size_t i = 1; i < count; ++i) row.set(static_cast<int>(i) + 1, fields[i]);
   }
 }
 
@@ -154,9 +153,10 @@ std::string emptyOnError(Body&& body) {
 }  // namespace
 
 void writePackageHeadings(Table& table, const CellLook& look) {
-  for (std::int16_t column = 0; column < static_cast<std::int16_t>(headings.size()); ++column) {
-    table.setCell(flatIndex(table, 0, column), headings[static_cast<std::size_t>(column)]);
-    table.setLook(0, column, look);
+  int column = 0;
+  for (const std::string_view heading : headings) {
+    Row(table, 0).set(column, heading);
+    table.setLook(0, column++, look);
   }
 }
 

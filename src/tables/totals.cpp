@@ -2,8 +2,8 @@
 
 #include "platform/forms/report_errors.h"
 #include "tables/clear_tables.h"
-#include "tables/columns.h"
-#include "tables/flat_index.h"
+#include "tables/columns/columns.h"
+#include "tables/row.h"
 
 namespace awizo {
 namespace {
@@ -15,10 +15,6 @@ double numberOfCurrentRow(const Editor& editor, Table& lines, int column) {
   return text.empty() ? 0 : editor.conversions.toDouble(text);
 }
 
-void writeTotal(Editor& editor, std::int16_t column, std::string_view text) {
-  editor.form.grdSuma.setCell(IndexGrdSuma(editor, 1, column), text);
-}
-
 }  // namespace
 
 void PoprawGrdSuma(Editor& editor) {
@@ -26,7 +22,8 @@ void PoprawGrdSuma(Editor& editor) {
     const std::int16_t count = editor.session.LineCount;
     if (count < 1) return;
     ClearGrdSuma(editor);
-    writeTotal(editor, GRD_SUMA_LINE_COUNT, std::to_string(count));
+    const Row totals = totalsRow(editor);
+    totals.set(GRD_SUMA_LINE_COUNT, std::to_string(count));
     Table& lines = editor.form.grdPozycje;
     double despatched = 0;
     double netAmount = 0;
@@ -36,10 +33,9 @@ void PoprawGrdSuma(Editor& editor) {
       netAmount += numberOfCurrentRow(editor, lines, GRD_POZ_NET_AMOUNT);
     }
     const Conversions& conversions = editor.conversions;
-    writeTotal(editor, GRD_SUMA_QTY_DESPATCHED,
+    totals.set(GRD_SUMA_QTY_DESPATCHED,
                conversions.FormatFixed(conversions.plainNumber(despatched), 3));
-    writeTotal(editor, GRD_SUMA_NET_AMOUNT,
-               conversions.FormatFixed(conversions.plainNumber(netAmount), 2));
+    totals.set(GRD_SUMA_NET_AMOUNT, conversions.FormatFixed(conversions.plainNumber(netAmount), 2));
   });
 }
 
@@ -49,10 +45,9 @@ std::string MyCalculateWeight(Editor& editor) {
   double total = 0;
   for (int row = 1; row <= editor.session.LineCount; ++row) {
     form.grdPozycje.setRow(row);
-    const auto line = static_cast<std::int16_t>(row);
-    std::string quantity =
-        form.grdPozycje.cell(IndexGrdPozycje(editor, line, GRD_POZ_QTY_DESPATCHED));
-    std::string weight = form.grdPozycje.cell(IndexGrdPozycje(editor, line, GRD_POZ_WEIGHT));
+    const Row line = lineRow(editor, row);
+    std::string quantity = line.cell(GRD_POZ_QTY_DESPATCHED);
+    std::string weight = line.cell(GRD_POZ_WEIGHT);
     total += MyCalculatePartWeight(editor, quantity, weight);
   }
   form.lblNiepelnaWagaKom.setCaption(form.WeightComplete ? "" : "Не для всех позиций указан вес");

@@ -7,7 +7,7 @@
 
 #include "hosts/desktop/faces/table_face.h"
 #include "support/files/files.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "desk.h"
 #include "hosts/desktop/faces/table_face.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {

@@ -3,7 +3,7 @@
 #include <QLineEdit>
 
 #include "desk.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {

@@ -5,7 +5,7 @@
 #include <QTimer>
 
 #include "desktop_program/program_test.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {

@@ -1,6 +1,7 @@
 #include "tables/editing/clear_form.h"
 
 #include "desk.h"
+#include "support/cells.h"
 
 namespace awizo::test {
 namespace {
@@ -40,7 +41,7 @@ TEST_F(ClearingTheForm, EmptiesHeaderLinesAndTotals) {
   for (const Label* label : labels) EXPECT_EQ(label->caption(), "") << label->name();
   EXPECT_EQ(form.HeaderBuyerILN + form.HeaderBuyerName + form.HeaderSellerILN, "");
   EXPECT_EQ(lines.rows(), 2);
-  EXPECT_EQ(TestEditor::row(lines, 1), std::vector<std::string>(23));
+  EXPECT_EQ(TestEditor::row(lines, 1), lineCells());
   EXPECT_EQ(lines.look(1, 1).background, white);
   EXPECT_EQ(session.LineCount, 0);
   EXPECT_EQ(form.ValidLineCount, 0);

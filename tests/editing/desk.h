@@ -7,7 +7,7 @@
 
 #include "platform/forms/keys.h"
 #include "session/test_control.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 

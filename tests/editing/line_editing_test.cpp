@@ -43,7 +43,8 @@ class EditingALine : public ::testing::Test, public Desk {
   }
 
   void putRow(int row, const std::vector<std::string>& texts) {
-    for (int i = 0; i < 23; ++i) lines.setCell(row, i, texts[static_cast<std::size_t>(i)]);
+    for (int i = 0; i < lines.columns(); ++i)
+      lines.setCell(row, i, texts[static_cast<std::size_t>(i)]);
   }
   void put(int column, const std::string& text) { lines.setCell(2, column, text); }
   /// Opens the dialog for the current line, looks, and closes it.

@@ -1,3 +1,4 @@
+#include "support/cells.h"
 #include "support/error_of.h"
 #include "written_despatch_advice.h"
 
@@ -10,7 +11,7 @@ TEST(DespatchAdviceInAPointLocale, WritesTheSameNumbersDatesAndTimes) {
   form.txtDataAwiza.setDate(makeDate(2026, 2, 1));
   form.txtEstimatedDeliveryDate.setDate(makeDate(2026, 3, 4));
   form.txtDespatchAdviceTime.setTime(TimeOfDay{15, 4, 0});
-  std::vector<std::string> cells(23);
+  std::vector<std::string> cells = lineCells();
   cells[GRD_POZ_QTY_DESPATCHED] = "1.500";
   cells[GRD_POZ_PACK_REFS] = "2@A@1@1.500";
   TestEditor::fill(form.grdPozycje, {cells});

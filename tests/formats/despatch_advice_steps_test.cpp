@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "formats/despatch_advice_writer.h"
+#include "support/cells.h"
 #include "support/test_editor.h"
 
 namespace awizo::test {
@@ -79,8 +80,8 @@ std::string titleWith(const Xml& xml) {
   test.form.dpDataZam.setDate(makeDate(2026, 11, 2));
   test.form.txtCodeByBuyer.setText("77");
   test.form.DeliveryILN = "9520002000026";
-  TestEditor::fill(test.form.grdPozycje, {std::vector<std::string>(23)});
-  TestEditor::fill(test.form.grdOpakowania, {std::vector<std::string>(15)});
+  TestEditor::fill(test.form.grdPozycje, {lineCells()});
+  TestEditor::fill(test.form.grdOpakowania, {packageCells()});
   test.session.LineCount = 1;
   test.session.IloscPozycjiOpak = 1;
 

@@ -136,7 +136,7 @@ TEST_F(DespatchAdvice, APackageWithoutSerialHasAnEmptyId) {
 }
 
 TEST_F(DespatchAdvice, CarriesALineWithAllItsValues) {
-  std::vector<std::string> cells(23);
+  std::vector<std::string> cells = lineCells();
   cells[GRD_POZ_LP] = "1";
   cells[GRD_POZ_EAN] = "5901234123457";
   cells[GRD_POZ_NAME] = "Чай чёрный";
@@ -220,7 +220,7 @@ TEST_F(DespatchAdvice, CommasOfAPackageStayWhereNoNumberStands) {
 }
 
 TEST_F(DespatchAdvice, ALineWithoutValuesKeepsTheElementsThatAlwaysStand) {
-  setLines({std::vector<std::string>(23)});
+  setLines({lineCells()});
   EXPECT_THAT(written(), ::testing::HasSubstr("<Line><Line-Item><LineNumber/><EAN/>"
                                               "<DespatchedQuantity/></Line-Item></Line>"));
 }

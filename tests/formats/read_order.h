@@ -4,7 +4,7 @@
 
 #include "formats/logged.h"
 #include "formats/order_reader.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 

@@ -3,16 +3,17 @@
 #include <map>
 #include <string>
 
+#include "support/cells.h"
 #include "support/error_of.h"
 #include "support/test_editor.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {
 
 /// A line that passes every rule, in numbers that both locales read.
 std::vector<std::string> goodLine() {
-  std::vector<std::string> cells(23);
+  std::vector<std::string> cells = lineCells();
   cells[GRD_POZ_LP] = "1";
   cells[GRD_POZ_EAN] = "5901234123457";
   cells[GRD_POZ_QTY_ORDERED] = "5";
@@ -119,7 +120,7 @@ TEST_F(RowCheck, TellsWhichFieldOfTheCustomsNumberFails) {
 }
 
 TEST_F(RowCheck, TheFirstRuleThatFailsIsTold) {
-  std::vector<std::string> cells(23, "no number");
+  std::vector<std::string> cells(lineCells().size(), "no number");
   std::vector<std::string> told;
   for (const int column : {GRD_POZ_EAN, GRD_POZ_QTY_ORDERED, GRD_POZ_QTY_DESPATCHED, GRD_POZ_PRICE,
                            GRD_POZ_NET_AMOUNT}) {
@@ -227,7 +228,7 @@ TEST_F(RowCheck, CountingWithoutLinesGives0AndLeavesTheTotals) {
 }
 
 TEST_F(RowCheck, CountingShowsNothingForFailingLines) {
-  TestEditor::fill(table, {std::vector<std::string>(23, "")});
+  TestEditor::fill(table, {lineCells()});
   test.session.LineCount = 1;
   CountValidRows(test.editor);
   EXPECT_EQ(test.form.ValidLineCount, 0);

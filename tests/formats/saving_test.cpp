@@ -3,8 +3,9 @@
 #include <optional>
 
 #include "formats/despatch_advice_writer.h"
+#include "support/cells.h"
 #include "support/test_editor.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {
@@ -27,7 +28,7 @@ struct Saving : ::testing::Test {
     form.txtDataAwiza.setDate(makeDate(2026, 11, 21));
     form.txtEstimatedDeliveryDate.setDate(makeDate(2026, 11, 21));
     setLines({{"1,000", "1,000"}});
-    TestEditor::fill(form.grdOpakowania, {std::vector<std::string>(15)});
+    TestEditor::fill(form.grdOpakowania, {packageCells()});
     test.session.IloscPozycjiOpak = 1;
     test.files.put("c:\\out\\old.xml", "old bytes");
   }
@@ -36,7 +37,7 @@ struct Saving : ::testing::Test {
   void setLines(const std::vector<std::pair<std::string, std::string>>& quantities) {
     std::vector<std::vector<std::string>> rows;
     for (const auto& [despatched, packed] : quantities) {
-      std::vector<std::string> cells(23);
+      std::vector<std::string> cells = lineCells();
       cells[GRD_POZ_EAN] = "5901234123457";
       cells[GRD_POZ_QTY_DESPATCHED] = despatched;
       cells[GRD_POZ_PACKED_QTY] = packed;

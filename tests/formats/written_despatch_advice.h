@@ -3,8 +3,9 @@
 #include <optional>
 
 #include "formats/despatch_advice_writer.h"
+#include "support/cells.h"
 #include "support/test_editor.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 
@@ -30,7 +31,7 @@ struct DespatchAdvice : ::testing::Test {
   }
 
   static std::vector<std::string> line(const std::string& number) {
-    std::vector<std::string> cells(23);
+    std::vector<std::string> cells = lineCells();
     cells[GRD_POZ_LP] = number;
     cells[GRD_POZ_EAN] = "5901234123457";
     cells[GRD_POZ_QTY_DESPATCHED] = "1";
@@ -38,7 +39,7 @@ struct DespatchAdvice : ::testing::Test {
   }
 
   static std::vector<std::string> package(const std::string& serial, const std::string& parent) {
-    std::vector<std::string> cells(15);
+    std::vector<std::string> cells = packageCells();
     cells[GRD_OPAK_SERIAL] = serial;
     cells[GRD_OPAK_PARENT_SERIAL] = parent;
     return cells;

@@ -3,7 +3,7 @@
 #include <map>
 #include <set>
 
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {

@@ -6,10 +6,11 @@
 #include "demo/replies.h"
 #include "formats/despatch_advice_writer.h"
 #include "service/exchanges.h"
+#include "support/cells.h"
 #include "support/files/files.h"
 #include "support/schemas/schema.h"
 #include "support/test_editor.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {
@@ -37,7 +38,7 @@ class WrittenDocument : public testing::TestWithParam<const char*>, public TestE
   }
 
   std::vector<std::string> package(int row) const {
-    std::vector<std::string> cells(15);
+    std::vector<std::string> cells = packageCells();
     cells[GRD_OPAK_SERIAL] = std::to_string(row + 1);
     cells[GRD_OPAK_PARENT_SERIAL] = std::to_string(row / 2 + 1);
     cells[GRD_OPAK_TYPE] = row == 1 ? "09" : "201";
@@ -48,7 +49,7 @@ class WrittenDocument : public testing::TestWithParam<const char*>, public TestE
   }
 
   std::vector<std::string> line(int row, int packages) const {
-    std::vector<std::string> cells(23);
+    std::vector<std::string> cells = lineCells();
     cells[GRD_POZ_LP] = cells[GRD_POZ_ORDER_LINE] = std::to_string(row);
     cells[GRD_POZ_EAN] = "4607000000116";
     cells[GRD_POZ_NAME] = "Чай & <кофе>";

@@ -1,7 +1,7 @@
 #include "service/sending/sending.h"
 
 #include "support/test_editor.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {

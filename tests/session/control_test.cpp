@@ -1,4 +1,4 @@
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 #include "test_control.h"
 
 namespace awizo::test {

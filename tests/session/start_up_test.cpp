@@ -1,5 +1,5 @@
 #include "platform/forms/table.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 #include "test_control.h"
 
 namespace awizo::test {

@@ -1,5 +1,5 @@
 #include "on_line_start_fixture.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {

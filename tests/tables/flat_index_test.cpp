@@ -2,7 +2,7 @@
 
 #include "support/error_of.h"
 #include "support/test_editor.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {

@@ -1,7 +1,8 @@
 #include "tables/totals.h"
 
+#include "support/cells.h"
 #include "support/test_editor.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {
@@ -21,7 +22,7 @@ struct TotalsEditor : TestEditor {
       : TestEditor(localeName) {
     std::vector<std::vector<std::string>> rows;
     for (const LineValues& line : lines) {
-      std::vector<std::string> row(23);
+      std::vector<std::string> row = lineCells();
       row[GRD_POZ_QTY_DESPATCHED] = line.despatched;
       row[GRD_POZ_NET_AMOUNT] = line.netAmount;
       row[GRD_POZ_WEIGHT] = line.weight;

@@ -6,7 +6,7 @@
 #include <iostream>
 
 #include "session/awizo_wysylki.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::desktop {
 namespace {

@@ -10,7 +10,7 @@
 #include "hosts/desktop/faces/table_face.h"
 #include "hosts/desktop/window/column_fill.h"
 #include "hosts/desktop/window/main_layout.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::desktop {
 namespace {

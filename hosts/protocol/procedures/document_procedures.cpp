@@ -7,6 +7,7 @@
 #include "formats/saving.h"
 #include "hosts/protocol/procedures/control_procedures.h"
 #include "session/record/header_panel.h"
+#include "tables/set_up_tables.h"
 
 namespace awizo::protocol {
 

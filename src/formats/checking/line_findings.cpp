@@ -4,8 +4,8 @@
 #include <string>
 
 #include "formats/row_check.h"
-#include "tables/columns.h"
-#include "tables/flat_index.h"
+#include "tables/columns/columns.h"
+#include "tables/row.h"
 
 namespace awizo {
 namespace {
@@ -53,7 +53,7 @@ void LineFindings::addFailure(const XmlNode& line, std::int16_t row, int column)
   for (const CheckedColumn& checked : checkedColumns) {
     if (checked.column == column) name = checked.name;
   }
-  const std::string& value = cell(row, column);
+  const std::string& value = lineRow(editor_, row).cell(column);
   const std::string text =
       "строка не пройдёт проверку: " +
       (value.empty() ? "нет значения (" + name + ")" : name + " " + quoted(value) + " не число");
@@ -64,14 +64,14 @@ void LineFindings::addFailure(const XmlNode& line, std::int16_t row, int column)
 void LineFindings::addNumbers(const XmlNode& line, std::int16_t row, int failing) {
   const Conversions& conversions = editor_.conversions;
   std::string_view lastPath;
-  for (int column = 0; column < lineColumns; ++column) {
-    const LineSource& source = sources_[static_cast<std::size_t>(column)];
+  for (const Column& column : lineColumns) {
+    const LineSource& source = sources_[static_cast<std::size_t>(column.number)];
     // One value can fill two columns.
     if (source.decimals == asItStands || source.path == lastPath) continue;
     lastPath = source.path;
-    if (column == failing) continue;
-    const XmlNode node = valueOf(line, column);
-    const std::string& shown = cell(row, column);
+    if (column.number == failing) continue;
+    const XmlNode node = valueOf(line, column.number);
+    const std::string& shown = lineRow(editor_, row).cell(column.number);
     if (!node || shown.empty()) continue;
     if (!conversions.isNumeric(shown)) {
       found_.push_back(map_.finding(node, quoted(shown) + " не число, останется как есть"));
@@ -80,11 +80,6 @@ void LineFindings::addNumbers(const XmlNode& line, std::int16_t row, int failing
           map_.finding(node, quoted(node.text()) + " будет прочитано как " + quoted(shown)));
     }
   }
-}
-
-const std::string& LineFindings::cell(std::int16_t row, int column) const {
-  return editor_.form.grdPozycje.cell(
-      IndexGrdPozycje(editor_, row, static_cast<std::int16_t>(column)));
 }
 
 XmlNode LineFindings::valueOf(const XmlNode& line, int column) const {

@@ -27,7 +27,6 @@ class LineFindings {
   int failingColumn(std::int16_t row);
   void addFailure(const XmlNode& line, std::int16_t row, int column);
   void addNumbers(const XmlNode& line, std::int16_t row, int failing);
-  const std::string& cell(std::int16_t row, int column) const;
   XmlNode valueOf(const XmlNode& line, int column) const;
 
   Editor& editor_;

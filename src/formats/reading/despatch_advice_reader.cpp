@@ -10,10 +10,10 @@
 #include "platform/narrow.h"
 #include "service/transport.h"
 #include "session/record/header_panel.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 #include "tables/editing/clear_form.h"
 #include "tables/editing/in_table_editing.h"
-#include "tables/flat_index.h"
+#include "tables/row.h"
 #include "tables/totals.h"
 
 namespace awizo {
@@ -131,12 +131,11 @@ class DocumentReader {
     return narrow16(static_cast<std::int64_t>(elements.size()));
   }
 
-  void readPackage(const XmlNode& package, std::int16_t row) {
-    Table& grid = form_.grdOpakowania;
-    grid.setCell(IndexGrdOpak(editor_, row, GRD_OPAK_LP), std::to_string(row));
+  void readPackage(const XmlNode& package, const Row& row) {
+    row.set(GRD_OPAK_LP, std::to_string(row.number()));
     const std::string id = GetNodeValue(package, "PackageId", true);
     showPlain(editor_, id);
-    grid.setCell(IndexGrdOpak(editor_, row, GRD_OPAK_ID_LOW), id);
+    row.set(GRD_OPAK_ID_LOW, id);
   }
 
   // The rows appear, but the count of packages stays what it was.
@@ -152,8 +151,8 @@ class DocumentReader {
     grid.setFixedRows(1);
     grid.setRows(rowsFor(requireCount(packages)));
     grid.setRedraw(false);
-    std::int16_t row = 0;
-    for (const XmlNode& package : packages) readPackage(package, ++row);
+    int row = 0;
+    for (const XmlNode& package : packages) readPackage(package, packageRow(editor_, ++row));
     grid.setRow(1);
     grid.setColumn(1);
     grid.setRedraw(true);
@@ -206,8 +205,7 @@ void takeTotals(Editor& editor, XmlDocument& document) {
   const auto take = [&](std::string_view path, int column) {
     const std::string total = GetNodeValue(document.node(), path, true);
     if (total.empty()) return;
-    totals.setCell(IndexGrdSuma(editor, 1, narrow16(column)),
-                   editor.conversions.NormalizeDecimal(std::string(total), 2));
+    totalsRow(editor).set(column, editor.conversions.NormalizeDecimal(std::string(total), 2));
   };
   take("/Document-DespatchAdvice/DespatchAdvice-Summary/TotalQuantity", GRD_SUMA_QTY_DESPATCHED);
   take("/Document-DespatchAdvice/DespatchAdvice-Summary/TotalAmount", GRD_SUMA_NET_AMOUNT);

@@ -1,9 +1,9 @@
 #include "formats/reading/line_reader.h"
 
 #include "service/transport.h"
-#include "tables/columns.h"
-#include "tables/flat_index.h"
+#include "tables/columns/columns.h"
 #include "tables/package_references.h"
+#include "tables/row.h"
 
 namespace awizo {
 namespace {
@@ -33,10 +33,10 @@ std::string sourceText(Editor& editor, const XmlNode& line, const LineSource& so
   return editor.conversions.NormalizeDecimal(std::move(text), source.decimals);
 }
 
-std::string cellText(Editor& editor, const XmlNode& line, std::int16_t row, int column) {
+std::string cellText(Editor& editor, const XmlNode& line, const Row& row, int column) {
   switch (column) {
     case GRD_POZ_LP:
-      return std::to_string(row);
+      return std::to_string(row.number());
     case GRD_POZ_PRODUCTION_DATE:
       return editor.platform.locale.shortDate(editor.platform.clock.today());
     case GRD_POZ_PACK_REFS:
@@ -53,9 +53,9 @@ std::string cellText(Editor& editor, const XmlNode& line, std::int16_t row, int 
 const LineSources& despatchLineSources() { return sources; }
 
 void readDespatchLine(Editor& editor, const XmlNode& line, std::int16_t row) {
-  for (std::int16_t column = 0; column < lineColumns; ++column) {
-    editor.form.grdPozycje.setCell(IndexGrdPozycje(editor, row, column),
-                                   cellText(editor, line, row, column));
+  const Row filled = lineRow(editor, row);
+  for (const Column& column : lineColumns) {
+    filled.set(column.number, cellText(editor, line, filled, column.number));
   }
 }
 

@@ -1,5 +1,7 @@
 #include "session/record/awizo_form.h"
 
+#include "tables/columns/columns.h"
+
 namespace awizo {
 
 AwizoForm::AwizoForm(Screen& screen, const Clock& clock)
@@ -31,7 +33,7 @@ AwizoForm::AwizoForm(Screen& screen, const Clock& clock)
       lblVersion(*this, "lblVersion", "VIRDDesAdv 0.0.0.0"),
       lblNiepelnaWagaKom(*this, "lblNiepelnaWagaKom", "Не для всех позиций указан вес"),
       frmPozycje(*this, "frmPozycje", "Товарные позиции"),
-      grdPozycje(*this, "grdPozycje", 23),
+      grdPozycje(*this, "grdPozycje", lineColumnCount),
       txtEdycja(*this, "txtEdycja"),
       lblStawkaVAT(*this, "lblStawkaVAT", "Ставка НДС"),
       comboStawkaVAT(*this, "comboStawkaVAT", "Ставка НДС", ListStyle::listOnly),
@@ -45,12 +47,12 @@ AwizoForm::AwizoForm(Screen& screen, const Clock& clock)
       btnEdytuj(*this, "btnEdytuj"),
       btnUsun(*this, "btnUsun"),
       Frame1(*this, "Frame1", "Упаковки"),
-      grdOpakowania(*this, "grdOpakowania", 15),
+      grdOpakowania(*this, "grdOpakowania", packageColumnCount),
       btnDodajOpak(*this, "btnDodajOpak"),
       btnEdytujOpak(*this, "btnEdytujOpak"),
       btnUsunOpak(*this, "btnUsunOpak"),
       frmPodsumowanie(*this, "frmPodsumowanie", "Итоги"),
-      grdSuma(*this, "grdSuma", 3),
+      grdSuma(*this, "grdSuma", totalColumnCount),
       txtEdycjaSuma(*this, "txtEdycjaSuma"),
       btnPrzeslij(*this, "btnPrzeslij"),
       btnZapisz(*this, "btnZapisz"),

@@ -15,9 +15,6 @@ std::string symbolKraj(std::int16_t index, std::string_view typedText);
 /// Index of the country code in that list; case matters; -1 for any other text.
 std::int16_t indexKraj(std::string_view code);
 
-/// Writes the headings of the three tables. An error is shown and the rest is left out.
-void UstawNaglowki(Editor& editor);
-
 /// Shows buyer and seller of the session in their labels.
 void showParties(Editor& editor);
 

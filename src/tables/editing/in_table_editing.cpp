@@ -4,8 +4,8 @@
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
 #include "platform/text.h"
-#include "tables/columns.h"
-#include "tables/flat_index.h"
+#include "tables/columns/columns.h"
+#include "tables/row.h"
 #include "tables/totals.h"
 
 namespace awizo {
@@ -89,8 +89,7 @@ std::string ClampQuantity(Editor& editor, std::string_view text) {
   std::string quantity = conversions.NormalizeDecimal(std::string(text), 3);
   if (!conversions.isNumeric(quantity)) return conversions.NormalizeDecimal(std::string(), 3);
   if (conversions.toDouble(quantity) < 0) quantity = "0";
-  const std::string& ordered = editor.form.grdPozycje.cell(
-      IndexGrdPozycje(editor, editor.session.EditRow, GRD_POZ_QTY_ORDERED));
+  const std::string& ordered = lineRow(editor, editor.session.EditRow).cell(GRD_POZ_QTY_ORDERED);
   double limit = conversions.isNumeric(ordered) ? conversions.toDouble(ordered) : 0;
   if (limit < 0) limit = 0;
   if (conversions.toDouble(quantity) > limit) quantity = conversions.plainNumber(limit);

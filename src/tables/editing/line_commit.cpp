@@ -7,12 +7,12 @@
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
 #include "session/record/header_panel.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 #include "tables/editing/in_table_editing.h"
 #include "tables/editing/line_dialog_fill.h"
 #include "tables/editing/numbered_row.h"
-#include "tables/flat_index.h"
 #include "tables/package_references.h"
+#include "tables/row.h"
 #include "tables/row_colour.h"
 
 namespace awizo {
@@ -28,72 +28,45 @@ std::string pickedDate(const DatePicker& picker) {
   return picker.date() ? Conversions::FormatDateIso(*picker.date()) : std::string();
 }
 
-// Writes the dialog's fields into the cells of one row.
-class LineWriter {
- public:
-  LineWriter(Editor& editor, DlgDodaj& dialog, std::int16_t row)
-      : editor_(editor), dialog_(dialog), row_(row) {}
+void writeProduct(const Editor& editor, DlgDodaj& dialog, const Row& line) {
+  const auto fixed = [&](const TextField& field, int decimals) {
+    return editor.conversions.FormatFixed(field.text(), decimals);
+  };
+  line.set(GRD_POZ_EAN, dialog.txtlEANProdWart.text());
+  line.set(GRD_POZ_NAME, dialog.txtNazwaProdWart.text());
+  line.set(GRD_POZ_QTY_ORDERED, fixed(dialog.txtIloscZam, 3));
+  line.set(GRD_POZ_QTY_DESPATCHED, fixed(dialog.txtIloscPotw, 3));
+  line.set(GRD_POZ_PRICE, fixed(dialog.txtCenaNetto, 2));
+  line.set(GRD_POZ_CODE_BY_BUYER, dialog.txtKodKup.text());
+  line.set(GRD_POZ_CODE_BY_SELLER, dialog.txtKodSprzed.text());
+  line.set(GRD_POZ_WEIGHT, dialog.LineWeight);
+  line.set(GRD_POZ_UNIT, dialog.symbolJednostkiMiary(narrow16(dialog.cboxJednostkaMiary.index())));
+  line.set(GRD_POZ_ORDER_LINE, dialog.LineOrderNumber);
+  line.set(GRD_POZ_NET_AMOUNT, fixed(dialog.txtAmount, 2));
+}
 
-  void writeAll() {
-    writeProduct();
-    writeAmounts();
-    writeOrigin();
-    writePackages();
-  }
+void writeTaxAndExpiry(DlgDodaj& dialog, const Row& line) {
+  line.set(GRD_POZ_TAX_RATE, dialog.symbolStawkaVAT(narrow16(dialog.cboxStawkaVAT.index())));
+  line.set(GRD_POZ_TAX_CATEGORY, dialog.symbolKodVAT(narrow16(dialog.cboxKodVAT.index())));
+  line.set(GRD_POZ_EXPIRY_DATE, pickedDate(dialog.dtExpiryDate));
+}
 
- private:
-  std::int16_t index(std::int16_t column) const { return IndexGrdPozycje(editor_, row_, column); }
-  const std::string& read(std::int16_t column) const {
-    return editor_.form.grdPozycje.cell(index(column));
-  }
-  void write(std::int16_t column, std::string_view text) {
-    editor_.form.grdPozycje.setCell(index(column), text);
-  }
-  std::string fixed(const TextField& field, int decimals) const {
-    return editor_.conversions.FormatFixed(field.text(), decimals);
-  }
+void writeOrigin(Editor& editor, DlgDodaj& dialog, const Row& line) {
+  const DropDownList& country = dialog.comboCountry;
+  line.set(GRD_POZ_COUNTRY, symbolKraj(narrow16(country.index()), country.text()));
+  if (line.cell(GRD_POZ_COUNTRY).empty()) line.set(GRD_POZ_COUNTRY, country.text());
+  line.set(GRD_POZ_CDN,
+           JoinCDN(dialog.txtCDN1.text(), FormatCDNDate(editor, dialog.dpCDN2.date().value()),
+                   dialog.txtCDN3.text(), dialog.txtCDN4.text()));
+  line.set(GRD_POZ_PRODUCTION_DATE, pickedDate(dialog.dtProdDate));
+  line.set(GRD_POZ_PERIOD, dialog.LinePeriod);
+  line.set(GRD_POZ_PERIOD_FORMAT, dialog.LinePeriodFormat);
+}
 
-  void writeProduct() {
-    write(GRD_POZ_EAN, dialog_.txtlEANProdWart.text());
-    write(GRD_POZ_NAME, dialog_.txtNazwaProdWart.text());
-    write(GRD_POZ_QTY_ORDERED, fixed(dialog_.txtIloscZam, 3));
-    write(GRD_POZ_QTY_DESPATCHED, fixed(dialog_.txtIloscPotw, 3));
-    write(GRD_POZ_PRICE, fixed(dialog_.txtCenaNetto, 2));
-    write(GRD_POZ_CODE_BY_BUYER, dialog_.txtKodKup.text());
-    write(GRD_POZ_CODE_BY_SELLER, dialog_.txtKodSprzed.text());
-    write(GRD_POZ_WEIGHT, dialog_.LineWeight);
-    write(GRD_POZ_UNIT, dialog_.symbolJednostkiMiary(narrow16(dialog_.cboxJednostkaMiary.index())));
-    write(GRD_POZ_ORDER_LINE, dialog_.LineOrderNumber);
-  }
-
-  void writeAmounts() {
-    write(GRD_POZ_NET_AMOUNT, fixed(dialog_.txtAmount, 2));
-    write(GRD_POZ_TAX_RATE, dialog_.symbolStawkaVAT(narrow16(dialog_.cboxStawkaVAT.index())));
-    write(GRD_POZ_TAX_CATEGORY, dialog_.symbolKodVAT(narrow16(dialog_.cboxKodVAT.index())));
-    write(GRD_POZ_EXPIRY_DATE, pickedDate(dialog_.dtExpiryDate));
-  }
-
-  void writeOrigin() {
-    const DropDownList& country = dialog_.comboCountry;
-    write(GRD_POZ_COUNTRY, symbolKraj(narrow16(country.index()), country.text()));
-    if (read(GRD_POZ_COUNTRY).empty()) write(GRD_POZ_COUNTRY, country.text());
-    write(GRD_POZ_CDN,
-          JoinCDN(dialog_.txtCDN1.text(), FormatCDNDate(editor_, dialog_.dpCDN2.date().value()),
-                  dialog_.txtCDN3.text(), dialog_.txtCDN4.text()));
-    write(GRD_POZ_PRODUCTION_DATE, pickedDate(dialog_.dtProdDate));
-    write(GRD_POZ_PERIOD, dialog_.LinePeriod);
-    write(GRD_POZ_PERIOD_FORMAT, dialog_.LinePeriodFormat);
-  }
-
-  void writePackages() {
-    write(GRD_POZ_PACK_REFS, GridToString(dialog_.grdPozycje));
-    write(GRD_POZ_PACKED_QTY, GetPackedQuantity(editor_, read(GRD_POZ_PACK_REFS)));
-  }
-
-  Editor& editor_;
-  DlgDodaj& dialog_;
-  std::int16_t row_;
-};
+void writePackages(Editor& editor, const DlgDodaj& dialog, const Row& line) {
+  line.set(GRD_POZ_PACK_REFS, GridToString(dialog.grdPozycje));
+  line.set(GRD_POZ_PACKED_QTY, GetPackedQuantity(editor, line.cell(GRD_POZ_PACK_REFS)));
+}
 
 struct UnitName {
   std::string_view name;
@@ -156,7 +129,11 @@ void btnEdytuj_Click(Editor& editor, DlgDodaj& dialog) {
 
 bool ZatwierdzPozycje(Editor& editor, DlgDodaj& dialog, std::int16_t row) {
   return reportErrors(editor.screen(), "Произошла ошибка в ZatwierdzPozycje()", [&] {
-    LineWriter(editor, dialog, row).writeAll();
+    const Row line = lineRow(editor, row);
+    writeProduct(editor, dialog, line);
+    writeTaxAndExpiry(dialog, line);
+    writeOrigin(editor, dialog, line);
+    writePackages(editor, dialog, line);
     editor.form.grdPozycje.setRow(row);
     CountValidRows(editor);
   });

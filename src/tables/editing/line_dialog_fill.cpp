@@ -4,10 +4,10 @@
 #include "platform/narrow.h"
 #include "platform/text.h"
 #include "session/record/header_panel.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 #include "tables/editing/package_commit.h"
-#include "tables/flat_index.h"
 #include "tables/package_references.h"
+#include "tables/row.h"
 
 namespace awizo {
 namespace {
@@ -49,107 +49,84 @@ void emptyMembersAndDates(Editor& editor, DlgDodaj& dialog) {
       editor.conversions.NormalizeDecimal(std::string("0"), 3));
 }
 
-// A line's cells, handed to the fields in the order of their columns.
-class DialogFiller {
- public:
-  DialogFiller(Editor& editor, DlgDodaj& dialog, std::int16_t row)
-      : editor_(editor), dialog_(dialog), row_(row) {}
-
-  void fillAll() {
-    fillProduct();
-    fillAmounts();
-    fillDates();
-    fillCustomsNumber();
-    fillRest();
+// Every row that is equal is selected in turn.
+void selectEAN(DropDownList& list, const std::string& ean) {
+  for (int i = 0; i < list.count(); ++i) {
+    if (list.rows()[static_cast<std::size_t>(i)] == ean) list.setIndex(i);
   }
+}
 
- private:
-  std::string cell(std::int16_t column) const {
-    return editor_.form.grdPozycje.cell(IndexGrdPozycje(editor_, row_, column));
+void selectOrType(DropDownList& list, std::int16_t index, const std::string& text) {
+  if (index >= 0) {
+    list.setIndex(index);
+  } else {
+    list.setText(text);
   }
+}
 
-  // Every row that is equal is selected in turn.
-  void selectEAN(const std::string& ean) {
-    DropDownList& list = dialog_.cboxEANProd;
-    for (int i = 0; i < list.count(); ++i) {
-      if (list.rows()[static_cast<std::size_t>(i)] == ean) list.setIndex(i);
-    }
+// A line's cells are handed to the fields in the order of their columns.
+
+void fillProduct(DlgDodaj& dialog, const Row& line) {
+  dialog.txtlEANProdWart.setText(line.cell(GRD_POZ_EAN));
+  selectEAN(dialog.cboxEANProd, line.cell(GRD_POZ_EAN));
+  dialog.txtNazwaProdWart.setText(line.cell(GRD_POZ_NAME));
+  dialog.txtIloscZam.setText(line.cell(GRD_POZ_QTY_ORDERED));
+  dialog.txtIloscPotw.setText(line.cell(GRD_POZ_QTY_DESPATCHED));
+  dialog.txtCenaNetto.setText(line.cell(GRD_POZ_PRICE));
+  dialog.txtKodKup.setText(line.cell(GRD_POZ_CODE_BY_BUYER));
+  dialog.txtKodSprzed.setText(line.cell(GRD_POZ_CODE_BY_SELLER));
+  dialog.LineWeight = line.cell(GRD_POZ_WEIGHT);
+  const std::string& unit = line.cell(GRD_POZ_UNIT);
+  selectOrType(dialog.cboxJednostkaMiary, dialog.indexJednostkiMiary(unit), unit);
+  dialog.LineOrderNumber = line.cell(GRD_POZ_ORDER_LINE);
+}
+
+void fillAmounts(DlgDodaj& dialog, const Row& line) {
+  dialog.txtAmount.setText(line.cell(GRD_POZ_NET_AMOUNT));
+  dialog.cboxStawkaVAT.setIndex(dialog.indexStawkaVAT(line.cell(GRD_POZ_TAX_RATE)));
+  dialog.cboxKodVAT.setIndex(dialog.indexKodVAT(line.cell(GRD_POZ_TAX_CATEGORY)));
+  dialog.CheckVAT(0);
+}
+
+void fillExpiryAndCountry(const Editor& editor, DlgDodaj& dialog, const Row& line) {
+  const std::string& expiry = line.cell(GRD_POZ_EXPIRY_DATE);
+  if (expiry.empty()) {
+    showNoDate(dialog.dtExpiryDate, editor.platform.clock.today());
+  } else {
+    dialog.dtExpiryDate.setDate(editor.conversions.toDate(expiry));
   }
+  const std::string& country = line.cell(GRD_POZ_COUNTRY);
+  selectOrType(dialog.comboCountry, indexKraj(country), country);
+}
 
-  static void selectOrType(DropDownList& list, std::int16_t index, const std::string& text) {
-    if (index >= 0) {
-      list.setIndex(index);
-    } else {
-      list.setText(text);
-    }
+void fillCustomsNumber(Editor& editor, DlgDodaj& dialog, const Row& line) {
+  const CustomsNumberFields fields = SplitCDN(editor, line.cell(GRD_POZ_CDN));
+  dialog.txtCDN1.setText(fields[0]);
+  DebugLog& log = editor.session.log;
+  const std::string& date = fields[1];
+  log.WriteDebugLine("Edycja: cdnTab(1)=" + date);
+  if (countCharacters(date) == 6 && editor.conversions.isNumeric(date)) {
+    const std::string day(firstCharacters(date, 2));
+    const std::string month(lastCharacters(firstCharacters(date, 4), 2));
+    const std::string year(lastCharacters(date, 2));
+    log.WriteDebugLine("Edycja-DD: " + day);
+    log.WriteDebugLine("Edycja-MM: " + month);
+    log.WriteDebugLine("Edycja-YY: " + year);
+    dialog.dpCDN2.setDate(editor.conversions.toDate(day + "-" + month + "-" + year));
+  } else {
+    dialog.dpCDN2.setDate(editor.platform.clock.today());
   }
+  dialog.txtCDN3.setText(fields[2]);
+  dialog.txtCDN4.setText(fields[3]);
+}
 
-  void fillProduct() {
-    dialog_.txtlEANProdWart.setText(cell(GRD_POZ_EAN));
-    selectEAN(cell(GRD_POZ_EAN));
-    dialog_.txtNazwaProdWart.setText(cell(GRD_POZ_NAME));
-    dialog_.txtIloscZam.setText(cell(GRD_POZ_QTY_ORDERED));
-    dialog_.txtIloscPotw.setText(cell(GRD_POZ_QTY_DESPATCHED));
-    dialog_.txtCenaNetto.setText(cell(GRD_POZ_PRICE));
-    dialog_.txtKodKup.setText(cell(GRD_POZ_CODE_BY_BUYER));
-    dialog_.txtKodSprzed.setText(cell(GRD_POZ_CODE_BY_SELLER));
-    dialog_.LineWeight = cell(GRD_POZ_WEIGHT);
-    const std::string unit = cell(GRD_POZ_UNIT);
-    selectOrType(dialog_.cboxJednostkaMiary, dialog_.indexJednostkiMiary(unit), unit);
-    dialog_.LineOrderNumber = cell(GRD_POZ_ORDER_LINE);
-  }
-
-  void fillAmounts() {
-    dialog_.txtAmount.setText(cell(GRD_POZ_NET_AMOUNT));
-    dialog_.cboxStawkaVAT.setIndex(dialog_.indexStawkaVAT(cell(GRD_POZ_TAX_RATE)));
-    dialog_.cboxKodVAT.setIndex(dialog_.indexKodVAT(cell(GRD_POZ_TAX_CATEGORY)));
-    dialog_.CheckVAT(0);
-  }
-
-  void fillDates() {
-    const std::string expiry = cell(GRD_POZ_EXPIRY_DATE);
-    if (expiry.empty()) {
-      showNoDate(dialog_.dtExpiryDate, editor_.platform.clock.today());
-    } else {
-      dialog_.dtExpiryDate.setDate(editor_.conversions.toDate(expiry));
-    }
-    const std::string country = cell(GRD_POZ_COUNTRY);
-    selectOrType(dialog_.comboCountry, indexKraj(country), country);
-  }
-
-  void fillCustomsNumber() {
-    const CustomsNumberFields fields = SplitCDN(editor_, cell(GRD_POZ_CDN));
-    dialog_.txtCDN1.setText(fields[0]);
-    DebugLog& log = editor_.session.log;
-    const std::string& date = fields[1];
-    log.WriteDebugLine("Edycja: cdnTab(1)=" + date);
-    if (countCharacters(date) == 6 && editor_.conversions.isNumeric(date)) {
-      const std::string day(firstCharacters(date, 2));
-      const std::string month(lastCharacters(firstCharacters(date, 4), 2));
-      const std::string year(lastCharacters(date, 2));
-      log.WriteDebugLine("Edycja-DD: " + day);
-      log.WriteDebugLine("Edycja-MM: " + month);
-      log.WriteDebugLine("Edycja-YY: " + year);
-      dialog_.dpCDN2.setDate(editor_.conversions.toDate(day + "-" + month + "-" + year));
-    } else {
-      dialog_.dpCDN2.setDate(editor_.platform.clock.today());
-    }
-    dialog_.txtCDN3.setText(fields[2]);
-    dialog_.txtCDN4.setText(fields[3]);
-  }
-
-  void fillRest() {
-    dialog_.dtProdDate.setDate(editor_.conversions.toDate(cell(GRD_POZ_PRODUCTION_DATE)));
-    dialog_.LinePeriod = cell(GRD_POZ_PERIOD);
-    dialog_.LinePeriodFormat = cell(GRD_POZ_PERIOD_FORMAT);
-    StringToGrid(dialog_.grdPozycje, cell(GRD_POZ_PACK_REFS));
-    dialog_.lblPackedQuantityValue.setCaption(cell(GRD_POZ_PACKED_QTY));
-  }
-
-  Editor& editor_;
-  DlgDodaj& dialog_;
-  std::int16_t row_;
-};
+void fillRest(const Editor& editor, DlgDodaj& dialog, const Row& line) {
+  dialog.dtProdDate.setDate(editor.conversions.toDate(line.cell(GRD_POZ_PRODUCTION_DATE)));
+  dialog.LinePeriod = line.cell(GRD_POZ_PERIOD);
+  dialog.LinePeriodFormat = line.cell(GRD_POZ_PERIOD_FORMAT);
+  StringToGrid(dialog.grdPozycje, line.cell(GRD_POZ_PACK_REFS));
+  dialog.lblPackedQuantityValue.setCaption(line.cell(GRD_POZ_PACKED_QTY));
+}
 
 }  // namespace
 
@@ -183,12 +160,16 @@ void fillDialogForEdit(Editor& editor, DlgDodaj& dialog, std::int16_t row) {
   dialog.cboxKodAPP.setText("");
   dialog.cboxKodSprzed.setText("");
   dialog.txtNazwaProdWart.setText("");
-  DialogFiller(editor, dialog, row).fillAll();
+  const Row line = lineRow(editor, row);
+  fillProduct(dialog, line);
+  fillAmounts(dialog, line);
+  fillExpiryAndCountry(editor, dialog, line);
+  fillCustomsNumber(editor, dialog, line);
+  fillRest(editor, dialog, line);
   dialog.LineFromOrder = editor.form.OrderAnswer;
   dialog.SetButtons();
   dialog.txtIloscZam.setEnabled(false);
-  dialog.lblPozycjaTow.setCaption(
-      "Позиция номер " + editor.form.grdPozycje.cell(IndexGrdPozycje(editor, row, GRD_POZ_LP)));
+  dialog.lblPozycjaTow.setCaption("Позиция номер " + line.cell(GRD_POZ_LP));
 }
 
 }  // namespace awizo

@@ -1,7 +1,7 @@
 #include "tables/editing/numbered_row.h"
 
 #include "platform/narrow.h"
-#include "tables/flat_index.h"
+#include "tables/row.h"
 
 namespace awizo {
 
@@ -13,7 +13,7 @@ std::int16_t addNumberedRow(Table& grid, std::int16_t& count) {
   } else {
     count = 1;
     grid.setRows(2);
-    grid.setCell(flatIndex(grid, 1, 0), "1");
+    Row(grid, 1).set(0, "1");
   }
   return count;
 }

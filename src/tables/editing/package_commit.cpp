@@ -3,18 +3,14 @@
 #include "formats/row_check.h"
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 #include "tables/editing/in_table_editing.h"
 #include "tables/editing/numbered_row.h"
-#include "tables/flat_index.h"
+#include "tables/row.h"
 #include "tables/row_colour.h"
 
 namespace awizo {
 namespace {
-
-void setPackageCell(Editor& editor, std::int16_t row, std::int16_t column, std::string_view text) {
-  editor.form.grdOpakowania.setCell(IndexGrdOpak(editor, row, column), text);
-}
 
 void prepareForNew(Editor& editor, DlgSzczegoly& dialog) {
   const std::int16_t last = editor.form.LastPackageSerial;
@@ -43,22 +39,22 @@ void selectParent(DlgSzczegoly& dialog, const std::string& description) {
   }
 }
 
-void fillForEdit(Editor& editor, DlgSzczegoly& dialog, std::int16_t row) {
-  const auto text = [&](std::int16_t column) { return packageCell(editor, row, column); };
-  dialog.ParentSerial = text(GRD_OPAK_PARENT_SERIAL);
-  selectParent(dialog, text(GRD_OPAK_PARENT_DESC));
-  dialog.lblLevelValue.setCaption(text(GRD_OPAK_LEVEL));
-  dialog.lbIDValue.setCaption(text(GRD_OPAK_SERIAL));
-  dialog.lblIDLowValue.setCaption(text(GRD_OPAK_ID_LOW));
-  dialog.txtPackageDesc.setText(text(GRD_OPAK_DESC));
+void fillForEdit(Editor& editor, DlgSzczegoly& dialog, const Row& package) {
+  dialog.ParentSerial = package.cell(GRD_OPAK_PARENT_SERIAL);
+  selectParent(dialog, package.cell(GRD_OPAK_PARENT_DESC));
+  dialog.lblLevelValue.setCaption(package.cell(GRD_OPAK_LEVEL));
+  dialog.lbIDValue.setCaption(package.cell(GRD_OPAK_SERIAL));
+  dialog.lblIDLowValue.setCaption(package.cell(GRD_OPAK_ID_LOW));
+  dialog.txtPackageDesc.setText(package.cell(GRD_OPAK_DESC));
   dialog.txtPackageDesc.setEnabled(false);
-  dialog.txtPackageWeight.setText(text(GRD_OPAK_WEIGHT));
-  dialog.txtPackageWidth.setText(text(GRD_OPAK_WIDTH));
-  dialog.txtPackageHeight.setText(text(GRD_OPAK_HEIGHT));
-  dialog.txtPackageLength.setText(text(GRD_OPAK_LENGTH));
-  dialog.cboxPackageType.setIndex(indexPackageType(editor.platform.locale, text(GRD_OPAK_TYPE)));
-  dialog.txtSerialNumberN.setText(text(GRD_OPAK_SERIAL_NUMBER));
-  dialog.cboxILNLokalizacji.setText(text(GRD_OPAK_LOCATION_ILN));
+  dialog.txtPackageWeight.setText(package.cell(GRD_OPAK_WEIGHT));
+  dialog.txtPackageWidth.setText(package.cell(GRD_OPAK_WIDTH));
+  dialog.txtPackageHeight.setText(package.cell(GRD_OPAK_HEIGHT));
+  dialog.txtPackageLength.setText(package.cell(GRD_OPAK_LENGTH));
+  dialog.cboxPackageType.setIndex(
+      indexPackageType(editor.platform.locale, package.cell(GRD_OPAK_TYPE)));
+  dialog.txtSerialNumberN.setText(package.cell(GRD_OPAK_SERIAL_NUMBER));
+  dialog.cboxILNLokalizacji.setText(package.cell(GRD_OPAK_LOCATION_ILN));
   dialog.cboxILNLokalizacji_Change_PublicWrapper();
 }
 
@@ -74,10 +70,10 @@ void PreparePackageArrays(Editor& editor, std::string_view) {
   log.WriteDebugLine("btnDodajOpak_Click: IloscPozycjiOpak = " +
                      std::to_string(session.IloscPozycjiOpak));
   for (std::size_t i = 0; i < count; ++i) {
-    const auto row = static_cast<std::int16_t>(i + 1);
-    session.ParentSerials[i] = packageCell(editor, row, GRD_OPAK_SERIAL);
-    session.ParentDescriptions[i] = packageCell(editor, row, GRD_OPAK_DESC);
-    const std::string& level = packageCell(editor, row, GRD_OPAK_LEVEL);
+    const Row package = packageRow(editor, static_cast<int>(i) + 1);
+    session.ParentSerials[i] = package.cell(GRD_OPAK_SERIAL);
+    session.ParentDescriptions[i] = package.cell(GRD_OPAK_DESC);
+    const std::string& level = package.cell(GRD_OPAK_LEVEL);
     if (log.writes(4)) {
       log.WriteDebugLine("btnDodajOpak_Click: i - 1 = " + std::to_string(i) +
                          ", level =  " + level);
@@ -123,7 +119,7 @@ void btnEdytujOpak_Click(Editor& editor, DlgSzczegoly& dialog) {
     dialog.btnDodaj.setCaption("&Подтвердить");
     PreparePackageArrays(editor);
     dialog.PreparePackages(true);
-    fillForEdit(editor, dialog, row);
+    fillForEdit(editor, dialog, packageRow(editor, row));
     PreparePackageArrays(editor);
     dialog.showModal();
     if (dialog.DialogResult == 1) {
@@ -138,29 +134,27 @@ void btnEdytujOpak_Click(Editor& editor, DlgSzczegoly& dialog) {
 
 bool ZatwierdzPozycjeOpak(Editor& editor, DlgSzczegoly& dialog, std::int16_t row, bool isNew) {
   return reportErrors(editor.screen(), "Произошла ошибка в ZatwierdzPozycjeOpak()", [&] {
-    const auto write = [&](std::int16_t column, std::string_view text) {
-      setPackageCell(editor, row, column, text);
-    };
+    const Row package = packageRow(editor, row);
     const auto measure = [&](const TextField& field) {
       return editor.conversions.FormatFixed(field.text(), 3);
     };
     const bool isTop = dialog.ParentSerial.empty();
-    write(GRD_OPAK_PARENT_SERIAL, isTop ? "1" : dialog.ParentSerial);
-    write(GRD_OPAK_PARENT_DESC, dialog.cboxParentPackage.text());
-    write(GRD_OPAK_LEVEL, isTop ? "1" : dialog.lblLevelValue.caption());
-    write(GRD_OPAK_SERIAL, dialog.lbIDValue.caption());
+    package.set(GRD_OPAK_PARENT_SERIAL, isTop ? "1" : dialog.ParentSerial);
+    package.set(GRD_OPAK_PARENT_DESC, dialog.cboxParentPackage.text());
+    package.set(GRD_OPAK_LEVEL, isTop ? "1" : dialog.lblLevelValue.caption());
+    package.set(GRD_OPAK_SERIAL, dialog.lbIDValue.caption());
     if (isNew) {
       editor.form.LastPackageSerial = narrow16(editor.form.LastPackageSerial + 1);
     }
-    write(GRD_OPAK_ID_LOW, dialog.lblIDLowValue.caption());
-    write(GRD_OPAK_DESC, dialog.txtPackageDesc.text());
-    write(GRD_OPAK_WEIGHT, measure(dialog.txtPackageWeight));
-    write(GRD_OPAK_WIDTH, measure(dialog.txtPackageWidth));
-    write(GRD_OPAK_HEIGHT, measure(dialog.txtPackageHeight));
-    write(GRD_OPAK_TYPE, symbolPackageType(narrow16(dialog.cboxPackageType.index())));
-    write(GRD_OPAK_SERIAL_NUMBER, dialog.txtSerialNumberN.text());
-    write(GRD_OPAK_LOCATION_ILN, dialog.cboxILNLokalizacji.text());
-    write(GRD_OPAK_LENGTH, measure(dialog.txtPackageLength));
+    package.set(GRD_OPAK_ID_LOW, dialog.lblIDLowValue.caption());
+    package.set(GRD_OPAK_DESC, dialog.txtPackageDesc.text());
+    package.set(GRD_OPAK_WEIGHT, measure(dialog.txtPackageWeight));
+    package.set(GRD_OPAK_WIDTH, measure(dialog.txtPackageWidth));
+    package.set(GRD_OPAK_HEIGHT, measure(dialog.txtPackageHeight));
+    package.set(GRD_OPAK_TYPE, symbolPackageType(narrow16(dialog.cboxPackageType.index())));
+    package.set(GRD_OPAK_SERIAL_NUMBER, dialog.txtSerialNumberN.text());
+    package.set(GRD_OPAK_LOCATION_ILN, dialog.cboxILNLokalizacji.text());
+    package.set(GRD_OPAK_LENGTH, measure(dialog.txtPackageLength));
     editor.form.grdOpakowania.setRow(row);
     CountValidRows(editor);
   });

@@ -2,13 +2,14 @@
 
 #include <algorithm>
 #include <deque>
+#include <limits>
 #include <string_view>
 #include <unordered_map>
 
 #include "platform/narrow.h"
 #include "tables/clear_tables.h"
-#include "tables/columns.h"
-#include "tables/flat_index.h"
+#include "tables/columns/columns.h"
+#include "tables/row.h"
 
 namespace awizo {
 namespace {
@@ -32,11 +33,11 @@ void scanAllRows(Editor& editor, std::int16_t row, std::vector<std::string>& del
                  std::size_t room) {
   if (room == 0) throw errors::outOfStackSpace();
   DebugLog& log = editor.session.log;
-  const std::string currSerial = packageCell(editor, row, GRD_OPAK_SERIAL);
+  const std::string currSerial = packageRow(editor, row).cell(GRD_OPAK_SERIAL);
   delSerials.push_back(currSerial);
   log.WriteDebugLine("GetPackagesRec: currSerial = " + currSerial);
   for (std::int16_t i = 1; i <= editor.session.IloscPozycjiOpak; ++i) {
-    const std::string parent = packageCell(editor, i, GRD_OPAK_PARENT_SERIAL);
+    const std::string parent = packageRow(editor, i).cell(GRD_OPAK_PARENT_SERIAL);
     logParent(log, i, parent);
     editor.form.grdOpakowania.setRow(i);
     if (parent == currSerial) scanAllRows(editor, i, delSerials, room - 1);
@@ -49,7 +50,7 @@ using ChildRows = std::unordered_map<std::string, std::vector<std::int16_t>>;
 ChildRows childRows(const Editor& editor) {
   ChildRows rows;
   for (std::int16_t i = 1; i <= editor.session.IloscPozycjiOpak; ++i) {
-    rows[packageCell(editor, i, GRD_OPAK_PARENT_SERIAL)].push_back(i);
+    rows[packageRow(editor, i).cell(GRD_OPAK_PARENT_SERIAL)].push_back(i);
   }
   return rows;
 }
@@ -61,7 +62,7 @@ void followChildren(Editor& editor, const ChildRows& children, std::int16_t row,
     editor.form.grdOpakowania.setRow(row);
     throw errors::outOfStackSpace();
   }
-  const std::string& serial = packageCell(editor, row, GRD_OPAK_SERIAL);
+  const std::string& serial = packageRow(editor, row).cell(GRD_OPAK_SERIAL);
   delSerials.push_back(serial);
   const auto found = children.find(serial);
   if (found == children.end()) return;
@@ -71,7 +72,8 @@ void followChildren(Editor& editor, const ChildRows& children, std::int16_t row,
 }
 
 // The last row whose every used cell the 16-bit index reaches.
-constexpr int lastWholeRow = 2183;
+constexpr int lastWholeRow =
+    (std::numeric_limits<std::int16_t>::max() - GRD_OPAK_SERIAL) / packageColumnCount;
 
 // Whether the table holds as many packages as are counted, and each can be read: not so after a
 // file was read, which brings rows without counting them, or past the limit of the index. Then an
@@ -96,7 +98,7 @@ void removePackageRow(Editor& editor, std::int16_t row) {
 
 void removeFirstRowOf(Editor& editor, const std::string& serial) {
   for (std::int16_t row = 1; row <= editor.session.IloscPozycjiOpak; ++row) {
-    if (packageCell(editor, row, GRD_OPAK_SERIAL) != serial) continue;
+    if (packageRow(editor, row).cell(GRD_OPAK_SERIAL) != serial) continue;
     removePackageRow(editor, row);
     return;
   }
@@ -107,7 +109,7 @@ void removeFirstRowOf(Editor& editor, const std::string& serial) {
 std::vector<int> rowsInTurn(const Editor& editor, const std::vector<std::string>& delSerials) {
   std::unordered_map<std::string_view, std::deque<int>> rowsBySerial;
   for (std::int16_t row = 1; row <= editor.session.IloscPozycjiOpak; ++row) {
-    rowsBySerial[packageCell(editor, row, GRD_OPAK_SERIAL)].push_back(row);
+    rowsBySerial[packageRow(editor, row).cell(GRD_OPAK_SERIAL)].push_back(row);
   }
   std::vector<int> rows;
   for (const std::string& serial : delSerials) {

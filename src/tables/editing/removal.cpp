@@ -3,12 +3,12 @@
 #include "formats/row_check.h"
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 #include "tables/editing/clear_form.h"
 #include "tables/editing/in_table_editing.h"
 #include "tables/editing/package_subtree.h"
-#include "tables/flat_index.h"
 #include "tables/package_references.h"
+#include "tables/row.h"
 
 namespace awizo {
 namespace {
@@ -26,14 +26,12 @@ void removePackagesOfCurrentRow(Editor& editor, std::vector<std::string>& delSer
 
 // Every line is rewritten, whether it held one of the packages or not.
 void removeReferences(Editor& editor, const SerialSet& delSerials) {
-  Table& grid = editor.form.grdPozycje;
   DebugLog& log = editor.session.log;
   for (std::int16_t m = 1; m <= editor.session.LineCount; ++m) {
     log.WriteDebugLine("Usuwanie opak - usuwanie ref przed m = " + std::to_string(m));
-    const std::int16_t references = IndexGrdPozycje(editor, m, GRD_POZ_PACK_REFS);
-    grid.setCell(references, RemoveOldPackRef(editor, grid.cell(references), delSerials));
-    grid.setCell(IndexGrdPozycje(editor, m, GRD_POZ_PACKED_QTY),
-                 GetPackedQuantity(editor, grid.cell(references)));
+    const Row line = lineRow(editor, m);
+    line.set(GRD_POZ_PACK_REFS, RemoveOldPackRef(editor, line.cell(GRD_POZ_PACK_REFS), delSerials));
+    line.set(GRD_POZ_PACKED_QTY, GetPackedQuantity(editor, line.cell(GRD_POZ_PACK_REFS)));
     log.WriteDebugLine("Usuwanie opak - usuwanie ref po m = " + std::to_string(m));
   }
 }
