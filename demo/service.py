@@ -1,9 +1,24 @@
-"""The demo service, for the scripts beside this file."""
+"""The demo service, and how a script ends that fails, for the scripts beside this file."""
 
 import contextlib
 import signal
 import subprocess
 import sys
+
+
+def fail(words):
+    """Ends the script with this as its last line on stderr: what failed, and what to do."""
+    sys.exit(f"{sys.argv[0]}: {words}")
+
+
+def run(main):
+    """Runs a script's main procedure to its end, whatever stops it."""
+    try:
+        main()
+    except KeyboardInterrupt:
+        sys.exit(128 + signal.SIGINT)
+    except OSError as error:
+        fail(f"{error}. Устраните причину и повторите.")
 
 
 @contextlib.contextmanager
@@ -18,7 +33,11 @@ def running_service(build, posted):
         stdout=subprocess.PIPE, encoding="utf-8")
     try:
         service.stdout.readline()
-        yield service.stdout.readline().strip()
+        page = service.stdout.readline().strip()
+        if not page:
+            fail(f"учебная служба не запустилась (код {service.wait()}). Устраните причину, названную "
+                 "выше, и повторите.")
+        yield page
     finally:
         service.terminate()
         service.wait()

@@ -109,6 +109,7 @@ TEST_P(RoadTest, SendingWantsARightHeaderAndAsksAboutUnpackedGoods) {
               ElementsAre("VIRD|exclamation|В поле Номер Документа вводите номер распечатанной "
                           "товарной накладной"));
   EXPECT_EQ(editor.get("focus"), "txtNrAwiza");
+  editor.type("txtCodeByBuyer", "P-00417");
   editor.type("txtNrAwiza", "ТН/1");
   editor.click("btnPrzeslij");
   EXPECT_THAT(editor.answerAll(),

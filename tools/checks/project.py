@@ -4,6 +4,9 @@ import json
 import pathlib
 import re
 import subprocess
+import sys
+
+import last_word
 
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*(<([^>\n]+)>|"([^"\n]+)")', re.MULTILINE)
 
@@ -73,7 +76,8 @@ class Project:
             done = subprocess.run(["cmake", "--preset", "release"], cwd=self.root,
                                   capture_output=True, text=True)
             if done.returncode != 0:
-                raise SystemExit("The project could not be configured:\n" + done.stderr)
+                print(done.stderr, file=sys.stderr)
+                last_word.fail("CMake could not configure the project; the first error above says why.")
             entries = json.loads((self.root / "build/release/compile_commands.json").read_text())
             self._commands = {}
             for entry in entries:

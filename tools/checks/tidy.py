@@ -13,6 +13,8 @@ import shlex
 import subprocess
 import time
 
+from checks.progress import Progress
+
 FOLDERS = ("src", "adapters", "hosts", "demo")
 KEEP_SECONDS = 30 * 24 * 3600
 
@@ -79,8 +81,10 @@ def check(project):
         (cache / keys[name]).touch()
 
     problems = set()
+    progress = Progress("clang-tidy", len(waiting))
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         for name, found in zip(waiting, pool.map(lambda n: _findings(project, n), waiting)):
+            progress.step()
             problems.update(found)
             if not found:
                 (cache / keys[name]).touch()

@@ -28,13 +28,13 @@ void DemoUser::take(const std::string& name) {
   const std::filesystem::path file = pictures_ / (name + ".png");
   if (!shown->grab().save(QString::fromStdString(file.string()))) {
     std::cerr << "can't write " << file << '\n';
+    allTaken_ = false;
   }
 }
 
 void DemoUser::fillHeader() {
   AwizoForm& form = widget_.control().form;
   form.txtNrAwiza.userType("ТН-2026/0001");
-  form.txtCodeByBuyer.userType("417");
   form.txtEstimatedDeliveryDate.userSet(makeDate(2026, 11, 30));
 }
 

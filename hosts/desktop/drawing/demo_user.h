@@ -18,6 +18,8 @@ class DemoUser {
 
   /// The road from the order to a packed document.
   void work();
+  /// Whether every picture could be written.
+  bool allTaken() const { return allTaken_; }
 
  private:
   /// Opens what is modal by the action and does `inside` while it is open.
@@ -33,6 +35,7 @@ class DemoUser {
   AwizoWysylkiWidget& widget_;
   std::filesystem::path pictures_;
   std::string documents_;
+  bool allTaken_ = true;
 };
 
 }  // namespace awizo::desktop

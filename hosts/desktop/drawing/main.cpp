@@ -69,7 +69,8 @@ class DemoFolder {
   QTemporaryDir root_{QDir::tempPath() + "/Отгрузки-XXXXXX"};
 };
 
-void draw(const fs::path& pictures, const QSize& size) {
+/// Gives the program's exit status.
+int draw(const fs::path& pictures, const QSize& size) {
   const DemoFolder folder;
   Options options = demoOptions();
   options.offLinePath = folder.path();
@@ -84,11 +85,12 @@ void draw(const fs::path& pictures, const QSize& size) {
   window.setCentralWidget(widget);
   window.resize(size);
   QObject::connect(widget, &desktop::AwizoWysylkiWidget::startEnded, &window, [&] {
-    desktop::DemoUser(*widget, pictures, folder.documents()).work();
-    QApplication::exit(0);
+    desktop::DemoUser user(*widget, pictures, folder.documents());
+    user.work();
+    QApplication::exit(user.allTaken() ? 0 : 1);
   });
   window.show();
-  QApplication::exec();
+  return QApplication::exec();
 }
 
 /// Takes the option and its value out of the arguments; empty where it isn't given.
@@ -126,7 +128,11 @@ int main(int argumentCount, char** arguments) {
     return 2;
   }
   const fs::path pictures = given.front().toStdString();
-  fs::create_directories(pictures);
-  draw(pictures, size);
-  return 0;
+  try {
+    fs::create_directories(pictures);
+    return draw(pictures, size);
+  } catch (const fs::filesystem_error& error) {
+    std::cerr << error.what() << '\n';
+    return 1;
+  }
 }
