@@ -12,7 +12,7 @@ namespace awizo::fuzz {
 
 namespace {
 
-constexpr std::string_view name = "document.xml";
+constexpr std::string_view documentName = "document.xml";
 
 void requirePlainWords(const Finding& finding) {
   require(finding.line >= 0, "a finding's line is none or one of the file");
@@ -26,7 +26,7 @@ void requireReading(std::string_view bytes) {
   FuzzedControl desk;
   desk.startOffLine();
   desk.files.put("c:\\docs\\document.xml", bytes);
-  desk.readFile(name);
+  desk.readFile(documentName);
   // "break1" and the number of packages are shown at every reading.
   const std::vector<std::string> texts = desk.face.texts();
   require(texts.size() == 2 && texts.front() == "break1",
@@ -51,7 +51,8 @@ void requireTaking(std::string_view bytes) {
 
 void checking(std::string_view bytes) {
   FuzzedControl desk;
-  const std::string path = std::string(FuzzedControl::documentFolder).append("\\").append(name);
+  const std::string path =
+      std::string(FuzzedControl::documentFolder).append("\\").append(documentName);
   desk.files.put(path, bytes);
   const ReaderIdentity reader{std::string(FuzzedControl::seller),
                               std::string(FuzzedControl::buyer)};

@@ -15,7 +15,7 @@
 #include "hosts/common/program/machine.h"
 #include "hosts/version.h"
 #include "session/awizo_wysylki.h"
-#include "tables/columns.h"
+#include "tables/columns/columns.h"
 
 namespace {
 

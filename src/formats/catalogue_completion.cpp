@@ -33,7 +33,7 @@ constexpr std::string_view placePath =
     "localization[iln =";
 
 /// The XML value that stands for a missing one.
-constexpr std::string_view missing = "-1";
+constexpr std::string_view missingMark = "-1";
 
 void completeOrder(XmlDocument& catalogue, XmlDocument& order) {
   const std::vector<XmlNode> lines = order.node().selectSingle(orderLinesPath).children();
@@ -63,10 +63,10 @@ XmlDocument* ProductCatalogToOrder(Editor& editor, XmlDocument& catalogue, XmlDo
 void CopyCatalogueValue(XmlDocument& order, const std::vector<XmlNode>& lines,
                         const XmlNode& orderLine, const XmlNode& catalogueLine, std::size_t index,
                         const CopiedValue& value) {
-  std::string present(missing);
+  std::string present(missingMark);
   if (value.precedence == orderWins) {
     present = orderValue(orderLine, value.orderPath, Missing::minusOne);
-    if (present != missing && !present.empty()) return;
+    if (present != missingMark && !present.empty()) return;
   }
   const std::string known = GetNodeValue(catalogueLine, value.cataloguePath, true);
   const XmlNode& line = lines.at(index);

@@ -8,8 +8,9 @@ using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr const char* blanksQuestion = "VIRD|question|YesNo|Пустые поля для НДС будут заполнены.";
-constexpr const char* allQuestion =
+constexpr const char* blankRatesQuestion =
+    "VIRD|question|YesNo|Пустые поля для НДС будут заполнены.";
+constexpr const char* allRatesQuestion =
     "VIRD|question|YesNo|Вы уверены, что хотите заполнить все поля для НДС выбранной ставкой?\\r"
     "В этом случае текущие значения будут изменены.";
 
@@ -43,7 +44,7 @@ TEST_F(FillingTheRate, OnlyBlankCellsAreFilled) {
   form.comboStawkaVAT.userChoose(3);
   face.answer(Answer::yes);
   form.btnUzupelnij.userClick();
-  EXPECT_THAT(takeBoxes(), ElementsAre(blanksQuestion));
+  EXPECT_THAT(takeBoxes(), ElementsAre(blankRatesQuestion));
   EXPECT_THAT(rates(), ElementsAre("18", "18", "0", "10"));
   EXPECT_THAT(categories(), ElementsAre("S", "S", "E", "E"));
 }
@@ -52,7 +53,7 @@ TEST_F(FillingTheRate, AllCellsAreOverwritten) {
   form.comboStawkaVAT.userChoose(1);
   face.answer(Answer::yes);
   form.btnNadpisz.userClick();
-  EXPECT_THAT(takeBoxes(), ElementsAre(allQuestion));
+  EXPECT_THAT(takeBoxes(), ElementsAre(allRatesQuestion));
   EXPECT_THAT(rates(), Each("0"));
   EXPECT_THAT(categories(), Each("S"));
 }
@@ -98,7 +99,8 @@ TEST_F(FillingTheRate, PastTheLimitWhatWasWrittenStays) {
   form.comboStawkaVAT.userChoose(3);
   face.answer(Answer::yes);
   form.btnNadpisz.userClick();
-  EXPECT_THAT(takeBoxes(), ElementsAre(allQuestion, "Ошибка в FillLines()|critical|OK|Overflow"));
+  EXPECT_THAT(takeBoxes(),
+              ElementsAre(allRatesQuestion, "Ошибка в FillLines()|critical|OK|Overflow"));
   EXPECT_EQ(lines.cell(1424, GRD_POZ_TAX_RATE), "18");
   EXPECT_EQ(lines.cell(1424, GRD_POZ_TAX_CATEGORY), "S");
 }

@@ -1,4 +1,4 @@
-#include "desk.h"
+#include "in_table_editing.h"
 #include "tables/editing/in_table_editing.h"
 
 namespace awizo::test {
@@ -6,8 +6,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-constexpr const char* noNumber = "VIRD|exclamation|OK|Неправильная нумерическая величина.";
 
 /// The procedures of in-table editing, called as code calls them.
 class EditProcedures : public ::testing::Test, public Desk {

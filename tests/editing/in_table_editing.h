@@ -4,6 +4,8 @@
 
 namespace awizo::test {
 
+inline constexpr const char* noNumber = "VIRD|exclamation|OK|Неправильная нумерическая величина.";
+
 /// Three lines, of which 5 pieces each were ordered.
 class InTableEditing : public ::testing::Test, public Desk {
  protected:

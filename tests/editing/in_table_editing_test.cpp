@@ -6,8 +6,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr const char* noNumber = "VIRD|exclamation|OK|Неправильная нумерическая величина.";
-
 TEST_F(InTableEditing, ADoubleClickOpensTheFieldOverTheCellWithItsText) {
   lines.move({100, 200, 5000, 3000});
   openEditor(2);

@@ -6,8 +6,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr const char* noNumber = "VIRD|exclamation|OK|Неправильная нумерическая величина.";
-
 TEST_F(InTableEditing, AClickOnAnotherCellTakesTheTextIntoItsOwnCell) {
   openEditor(2);
   field.userType("2.5");

@@ -10,20 +10,20 @@ namespace {
 
 constexpr double none = std::numeric_limits<double>::quiet_NaN();
 
-double read(std::string_view text, const LocaleFacts& facts) {
+double numberOf(std::string_view text, const LocaleFacts& facts) {
   const auto number = readNumber(text, facts);
   return number ? toFloating(*number) : none;
 }
 
-double russian(std::string_view text) { return read(text, russianFacts()); }
-double american(std::string_view text) { return read(text, americanFacts()); }
+double russianNumber(std::string_view text) { return numberOf(text, russianFacts()); }
+double americanNumber(std::string_view text) { return numberOf(text, americanFacts()); }
 bool refusedByBoth(std::string_view text) {
-  return std::isnan(russian(text)) && std::isnan(american(text));
+  return std::isnan(russianNumber(text)) && std::isnan(americanNumber(text));
 }
 
 TEST(ReadingANumber, BlanksOfEveryKindMayStandAround) {
-  EXPECT_EQ(russian(" \u00A0\t\r\n5 \u00A0\t\r\n"), 5);
-  EXPECT_EQ(american(" \u00A0\t\r\n5 \u00A0\t\r\n"), 5);
+  EXPECT_EQ(russianNumber(" \u00A0\t\r\n5 \u00A0\t\r\n"), 5);
+  EXPECT_EQ(americanNumber(" \u00A0\t\r\n5 \u00A0\t\r\n"), 5);
 }
 
 TEST(ReadingANumber, TheEmptyTextAndBlanksAloneAreNone) {
@@ -43,12 +43,12 @@ TEST(ReadingANumber, WordsAndStrayCharactersAreNone) {
 }
 
 TEST(ReadingANumber, OneSignMayLeadOrTrail) {
-  EXPECT_EQ(russian("-5"), -5);
-  EXPECT_EQ(russian("+5"), 5);
-  EXPECT_EQ(russian("5-"), -5);
-  EXPECT_EQ(russian("5+"), 5);
-  EXPECT_EQ(russian(" - 5"), -5);
-  EXPECT_EQ(american("5 - "), -5);
+  EXPECT_EQ(russianNumber("-5"), -5);
+  EXPECT_EQ(russianNumber("+5"), 5);
+  EXPECT_EQ(russianNumber("5-"), -5);
+  EXPECT_EQ(russianNumber("5+"), 5);
+  EXPECT_EQ(russianNumber(" - 5"), -5);
+  EXPECT_EQ(americanNumber("5 - "), -5);
   EXPECT_TRUE(refusedByBoth("-5-"));
   EXPECT_TRUE(refusedByBoth("+5-"));
   EXPECT_TRUE(refusedByBoth("--5"));
@@ -59,8 +59,8 @@ TEST(ReadingANumber, OneSignMayLeadOrTrail) {
 }
 
 TEST(ReadingANumber, ParenthesesMakeANegative) {
-  EXPECT_EQ(russian("(5)"), -5);
-  EXPECT_EQ(american(" ( 5 ) "), -5);
+  EXPECT_EQ(russianNumber("(5)"), -5);
+  EXPECT_EQ(americanNumber(" ( 5 ) "), -5);
   EXPECT_TRUE(refusedByBoth("(5"));
   EXPECT_TRUE(refusedByBoth("5)"));
   EXPECT_TRUE(refusedByBoth("((5))"));
@@ -72,58 +72,58 @@ TEST(ReadingANumber, ParenthesesMakeANegative) {
 }
 
 TEST(ReadingANumber, TheCurrencySignOfTheLocaleMayLeadOrTrail) {
-  EXPECT_EQ(russian("5 ₽"), 5);
-  EXPECT_EQ(russian("₽5"), 5);
-  EXPECT_EQ(american("$ 5"), 5);
-  EXPECT_EQ(american("5$"), 5);
-  EXPECT_EQ(american("-$5"), -5);
-  EXPECT_EQ(american("$-5"), -5);
-  EXPECT_EQ(american("($5)"), -5);
-  EXPECT_TRUE(std::isnan(russian("$5")));
-  EXPECT_TRUE(std::isnan(american("5 ₽")));
-  EXPECT_TRUE(std::isnan(american("$5$")));
-  EXPECT_TRUE(std::isnan(american("$")));
+  EXPECT_EQ(russianNumber("5 ₽"), 5);
+  EXPECT_EQ(russianNumber("₽5"), 5);
+  EXPECT_EQ(americanNumber("$ 5"), 5);
+  EXPECT_EQ(americanNumber("5$"), 5);
+  EXPECT_EQ(americanNumber("-$5"), -5);
+  EXPECT_EQ(americanNumber("$-5"), -5);
+  EXPECT_EQ(americanNumber("($5)"), -5);
+  EXPECT_TRUE(std::isnan(russianNumber("$5")));
+  EXPECT_TRUE(std::isnan(americanNumber("5 ₽")));
+  EXPECT_TRUE(std::isnan(americanNumber("$5$")));
+  EXPECT_TRUE(std::isnan(americanNumber("$")));
 }
 
 TEST(ReadingANumber, GroupSeparatorsMayStandAnywhereAfterTheFirstDigit) {
-  EXPECT_EQ(russian("1 000"), 1000);
-  EXPECT_EQ(russian("1  000,5"), 1000.5);
-  EXPECT_EQ(russian("1\u00A0000"), 1000);
-  EXPECT_EQ(american("1,000"), 1000);
-  EXPECT_EQ(american("1,,0,00.5"), 1000.5);
-  EXPECT_EQ(american("1,5"), 15);
-  EXPECT_EQ(american("1,"), 1);
+  EXPECT_EQ(russianNumber("1 000"), 1000);
+  EXPECT_EQ(russianNumber("1  000,5"), 1000.5);
+  EXPECT_EQ(russianNumber("1\u00A0000"), 1000);
+  EXPECT_EQ(americanNumber("1,000"), 1000);
+  EXPECT_EQ(americanNumber("1,,0,00.5"), 1000.5);
+  EXPECT_EQ(americanNumber("1,5"), 15);
+  EXPECT_EQ(americanNumber("1,"), 1);
 }
 
 TEST(ReadingANumber, AGroupSeparatorNeverStandsBeforeTheFirstDigit) {
-  EXPECT_TRUE(std::isnan(american(",5")));
-  EXPECT_TRUE(std::isnan(american(".,5")));
+  EXPECT_TRUE(std::isnan(americanNumber(",5")));
+  EXPECT_TRUE(std::isnan(americanNumber(".,5")));
 }
 
 TEST(ReadingANumber, ABlankGroupsOnlyWhereTheLocaleSaysSo) {
-  EXPECT_TRUE(std::isnan(american("1 000")));
+  EXPECT_TRUE(std::isnan(americanNumber("1 000")));
 }
 
 TEST(ReadingANumber, TheDecimalSeparatorAloneIsNone) {
   EXPECT_TRUE(refusedByBoth(","));
   EXPECT_TRUE(refusedByBoth("."));
-  EXPECT_EQ(russian(",5"), 0.5);
-  EXPECT_EQ(russian("5,"), 5);
-  EXPECT_EQ(american(".5"), 0.5);
-  EXPECT_EQ(american("5."), 5);
+  EXPECT_EQ(russianNumber(",5"), 0.5);
+  EXPECT_EQ(russianNumber("5,"), 5);
+  EXPECT_EQ(americanNumber(".5"), 0.5);
+  EXPECT_EQ(americanNumber("5."), 5);
 }
 
 TEST(ReadingANumber, OnlyTheDecimalSeparatorOfTheLocaleCountsAndOnce) {
-  EXPECT_TRUE(std::isnan(russian("1.5")));
-  EXPECT_TRUE(std::isnan(russian("1,5,0")));
-  EXPECT_TRUE(std::isnan(american("1.5.0")));
+  EXPECT_TRUE(std::isnan(russianNumber("1.5")));
+  EXPECT_TRUE(std::isnan(russianNumber("1,5,0")));
+  EXPECT_TRUE(std::isnan(americanNumber("1.5.0")));
 }
 
 TEST(ReadingANumber, AnExponentNeedsDigits) {
-  EXPECT_EQ(russian("1e3"), 1000);
-  EXPECT_EQ(russian("1E+3"), 1000);
-  EXPECT_EQ(russian("1,5e-1"), 0.15);
-  EXPECT_EQ(american("1.5E2-"), -150);
+  EXPECT_EQ(russianNumber("1e3"), 1000);
+  EXPECT_EQ(russianNumber("1E+3"), 1000);
+  EXPECT_EQ(russianNumber("1,5e-1"), 0.15);
+  EXPECT_EQ(americanNumber("1.5E2-"), -150);
   EXPECT_TRUE(refusedByBoth("1e"));
   EXPECT_TRUE(refusedByBoth("1e+"));
   EXPECT_TRUE(refusedByBoth("e3"));
@@ -132,10 +132,10 @@ TEST(ReadingANumber, AnExponentNeedsDigits) {
 }
 
 TEST(ReadingANumber, HexadecimalAndOctal) {
-  EXPECT_EQ(russian("&H10"), 16);
-  EXPECT_EQ(american(" &hFf "), 255);
-  EXPECT_EQ(russian("&O17"), 15);
-  EXPECT_EQ(american("&o17"), 15);
+  EXPECT_EQ(russianNumber("&H10"), 16);
+  EXPECT_EQ(americanNumber(" &hFf "), 255);
+  EXPECT_EQ(russianNumber("&O17"), 15);
+  EXPECT_EQ(americanNumber("&o17"), 15);
   EXPECT_TRUE(refusedByBoth("&H"));
   EXPECT_TRUE(refusedByBoth("&HG"));
   EXPECT_TRUE(refusedByBoth("&O8"));
@@ -146,18 +146,18 @@ TEST(ReadingANumber, HexadecimalAndOctal) {
 }
 
 TEST(ReadingANumber, BeyondTheRangeOfAFloatingNumberItIsNone) {
-  EXPECT_EQ(russian("1e308"), 1e308);
+  EXPECT_EQ(russianNumber("1e308"), 1e308);
   EXPECT_TRUE(refusedByBoth("1e309"));
   EXPECT_TRUE(refusedByBoth("1e999999999999"));
   EXPECT_TRUE(refusedByBoth(std::string(400, '9')));
-  EXPECT_EQ(russian("1e-400"), 0);
-  EXPECT_EQ(russian("1e-999999999999"), 0);
-  EXPECT_EQ(russian("0e999999999999"), 0);
+  EXPECT_EQ(russianNumber("1e-400"), 0);
+  EXPECT_EQ(russianNumber("1e-999999999999"), 0);
+  EXPECT_EQ(russianNumber("0e999999999999"), 0);
 }
 
 TEST(ReadingANumber, AMillionDigitsAreReadInOneWalk) {
-  EXPECT_EQ(russian("0," + std::string(1000000, '0') + "1"), 0);
-  EXPECT_EQ(russian(std::string(1000000, '0') + "7"), 7);
+  EXPECT_EQ(russianNumber("0," + std::string(1000000, '0') + "1"), 0);
+  EXPECT_EQ(russianNumber(std::string(1000000, '0') + "7"), 7);
 }
 
 std::string fixed(std::string_view text, int decimals) {

@@ -71,14 +71,14 @@ class Project:
         return found
 
     def compile_commands(self):
-        """How the release build compiles each of the project's files: file to commands, one a target."""
+        """How each of the project's files is compiled by itself: file to commands, one a target."""
         if self._commands is None:
-            done = subprocess.run(["cmake", "--preset", "release"], cwd=self.root,
+            done = subprocess.run(["cmake", "--preset", "checks"], cwd=self.root,
                                   capture_output=True, text=True)
             if done.returncode != 0:
                 print(done.stderr, file=sys.stderr)
                 last_word.fail("CMake could not configure the project; the first error above says why.")
-            entries = json.loads((self.root / "build/release/compile_commands.json").read_text())
+            entries = json.loads((self.root / "build/checks/compile_commands.json").read_text())
             self._commands = {}
             for entry in entries:
                 path = pathlib.Path(entry["file"])
