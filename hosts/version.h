@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/platform.h"
+#include "platform/program_version.h"
 
 namespace awizo {
 

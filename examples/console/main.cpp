@@ -63,7 +63,6 @@ int main(int argumentCount, char** arguments) {
 
   // What the system asks of its surroundings.
   Console console(std::filesystem::absolute(arguments[2]));
-  awizo::Screen screen(console);
   const awizo::Libxml2 xml;
   awizo::CurlHttp http;
   awizo::OptionsPage page(options);
@@ -73,8 +72,17 @@ int main(int argumentCount, char** arguments) {
   awizo::PosixFiles files;
   const auto clock = awizo::makeClock(options);
   const awizo::IcuLocale locale("ru_RU");
-  const awizo::Platform platform{
-      xml, http, page, bag, host, *settings, files, *clock, locale, screen, awizo::programVersion};
+  const awizo::Platform platform{.xml = xml,
+                                 .http = http,
+                                 .page = page,
+                                 .bag = bag,
+                                 .host = host,
+                                 .settings = *settings,
+                                 .files = files,
+                                 .clock = *clock,
+                                 .locale = locale,
+                                 .screenFace = console,
+                                 .version = awizo::programVersion};
 
   // The control's life, in this order.
   awizo::SessionState session(platform);

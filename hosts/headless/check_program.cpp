@@ -40,9 +40,17 @@ struct Surroundings {
   std::unique_ptr<SettingsStore> settings;
   std::unique_ptr<Clock> clock;
   SilentFace face;
-  Screen screen{face};
-  Platform platform{xml,   http,   page,   bag,    host,          *settings,
-                    files, *clock, locale, screen, programVersion};
+  Platform platform{.xml = xml,
+                    .http = http,
+                    .page = page,
+                    .bag = bag,
+                    .host = host,
+                    .settings = *settings,
+                    .files = files,
+                    .clock = *clock,
+                    .locale = locale,
+                    .screenFace = face,
+                    .version = programVersion};
 };
 
 std::vector<Finding> check(const Options& options) {

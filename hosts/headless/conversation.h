@@ -6,7 +6,7 @@
 
 #include "hosts/headless/line_stream.h"
 #include "hosts/protocol/values/json.h"
-#include "platform/screen_face.h"
+#include "platform/forms/screen_face.h"
 
 namespace awizo::headless {
 

@@ -29,7 +29,6 @@ class Program {
 
  private:
   Conversation conversation_;
-  Screen screen_{conversation_};
   Libxml2 xml_;
   IcuLocale locale_;
   OptionsPage page_;
@@ -54,8 +53,17 @@ Program::Program(const Options& options, const Outside& outside, std::istream& i
       }),
       settings_(makeSettings(options)),
       clock_(makeClock(options)),
-      platform_{xml_,          outside.http, page_,   bag_,    host_,         *settings_,
-                outside.files, *clock_,      locale_, screen_, programVersion},
+      platform_{.xml = xml_,
+                .http = outside.http,
+                .page = page_,
+                .bag = bag_,
+                .host = host_,
+                .settings = *settings_,
+                .files = outside.files,
+                .clock = *clock_,
+                .locale = locale_,
+                .screenFace = conversation_,
+                .version = programVersion},
       session_(platform_),
       control_(platform_, session_),
       access_(control_, bag_) {

@@ -7,8 +7,8 @@
 
 #include "hosts/protocol/values/json.h"
 #include "platform/forms/form.h"
+#include "platform/forms/screen_face.h"
 #include "platform/run_time_error.h"
-#include "platform/screen_face.h"
 
 namespace awizo::protocol {
 

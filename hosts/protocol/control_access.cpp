@@ -9,7 +9,7 @@ namespace awizo::protocol {
 
 ControlAccess::ControlAccess(AwizoWysylki& control, const OptionsBag& bag)
     : control_(control),
-      screen_(control.form.screen()),
+      screen_(control.screen),
       forms_(control.form),
       dispatcher_(screen_, forms_) {
   addForms();

@@ -19,13 +19,14 @@ void ignoreErrors(Statement&& statement) {
 }  // namespace
 
 AwizoWysylki::AwizoWysylki(const Platform& platform, SessionState& session)
-    : form(platform.screen, platform.clock),
-      editor(platform, session, form),
-      dlgIsoCodes(platform.screen, session),
-      dlgdodajPule(platform.screen, editor.conversions),
+    : screen(platform.screenFace),
+      form(screen, platform.clock),
+      editor(platform, screen, session, form),
+      dlgIsoCodes(screen, session),
+      dlgdodajPule(screen, editor.conversions),
       dlgDodaj(editor, dlgIsoCodes, dlgdodajPule),
       dlgSzczegoly(editor),
-      dlgWczytajZapisz(platform.screen, platform.files, platform.settings, session) {
+      dlgWczytajZapisz(screen, platform.files, platform.settings, session) {
   connectEvents();
 }
 

@@ -26,6 +26,7 @@ class AwizoWysylki {
   AwizoWysylki(const AwizoWysylki&) = delete;
   AwizoWysylki& operator=(const AwizoWysylki&) = delete;
 
+  Screen screen;  ///< on the surroundings' face of it
   AwizoForm form;
   Editor editor;
 

@@ -18,8 +18,7 @@ constexpr int patienceMilliseconds = 10000;
 
 Desk::Desk(std::string_view localeName)
     : TestSurroundings(localeName),
-      deskPlatform{xml,   http,  page,   bag,        host,     settings,
-                   files, clock, locale, deskScreen, {1, 2, 3}},
+      deskPlatform(platformWith({.screenFace = &desktop})),
       session(deskPlatform),
       control(deskPlatform, session) {
   settings.values["VIRD\\VirdActiveX\\OffLinePath"] = "c:\\VIRD";

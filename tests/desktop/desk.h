@@ -33,7 +33,6 @@ class Desk : public TestSurroundings {
   testing::AssertionResult keysGoTo(const Control& shown);
 
   desktop::DesktopScreen desktop;
-  Screen deskScreen{desktop};
   Platform deskPlatform;
   SessionState session;
   AwizoWysylki control;

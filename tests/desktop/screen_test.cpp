@@ -12,13 +12,13 @@ using ::testing::ElementsAre;
 
 class ScreenOnDesktop : public testing::Test, public Desk {
  protected:
-  Answer ask(MessageBox box) { return deskScreen.messageBox(std::move(box)); }
+  Answer ask(MessageBox box) { return control.screen.messageBox(std::move(box)); }
 };
 
 TEST_F(ScreenOnDesktop, ABoxShowsTextTitleIconAndRussianButton) {
   std::string box;
   answerNext("ОК", &box);
-  deskScreen.showCritical("Ошибка", "VIRD");
+  control.screen.showCritical("Ошибка", "VIRD");
   EXPECT_EQ(box, "critical|VIRD|Ошибка|ОК");
 }
 
@@ -79,7 +79,7 @@ TEST_F(ScreenOnDesktop, ABoxLiesOverTheTopmostWindow) {
       EXPECT_EQ(openBox()->parentWidget(), &dialog(control.dlgIsoCodes));
       press(Qt::Key_Return);
     });
-    deskScreen.showCritical("над диалогом", "");
+    control.screen.showCritical("над диалогом", "");
     press(Qt::Key_Escape);
   });
   control.dlgIsoCodes.touch().showModal();
@@ -87,7 +87,7 @@ TEST_F(ScreenOnDesktop, ABoxLiesOverTheTopmostWindow) {
     EXPECT_EQ(openBox()->parentWidget(), &mainWindow);
     press(Qt::Key_Return);
   });
-  deskScreen.showCritical("над главным окном", "");
+  control.screen.showCritical("над главным окном", "");
 }
 
 TEST_F(ScreenOnDesktop, AModalFormReturnsWhenItHides) {
@@ -164,23 +164,23 @@ TEST_F(ScreenOnDesktop, TheProgramsEndEndsWhatIsOpen) {
 
 TEST_F(ScreenOnDesktop, TheWaitCursorComesAndGoes) {
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-  deskScreen.setCursor(Cursor::wait);
+  control.screen.setCursor(Cursor::wait);
   ASSERT_NE(QApplication::overrideCursor(), nullptr);
   EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-  deskScreen.setCursor(Cursor::normal);
+  control.screen.setCursor(Cursor::normal);
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(ScreenOnDesktop, LettingEventsRunRunsThemOnce) {
   int ran = 0;
   then([&] { ++ran; });
-  deskScreen.letEventsRun();
+  control.screen.letEventsRun();
   EXPECT_EQ(ran, 1);
 }
 
 TEST_F(ScreenOnDesktop, EndingTheProgramIsRemembered) {
   EXPECT_FALSE(desktop.programEnded());
-  deskScreen.endProgram();
+  control.screen.endProgram();
   EXPECT_TRUE(desktop.programEnded());
 }
 

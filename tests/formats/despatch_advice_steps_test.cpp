@@ -85,10 +85,8 @@ std::string titleWith(const Xml& xml) {
   test.session.LineCount = 1;
   test.session.IloscPozycjiOpak = 1;
 
-  const Platform& all = test.platform;
-  const Platform platform{xml,       all.http,  all.page,   all.bag,    all.host,   all.settings,
-                          all.files, all.clock, all.locale, all.screen, all.version};
-  Editor editor(platform, test.session, test.form);
+  const Platform platform = test.platformWith({.xml = &xml});
+  Editor editor(platform, test.screen, test.session, test.form);
   const auto document = MakeDesAdv(editor);
   EXPECT_EQ(document == nullptr, !test.face.boxes().empty());
   return test.face.boxes().empty() ? "" : test.face.lastBox().title;

@@ -170,10 +170,9 @@ struct ScarceXml : Xml {
 
 TEST_F(Transport, HasNothingMoreToTellOfAReplyThatNoDocumentCouldBeMadeFor) {
   ScarceXml scarce;
-  const Platform surroundings{scarce, http,  page,   bag,    host,     settings,
-                              files,  clock, locale, screen, {1, 2, 3}};
+  const Platform surroundings = platformWith({.xml = &scarce});
   SessionState record(surroundings);
-  Editor other(surroundings, record, form);
+  Editor other(surroundings, screen, record, form);
   files.putFolder("c:\\VIRD");
   record.log.OpenDebugLog("c:\\VIRD\\Awizo.log", 4);
   http.reply("<a/>");

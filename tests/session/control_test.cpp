@@ -310,8 +310,7 @@ TEST_F(LastEvents, AFolderThatCantBeKeptIsToldInABox) {
     }
   };
   BrokenSettings broken;
-  const Platform surroundings{xml,   http,  page,   bag,    host,     broken,
-                              files, clock, locale, screen, {1, 2, 3}};
+  const Platform surroundings = platformWith({.settings = &broken});
   SessionState record(surroundings);
   AwizoWysylki other(surroundings, record);
   other.UserControl_Terminate();

@@ -21,6 +21,7 @@ struct TestControl : TestSurroundings {
 
   SessionState session{platform};
   AwizoWysylki control{platform, session};
+  Screen& screen = control.screen;
   AwizoForm& form = control.form;
   Editor& editor = control.editor;
 

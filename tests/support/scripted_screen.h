@@ -8,7 +8,7 @@
 
 #include "platform/forms/form.h"
 #include "platform/forms/screen.h"
-#include "platform/screen_face.h"
+#include "platform/forms/screen_face.h"
 
 namespace awizo::test {
 

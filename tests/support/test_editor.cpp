@@ -4,9 +4,21 @@
 
 namespace awizo::test {
 
-TestSurroundings::TestSurroundings(std::string_view localeName)
-    : locale(localeName), platform{xml,   http,  page,   bag,    host,     settings,
-                                   files, clock, locale, screen, {1, 2, 3}} {}
+TestSurroundings::TestSurroundings(std::string_view localeName) : locale(localeName) {}
+
+Platform TestSurroundings::platformWith(const OtherParts& others) {
+  return {.xml = others.xml != nullptr ? *others.xml : xml,
+          .http = http,
+          .page = page,
+          .bag = bag,
+          .host = host,
+          .settings = others.settings != nullptr ? *others.settings : settings,
+          .files = files,
+          .clock = clock,
+          .locale = locale,
+          .screenFace = others.screenFace != nullptr ? *others.screenFace : face,
+          .version = {1, 2, 3}};
+}
 
 std::unique_ptr<XmlDocument> TestSurroundings::document(std::string_view text) const {
   std::unique_ptr<XmlDocument> made = xml.createDocument();
@@ -18,7 +30,7 @@ TestEditor::TestEditor(std::string_view localeName)
     : TestSurroundings(localeName),
       session(platform),
       form(screen, clock),
-      editor(platform, session, form) {
+      editor(platform, screen, session, form) {
   session.DecimalSeparator = locale.facts().decimalSeparator;
   session.WaitCursor = Cursor::wait;
   form.showMain();

@@ -8,8 +8,8 @@
 #include "adapters/libxml2/libxml2.h"
 #include "adapters/memory/fixed_clock.h"
 #include "adapters/memory/settings_in_memory.h"
+#include "platform/forms/platform.h"
 #include "platform/forms/screen.h"
-#include "platform/platform.h"
 #include "session/record/awizo_form.h"
 #include "session/record/editor.h"
 #include "session/record/session_state.h"
@@ -20,6 +20,13 @@
 
 namespace awizo::test {
 
+/// Parts that a test puts in place of the played ones; null for those that stay.
+struct OtherParts {
+  const Xml* xml = nullptr;
+  SettingsStore* settings = nullptr;
+  ScreenFace* screenFace = nullptr;
+};
+
 /// The surroundings of a control: XML and locale are the real ones, all else is played. A test
 /// reads and sets the parts directly.
 struct TestSurroundings {
@@ -27,7 +34,6 @@ struct TestSurroundings {
   explicit TestSurroundings(std::string_view localeName = "ru_RU");
 
   ScriptedScreen face;  ///< the user: boxes seen, answers to come
-  Screen screen{face};
   Libxml2 xml;
   IcuLocale locale;
   FakeHttp http;
@@ -37,7 +43,9 @@ struct TestSurroundings {
   SettingsInMemory settings;
   MemoryFiles files;
   FixedClock clock{{makeDate(2026, 11, 21), {10, 15, 0}}};
-  Platform platform;
+  Platform platform{platformWith({})};
+
+  Platform platformWith(const OtherParts& others);
 
   /// A document from text; the test fails when the text is no XML.
   std::unique_ptr<XmlDocument> document(std::string_view text) const;
@@ -49,6 +57,7 @@ struct TestSurroundings {
 struct TestEditor : TestSurroundings {
   explicit TestEditor(std::string_view localeName = "ru_RU");
 
+  Screen screen{face};
   SessionState session;
   AwizoForm form;
   Editor editor;

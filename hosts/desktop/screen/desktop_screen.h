@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "hosts/desktop/layouts/form_dialog.h"
-#include "platform/screen_face.h"
+#include "platform/forms/screen_face.h"
 
 namespace awizo::desktop {
 

@@ -47,7 +47,6 @@ struct AwizoWysylkiWidget::Parts {
       : content(new QWidget(&widget)),
         waiting(widget),
         face(waiting),
-        screen(face),
         locale(chosenLocale(given.locale)),
         network({[this] {
                    waiting.goOn();
@@ -59,12 +58,17 @@ struct AwizoWysylkiWidget::Parts {
           if (property == "OnLine") emit widget.onLineChanged();
           if (property == "DebugLevel") emit widget.debugLevelChanged();
         }),
-        platform{xml,           http,
-                 given.page,    given.bag,
-                 host,          given.settings,
-                 files,         given.clock != nullptr ? *given.clock : machineClock,
-                 locale,        screen,
-                 programVersion},
+        platform{.xml = xml,
+                 .http = http,
+                 .page = given.page,
+                 .bag = given.bag,
+                 .host = host,
+                 .settings = given.settings,
+                 .files = files,
+                 .clock = given.clock != nullptr ? *given.clock : machineClock,
+                 .locale = locale,
+                 .screenFace = face,
+                 .version = programVersion},
         session(platform),
         control(platform, session),
         faces(nullptr) {
@@ -83,7 +87,6 @@ struct AwizoWysylkiWidget::Parts {
   QWidget* content;
   Waiting waiting;
   HostScreen face;
-  Screen screen;
   Libxml2 xml;
   IcuLocale locale;
   CurlHttp network;
@@ -158,7 +161,9 @@ bool AwizoWysylkiWidget::isWorking() const {
 
 void AwizoWysylkiWidget::endWork() { parts_->face.end(); }
 
-Answer AwizoWysylkiWidget::ask(const MessageBox& box) { return parts_->screen.messageBox(box); }
+Answer AwizoWysylkiWidget::ask(const MessageBox& box) {
+  return parts_->control.screen.messageBox(box);
+}
 
 bool AwizoWysylkiWidget::askOffLineFolder() {
   Parts& parts = *parts_;

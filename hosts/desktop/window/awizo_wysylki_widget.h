@@ -7,9 +7,9 @@
 #include <string>
 
 #include "platform/clock.h"
+#include "platform/forms/screen_face.h"
 #include "platform/host.h"
 #include "platform/http.h"
-#include "platform/screen_face.h"
 #include "platform/settings.h"
 
 namespace awizo {

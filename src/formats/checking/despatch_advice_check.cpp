@@ -63,7 +63,7 @@ class DespatchAdviceCheck {
       all.push_back(stoppedReading(map, document_, result.error));
       end = map.numberOf(document_.last());
     }
-    const std::set<std::string> written = writtenKinds(scratch_.platform.xml);
+    const std::set<std::string> written = writtenKinds(scratch_.editor.platform.xml);
     append(all, ignoredElements(map, document_, end,
                                 [&](const std::string& kind) { return written.contains(kind); }));
     append(all, lines(map));

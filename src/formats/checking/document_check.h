@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "formats/checking/finding.h"
-#include "platform/platform.h"
+#include "platform/forms/platform.h"
 
 namespace awizo {
 

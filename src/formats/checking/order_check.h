@@ -5,7 +5,7 @@
 
 #include "formats/checking/finding.h"
 #include "formats/checking/traced_document.h"
-#include "platform/platform.h"
+#include "platform/forms/platform.h"
 
 namespace awizo {
 

@@ -11,16 +11,8 @@ Answer SilentFace::ask(const MessageBox& box) {
 
 void SilentFace::runModal(Form& form) { form.hide(); }
 
-ScratchEditor::ScratchEditor(const Platform& surroundings)
-    : platform{surroundings.xml,    surroundings.http,
-               surroundings.page,   surroundings.bag,
-               surroundings.host,   surroundings.settings,
-               surroundings.files,  surroundings.clock,
-               surroundings.locale, screen,
-               surroundings.version},
-      session(platform),
-      form(screen, platform.clock),
-      editor(platform, session, form) {
+ScratchEditor::ScratchEditor(const Platform& platform)
+    : session(platform), form(screen, platform.clock), editor(platform, screen, session, form) {
   setUpControl(editor);
 }
 

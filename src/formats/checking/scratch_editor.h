@@ -20,14 +20,13 @@ class SilentFace : public ScreenFace {
   void endProgram() override {}
 };
 
-/// An editor that lives for the reading of one document, on the given surroundings but for their
-/// screen. It is as after its start off line without local files.
+/// An editor that lives for the reading of one document, on the given surroundings and a screen of
+/// its own. It is as after its start off line without local files.
 struct ScratchEditor {
-  explicit ScratchEditor(const Platform& surroundings);
+  explicit ScratchEditor(const Platform& platform);
 
   SilentFace face;
   Screen screen{face};
-  Platform platform;
   SessionState session;
   AwizoForm form;
   Editor editor;

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/screen_face.h"
+#include "platform/forms/screen_face.h"
 
 namespace awizo {
 

@@ -7,8 +7,8 @@ namespace awizo {
 
 /// What a procedure works on that reads or writes the main form with its tables.
 struct Editor : Work {
-  Editor(const Platform& surroundings, SessionState& state, AwizoForm& mainForm)
-      : Work(surroundings, state), form(mainForm) {}
+  Editor(const Platform& surroundings, Screen& screen, SessionState& state, AwizoForm& mainForm)
+      : Work(surroundings, screen, state), form(mainForm) {}
 
   AwizoForm& form;
 };

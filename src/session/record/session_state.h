@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "foundation/debug_log.h"
-#include "platform/platform.h"
-#include "platform/screen_face.h"
+#include "platform/forms/platform.h"
+#include "platform/forms/screen_face.h"
 #include "platform/xml.h"
 
 namespace awizo {

@@ -2,21 +2,15 @@
 
 #include "platform/clock.h"
 #include "platform/files.h"
+#include "platform/forms/screen_face.h"
 #include "platform/host.h"
 #include "platform/http.h"
 #include "platform/locale.h"
+#include "platform/program_version.h"
 #include "platform/settings.h"
 #include "platform/xml.h"
 
 namespace awizo {
-
-class Screen;
-
-struct ProgramVersion {
-  int major = 0;
-  int minor = 0;
-  int revision = 0;
-};
 
 /// All that the system asks of its surroundings. The host makes the parts and keeps them alive.
 struct Platform {
@@ -29,7 +23,7 @@ struct Platform {
   Files& files;
   const Clock& clock;
   const Locale& locale;
-  Screen& screen;
+  ScreenFace& screenFace;
   ProgramVersion version;
 };
 
