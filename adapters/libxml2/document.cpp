@@ -3,12 +3,12 @@
 #include <utility>
 
 #include "adapters/libxml2/moving.h"
+#include "adapters/libxml2/path_shapes.h"
 #include "adapters/libxml2/text.h"
+#include "adapters/libxml2/walking.h"
 
 namespace awizo::libxml2 {
 namespace {
-
-xmlNode* nodeOf(void* handle) { return static_cast<xmlNode*>(handle); }
 
 bool isShown(const xmlNode* node) {
   switch (node->type) {
@@ -30,7 +30,7 @@ xmlNode* firstShown(xmlNode* node) {
 
 }  // namespace
 
-Document::Document() { take(nullptr, {}); }
+Document::Document() { take({}); }
 
 Document::~Document() { freeLoose(); }
 
@@ -40,22 +40,21 @@ bool Document::loadBytes(std::string_view bytes) { return load(bytes, Decoding::
 
 bool Document::load(std::string_view bytes, Decoding decoding) {
   // The old content goes first, so that two documents never stand in memory together.
-  take(nullptr, {});
-  Parsed parsed = parse(bytes, decoding);
-  failedAtLine_ = parsed.failedAtLine;
-  if (!parsed.document) return false;
-  take(std::move(parsed.document), std::move(parsed.declaration));
-  return true;
+  take({});
+  take(parse(bytes, decoding));
+  return isLoaded_;
 }
 
-void Document::take(Owned<xmlDoc> document, Declaration declaration) {
-  if (!document) document.reset(xmlNewDoc(bytesOf("1.0")));
-  if (!document) throw errors::outOfMemory();
+void Document::take(Parsed parsed) {
+  isLoaded_ = parsed.document != nullptr;
+  if (!isLoaded_) parsed.document.reset(xmlNewDoc(bytesOf("1.0")));
+  if (!parsed.document) throw errors::outOfMemory();
   selecting_.forget();
   freeLoose();
-  document_ = std::move(document);
-  document_->_private = this;
-  declaration_ = std::move(declaration);
+  content_ = Content(std::move(parsed.document), std::move(parsed.flat));
+  content_.bareDocument()->_private = this;
+  declaration_ = std::move(parsed.declaration);
+  failedAtLine_ = parsed.failedAtLine;
 }
 
 void Document::freeLoose() {
@@ -63,11 +62,14 @@ void Document::freeLoose() {
   loose_.clear();
 }
 
-std::string Document::fileBytes() const { return documentBytes(document_.get(), declaration_); }
+std::string Document::fileBytes() const { return documentBytes(content_.document(), declaration_); }
 
-XmlNode Document::node() { return {*this, document_.get()}; }
+XmlNode Document::node() { return {*this, content_.bareDocument()}; }
 
-XmlNode Document::root() { return {*this, xmlDocGetRootElement(document_.get())}; }
+XmlNode Document::root() {
+  if (FlatTree* flat = content_.flat()) return {*this, content_.handleOf(flat->root())};
+  return {*this, content_.handleOf(xmlDocGetRootElement(content_.document()))};
+}
 
 XmlNode Document::createElement(std::string_view name) {
   const std::string text(name);
@@ -75,7 +77,7 @@ XmlNode Document::createElement(std::string_view name) {
   if (name.find('\0') != name.npos || xmlValidateNCName(bytesOf(text.c_str()), 0) != 0) {
     throw errors::invalidProcedureCall();
   }
-  xmlNode* element = xmlNewDocNode(document_.get(), nullptr, bytesOf(text.c_str()), nullptr);
+  xmlNode* element = xmlNewDocNode(content_.document(), nullptr, bytesOf(text.c_str()), nullptr);
   if (!element) throw errors::outOfMemory();
   loose_.insert(element);
   return {*this, element};
@@ -83,62 +85,113 @@ XmlNode Document::createElement(std::string_view name) {
 
 void Document::keepOnly(const XmlNode& element) {
   if (!element) throw errors::objectNotSet();
-  xmlNode* const kept = nodeOf(element.handle());
-  if (kept->type != XML_ELEMENT_NODE || kept->doc != document_.get()) {
+  if (FlatTree* flat = content_.flat(); flat && flat->holds(element.handle())) {
+    const FlatNode* kept = content_.flatNodeOf(element.handle());
+    if (!kept->name) throw errors::invalidProcedureCall();
+    flat->keepOnly(kept);
+  } else {
+    keepOnlyNode(content_.nodeOf(element.handle()));
+  }
+  content_.bareDocument()->standalone = -1;
+  declaration_ = {};
+}
+
+void Document::keepOnlyNode(xmlNode* kept) {
+  if (kept->type != XML_ELEMENT_NODE || kept->doc != content_.document()) {
     throw errors::invalidProcedureCall();
   }
   selecting_.forget();
   loose_.erase(kept);
   makeRoot(kept);
   freeLoose();
-  document_->standalone = -1;
-  declaration_ = {};
 }
 
-std::string Document::nameOf(void* node) const { return libxml2::nameOf(nodeOf(node)); }
+std::string Document::nameOf(void* node) const {
+  if (const FlatTree* flat = content_.flat()) return flat->nameOf(content_.flatNodeOf(node));
+  return libxml2::nameOf(content_.nodeOf(node));
+}
 
 bool Document::isElementNamed(void* node, std::string_view name) const {
-  return libxml2::isElementNamed(nodeOf(node), name);
+  if (const FlatTree* flat = content_.flat()) {
+    return flat->isElementNamed(content_.flatNodeOf(node), name);
+  }
+  return libxml2::isElementNamed(content_.nodeOf(node), name);
 }
 
-std::int64_t Document::lineOf(void* node) const { return nodeOf(node)->line; }
+std::int64_t Document::lineOf(void* node) const {
+  if (content_.flat()) return content_.flatNodeOf(node)->line;
+  const xmlNode* asked = content_.nodeOf(node);
+  return asked->type == XML_DOCUMENT_NODE ? 0 : asked->line;
+}
 
-std::string Document::textOf(void* node) const { return trimmedText(nodeOf(node)); }
+std::string Document::textOf(void* node) const {
+  if (const FlatTree* flat = content_.flat()) {
+    return std::string(flat->trimmedText(content_.flatNodeOf(node)));
+  }
+  return trimmedText(content_.nodeOf(node));
+}
 
-void Document::setTextOf(void* node, std::string_view text) { replaceText(nodeOf(node), text); }
+void Document::setTextOf(void* node, std::string_view text) {
+  replaceText(content_.nodeOf(node), text);
+}
 
 std::string Document::xmlOf(void* node) const {
-  if (nodeOf(node)->type == XML_DOCUMENT_NODE) return documentText(document_.get(), declaration_);
-  return nodeText(nodeOf(node));
+  xmlNode* const written = content_.nodeOf(node);
+  if (written->type == XML_DOCUMENT_NODE) return documentText(content_.document(), declaration_);
+  return nodeText(written);
 }
 
 void* Document::firstChildOf(void* node) const {
-  const xmlNode* parent = nodeOf(node);
+  if (const FlatTree* flat = content_.flat()) {
+    return content_.handleOf(flat->firstChild(content_.flatNodeOf(node)));
+  }
+  const xmlNode* parent = content_.nodeOf(node);
   const bool hasChildren = parent->type == XML_ELEMENT_NODE || parent->type == XML_DOCUMENT_NODE;
-  return hasChildren ? firstShown(parent->children) : nullptr;
+  return hasChildren ? content_.handleOf(firstShown(parent->children)) : nullptr;
 }
 
 void* Document::nextSiblingOf(void* node) const {
-  fetchFollowing(nodeOf(node));
-  return isShown(nodeOf(node)) ? firstShown(nodeOf(node)->next) : nullptr;
+  if (const FlatTree* flat = content_.flat()) {
+    return content_.handleOf(flat->next(content_.flatNodeOf(node)));
+  }
+  const xmlNode* before = content_.nodeOf(node);
+  fetchFollowing(before);
+  return isShown(before) ? content_.handleOf(firstShown(before->next)) : nullptr;
 }
 
 void* Document::selectSingleOf(void* node, std::string_view path) const {
-  return selecting_.first(nodeOf(node), path);
+  const PlainPath plain = plainPath(path);
+  if (const FlatTree* flat = content_.flat(); flat && !plain.names.empty()) {
+    const FlatNode* top = plain.fromDocument ? flat->document() : content_.flatNodeOf(node);
+    return content_.handleOf(firstBelow(*flat, top, plain.names));
+  }
+  return content_.handleOf(selecting_.first(content_.nodeOf(node), path));
 }
 
 std::vector<void*> Document::selectAllOf(void* node, std::string_view path) const {
-  const std::vector<xmlNode*> found = selecting_.all(nodeOf(node), path);
-  return {found.begin(), found.end()};
+  std::vector<void*> handles;
+  const PlainPath plain = plainPath(path);
+  if (const FlatTree* flat = content_.flat(); flat && !plain.names.empty()) {
+    const FlatNode* top = plain.fromDocument ? flat->document() : content_.flatNodeOf(node);
+    std::vector<const FlatNode*> found;
+    allBelow(*flat, top, plain.names, found);
+    for (const FlatNode* one : found) handles.push_back(content_.handleOf(one));
+    return handles;
+  }
+  for (xmlNode* one : selecting_.all(content_.nodeOf(node), path)) {
+    handles.push_back(content_.handleOf(one));
+  }
+  return handles;
 }
 
 void Document::appendTo(void* parent, const XmlNode& child) {
-  xmlNode* const moved = nodeOf(child.handle());
-  if (!dynamic_cast<Document*>(child.document()) || !mayAppend(nodeOf(parent), moved)) {
-    throw errors::invalidProcedureCall();
-  }
+  auto* const from = dynamic_cast<Document*>(child.document());
+  if (!from) throw errors::invalidProcedureCall();
+  xmlNode* const target = content_.nodeOf(parent);
+  xmlNode* const moved = from->content_.nodeOf(child.handle());
+  if (!mayAppend(target, moved)) throw errors::invalidProcedureCall();
   static_cast<Document*>(moved->doc->_private)->loose_.erase(moved);
-  moveBehind(nodeOf(parent), moved);
+  moveBehind(target, moved);
 }
 
 }  // namespace awizo::libxml2

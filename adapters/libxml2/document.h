@@ -2,7 +2,7 @@
 
 #include <unordered_set>
 
-#include "adapters/libxml2/handles.h"
+#include "adapters/libxml2/content.h"
 #include "adapters/libxml2/loading.h"
 #include "adapters/libxml2/selecting.h"
 #include "adapters/libxml2/writing.h"
@@ -10,7 +10,7 @@
 
 namespace awizo::libxml2 {
 
-/// One document; the handle of a node is libxml2's node.
+/// One document.
 class Document final : public XmlDocument {
  public:
   Document();
@@ -42,12 +42,14 @@ class Document final : public XmlDocument {
 
  private:
   bool load(std::string_view bytes, Decoding decoding);
-  /// Takes the document's place; none stands for an empty one.
-  void take(Owned<xmlDoc> document, Declaration declaration);
+  /// Takes the place of what there was; no document stands for an empty one.
+  void take(Parsed parsed);
+  void keepOnlyNode(xmlNode* kept);
   void freeLoose();
 
-  Owned<xmlDoc> document_;
+  mutable Content content_;
   Declaration declaration_;
+  bool isLoaded_ = false;
   std::int64_t failedAtLine_ = 0;
   /// Elements that were created and not yet put anywhere.
   std::unordered_set<xmlNode*> loose_;

@@ -2,28 +2,19 @@
 
 #include <libxml/SAX2.h>
 #include <libxml/encoding.h>
-#include <libxml/parserInternals.h>
 
 #include <limits>
+#include <optional>
 #include <string>
 #include <utility>
 
-#include "platform/run_time_error.h"
+#include "adapters/libxml2/flat_loading.h"
+#include "adapters/libxml2/parsing.h"
 
 namespace awizo::libxml2 {
 namespace {
 
-/// All different names of a document together. libxml2 compares names of attributes and of
-/// declarations each with each, so that many of them would hold it up for hours; a document of
-/// ours has some hundred.
-constexpr std::size_t mostBytesOfNames = 256 * 1024;
-
-/// Elements, attributes and other nodes of a document together. A catalogue at the system's limits
-/// has some 900,000; without a limit, 100 MB of nothing but tags would take more than 3 GB.
-constexpr std::size_t mostNodes = 5'000'000;
-
-/// What one load knows beside libxml2's parser context; the context's `_private` points to it.
-struct Loading {
+struct TreeLoad : Load {
   /// libxml2 doesn't count what parameter entities cost that are made of one another.
   static constexpr int mostParameterEntities = 1000;
   /// Blanks at the start of a text, held back until it is known whether more text follows. Blanks
@@ -32,26 +23,9 @@ struct Loading {
   /// Where that can't be known, blanks become nodes and the finished tree is swept as a whole.
   bool sweeps = false;
   int parameterEntities = 0;
-  std::size_t nodes = 0;
-  bool refused = false;
 };
 
-xmlParserCtxt* contextOf(void* context) { return static_cast<xmlParserCtxt*>(context); }
-
-Loading& loadingOf(void* context) { return *static_cast<Loading*>(contextOf(context)->_private); }
-
-void refuse(void* context) {
-  loadingOf(context).refused = true;
-  contextOf(context)->wellFormed = 0;
-  contextOf(context)->disableSAX = 1;
-  contextOf(context)->instate = XML_PARSER_EOF;
-}
-
-void countNodes(void* context, std::size_t more) {
-  Loading& loading = loadingOf(context);
-  loading.nodes += more;
-  if (loading.nodes > mostNodes) refuse(context);
-}
+TreeLoad& loadingOf(void* context) { return static_cast<TreeLoad&>(loadOf(context)); }
 
 void writeHeldBlanks(void* context) {
   std::string& held = loadingOf(context).heldBlanks;
@@ -61,7 +35,7 @@ void writeHeldBlanks(void* context) {
 }
 
 void onCharacters(void* context, const xmlChar* text, int length) {
-  Loading& loading = loadingOf(context);
+  TreeLoad& loading = loadingOf(context);
   if (!loading.sweeps && isBlank(*text)) {
     const std::string_view view(reinterpret_cast<const char*>(text),
                                 static_cast<std::size_t>(length));
@@ -138,23 +112,14 @@ xmlEntity* onGetEntity(void* context, const xmlChar* name) {
 }
 
 xmlEntity* onGetParameterEntity(void* context, const xmlChar* name) {
-  if (++loadingOf(context).parameterEntities > Loading::mostParameterEntities) {
+  if (++loadingOf(context).parameterEntities > TreeLoad::mostParameterEntities) {
     refuse(context);
     return nullptr;
   }
   return admit(context, xmlSAX2GetParameterEntity(context, name));
 }
 
-xmlParserInput* onResolveEntity(void*, const xmlChar*, const xmlChar*) { return nullptr; }
-
-/// The first error decides; without this, bytes of nonsense would cost an error message each.
-void onError(void*, xmlError* error) {
-  if (error->domain != XML_FROM_PARSER || error->level != XML_ERR_FATAL || !error->ctxt) return;
-  contextOf(error->ctxt)->instate = XML_PARSER_EOF;
-}
-
 void hook(xmlSAXHandler& events) {
-  events.serror = onError;
   events.characters = onCharacters;
   events.ignorableWhitespace = onCharacters;
   events.startElementNs = onStartElement;
@@ -164,8 +129,6 @@ void hook(xmlSAXHandler& events) {
   events.cdataBlock = onCData;
   events.getEntity = onGetEntity;
   events.getParameterEntity = onGetParameterEntity;
-  events.resolveEntity = onResolveEntity;
-  events.externalSubset = nullptr;
 }
 
 /// The next node in document order below `top`; children of declarations are not entered.
@@ -195,23 +158,16 @@ bool looksLikeUtf8(std::string_view text) {
   return guess == XML_CHAR_ENCODING_NONE || guess == XML_CHAR_ENCODING_UTF8;
 }
 
-Parsed parseWellFormed(std::string_view bytes, int options) {
-  const Owned<xmlParserCtxt> context(xmlNewParserCtxt());
-  if (!context) throw errors::outOfMemory();
-  xmlDictSetLimit(context->dict, mostBytesOfNames);
-  Loading loading;
-  context->_private = &loading;
+Parsed parseTree(std::string_view bytes, int options) {
+  TreeLoad loading;
+  const Owned<xmlParserCtxt> context = newContext(loading);
   hook(*context->sax);
-  Owned<xmlDoc> document(xmlCtxtReadMemory(
-      context.get(), bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr, options));
-  if (!document || loading.refused || !context->nsWellFormed) {
-    return {nullptr, {}, context->lastError.line};
-  }
-  // What is put into the document afterwards is our own.
-  xmlDictSetLimit(document->dict, 0);
+  Owned<xmlDoc> document = run(*context, bytes, options);
+  if (!document) return {.failedAtLine = context->lastError.line};
   xmlNode* root = xmlDocGetRootElement(document.get());
   if (root && loading.sweeps) dropBlanks(root);
-  return {root ? std::move(document) : nullptr, {}, 0};
+  if (!root) return {};
+  return {.document = std::move(document)};
 }
 
 }  // namespace
@@ -224,7 +180,8 @@ Parsed parse(std::string_view bytes, Decoding decoding) {
     if (!looksLikeUtf8(bytes)) return {};
     options |= XML_PARSE_IGNORE_ENC;
   }
-  Parsed parsed = parseWellFormed(bytes, options);
+  std::optional<Parsed> flat = parseFlat(bytes, options);
+  Parsed parsed = flat ? *std::move(flat) : parseTree(bytes, options);
   if (parsed.document) parsed.declaration = declarationOf(bytes);
   return parsed;
 }

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "adapters/libxml2/declaration.h"
+#include "adapters/libxml2/flat_tree.h"
 #include "adapters/libxml2/handles.h"
 
 namespace awizo::libxml2 {
@@ -11,8 +13,11 @@ namespace awizo::libxml2 {
 enum class Decoding { utf8, byDeclaration };
 
 struct Parsed {
-  Owned<xmlDoc> document;  ///< none when the load failed
-  Declaration declaration;
+  Owned<xmlDoc> document = nullptr;  ///< none when the load failed
+  /// What the document has where that is elements and texts alone; the document itself then has no
+  /// nodes yet.
+  std::optional<FlatTree> flat = std::nullopt;
+  Declaration declaration = {};
   std::int64_t failedAtLine = 0;  ///< 0 for a load that was right, or refused as a whole
 };
 

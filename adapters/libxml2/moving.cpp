@@ -5,12 +5,11 @@
 namespace awizo::libxml2 {
 namespace {
 
-void linkLast(xmlNode* parent, xmlNode* child) {
-  child->parent = parent;
-  child->prev = parent->last;
-  child->next = nullptr;
-  (parent->last ? parent->last->next : parent->children) = child;
-  parent->last = child;
+/// The old document may hold another name for a node, which means nothing to the new one.
+void forgetHandles(xmlNode* top) {
+  top->_private = nullptr;
+  if (top->type != XML_ELEMENT_NODE) return;
+  for (xmlNode* child = top->children; child; child = child->next) forgetHandles(child);
 }
 
 /// Whether names below may hang on a namespace that an element above declares.
@@ -22,6 +21,14 @@ bool inheritsNamespaces(const xmlNode* node) {
 }
 
 }  // namespace
+
+void linkLast(xmlNode* parent, xmlNode* child) {
+  child->parent = parent;
+  child->prev = parent->last;
+  child->next = nullptr;
+  (parent->last ? parent->last->next : parent->children) = child;
+  parent->last = child;
+}
 
 bool mayAppend(const xmlNode* parent, const xmlNode* child) {
   switch (child->type) {
@@ -50,10 +57,12 @@ bool mayAppend(const xmlNode* parent, const xmlNode* child) {
 void moveBehind(xmlNode* parent, xmlNode* child) {
   const bool reconcile = inheritsNamespaces(child);
   xmlUnlinkNode(child);
-  if (child->doc != parent->doc &&
-      // Names may lie in the old document's dictionary, which dies with it.
-      xmlDOMWrapAdoptNode(nullptr, child->doc, child, parent->doc, parent, 0) != 0) {
-    throw errors::outOfMemory();
+  if (child->doc != parent->doc) {
+    forgetHandles(child);
+    // Names may lie in the old document's dictionary, which dies with it.
+    if (xmlDOMWrapAdoptNode(nullptr, child->doc, child, parent->doc, parent, 0) != 0) {
+      throw errors::outOfMemory();
+    }
   }
   linkLast(parent, child);
   if (reconcile && child->type == XML_ELEMENT_NODE) xmlReconciliateNs(child->doc, child);

@@ -4,6 +4,9 @@
 
 namespace awizo::libxml2 {
 
+/// Makes a node that stands nowhere the last child. It stays the same node, also beside a text.
+void linkLast(xmlNode* parent, xmlNode* child);
+
 /// Whether `child` can become a child of `parent`: not its own ancestor, and no second document
 /// element.
 bool mayAppend(const xmlNode* parent, const xmlNode* child);

@@ -2,9 +2,10 @@
 
 #include <libxml/xpathInternals.h>
 
-#include <array>
 #include <string>
 
+#include "adapters/libxml2/path_shapes.h"
+#include "adapters/libxml2/walking.h"
 #include "platform/run_time_error.h"
 
 namespace awizo::libxml2 {
@@ -14,74 +15,21 @@ namespace {
 /// takes a fraction of it.
 constexpr unsigned long maximumOperations = 200'000'000;
 
-enum class Sign : unsigned char { other, startsName, continuesName, slash };
-
-constexpr std::array<Sign, 256> signs = [] {
-  std::array<Sign, 256> kinds{};
-  for (unsigned letter = 'a'; letter <= 'z'; ++letter) kinds[letter] = Sign::startsName;
-  for (unsigned letter = 'A'; letter <= 'Z'; ++letter) kinds[letter] = Sign::startsName;
-  for (unsigned digit = '0'; digit <= '9'; ++digit) kinds[digit] = Sign::continuesName;
-  kinds['_'] = Sign::startsName;
-  kinds['-'] = kinds['.'] = Sign::continuesName;
-  kinds['/'] = Sign::slash;
-  return kinds;
-}();
-
-/// A path that has plain child steps only, each by a name in the letters A to Z.
-struct PlainPath {
-  std::string_view names;  ///< "Line/Line-Item/EAN"; empty when the path has other steps
-  bool fromDocument = false;
+/// libxml2's tree, to be walked.
+struct NodeTree {
+  static xmlNode* firstChild(const xmlNode* node) { return node->children; }
+  static xmlNode* next(const xmlNode* node) {
+    fetchFollowing(node);
+    return node->next;
+  }
+  static bool isElementNamed(const xmlNode* node, std::string_view name) {
+    return libxml2::isElementNamed(node, name);
+  }
 };
 
-PlainPath plainPath(std::string_view path) {
-  PlainPath plain{path, path.starts_with('/')};
-  if (plain.fromDocument) plain.names.remove_prefix(1);
-  bool atStart = true;
-  for (const char letter : plain.names) {
-    const Sign sign = signs[static_cast<unsigned char>(letter)];
-    if (sign == Sign::other || (atStart && sign != Sign::startsName)) return {};
-    atStart = sign == Sign::slash;
-  }
-  return atStart ? PlainPath{} : plain;
-}
-
-/// The first name of the path; `rest` is what follows it, empty behind the last.
-std::string_view firstName(std::string_view names, std::string_view& rest) {
-  const std::size_t end = names.find('/');
-  rest = end == names.npos ? std::string_view() : names.substr(end + 1);
-  return names.substr(0, end);
-}
-
-/// A first child may lack what a later one of the same name has, so the walk goes back up.
-xmlNode* firstBelow(const xmlNode* parent, std::string_view names) {
-  std::string_view rest;
-  const std::string_view name = firstName(names, rest);
-  for (xmlNode* child = parent->children; child; child = child->next) {
-    fetchFollowing(child);
-    if (!isElementNamed(child, name)) continue;
-    if (rest.empty()) return child;
-    if (xmlNode* found = firstBelow(child, rest)) return found;
-  }
-  return nullptr;
-}
-
-void allBelow(const xmlNode* parent, std::string_view names, std::vector<xmlNode*>& found) {
-  std::string_view rest;
-  const std::string_view name = firstName(names, rest);
-  for (xmlNode* child = parent->children; child; child = child->next) {
-    fetchFollowing(child);
-    if (!isElementNamed(child, name)) continue;
-    if (rest.empty()) {
-      found.push_back(child);
-    } else {
-      allBelow(child, rest, found);
-    }
-  }
-}
-
 /// Where the walk of a path begins; none for a node that has no children.
-const xmlNode* walkStart(const xmlNode* start, const PlainPath& path) {
-  if (path.fromDocument) return reinterpret_cast<const xmlNode*>(start->doc);
+xmlNode* walkStart(xmlNode* start, const PlainPath& path) {
+  if (path.fromDocument) return reinterpret_cast<xmlNode*>(start->doc);
   const bool hasChildren = start->type == XML_ELEMENT_NODE || start->type == XML_DOCUMENT_NODE;
   return hasChildren ? start : nullptr;
 }
@@ -109,8 +57,8 @@ class Silence {
 xmlNode* Selecting::first(xmlNode* start, std::string_view path) {
   const PlainPath plain = plainPath(path);
   if (!plain.names.empty()) {
-    const xmlNode* top = walkStart(start, plain);
-    return top ? firstBelow(top, plain.names) : nullptr;
+    xmlNode* top = walkStart(start, plain);
+    return top ? firstBelow(NodeTree(), top, plain.names) : nullptr;
   }
   const std::vector<xmlNode*> found = evaluate(start, path);
   return found.empty() ? nullptr : found.front();
@@ -120,7 +68,7 @@ std::vector<xmlNode*> Selecting::all(xmlNode* start, std::string_view path) {
   const PlainPath plain = plainPath(path);
   if (plain.names.empty()) return evaluate(start, path);
   std::vector<xmlNode*> found;
-  if (const xmlNode* top = walkStart(start, plain)) allBelow(top, plain.names, found);
+  if (xmlNode* top = walkStart(start, plain)) allBelow(NodeTree(), top, plain.names, found);
   return found;
 }
 

@@ -12,12 +12,6 @@ bool isText(const xmlNode* node) {
   return node->type == XML_TEXT_NODE || node->type == XML_CDATA_SECTION_NODE;
 }
 
-std::string_view trimmed(std::string_view text) {
-  while (!text.empty() && isBlank(static_cast<unsigned char>(text.front()))) text.remove_prefix(1);
-  while (!text.empty() && isBlank(static_cast<unsigned char>(text.back()))) text.remove_suffix(1);
-  return text;
-}
-
 std::string textBelow(const xmlNode* top) {
   std::string text;
   const xmlNode* node = top->children;
@@ -67,6 +61,12 @@ std::string nameOf(const xmlNode* node) {
   if (hasNamespace && node->ns && node->ns->prefix)
     name.append(viewOf(node->ns->prefix)).append(":");
   return name.append(viewOf(node->name));
+}
+
+std::string_view trimmed(std::string_view text) {
+  while (!text.empty() && isBlank(static_cast<unsigned char>(text.front()))) text.remove_prefix(1);
+  while (!text.empty() && isBlank(static_cast<unsigned char>(text.back()))) text.remove_suffix(1);
+  return text;
 }
 
 std::string trimmedText(const xmlNode* node) {

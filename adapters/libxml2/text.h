@@ -11,6 +11,9 @@ namespace awizo::libxml2 {
 /// "#cdata-section", "#comment", "#document".
 std::string nameOf(const xmlNode* node);
 
+/// The text without the blanks of XML at both ends.
+std::string_view trimmed(std::string_view text);
+
 /// The text of the node and all texts below it in one, outer white space cut.
 std::string trimmedText(const xmlNode* node);
 
