@@ -13,12 +13,6 @@
 namespace awizo::benchmarks {
 namespace {
 
-std::unique_ptr<XmlDocument> order(const test::TestEditor& editor, int lines, int catalogueLines) {
-  std::unique_ptr<XmlDocument> made = editor.document(orderReply(lines, catalogueLines));
-  made->keepOnly(made->node().selectSingle("//Document-Order"));
-  return made;
-}
-
 /// A catalogue, parsed once for all turns as a start parses it: into fresh memory, where its nodes
 /// lie one after another. Memory that another large document has left makes walks of it slower.
 struct Catalogue {
@@ -47,7 +41,7 @@ void CompletingAnOrder(benchmark::State& state) {
   test::TestEditor editor;
   std::unique_ptr<XmlDocument> waiting;
   compare(
-      state, [&] { waiting = order(editor, mostOrderLines / part, products.lines); },
+      state, [&] { waiting = editor.document(order(mostOrderLines / part, products.lines)); },
       [&] { ProductCatalogToOrder(editor.editor, *products.document, *waiting); },
       [&] { parseBare(products.text); });
 }
@@ -57,10 +51,10 @@ void ReadingAnOrder(benchmark::State& state) {
   const int lines = mostOrderLines / static_cast<int>(state.range(0));
   test::TestEditor editor;
   for (const char* row : {"1", "2", "3"}) editor.form.cboxPackageDescription.addRow(row);
-  const std::string text = orderReply(lines, mostCatalogueLines);
+  const std::string text = order(lines, mostCatalogueLines);
   std::unique_ptr<XmlDocument> waiting;
   compare(
-      state, [&] { waiting = order(editor, lines, mostCatalogueLines); },
+      state, [&] { waiting = editor.document(text); },
       [&] { Wczytaj_Zamowienie(editor.editor, waiting); }, [&] { parseBare(text); });
 }
 BENCHMARK(ReadingAnOrder)->Arg(8)->Arg(4)->Arg(2)->Arg(1)->UseManualTime();

@@ -3,8 +3,6 @@
 #include <QApplication>
 #include <QMainWindow>
 #include <QTableView>
-#include <fstream>
-#include <iterator>
 
 #include "benchmarks/support/full_size.h"
 #include "hosts/desktop/program/main_window.h"
@@ -28,10 +26,7 @@ void paint() {
 }  // namespace
 
 int parseFiles(const std::vector<std::string>& files) {
-  for (const std::string& file : files) {
-    std::ifstream stream(file, std::ios::binary);
-    parseBare(std::string(std::istreambuf_iterator(stream), {}));
-  }
+  for (const std::string& file : files) parseBareFile(file);
   return 0;
 }
 

@@ -12,17 +12,28 @@
 namespace awizo::benchmarks {
 namespace {
 
+/// What the service replies, at the limits or a part of these.
+struct Replies {
+  Replies(int part, Layout layout)
+      : catalogue(
+            catalogueReply(laidOut(benchmarks::catalogue(mostCatalogueLines / part), layout))),
+        order(orderReply(laidOut(
+            benchmarks::order(mostOrderLines / part, mostCatalogueLines / part), layout))) {}
+
+  std::string catalogue;
+  std::string order;
+};
+
 /// A control whose host page is there, and a service that answers from memory.
-std::unique_ptr<test::TestControl> preparedControl(const std::string& catalogue,
-                                                   const std::string& order) {
+std::unique_ptr<test::TestControl> preparedControl(const Replies& replies) {
   auto made = std::make_unique<test::TestControl>();
   made->prepareFolder();
   made->preparePage();
   made->create();
   made->http.reply(test::TestControl::partnerInfo("ООО Покупатель"));
-  made->http.reply(catalogue);
+  made->http.reply(replies.catalogue);
   made->http.reply("<dictionary-response><status>UNCHANGED</status></dictionary-response>");
-  made->http.reply(order);
+  made->http.reply(replies.order);
   return made;
 }
 
@@ -52,18 +63,17 @@ double peakKilobytesOf(Work&& work) {
 }
 
 /// The start on line up to the end of UserControl_Show, against bare parsing of the same bytes.
-void StartingOnLine(benchmark::State& state) {
+void StartingOnLine(benchmark::State& state, Layout layout) {
   const int part = static_cast<int>(state.range(0));
-  const std::string reply = catalogueReply(catalogue(mostCatalogueLines / part));
-  const std::string order = orderReply(mostOrderLines / part, mostCatalogueLines / part);
+  const Replies replies(part, layout);
   double ours = 0;
   double bare = 0;
   for ([[maybe_unused]] const auto turn : state) {
     bare += secondsOf([&] {
-      parseBare(reply);
-      parseBare(order);
+      parseBare(replies.catalogue);
+      parseBare(replies.order);
     });
-    const auto control = preparedControl(reply, order);
+    const auto control = preparedControl(replies);
     const double seconds = secondsOf([&] { control->control.UserControl_Show(); });
     requireFinished(*control, mostOrderLines / part);
     ours += seconds;
@@ -71,23 +81,21 @@ void StartingOnLine(benchmark::State& state) {
   }
   state.counters["ratio"] = ours / bare;
 }
-BENCHMARK(StartingOnLine)->Arg(8)->Arg(4)->Arg(2)->Arg(1)->UseManualTime();
 
 /// The same work's peak memory; the bytes themselves count on both sides.
-void MemoryOfStartingOnLine(benchmark::State& state) {
+void MemoryOfStartingOnLine(benchmark::State& state, Layout layout) {
   const int part = static_cast<int>(state.range(0));
-  const std::string reply = catalogueReply(catalogue(mostCatalogueLines / part));
-  const std::string order = orderReply(mostOrderLines / part, mostCatalogueLines / part);
+  const Replies replies(part, layout);
   double ours = 0;
   double bare = 0;
   for ([[maybe_unused]] const auto turn : state) {
     bare += peakKilobytesOf([&] {
-      const std::string bytes = reply;
+      const std::string bytes = replies.catalogue;
       parseBare(bytes);
-      parseBare(order);
+      parseBare(replies.order);
     });
     ours += peakKilobytesOf([&] {
-      const auto control = preparedControl(reply, order);
+      const auto control = preparedControl(replies);
       control->control.UserControl_Show();
       requireFinished(*control, mostOrderLines / part);
     });
@@ -95,7 +103,15 @@ void MemoryOfStartingOnLine(benchmark::State& state) {
   state.counters["ratio"] = ours / bare;
   state.counters["megabytes"] = ours / 1024 / static_cast<double>(state.iterations());
 }
-BENCHMARK(MemoryOfStartingOnLine)->Arg(8)->Arg(4)->Arg(2)->Arg(1)->Iterations(3);
+// clang-format off
+#define STARTING(layout)                                            \
+  BENCHMARK_CAPTURE(StartingOnLine, layout, Layout::layout)         \
+      ->Arg(8)->Arg(4)->Arg(2)->Arg(1)->UseManualTime();            \
+  BENCHMARK_CAPTURE(MemoryOfStartingOnLine, layout, Layout::layout) \
+      ->Arg(8)->Arg(4)->Arg(2)->Arg(1)->Iterations(3)
+// clang-format on
+STARTING(compact);
+STARTING(indented);
 
 }  // namespace
 }  // namespace awizo::benchmarks

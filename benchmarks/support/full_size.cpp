@@ -74,14 +74,19 @@ void element(std::string& text, std::string_view name, std::string_view value) {
   text.append("</").append(name).append(">");
 }
 
-xmlDocPtr parsed(std::string_view text) {
-  xmlDocPtr document = xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr,
-                                     XML_PARSE_NONET | XML_PARSE_NOERROR);
+constexpr int options = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_COMPACT;
+
+xmlDocPtr required(xmlDocPtr document) {
   if (document == nullptr) {
     std::fputs("The document isn't well-formed.\n", stderr);
     std::abort();
   }
   return document;
+}
+
+xmlDocPtr parsed(std::string_view text, int moreOptions = 0) {
+  return required(xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr,
+                                options | moreOptions));
 }
 
 }  // namespace
@@ -118,9 +123,9 @@ std::string catalogueReply(std::string_view content) {
       .append("</document-content></document-response>");
 }
 
-std::string orderReply(int lines, int catalogueLines) {
+std::string order(int lines, int catalogueLines) {
   std::string text =
-      "<receive-document-response><document-content><Document-Order><Order-Header>"
+      "<Document-Order><Order-Header>"
       "<OrderNumber>ORD-1</OrderNumber><OrderDate>2026-11-20</OrderDate>"
       "<ExpectedDeliveryDate>2026-11-25</ExpectedDeliveryDate><Currency>RUR</Currency>"
       "</Order-Header><Order-Parties><DeliveryPoint><ILN>4600000000017</ILN></DeliveryPoint>"
@@ -133,10 +138,32 @@ std::string orderReply(int lines, int catalogueLines) {
     element(text, "OrderedQuantity", std::to_string(i % 90 + 1));
     text += "</Line-Item></Line>\n";
   }
-  return text + "</Order-Lines></Document-Order></document-content></receive-document-response>";
+  return text + "</Order-Lines></Document-Order>";
+}
+
+std::string orderReply(std::string_view content) {
+  return std::string("<receive-document-response><document-content>")
+      .append(content)
+      .append("</document-content></receive-document-response>");
+}
+
+std::string laidOut(std::string document, Layout layout) {
+  if (layout == Layout::compact) return document;
+  xmlDocPtr tree = parsed(document, XML_PARSE_NOBLANKS);
+  xmlBufferPtr buffer = xmlBufferCreate();
+  xmlNodeDump(buffer, tree, xmlDocGetRootElement(tree), 0, 1);
+  const auto* text = reinterpret_cast<const char*>(xmlBufferContent(buffer));
+  document.assign(text, static_cast<std::size_t>(xmlBufferLength(buffer)));
+  xmlBufferFree(buffer);
+  xmlFreeDoc(tree);
+  return document;
 }
 
 void parseBare(std::string_view text) { xmlFreeDoc(parsed(text)); }
+
+void parseBareFile(const std::string& path) {
+  xmlFreeDoc(required(xmlReadFile(path.c_str(), nullptr, options)));
+}
 
 void parseAndSerialiseBare(std::string_view text) {
   xmlDocPtr document = parsed(text);

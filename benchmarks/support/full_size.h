@@ -24,16 +24,32 @@ enum class Repeats {
 /// 60 characters; about 17 MB at full size. Sorted means that each of the four keys ascends.
 std::string catalogue(int lines, LineOrder order = LineOrder::random,
                       Repeats repeats = Repeats::few);
-/// The service's reply that carries it.
+/// A `Document-Order` whose products are spread over a catalogue of so many lines.
+std::string order(int lines, int catalogueLines);
+
+/// How a document is laid out. Reading drops blanks between elements, so that one kind alone would
+/// flatter.
+enum class Layout {
+  compact,   ///< a product or an order's line is one line of text, without blanks
+  indented,  ///< every element on a line of its own
+};
+/// A document of the above, which are compact.
+std::string laidOut(std::string document, Layout layout);
+
+/// The service's replies that carry a document.
 std::string catalogueReply(std::string_view catalogue);
-/// A reply with a `Document-Order` whose products are spread over a catalogue of so many lines.
-std::string orderReply(int lines, int catalogueLines);
+std::string orderReply(std::string_view order);
 /// EAN of the catalogue's line of that number.
 std::string catalogueEAN(int line);
 
-/// Parses with bare libxml2 and frees the document; stops the program if it isn't well-formed.
+// These work with bare libxml2 in its cheapest way, and stop the program if the text isn't
+// well-formed.
+
+/// Parses and frees the document.
 void parseBare(std::string_view text);
-/// The same, and serialises the document before it is freed.
+/// The same with a file, which is read while it is parsed.
+void parseBareFile(const std::string& path);
+/// Parses, serialises the document and frees it.
 void parseAndSerialiseBare(std::string_view text);
 
 }  // namespace awizo::benchmarks
