@@ -12,10 +12,10 @@ Collation::Collation(const icu::Locale& locale) {
   if (U_FAILURE(status)) throw std::runtime_error(u_errorName(status));
   collator_->setStrength(icu::Collator::SECONDARY);
   collator_->setAttribute(UCOL_ALTERNATE_HANDLING, UCOL_NON_IGNORABLE, status);
-  plainLetters_ = std::make_unique<const PlainLetters>(*collator_);
 }
 
 std::string Collation::key(std::string_view text) const {
+  if (!plainLetters_) plainLetters_ = std::make_unique<const PlainLetters>(*collator_);
   std::optional<std::string> key = plainLetters_->key(text);
   return key ? *std::move(key) : collatorsKey(text);
 }
