@@ -183,7 +183,6 @@ void AwizoWysylkiWidget::start() {
   started_ = true;
   {
     const Waiting::Span span(parts_->waiting);
-    parts_->waiting.show("Запуск…");
     parts_->control.UserControl_Show();
   }
   if (!parts_->control.form.OrderAnswer) keepContent();

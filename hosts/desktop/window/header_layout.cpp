@@ -102,6 +102,10 @@ QLabel* caption(const std::string& text) {
 class WrappedTexts : public QWidget {
  public:
   bool hasHeightForWidth() const override { return false; }
+  void takeHeight() {
+    const bool wraps = layout()->hasHeightForWidth();
+    setFixedHeight(wraps ? layout()->heightForWidth(width()) : layout()->sizeHint().height());
+  }
 
  protected:
   bool event(QEvent* event) override {
@@ -111,12 +115,6 @@ class WrappedTexts : public QWidget {
           this, [this] { takeHeight(); }, Qt::QueuedConnection);
     }
     return QWidget::event(event);
-  }
-
- private:
-  void takeHeight() {
-    const bool wraps = layout()->hasHeightForWidth();
-    setFixedHeight(wraps ? layout()->heightForWidth(width()) : layout()->sizeHint().height());
   }
 };
 
@@ -148,6 +146,8 @@ QWidget* makeParties(AwizoForm& form, FormFace& faces) {
        {&form.lblILNSprzedWart, &form.lblILNKupWart, &form.lblILNMiejscaDostValue}) {
     faces.widget(*iln)->setMinimumWidth(ilnWidth);
   }
+  // Texts that need no second line have their height from the start: the window is painted once.
+  parties->takeHeight();
   return parties;
 }
 

@@ -66,9 +66,10 @@ Waiting::~Waiting() {
 
 void Waiting::show(const QString& what) {
   text_->setText(what);
-  place();
   bar_->advance();
-  if (applied_) paintNow();
+  if (!applied_) return;
+  showPanel();
+  paintNow();
 }
 
 void Waiting::goOn() {
@@ -80,7 +81,7 @@ void Waiting::goOn() {
 }
 
 void Waiting::begin() {
-  ++spans_;
+  if (spans_++ == 0) text_->clear();
   apply();
 }
 
@@ -108,14 +109,18 @@ void Waiting::apply() {
   if (wanted) {
     qApp->installEventFilter(this);
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    place();
-    panel_->show();
-    panel_->raise();
+    if (!text_->text().isEmpty()) showPanel();
   } else {
     qApp->removeEventFilter(this);
     QApplication::restoreOverrideCursor();
     panel_->hide();
   }
+}
+
+void Waiting::showPanel() {
+  place();
+  panel_->show();
+  panel_->raise();
 }
 
 void Waiting::place() {

@@ -8,9 +8,9 @@
 
 namespace awizo::desktop {
 
-/// What stands over the window while the control works for long: what it is doing, a bar that
-/// moves, the wait cursor. The user's input goes nowhere meanwhile and isn't kept for later. A box
-/// that must be answered sets the waiting aside.
+/// While the control works, the wait cursor stands and the user's input goes nowhere and isn't kept
+/// for later. Where the work can last, a panel over the window tells what is being done, with a bar
+/// that moves. A box that must be answered sets the waiting aside.
 class Waiting : public QObject {
  public:
   /// The panel stands in the middle of `window`.
@@ -44,7 +44,7 @@ class Waiting : public QObject {
   QString text() const { return text_->text(); }
   const MovingBar& bar() const { return *bar_; }
 
-  /// Tells the user what is being done.
+  /// Tells the user what is being done, until the wait ends.
   void show(const QString& what);
   /// Called often during the work: moves the bar and paints, at most some thirty times a second.
   void goOn();
@@ -58,6 +58,7 @@ class Waiting : public QObject {
   void setAside();
   void takeUp();
   void apply();
+  void showPanel();
   void place();
   void paintNow();
 
