@@ -30,9 +30,9 @@ Answer Conversation::ask(const MessageBox& box) {
 }
 
 void Conversation::watch(Form& dialog) {
-  dialog.observer = [this, &dialog](const Change& change) {
+  dialog.observers.add([this, &dialog](const Change& change) {
     if (change.aspect == Aspect::visible) emit(protocol::formEvent(dialog));
-  };
+  });
 }
 
 void Conversation::emit(const protocol::Json& event) {

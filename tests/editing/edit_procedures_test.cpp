@@ -101,9 +101,9 @@ TEST_F(EditProcedures, TheTotalsEditorIsClosedBeforeThatOfTheLines) {
   for (TextField* editField : {&form.txtEdycja, &form.txtEdycjaSuma}) {
     editField->setText("1");
     editField->setVisible(true);
-    editField->observer = [&closed, editField](const Change& change) {
+    editField->observers.add([&closed, editField](const Change& change) {
       if (change.aspect == Aspect::visible) closed.push_back(editField->name());
-    };
+    });
   }
   form.txtNrAwiza.userFocus();
   lines.userFocus();

@@ -282,7 +282,7 @@ TEST_F(AddingALine, ACancelledDialogChangesNoCellAndNoCounter) {
 
 TEST_F(AddingALine, TheTableIsPaintedAnewAlsoAfterACancelledDialog) {
   int painted = 0;
-  lines.observer = [&](const Change& change) { painted += change.aspect == Aspect::redraw; };
+  lines.observers.add([&](const Change& change) { painted += change.aspect == Aspect::redraw; });
   look([] {});
   EXPECT_EQ(painted, 1);
 }

@@ -177,7 +177,7 @@ TEST_F(AddingAPackage, ACancelledDialogSpendsNoSerial) {
 
 TEST_F(AddingAPackage, TheTableIsPaintedAnewAlsoAfterACancelledDialog) {
   int painted = 0;
-  packages.observer = [&](const Change& change) { painted += change.aspect == Aspect::redraw; };
+  packages.observers.add([&](const Change& change) { painted += change.aspect == Aspect::redraw; });
   look([] {});
   EXPECT_EQ(painted, 1);
 }

@@ -15,7 +15,7 @@ class Painting : public ::testing::Test, public Desk {
   static std::vector<std::string> watch(Table& table, const std::function<void()>& act) {
     std::vector<std::string> told;
     bool painted = table.redraw();
-    table.observer = [&](const Change& change) {
+    const int watching = table.observers.add([&](const Change& change) {
       std::string what;
       if (change.aspect == Aspect::redraw) {
         const std::string switched = table.redraw() ? "on" : "off";
@@ -28,9 +28,9 @@ class Painting : public ::testing::Test, public Desk {
         return;
       }
       told.push_back(what);
-    };
+    });
     act();
-    table.observer = nullptr;
+    table.observers.remove(watching);
     return told;
   }
 

@@ -192,13 +192,13 @@ TEST_F(IsoList, TheTableIsntPaintedWhileShiftOrTheMouseIsHeld) {
   std::vector<bool> painting;
   show([&] {
     table.userCell(3, 0);
-    table.observer = [&](const Change& change) {
+    const int watching = table.observers.add([&](const Change& change) {
       if (change.aspect == Aspect::redraw) painting.push_back(table.redraw());
-    };
+    });
     table.userKey(keys::shift, true);
     table.userCell(5, 1);
     table.userKey(keys::down);
-    table.observer = nullptr;
+    table.observers.remove(watching);
   });
   EXPECT_THAT(painting, ElementsAre(false, true, false, true));
 }

@@ -172,12 +172,12 @@ TEST_P(LinePackages, TheTableIsntPaintedWhileARowIsWritten) {
   std::vector<bool> painting;
   despatch("5");
   test.show([&] {
-    table.observer = [&](const Change& change) {
+    const int watching = table.observers.add([&](const Change& change) {
       if (change.aspect == Aspect::redraw) painting.push_back(table.redraw());
-    };
+    });
     test.assign(0, "2");
     dialog.Command2.userClick();
-    table.observer = nullptr;
+    table.observers.remove(watching);
   });
   EXPECT_THAT(painting, ElementsAre(false, true, false, true));
 }

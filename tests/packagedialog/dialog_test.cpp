@@ -43,7 +43,7 @@ TEST_F(PackageDialog, LoadsAtTheFirstTouchAndNotBefore) {
 
 TEST_F(PackageDialog, AnErrorInLoadingIsTold) {
   DlgSzczegoly untouched(editor);
-  untouched.cboxPackageType.observer = [](const Change&) { throw errors::outOfMemory(); };
+  untouched.cboxPackageType.observers.add([](const Change&) { throw errors::outOfMemory(); });
   untouched.touch();
   EXPECT_THAT(boxes(),
               ElementsAre("Произошла ошибка в Form_Load() (Opakowanie)|critical|OK|Out of memory"));

@@ -87,9 +87,9 @@ TEST_F(ButtonTest, PictureTakesNoKey) {
 }
 
 TEST_F(ButtonTest, CaptionIsToldWhenItChanges) {
-  accept.observer = [&](const Change& change) {
+  accept.observers.add([&](const Change& change) {
     if (change.aspect == Aspect::content) events.push_back(accept.caption());
-  };
+  });
   accept.setCaption("&Подтвердить");
   accept.setCaption("&Подтвердить");
   EXPECT_THAT(events, ElementsAre("&Подтвердить"));

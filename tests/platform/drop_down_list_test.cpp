@@ -287,11 +287,11 @@ TEST_F(DropDownListTest, KeyPressGetsTheCharacter) {
 }
 
 TEST_F(DropDownListTest, ObserverIsToldOfRowsSelectionAndText) {
-  list.observer = [&](const Change& change) {
+  list.observers.add([&](const Change& change) {
     if (change.aspect == Aspect::rows) events.push_back("rows");
     if (change.aspect == Aspect::selection) events.push_back("selection");
     if (change.aspect == Aspect::content) events.push_back("content");
-  };
+  });
   list.onChange = note("Change");
   list.addRow("Литр");
   list.setText("Литр");

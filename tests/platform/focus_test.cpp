@@ -253,12 +253,12 @@ TEST_F(Focus, TabGoesOnInTheOrderOfTheControlsAndShiftGoesBack) {
 }
 
 TEST_F(Focus, ObserversOfControlAndFormAreToldOfIt) {
-  second.observer = [&](const Change& change) {
+  second.observers.add([&](const Change& change) {
     if (change.aspect == Aspect::focus) events.push_back("second observed");
-  };
-  form.observer = [&](const Change& change) {
+  });
+  form.observers.add([&](const Change& change) {
     if (change.aspect == Aspect::focus) events.push_back("form observed");
-  };
+  });
   second.setFocus();
   EXPECT_THAT(events, ElementsAre("form observed", "first.LostFocus", "second observed",
                                   "form observed", "second.GotFocus"));

@@ -127,11 +127,11 @@ TEST_F(ScreenTest, FaceThatFailsLeavesNoFormBehind) {
 
 TEST_F(ScreenTest, FormObserverSeesItShownAndHidden) {
   Form dialog(screen, "Dialog");
-  dialog.observer = [&](const Change& change) {
+  dialog.observers.add([&](const Change& change) {
     if (change.aspect == Aspect::visible) events.push_back(dialog.shown() ? "shown" : "hidden");
     if (change.aspect == Aspect::enabled) events.push_back("enabled");
     if (change.aspect == Aspect::content) events.push_back(dialog.caption());
-  };
+  });
   dialog.setCaption("Добавь продукт");
   dialog.setCaption("Добавь продукт");
   dialog.setEnabled(false);
@@ -255,7 +255,7 @@ TEST_F(ScreenTest, ControlIsFoundByItsName) {
 
 TEST_F(ScreenTest, LabelTellsANewCaptionOnce) {
   Label label(form, "label", "caption");
-  label.observer = [&](const Change&) { events.push_back(label.caption()); };
+  label.observers.add([&](const Change&) { events.push_back(label.caption()); });
   label.setCaption("caption");
   label.setCaption("0,000");
   label.setCaption("0,000");
@@ -263,9 +263,9 @@ TEST_F(ScreenTest, LabelTellsANewCaptionOnce) {
 }
 
 TEST_F(ScreenTest, PlaceIsTheHostsUntilTheLogicSetsOne) {
-  button.observer = [&](const Change& change) {
+  button.observers.add([&](const Change& change) {
     if (change.aspect == Aspect::place) events.push_back("place");
-  };
+  });
   EXPECT_FALSE(button.place().has_value());
   button.move({10, 20, 300, 240});
   button.move({10, 20, 300, 240});

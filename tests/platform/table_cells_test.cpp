@@ -102,7 +102,7 @@ TEST_F(TableCells, SeveralRowsGoAsOneChange) {
   table.setBackground(3, 1, pink);
   table.setRow(5);
   int changes = 0;
-  table.observer = [&](const Change& change) { changes += change.aspect == Aspect::rows; };
+  table.observers.add([&](const Change& change) { changes += change.aspect == Aspect::rows; });
   table.removeItems({1, 4, 5});
   EXPECT_EQ(changes, 1);
   ASSERT_EQ(table.rows(), 3);
@@ -327,10 +327,10 @@ TEST_F(TableCells, TopRowByCodeRaisesScrollOnce) {
 }
 
 TEST_F(TableCells, ObserverIsToldWhichCellChanged) {
-  table.observer = [&](const Change& change) {
+  table.observers.add([&](const Change& change) {
     events.push_back(std::to_string(static_cast<int>(change.aspect)) + " " +
                      std::to_string(change.row) + "," + std::to_string(change.column));
-  };
+  });
   const auto told = [](Aspect aspect, int row, int column) {
     return std::to_string(static_cast<int>(aspect)) + " " + std::to_string(row) + "," +
            std::to_string(column);

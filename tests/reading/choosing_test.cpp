@@ -74,9 +74,9 @@ TEST_F(ChoosingAFile, CancellingLeavesTheFormAsItWas) {
 TEST_F(ChoosingAFile, TheLinesAreDrawnAnewAtItsEnd) {
   for (const bool cancelled : {true, false}) {
     int drawnAnew = 0;
-    lines.observer = [&](const Change& change) {
+    const int watching = lines.observers.add([&](const Change& change) {
       drawnAnew += change.aspect == Aspect::redraw && form.enabled() ? 1 : 0;
-    };
+    });
     if (cancelled) {
       closeNextForm();
       form.btnWczytaj.userClick();
@@ -84,7 +84,7 @@ TEST_F(ChoosingAFile, TheLinesAreDrawnAnewAtItsEnd) {
       read({});
     }
     EXPECT_EQ(drawnAnew, 1);
-    lines.observer = nullptr;
+    lines.observers.remove(watching);
   }
 }
 
@@ -184,7 +184,7 @@ TEST_F(ChoosingAFile, MissingPartiesAreNeitherSellerNorBuyer) {
 
 TEST_F(ChoosingAFile, AnErrorBesideTheReadingIsToldAndTheControlEnabled) {
   form.lblNiepelnaWagaKom.setCaption("old");
-  form.lblNiepelnaWagaKom.observer = [](const Change&) { throw errors::outOfMemory(); };
+  form.lblNiepelnaWagaKom.observers.add([](const Change&) { throw errors::outOfMemory(); });
   read({});
   EXPECT_EQ(takeBoxes().back(), "Произошла ошибка в btnWczytaj_Click()|critical|OK|Out of memory");
   EXPECT_TRUE(form.enabled());

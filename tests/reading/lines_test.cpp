@@ -168,13 +168,13 @@ TEST_F(ReadingLines, TheTablesAreLeftAtTheirFirstCellWithOneHeadingRow) {
 TEST_F(ReadingLines, EachTableRedrawsOnceItsRowsAreThere) {
   std::vector<bool> linesRedrawn;
   std::vector<bool> totalsRedrawn;
-  lines.observer = [&](const Change& change) {
+  lines.observers.add([&](const Change& change) {
     if (change.aspect == Aspect::cell) linesRedrawn.push_back(lines.redraw());
-  };
-  totals.observer = [&](const Change& change) {
+  });
+  totals.observers.add([&](const Change& change) {
     const std::string text = change.aspect == Aspect::cell ? totals.cell(1, change.column) : "";
     if (text == "7,00" || text == "8,00") totalsRedrawn.push_back(totals.redraw());
-  };
+  });
   readTotals("<TotalQuantity>7</TotalQuantity><TotalAmount>8</TotalAmount>");
   EXPECT_THAT(linesRedrawn, AllOf(Not(IsEmpty()), Each(false)));
   EXPECT_THAT(totalsRedrawn, ElementsAre(false, false));

@@ -178,7 +178,7 @@ TEST_F(Sending, AtNoToTheRepeatedNumberSendsNothing) {
   form.LastSentNumber = "WZ-1";
   bool painted = false;
   for (Table* table : {&form.grdPozycje, &form.grdSuma}) {
-    table->observer = [&](const Change&) { painted = true; };
+    table->observers.add([&](const Change&) { painted = true; });
   }
   face.answer(Answer::no);
   send();
@@ -209,8 +209,8 @@ TEST_F(Sending, ANumberInOtherLettersIsAnotherNumber) {
 TEST_F(Sending, PaintsTheTablesAnewBeforeARepeatedNumberGoesOut) {
   form.LastSentNumber = "WZ-1";
   std::vector<std::string> painted;
-  form.grdPozycje.observer = [&](const Change&) { painted.push_back("grdPozycje"); };
-  form.grdSuma.observer = [&](const Change&) { painted.push_back("grdSuma"); };
+  form.grdPozycje.observers.add([&](const Change&) { painted.push_back("grdPozycje"); });
+  form.grdSuma.observers.add([&](const Change&) { painted.push_back("grdSuma"); });
   face.answer(Answer::yes);
   http.reply(accepted);
   send();
@@ -322,7 +322,7 @@ TEST_F(Sending, ChangesNothingInTheDocument) {
 }
 
 TEST_F(Sending, EnablesTheControlAfterAnUnexpectedError) {
-  form.grdSuma.observer = [](const Change&) { throw errors::outOfMemory(); };
+  form.grdSuma.observers.add([](const Change&) { throw errors::outOfMemory(); });
   form.LastSentNumber = "WZ-1";
   face.answer(Answer::yes);
   bool waitingAtError = false;

@@ -103,7 +103,7 @@ TEST(InitializeInAPointLocale, FindsThePoint) {
 }
 
 TEST_F(Initialize, EndsTheProgramAfterAnError) {
-  form.lblVersion.observer = [](const Change&) { throw errors::outOfMemory(); };
+  form.lblVersion.observers.add([](const Change&) { throw errors::outOfMemory(); });
   control.UserControl_Initialize();
   EXPECT_THAT(boxes(), ElementsAre("Bі№d w UserControl_Initialize()|critical|OK|Out of memory\\r"
                                    "Уверьтесь, что все необходимые компоненты заинсталированы."));
@@ -111,7 +111,7 @@ TEST_F(Initialize, EndsTheProgramAfterAnError) {
 }
 
 TEST_F(Initialize, EndsTheProgramForWantOfMemory) {
-  form.lblVersion.observer = [](const Change&) { throw std::bad_alloc(); };
+  form.lblVersion.observers.add([](const Change&) { throw std::bad_alloc(); });
   control.UserControl_Initialize();
   EXPECT_THAT(face.texts(), ElementsAre(::testing::StartsWith("Out of memory\r")));
   EXPECT_TRUE(face.programEnded);
@@ -286,9 +286,9 @@ using LastEvents = ControlShell;
 TEST_F(LastEvents, PaintingRefreshesLinesAndTotalsAndChangesNoState) {
   create();
   std::vector<std::string> painted;
-  form.grdPozycje.observer = [&](const Change&) { painted.push_back("grdPozycje"); };
-  form.grdOpakowania.observer = [&](const Change&) { painted.push_back("grdOpakowania"); };
-  form.grdSuma.observer = [&](const Change&) { painted.push_back("grdSuma"); };
+  form.grdPozycje.observers.add([&](const Change&) { painted.push_back("grdPozycje"); });
+  form.grdOpakowania.observers.add([&](const Change&) { painted.push_back("grdOpakowania"); });
+  form.grdSuma.observers.add([&](const Change&) { painted.push_back("grdSuma"); });
   control.UserControl_Paint();
   EXPECT_THAT(painted, ElementsAre("grdPozycje", "grdSuma"));
 }

@@ -12,8 +12,15 @@ namespace awizo::desktop {
 Face::Face(FormFace& form, Control& control, QWidget* widget)
     : QObject(widget), form_(form), control_(control), widget_(widget) {
   widget->setObjectName(fromText(control.name()));
-  control.observer = [this](const Change& change) { showChange(change); };
+  observation_ = control.observers.add([this](const Change& change) { showChange(change); });
   watch(widget);
+}
+
+Face::~Face() { release(); }
+
+void Face::release() {
+  if (observation_) control_.observers.remove(*observation_);
+  observation_.reset();
 }
 
 bool Face::hasFocus() const { return form_.focusedFace() == this; }

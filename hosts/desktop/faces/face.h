@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QWidget>
+#include <optional>
 #include <utility>
 
 #include "hosts/desktop/faces/text.h"
@@ -20,6 +21,7 @@ class FormFace;
 class Face : public QObject {
  public:
   Face(FormFace& form, Control& control, QWidget* widget);
+  ~Face() override;
 
   Control& control() const { return control_; }
   /// The widget that stands in the layout.
@@ -31,6 +33,8 @@ class Face : public QObject {
 
   /// Shows the model whole.
   void showAll();
+  /// The control's life ends: the face hears of it no more.
+  void release();
 
  protected:
   FormFace& form() const { return form_; }
@@ -61,6 +65,7 @@ class Face : public QObject {
   FormFace& form_;
   Control& control_;
   QWidget* widget_;
+  std::optional<int> observation_;
 };
 
 }  // namespace awizo::desktop

@@ -10,7 +10,7 @@ namespace awizo::desktop {
 
 FormFace::FormFace(Form& form, QWidget& window) : QObject(&window), form_(form), window_(window) {
   for (Control* control : form.controls()) faces_[control] = makeFace(*this, *control, &window);
-  form.observer = [this](const Change& change) { showChange(change); };
+  observation_ = form.observers.add([this](const Change& change) { showChange(change); });
   window.installEventFilter(this);
 }
 
@@ -21,8 +21,10 @@ FormFace::~FormFace() {
 
 void FormFace::release() {
   if (!alive_) return;
-  form_.observer = nullptr;
-  for (Control* control : form_.controls()) control->observer = nullptr;
+  form_.observers.remove(observation_);
+  for (const auto& [control, face] : faces_) {
+    if (face) face->release();
+  }
   alive_ = false;
 }
 
@@ -100,7 +102,7 @@ void FormFace::stateShown(Face& face) {
   for (const auto& [control, covered] : faces_) {
     if (control->cover == &face.control()) covered->showAll();
   }
-  if (onStateShown) onStateShown(face);
+  onStateShown.tell(face);
   // What came to sight may be where the focus has been all along.
   if (form_.focus() != nullptr) followFocus();
 }

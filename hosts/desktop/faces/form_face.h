@@ -36,8 +36,8 @@ class FormFace : public QObject {
   void followFocus();
   /// Called when the model's form changes caption or is shown or hidden.
   std::function<void(const Change&)> onChange;
-  /// Called after a control came, went, or was enabled or disabled.
-  std::function<void(Face&)> onStateShown;
+  /// Told after a control came, went, or was enabled or disabled.
+  Observers<Face&> onStateShown;
 
   // What faces use.
 
@@ -86,6 +86,7 @@ class FormFace : public QObject {
   QWidget& window_;
   std::map<const Control*, QPointer<Face>> faces_;
   Qt::FocusReason reason_ = Qt::OtherFocusReason;
+  int observation_ = 0;
   int following_ = 0;
   bool alive_ = true;
 };

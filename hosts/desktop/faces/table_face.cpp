@@ -73,10 +73,9 @@ void TableFace::layOverCell(Face& editor) {
   editor_ = &editor;
   editor.widget()->setParent(view_->viewport());
   editor.showAll();
-  form().onStateShown = [this, others = std::move(form().onStateShown)](Face& face) {
-    if (others) others(face);
+  form().onStateShown.add([this](Face& face) {
     if (&face == editor_) placeEditor();
-  };
+  });
   placeEditor();
 }
 

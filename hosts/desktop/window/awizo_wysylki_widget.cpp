@@ -114,10 +114,7 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const Surroundings& surroundings, QWidget
   layOutMain(parts.control.form, *parts.faces);
   parts.faces->showAll();
   parts.commands = new Commands(parts.control.form, *parts.faces, *this);
-  parts.faces->onStateShown = [this, others = std::move(parts.faces->onStateShown)](Face& face) {
-    if (others) others(face);
-    showStates();
-  };
+  parts.faces->onStateShown.add([this](Face&) { showStates(); });
   parts.faces->onChange = [this](const Change&) { showStates(); };
   parts.control.form.onDocumentKept = [this] { keepContent(); };
 

@@ -6,6 +6,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "platform/observers.h"
+
 namespace awizo {
 
 class Form;
@@ -113,8 +115,8 @@ class Control {
   const Control* cover = nullptr;
   bool covered() const { return cover != nullptr && cover->visible(); }
 
-  /// Called after every change of the model. At most one; a host sets it.
-  std::function<void(const Change&)> observer;
+  /// Told after every change of the model.
+  Observers<const Change&> observers;
 
   void raise(const Event& event);
 
@@ -133,7 +135,7 @@ class Control {
   bool takeUserKey(std::int16_t code, bool shift);
 
   void changed(Aspect aspect, int row = -1, int column = -1) {
-    if (observer) observer({aspect, row, column});
+    observers.tell({aspect, row, column});
   }
 
  private:

@@ -62,9 +62,8 @@ class Form {
   Button* acceptButton = nullptr;
   Button* closeButton = nullptr;
 
-  /// Told when caption (content), enabled, shown (visible) or focus change. At most one; a host
-  /// sets it.
-  std::function<void(const Change&)> observer;
+  /// Told when caption (content), enabled, shown (visible) or focus change.
+  Observers<const Change&> observers;
 
   /// Runs an event procedure, if there is one, as Screen::runEvent does.
   void raise(const Event& event);
@@ -83,9 +82,7 @@ class Form {
   bool pressKey(const Control& control, std::int16_t code, bool shift);
   void tabFrom(const Control& control, bool backwards);
   void activate();
-  void changed(Aspect aspect) {
-    if (observer) observer({aspect});
-  }
+  void changed(Aspect aspect) { observers.tell({aspect}); }
 
   Screen& screen_;
   std::string name_;

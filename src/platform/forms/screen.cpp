@@ -3,26 +3,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/at_exit.h"
 #include "platform/forms/form.h"
 #include "platform/forms/report_errors.h"
 
 namespace awizo {
-namespace {
-
-/// Undoes on leaving a block, by an error too, what the block began with.
-template <class Undo>
-class AtExit {
- public:
-  explicit AtExit(Undo undo) : undo_(std::move(undo)) {}
-  ~AtExit() { undo_(); }
-  AtExit(const AtExit&) = delete;
-  AtExit& operator=(const AtExit&) = delete;
-
- private:
-  Undo undo_;
-};
-
-}  // namespace
 
 Answer Screen::messageBox(MessageBox box) {
   if (box.title.empty()) box.title = programTitle;

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <functional>
+#include <list>
+#include <utility>
+
+#include "platform/at_exit.h"
+
+namespace awizo {
+
+/// Who hears of something, in the order in which they were added. While it hears, an observer may
+/// remove itself or others, who then hear nothing more; one added meanwhile hears the next time.
+template <class News>
+class Observers {
+ public:
+  using Observer = std::function<void(News)>;
+
+  /// Returns the number by which the observer is removed.
+  int add(Observer observer) {
+    entries_.push_back({++lastNumber_, std::move(observer)});
+    return lastNumber_;
+  }
+
+  void remove(int number) {
+    for (Entry& entry : entries_) {
+      if (entry.number == number) entry.number = removed;
+    }
+    if (calls_ == 0) dropRemoved();
+  }
+
+  void tell(News news) {
+    if (entries_.empty()) return;
+    const int newest = lastNumber_;
+    ++calls_;
+    const AtExit end([this] {
+      if (--calls_ == 0) dropRemoved();
+    });
+    for (const Entry& entry : entries_) {
+      if (entry.number != removed && entry.number <= newest) entry.observer(news);
+    }
+  }
+
+ private:
+  static constexpr int removed = 0;
+  struct Entry {
+    int number;
+    Observer observer;
+  };
+
+  // A procedure that runs must stay where it is, so nothing is erased before all have returned.
+  void dropRemoved() {
+    std::erase_if(entries_, [](const Entry& entry) { return entry.number == removed; });
+  }
+
+  std::list<Entry> entries_;
+  int lastNumber_ = 0;
+  int calls_ = 0;
+};
+
+}  // namespace awizo
