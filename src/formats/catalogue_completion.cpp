@@ -54,8 +54,8 @@ void completeOrder(XmlDocument& catalogue, XmlDocument& order) {
 
 }  // namespace
 
-XmlDocument* ProductCatalogToOrder(Editor& editor, XmlDocument& catalogue, XmlDocument& order) {
-  const bool completed = reportErrors(editor.screen(), "Произошла ошибка в ProductCatalogToOrder",
+XmlDocument* ProductCatalogToOrder(Work& work, XmlDocument& catalogue, XmlDocument& order) {
+  const bool completed = reportErrors(work.screen(), "Произошла ошибка в ProductCatalogToOrder",
                                       [&] { completeOrder(catalogue, order); });
   return completed ? &order : nullptr;
 }

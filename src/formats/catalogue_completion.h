@@ -25,7 +25,7 @@ struct CopiedValue {
 /// Completes the lines of an order, in place, by what the product catalogue says of their EANs,
 /// compared as numbers; of several catalogue lines the first counts. Returns the order, or none
 /// after an error, which a box has shown; what was completed before stays.
-XmlDocument* ProductCatalogToOrder(Editor& editor, XmlDocument& catalogue, XmlDocument& order);
+XmlDocument* ProductCatalogToOrder(Work& work, XmlDocument& catalogue, XmlDocument& order);
 
 /// Copies one value of a catalogue line into the line `lines[index]` of the order. `orderLine` is
 /// where the order's present value is read: the same line, or a copy of it.

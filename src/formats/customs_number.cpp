@@ -33,10 +33,10 @@ bool hasDigits(const Conversions& conversions, std::string_view field, std::size
 
 }  // namespace
 
-CustomsNumberFields SplitCDN(Editor& editor, std::string_view cdn) {
+CustomsNumberFields SplitCDN(Work& work, std::string_view cdn) {
   std::vector<std::string> pieces = split(cdn, "/");
   if (pieces.empty()) pieces.emplace_back();
-  DebugLog& log = editor.session.log;
+  DebugLog& log = work.session.log;
   log.WriteDebugLine("SplitCDN: cdn=" + std::string(cdn));
   log.WriteDebugLine("SplitCDN: count=" + std::to_string(pieces.size() - 1));
   switch (pieces.size()) {
@@ -45,7 +45,7 @@ CustomsNumberFields SplitCDN(Editor& editor, std::string_view cdn) {
     case 3:
       return {pieces[0], pieces[1], pieces[2], ""};
     default:
-      return {"", FormatCDNDate(editor, editor.platform.clock.today()), "", ""};
+      return {"", FormatCDNDate(work, work.platform.clock.today()), "", ""};
   }
 }
 
@@ -58,11 +58,11 @@ std::string JoinCDN(std::string_view field1, std::string_view field2, std::strin
   return cdn;
 }
 
-std::string FormatCDNDate(Editor& editor, Date date) {
+std::string FormatCDNDate(Work& work, Date date) {
   const auto year = static_cast<unsigned>(static_cast<int>(date.year()));
   const std::string text = twoDigits(static_cast<unsigned>(date.day())) +
                            twoDigits(static_cast<unsigned>(date.month())) + twoDigits(year % 100);
-  editor.session.log.WriteDebugLine("FormatCDNDate: " + text);
+  work.session.log.WriteDebugLine("FormatCDNDate: " + text);
   return text;
 }
 
@@ -79,10 +79,10 @@ std::string PadCDNPart(const Conversions& conversions, std::string_view text, in
   return onPaper ? std::string(paperLetter) + digits : digits;
 }
 
-std::string faultyCustomsNumberField(Editor& editor, std::string_view cdn) {
-  const CustomsNumberFields fields = SplitCDN(editor, cdn);
+std::string faultyCustomsNumberField(Work& work, std::string_view cdn) {
+  const CustomsNumberFields fields = SplitCDN(work, cdn);
   if (fields[0].empty() && fields[2].empty()) return "";
-  const Conversions& conversions = editor.conversions;
+  const Conversions& conversions = work.conversions;
   if (!hasDigits(conversions, fields[0], 8)) return "CustomsDeclarationNumber_1";
   if (!conversions.isNumeric(fields[1]) || countCharacters(fields[1]) != 6) {
     return "CustomsDeclarationNumber_2";

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "platform/date.h"
-#include "session/record/editor.h"
+#include "session/record/work.h"
 
 namespace awizo {
 
@@ -17,7 +17,7 @@ using CustomsNumberFields = std::array<std::string, 4>;
 
 /// The four fields of a composite. One without field 4 has it empty; a text that isn't three or
 /// four pieces gives empty fields and today as field 2.
-CustomsNumberFields SplitCDN(Editor& editor, std::string_view cdn);
+CustomsNumberFields SplitCDN(Work& work, std::string_view cdn);
 
 /// The composite of the four fields; the empty text where fields 1 and 3 are both empty. A blank
 /// field 4 is left out. Tests nothing.
@@ -25,7 +25,7 @@ std::string JoinCDN(std::string_view field1, std::string_view field2, std::strin
                     std::string_view field4);
 
 /// "ddmmyy".
-std::string FormatCDNDate(Editor& editor, Date date);
+std::string FormatCDNDate(Work& work, Date date);
 
 /// The numeric test of fields 1 and 3. The letter "П" is tolerated anywhere.
 bool IsCDNPartNumeric(const Conversions& conversions, std::string_view text);
@@ -36,6 +36,6 @@ std::string PadCDNPart(const Conversions& conversions, std::string_view text, in
 
 /// The first field of the composite that has a wrong form, as "CustomsDeclarationNumber_1" to
 /// "CustomsDeclarationNumber_4"; the empty text where all are right or there is no number at all.
-std::string faultyCustomsNumberField(Editor& editor, std::string_view cdn);
+std::string faultyCustomsNumberField(Work& work, std::string_view cdn);
 
 }  // namespace awizo

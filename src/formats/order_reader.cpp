@@ -17,11 +17,11 @@ std::string headerValue(const XmlNode& order, std::string_view path, Missing mis
 }
 
 /// The day when the buyer expects the goods; today where the order doesn't tell.
-Date deliveryDate(const Editor& editor, const std::string& text) {
-  const Conversions& conversions = editor.conversions;
+Date deliveryDate(const Work& work, const std::string& text) {
+  const Conversions& conversions = work.conversions;
   const bool isMissing =
       text.empty() || (conversions.isNumeric(text) && conversions.toDouble(text) == -1);
-  return isMissing ? editor.platform.clock.today() : conversions.toDate(text);
+  return isMissing ? work.platform.clock.today() : conversions.toDate(text);
 }
 
 void readHeader(Editor& editor, const XmlNode& order) {

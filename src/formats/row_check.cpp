@@ -17,8 +17,8 @@ bool fails(Editor& editor, std::string_view columnName) {
 }
 
 /// A cell of the table that may stay empty.
-bool isEmptyOrNumber(const Editor& editor, const std::string& text) {
-  return text.empty() || editor.conversions.isNumeric(text);
+bool isEmptyOrNumber(const Work& work, const std::string& text) {
+  return text.empty() || work.conversions.isNumeric(text);
 }
 
 }  // namespace

@@ -57,11 +57,11 @@ void CheckAllPacked(Editor& editor) {
 }
 
 // The words speak of sending when a document is saved too: it is meant to be sent.
-bool wantsPartlyPacked(Editor& editor) {
+bool wantsPartlyPacked(Work& work) {
   const Answer answer =
-      editor.screen().messageBox({"Отгруженный товар упакован не полностью.\r\n"
-                                  "Вы уверены, что хотите отправить документ в таком виде?",
-                                  "VIRD", BoxIcon::none, BoxButtons::yesNo});
+      work.screen().messageBox({"Отгруженный товар упакован не полностью.\r\n"
+                                "Вы уверены, что хотите отправить документ в таком виде?",
+                                "VIRD", BoxIcon::none, BoxButtons::yesNo});
   return answer == Answer::yes;
 }
 

@@ -10,7 +10,7 @@ namespace awizo {
 void CheckAllPacked(Editor& editor);
 
 /// Asks whether a document that is packed only in part shall go out all the same.
-bool wantsPartlyPacked(Editor& editor);
+bool wantsPartlyPacked(Work& work);
 
 /// Saves the document to a file that the user names. An error shows a box; an old file of that
 /// name is then as it was.

@@ -11,21 +11,21 @@ namespace {
 constexpr std::string_view errorLogText = "Bі№d w SendXMLDOMRequest():";
 constexpr std::string_view errorTitle = "Bі№d w SendXMLDOMRequest()!";
 
-void reportStep(Editor& editor, const RunTimeError& error) {
-  DebugLog& log = editor.session.log;
+void reportStep(Work& work, const RunTimeError& error) {
+  DebugLog& log = work.session.log;
   if (log.writes(2)) log.WriteDebugLine(joined({errorLogText, error.description()}), 2);
-  editor.screen().showCritical(error.description(), errorTitle);
+  work.screen().showCritical(error.description(), errorTitle);
 }
 
 /// Runs one step. An error in it is told to the user, and the exchange goes on with the next step.
 template <class Step>
-void resumeNext(Editor& editor, Step&& step) {
+void resumeNext(Work& work, Step&& step) {
   try {
     step();
   } catch (const RunTimeError& error) {
-    reportStep(editor, error);
+    reportStep(work, error);
   } catch (const std::bad_alloc&) {
-    reportStep(editor, errors::outOfMemory());
+    reportStep(work, errors::outOfMemory());
   }
 }
 
@@ -35,14 +35,14 @@ HttpRequest& made(const std::unique_ptr<HttpRequest>& request) {
 }
 
 /// The reply's text; empty where it can't be read. A reply can be large, so nothing else holds it.
-std::string exchangeTexts(Editor& editor, std::string_view url, XmlDocument& request) {
+std::string exchangeTexts(Work& work, std::string_view url, XmlDocument& request) {
   std::unique_ptr<HttpRequest> http;
   std::string reply;
-  resumeNext(editor, [&] { http = editor.platform.http.createRequest(); });
-  resumeNext(editor, [&] { made(http).open("POST", url); });
-  resumeNext(editor, [&] { made(http).setHeader("Cookie", editor.session.SessionCookie); });
-  resumeNext(editor, [&] { made(http).send(request.node().xml()); });
-  resumeNext(editor, [&] { reply = made(http).responseText(); });
+  resumeNext(work, [&] { http = work.platform.http.createRequest(); });
+  resumeNext(work, [&] { made(http).open("POST", url); });
+  resumeNext(work, [&] { made(http).setHeader("Cookie", work.session.SessionCookie); });
+  resumeNext(work, [&] { made(http).send(request.node().xml()); });
+  resumeNext(work, [&] { reply = made(http).responseText(); });
   return reply;
 }
 
@@ -59,23 +59,23 @@ std::string GetNodeValue(const XmlNode& node, std::string_view xpath, bool blank
   return blankOnMissing ? "" : "-1";
 }
 
-std::unique_ptr<XmlDocument> SendXMLDOMRequest(Editor& editor, std::string_view url,
+std::unique_ptr<XmlDocument> SendXMLDOMRequest(Work& work, std::string_view url,
                                                XmlDocument& request) {
-  DebugLog& log = editor.session.log;
+  DebugLog& log = work.session.log;
   // Messages are made only for a log that takes them: a reply can be many megabytes.
   if (log.writes(4)) {
-    const std::string message = joined({"Request: ", url, " ", editor.session.SessionCookie});
-    resumeNext(editor, [&] { log.WriteDebugXml(message, request.node(), 4); });
+    const std::string message = joined({"Request: ", url, " ", work.session.SessionCookie});
+    resumeNext(work, [&] { log.WriteDebugXml(message, request.node(), 4); });
   }
 
   std::unique_ptr<XmlDocument> response;
   {
-    const std::string reply = exchangeTexts(editor, url, request);
+    const std::string reply = exchangeTexts(work, url, request);
     if (log.writes(4)) {
-      resumeNext(editor, [&] { log.WriteDebugLine(joined({"Response: ", reply}), 4); });
+      resumeNext(work, [&] { log.WriteDebugLine(joined({"Response: ", reply}), 4); });
     }
-    resumeNext(editor, [&] {
-      response = editor.platform.xml.createDocument();
+    resumeNext(work, [&] {
+      response = work.platform.xml.createDocument();
       response->loadText(reply);
     });
   }

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "platform/xml.h"
-#include "session/record/editor.h"
+#include "session/record/work.h"
 
 namespace awizo {
 
@@ -17,7 +17,7 @@ std::string GetNodeValue(const XmlNode& node, std::string_view xpath, bool blank
 /// Posts the document to the service under the session's cookie and returns the reply, parsed. An
 /// empty document means that no reply could be parsed; an HTTP status is not looked at. Each step
 /// that fails shows a critical box, and the next step runs all the same. Raises nothing.
-std::unique_ptr<XmlDocument> SendXMLDOMRequest(Editor& editor, std::string_view url,
+std::unique_ptr<XmlDocument> SendXMLDOMRequest(Work& work, std::string_view url,
                                                XmlDocument& request);
 
 }  // namespace awizo

@@ -27,11 +27,11 @@ void readSeller(SessionState& session) {
 }
 
 /// Whether the partner's file tells who the partner is.
-bool readPartner(Editor& editor) {
-  SessionState& session = editor.session;
+bool readPartner(Work& work) {
+  SessionState& session = work.session;
   const std::string path =
       partnerInfoFile(session.OffLinePathValue, session.SellerILN, session.BuyerILN);
-  session.PartnerInfoLoaded = loadFile(editor.platform.files, *session.PartnerInfoDom, path);
+  session.PartnerInfoLoaded = loadFile(work.platform.files, *session.PartnerInfoDom, path);
   if (!session.PartnerInfoLoaded) return false;
   const XmlNode info = session.PartnerInfoDom->root().selectSingle(identityPath);
   if (!info) return false;

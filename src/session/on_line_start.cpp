@@ -79,11 +79,11 @@ void fetchProductCatalogue(Editor& editor, std::string_view base) {
   }
 }
 
-void fetchLocalizations(Editor& editor, std::string_view base) {
-  SessionState& session = editor.session;
+void fetchLocalizations(Work& work, std::string_view base) {
+  SessionState& session = work.session;
   session.LocalizationsLoaded = false;
-  const auto request = localizationCatalogueRequest(editor.platform.xml, session.BuyerILN);
-  auto reply = SendXMLDOMRequest(editor, localizationCatalogueUrl(base), *request);
+  const auto request = localizationCatalogueRequest(work.platform.xml, session.BuyerILN);
+  auto reply = SendXMLDOMRequest(work, localizationCatalogueUrl(base), *request);
   if (GetNodeValue(nodeOf(reply), localizationStatusPath, true) != "CHANGED") return;
   session.LocalizationsDom = std::move(reply);
   session.LocalizationsLoaded = true;

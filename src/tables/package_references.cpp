@@ -33,8 +33,8 @@ const std::string& serialOf(const std::vector<std::string>& fields) {
   return fields.front();
 }
 
-void logReferences(Editor& editor, std::string_view what, std::string_view text) {
-  DebugLog& log = editor.session.log;
+void logReferences(Work& work, std::string_view what, std::string_view text) {
+  DebugLog& log = work.session.log;
   if (log.writes(4)) log.WriteDebugLine(std::string(what).append(text), 4);
 }
 
@@ -91,16 +91,16 @@ std::string keptReferences(std::string_view text, const Contains& isDeleted) {
 }
 
 template <class Contains>
-std::string removeReferences(Editor& editor, std::string_view text, const Contains& isDeleted) {
+std::string removeReferences(Work& work, std::string_view text, const Contains& isDeleted) {
   std::string result;
-  const bool done = reportErrors(editor.screen(), "Произошла ошибка в RemoveOldPackRef", [&] {
-    logReferences(editor, "RemoveOldPackRef - INPUT: ", text);
+  const bool done = reportErrors(work.screen(), "Произошла ошибка в RemoveOldPackRef", [&] {
+    logReferences(work, "RemoveOldPackRef - INPUT: ", text);
     result = keptReferences(text, isDeleted);
     if (result.starts_with(referenceSeparator)) {
-      logReferences(editor, "RemoveOldPackRef - separator z przodu: ", result);
+      logReferences(work, "RemoveOldPackRef - separator z przodu: ", result);
       result.erase(0, referenceSeparator.size());
     }
-    logReferences(editor, "RemoveOldPackRef - OUTPUT: ", result);
+    logReferences(work, "RemoveOldPackRef - OUTPUT: ", result);
   });
   return done ? result : "";
 }
@@ -172,30 +172,30 @@ void StringToGrid(Table& table, std::string_view text) {
   }
 }
 
-std::string RemoveOldPackRef(Editor& editor, std::string_view text,
+std::string RemoveOldPackRef(Work& work, std::string_view text,
                              const std::vector<std::string>& delSerials) {
-  return removeReferences(editor, text, [&](const std::string& serial) {
+  return removeReferences(work, text, [&](const std::string& serial) {
     return std::find(delSerials.begin(), delSerials.end(), serial) != delSerials.end();
   });
 }
 
-std::string RemoveOldPackRef(Editor& editor, std::string_view text, const SerialSet& delSerials) {
-  return removeReferences(editor, text,
+std::string RemoveOldPackRef(Work& work, std::string_view text, const SerialSet& delSerials) {
+  return removeReferences(work, text,
                           [&](const std::string& serial) { return delSerials.contains(serial); });
 }
 
-std::string GetPackedQuantity(Editor& editor, std::string_view text) {
+std::string GetPackedQuantity(Work& work, std::string_view text) {
   std::string result;
-  reportErrors(editor.screen(), "Произошла ошибка в GetPackedQuantity", [&] {
-    const Conversions& conversions = editor.conversions;
-    logReferences(editor, "GetPackedQuantity - INPUT: ", text);
+  reportErrors(work.screen(), "Произошла ошибка в GetPackedQuantity", [&] {
+    const Conversions& conversions = work.conversions;
+    logReferences(work, "GetPackedQuantity - INPUT: ", text);
     double total = 0;
     for (const std::string& reference : referencesOf(text)) {
       const std::vector<std::string> fields = fieldsOf(reference);
       if (fields.size() > quantityField) total += conversions.toDouble(fields[quantityField]);
     }
     const std::string plain = conversions.plainNumber(total);
-    logReferences(editor, "GetPackedQuantity - OUTPUT: ", plain);
+    logReferences(work, "GetPackedQuantity - OUTPUT: ", plain);
     result = conversions.NormalizeDecimal(std::string(plain), 3);
   });
   return result;

@@ -5,7 +5,8 @@
 #include <unordered_set>
 #include <vector>
 
-#include "session/record/editor.h"
+#include "platform/forms/table.h"
+#include "session/record/work.h"
 
 namespace awizo {
 
@@ -37,14 +38,14 @@ class SerialSet {
 };
 
 /// The string without the references of these serials. An error is shown and gives the empty text.
-std::string RemoveOldPackRef(Editor& editor, std::string_view text,
+std::string RemoveOldPackRef(Work& work, std::string_view text,
                              const std::vector<std::string>& delSerials);
 /// The same, for a caller that goes over many lines.
-std::string RemoveOldPackRef(Editor& editor, std::string_view text, const SerialSet& delSerials);
+std::string RemoveOldPackRef(Work& work, std::string_view text, const SerialSet& delSerials);
 
 /// Sum of the quantities as a screen number with 3 decimals; a reference of less than four fields
 /// has none. An error, such as a quantity that is no number, is shown and gives the empty text.
-std::string GetPackedQuantity(Editor& editor, std::string_view text);
+std::string GetPackedQuantity(Work& work, std::string_view text);
 
 /// One Package-Reference element for each reference, with PackageId and, for a reference of four
 /// fields, Quantity with a point. The empty text where a reference has no field.

@@ -9,10 +9,10 @@ namespace awizo {
 namespace {
 
 /// Number in the column of the current row, 0 for an empty cell. The cell becomes the current one.
-double numberOfCurrentRow(const Editor& editor, Table& lines, int column) {
+double numberOfCurrentRow(const Work& work, Table& lines, int column) {
   lines.setColumn(column);
   const std::string& text = lines.text();
-  return text.empty() ? 0 : editor.conversions.toDouble(text);
+  return text.empty() ? 0 : work.conversions.toDouble(text);
 }
 
 }  // namespace

@@ -21,12 +21,12 @@ namespace {
 
 bool usable(std::string_view text) { return !text.empty() && text != "-1"; }
 
-void showPlain(Editor& editor, std::string_view text) {
-  editor.screen().messageBox({std::string(text), ""});
+void showPlain(Work& work, std::string_view text) {
+  work.screen().messageBox({std::string(text), ""});
 }
 
-ReadingResult refuse(Editor& editor, std::string_view text, ReadingOutcome why) {
-  editor.screen().showExclamation(text, "VIRD");
+ReadingResult refuse(Work& work, std::string_view text, ReadingOutcome why) {
+  work.screen().showExclamation(text, "VIRD");
   return {why, {}, ""};
 }
 
@@ -267,13 +267,13 @@ void btnWczytaj_Click(Editor& editor, DlgWczytajZapisz& dialog) {
   editor.form.setEnabled(true);
 }
 
-bool LoadDocument(Editor& editor, XmlDocument& document, std::string_view path) {
+bool LoadDocument(Work& work, XmlDocument& document, std::string_view path) {
   bool loaded = false;
-  reportErrors(editor.screen(), "Произошла ошибка вLoadDocument()", [&] {
-    Files& files = editor.platform.files;
+  reportErrors(work.screen(), "Произошла ошибка вLoadDocument()", [&] {
+    Files& files = work.platform.files;
     loaded = loadFile(files, document, path);
     if (loaded) return;
-    const std::string text = editor.platform.locale.fromSingleByte(files.readAll(path));
+    const std::string text = work.platform.locale.fromSingleByte(files.readAll(path));
     loaded = document.loadText("<?xml version=\"1.0\" encoding=\"UTF-8\"?>" + text);
   });
   return loaded;

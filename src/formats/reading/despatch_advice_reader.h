@@ -35,7 +35,7 @@ ReadingResult readDespatchAdvice(Editor& editor, XmlDocument& document, std::str
 
 /// Loads a file by its classic path; one that doesn't parse is read again as text in the machine's
 /// single-byte encoding under a declaration of UTF-8. Answers whether the document parsed.
-bool LoadDocument(Editor& editor, XmlDocument& document, std::string_view path);
+bool LoadDocument(Work& work, XmlDocument& document, std::string_view path);
 
 /// Whether the document is a despatch advice.
 bool IsDespatchAdvice(XmlDocument& document);

@@ -26,11 +26,11 @@ constexpr LineSources sources = [] {
   return all;
 }();
 
-std::string sourceText(Editor& editor, const XmlNode& line, const LineSource& source) {
+std::string sourceText(Work& work, const XmlNode& line, const LineSource& source) {
   if (source.path.empty()) return {};
   std::string text = GetNodeValue(line, source.path, true);
   if (source.decimals == asItStands || text.empty()) return text;
-  return editor.conversions.NormalizeDecimal(std::move(text), source.decimals);
+  return work.conversions.NormalizeDecimal(std::move(text), source.decimals);
 }
 
 std::string cellText(Editor& editor, const XmlNode& line, const Row& row, int column) {
@@ -59,10 +59,10 @@ void readDespatchLine(Editor& editor, const XmlNode& line, std::int16_t row) {
   }
 }
 
-std::string ReadLinePackRefs(const Editor& editor, const XmlNode& line) {
+std::string ReadLinePackRefs(const Work& work, const XmlNode& line) {
   try {
     const XmlNode found = line.selectSingle("Package-Identification");
-    return found ? PackageRefsFromXml(editor.platform.xml, found.xml()) : std::string();
+    return found ? PackageRefsFromXml(work.platform.xml, found.xml()) : std::string();
   } catch (const RunTimeError&) {
     return {};
   }

@@ -16,6 +16,6 @@ const LineSources& despatchLineSources();
 
 /// The reference string of a line that was read. The references are looked for where the writer
 /// doesn't put them, so it is empty for our own documents.
-std::string ReadLinePackRefs(const Editor& editor, const XmlNode& line);
+std::string ReadLinePackRefs(const Work& work, const XmlNode& line);
 
 }  // namespace awizo

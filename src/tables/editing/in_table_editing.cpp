@@ -96,9 +96,9 @@ std::string ClampQuantity(Editor& editor, std::string_view text) {
   return conversions.NormalizeDecimal(std::move(quantity), 3);
 }
 
-bool CheckNumber(Editor& editor, std::string_view text) {
-  if (editor.conversions.isNumeric(text)) return true;
-  editor.screen().showExclamation("Неправильная нумерическая величина.", "VIRD");
+bool CheckNumber(Work& work, std::string_view text) {
+  if (work.conversions.isNumeric(text)) return true;
+  work.screen().showExclamation("Неправильная нумерическая величина.", "VIRD");
   return false;
 }
 

@@ -20,7 +20,7 @@ void EditKeyCode(Editor& editor, Table& grid, TextField& edit, std::int16_t KeyC
 /// decimals; the empty text for a text that is no number.
 std::string ClampQuantity(Editor& editor, std::string_view text);
 /// Whether the text is a number; warns if it isn't.
-bool CheckNumber(Editor& editor, std::string_view text);
+bool CheckNumber(Work& work, std::string_view text);
 
 // Events of the tables. The leave-cell handlers also serve to close an edit that is still open.
 void grdPozycje_LeaveCell(Editor& editor);
