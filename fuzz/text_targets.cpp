@@ -56,10 +56,8 @@ void checkNumber(const Conversions& conversions, std::string_view text) {
   const std::string plain = conversions.plainNumber(value);
   require(conversions.plainNumber(conversions.toDouble(plain)) == plain,
           "a plain number is read as what it was written from");
-  std::string screen(text);
-  const std::string normal = conversions.NormalizeDecimal(screen, 2);
-  require(conversions.NormalizeDecimal(std::string(normal), 2) == normal,
-          "a normal number stays as it is");
+  const std::string normal = conversions.NormalizeDecimal(text, 2);
+  require(conversions.NormalizeDecimal(normal, 2) == normal, "a normal number stays as it is");
 }
 
 template <class Read>

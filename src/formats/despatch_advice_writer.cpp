@@ -181,8 +181,7 @@ DesAdvLineValues DesAdvMaker::line(std::int16_t row) const {
 }
 
 std::string DesAdvMaker::total(int column) const {
-  std::string text = totalsRow(editor_).cell(column);
-  return editor_.conversions.FormatForXml(text, 2);
+  return editor_.conversions.FormatForXml(totalsRow(editor_).cell(column), 2);
 }
 
 }  // namespace

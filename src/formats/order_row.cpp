@@ -39,7 +39,7 @@ std::string readValue(const Editor& editor, const XmlNode& line, const LineSourc
 }
 
 /// The amount that the order states, else the price of what is despatched.
-std::string netAmount(const Conversions& conversions, const Row& row, std::string&& stated) {
+std::string netAmount(const Conversions& conversions, const Row& row, std::string stated) {
   if (stated.empty()) {
     stated = conversions.MultiplyToAmount(Conversions::CommaToDot(row.cell(GRD_POZ_QTY_DESPATCHED)),
                                           Conversions::CommaToDot(row.cell(GRD_POZ_PRICE)));

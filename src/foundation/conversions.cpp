@@ -43,34 +43,38 @@ std::string Conversions::FormatFixed(std::string_view text, int decimals) const 
   return fixedText(*number, decimals, facts.decimalSeparator);
 }
 
-std::string Conversions::NormalizeDecimal(std::string& text, int decimals) const {
-  text = replaceAll(text, ",", decimalSeparator_);
-  text = replaceAll(text, ".", decimalSeparator_);
-  return FormatFixed(text, decimals);
+std::string Conversions::withLocalSeparator(std::string_view text) const {
+  std::string local;
+  local.reserve(text.size());
+  for (const char c : text) {
+    if (c == ',' || c == '.') {
+      local += decimalSeparator_;
+    } else {
+      local += c;
+    }
+  }
+  return local;
 }
 
-std::string Conversions::NormalizeDecimal(std::string&& text, int decimals) const {
-  return NormalizeDecimal(text, decimals);
+std::string Conversions::NormalizeDecimal(std::string_view text, int decimals) const {
+  return FormatFixed(withLocalSeparator(text), decimals);
 }
 
-std::string Conversions::FormatForXml(std::string& text, int decimals) const {
-  text = FormatFixed(text, decimals);
-  if (text.empty()) text = "-1";
-  return replaceAll(text, decimalSeparator_, ".");
+std::string Conversions::FormatForXml(std::string_view text, int decimals) const {
+  const std::string fixed = FormatFixed(text, decimals);
+  return fixed.empty() ? "-1" : replaceAll(fixed, decimalSeparator_, ".");
 }
 
-double Conversions::MyDouble(std::string& text) const {
+double Conversions::MyDouble(std::string_view text) const {
   const std::optional<DecimalNumber> number =
       readNumber(NormalizeDecimal(text, 3), locale_.facts());
   return number ? toFloating(*number) : 0;
 }
 
-double Conversions::MyDouble(std::string&& text) const { return MyDouble(text); }
-
 std::string Conversions::MultiplyToAmount(std::string_view quantity, std::string_view price) const {
   try {
-    const double a = toDouble(NormalizeDecimal(std::string(quantity), 3));
-    const double b = toDouble(NormalizeDecimal(std::string(price), 2));
+    const double a = toDouble(NormalizeDecimal(quantity, 3));
+    const double b = toDouble(NormalizeDecimal(price, 2));
     return CommaToDot(FormatFixed(plainNumber(a * b), 2));
   } catch (const RunTimeError&) {
     return "";

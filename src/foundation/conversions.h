@@ -28,16 +28,14 @@ class Conversions {
   /// digits. The empty text and a text that is no number come back as they are. Error 5 for fewer
   /// than no decimals.
   std::string FormatFixed(std::string_view text, int decimals) const;
-  /// Commas and points of the caller's text become the locale's separator, then FormatFixed.
-  std::string NormalizeDecimal(std::string& text, int decimals) const;
-  std::string NormalizeDecimal(std::string&& text, int decimals) const;
-  /// The caller's text becomes FormatFixed of itself, or "-1" if that is empty; the result is the
-  /// same with a point.
-  std::string FormatForXml(std::string& text, int decimals) const;
-  /// The number rounded to three decimals; 0 where the text is none. Changes the caller's text as
-  /// NormalizeDecimal does.
-  double MyDouble(std::string& text) const;
-  double MyDouble(std::string&& text) const;
+  /// The text with every comma and point replaced by the locale's separator.
+  std::string withLocalSeparator(std::string_view text) const;
+  /// FormatFixed of withLocalSeparator.
+  std::string NormalizeDecimal(std::string_view text, int decimals) const;
+  /// FormatFixed with a point for the separator; "-1" where that is empty.
+  std::string FormatForXml(std::string_view text, int decimals) const;
+  /// The number rounded to three decimals, with either separator; 0 where the text is none.
+  double MyDouble(std::string_view text) const;
   /// Quantity (rounded to 3 decimals) times price (rounded to 2), as XML number with 2 decimals;
   /// the empty text where either is no number.
   std::string MultiplyToAmount(std::string_view quantity, std::string_view price) const;

@@ -196,7 +196,7 @@ std::string GetPackedQuantity(Work& work, std::string_view text) {
     }
     const std::string plain = conversions.plainNumber(total);
     logReferences(work, "GetPackedQuantity - OUTPUT: ", plain);
-    result = conversions.NormalizeDecimal(std::string(plain), 3);
+    result = conversions.NormalizeDecimal(plain, 3);
   });
   return result;
 }

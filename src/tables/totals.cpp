@@ -1,5 +1,6 @@
 #include "tables/totals.h"
 
+#include "foundation/conversions_in_place.h"
 #include "platform/forms/report_errors.h"
 #include "tables/clear_tables.h"
 #include "tables/columns/columns.h"
@@ -57,8 +58,8 @@ std::string MyCalculateWeight(Editor& editor) {
 double MyCalculatePartWeight(Editor& editor, std::string& quantity, std::string& weight) {
   const Conversions& conversions = editor.conversions;
   try {
-    const double q = conversions.toDouble(conversions.NormalizeDecimal(quantity, 3));
-    const double w = conversions.toDouble(conversions.NormalizeDecimal(weight, 2));
+    const double q = conversions.toDouble(NormalizeDecimal(conversions, quantity, 3));
+    const double w = conversions.toDouble(NormalizeDecimal(conversions, weight, 2));
     if (w > 0) {
       return conversions.toDouble(conversions.NormalizeDecimal(conversions.plainNumber(q * w), 3));
     }

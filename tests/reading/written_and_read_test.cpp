@@ -42,7 +42,7 @@ struct SavedDocument : ReadingDesk {
   }
 
   std::string number(std::string_view text, int decimals) {
-    return editor.conversions.NormalizeDecimal(std::string(text), decimals);
+    return editor.conversions.NormalizeDecimal(text, decimals);
   }
 
   static constexpr const char* notPacked =

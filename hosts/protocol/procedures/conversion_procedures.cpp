@@ -1,3 +1,4 @@
+#include "foundation/conversions_in_place.h"
 #include "hosts/protocol/procedures/control_procedures.h"
 
 namespace awizo::protocol {
@@ -12,12 +13,12 @@ void addConversionProcedures(Procedures& procedures, Editor& editor) {
     return conversions.FormatFixed(text, decimals);
   });
   procedures.add("NormalizeDecimal", [&](std::string& text, std::int16_t decimals) {
-    return conversions.NormalizeDecimal(text, decimals);
+    return NormalizeDecimal(conversions, text, decimals);
   });
   procedures.add("FormatForXml", [&](std::string& text, std::int16_t decimals) {
-    return conversions.FormatForXml(text, decimals);
+    return FormatForXml(conversions, text, decimals);
   });
-  procedures.add("MyDouble", [&](std::string& text) { return conversions.MyDouble(text); });
+  procedures.add("MyDouble", [&](std::string& text) { return MyDouble(conversions, text); });
   procedures.add("MultiplyToAmount", [&](Text quantity, Text price) {
     return conversions.MultiplyToAmount(quantity, price);
   });

@@ -28,7 +28,7 @@ constexpr std::array<CheckedColumn, 5> checkedColumns{{
 constexpr int none = -1;
 
 /// More decimals than any number of a document has.
-std::string exactText(const Conversions& conversions, std::string text) {
+std::string exactText(const Conversions& conversions, std::string_view text) {
   return conversions.NormalizeDecimal(text, 15);
 }
 

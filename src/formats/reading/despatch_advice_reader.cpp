@@ -205,7 +205,7 @@ void takeTotals(Editor& editor, XmlDocument& document) {
   const auto take = [&](std::string_view path, int column) {
     const std::string total = GetNodeValue(document.node(), path, true);
     if (total.empty()) return;
-    totalsRow(editor).set(column, editor.conversions.NormalizeDecimal(std::string(total), 2));
+    totalsRow(editor).set(column, editor.conversions.NormalizeDecimal(total, 2));
   };
   take("/Document-DespatchAdvice/DespatchAdvice-Summary/TotalQuantity", GRD_SUMA_QTY_DESPATCHED);
   take("/Document-DespatchAdvice/DespatchAdvice-Summary/TotalAmount", GRD_SUMA_NET_AMOUNT);

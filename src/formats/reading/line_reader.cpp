@@ -30,7 +30,7 @@ std::string sourceText(Work& work, const XmlNode& line, const LineSource& source
   if (source.path.empty()) return {};
   std::string text = GetNodeValue(line, source.path, true);
   if (source.decimals == asItStands || text.empty()) return text;
-  return work.conversions.NormalizeDecimal(std::move(text), source.decimals);
+  return work.conversions.NormalizeDecimal(text, source.decimals);
 }
 
 std::string cellText(Editor& editor, const XmlNode& line, const Row& row, int column) {
@@ -42,7 +42,7 @@ std::string cellText(Editor& editor, const XmlNode& line, const Row& row, int co
     case GRD_POZ_PACK_REFS:
       return ReadLinePackRefs(editor, line);
     case GRD_POZ_PACKED_QTY:
-      return editor.conversions.NormalizeDecimal(std::string("0"), 3);
+      return editor.conversions.NormalizeDecimal("0", 3);
     default:
       return sourceText(editor, line, sources[static_cast<std::size_t>(column)]);
   }

@@ -38,7 +38,7 @@ void moveDown(Table& grid) {
 void tidyQuantity(Editor& editor) {
   TextField& edit = editor.form.txtEdycja;
   edit.setText(ClampQuantity(editor, edit.text()));
-  edit.setText(editor.conversions.NormalizeDecimal(std::string(edit.text()), 3));
+  edit.setText(editor.conversions.NormalizeDecimal(edit.text(), 3));
 }
 
 }  // namespace
@@ -86,14 +86,14 @@ void EditKeyCode(Editor& editor, Table& grid, TextField& edit, std::int16_t KeyC
 
 std::string ClampQuantity(Editor& editor, std::string_view text) {
   const Conversions& conversions = editor.conversions;
-  std::string quantity = conversions.NormalizeDecimal(std::string(text), 3);
-  if (!conversions.isNumeric(quantity)) return conversions.NormalizeDecimal(std::string(), 3);
+  std::string quantity = conversions.NormalizeDecimal(text, 3);
+  if (!conversions.isNumeric(quantity)) return conversions.NormalizeDecimal("", 3);
   if (conversions.toDouble(quantity) < 0) quantity = "0";
   const std::string& ordered = lineRow(editor, editor.session.EditRow).cell(GRD_POZ_QTY_ORDERED);
   double limit = conversions.isNumeric(ordered) ? conversions.toDouble(ordered) : 0;
   if (limit < 0) limit = 0;
   if (conversions.toDouble(quantity) > limit) quantity = conversions.plainNumber(limit);
-  return conversions.NormalizeDecimal(std::move(quantity), 3);
+  return conversions.NormalizeDecimal(quantity, 3);
 }
 
 bool CheckNumber(Work& work, std::string_view text) {

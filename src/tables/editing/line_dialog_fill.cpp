@@ -45,8 +45,7 @@ void emptyMembersAndDates(Editor& editor, DlgDodaj& dialog) {
   dialog.LineWeight.clear();
   dialog.LineFromOrder = editor.form.OrderAnswer;
   dialog.dpCDN2.setDate(today);
-  dialog.lblPackedQuantityValue.setCaption(
-      editor.conversions.NormalizeDecimal(std::string("0"), 3));
+  dialog.lblPackedQuantityValue.setCaption(editor.conversions.NormalizeDecimal("0", 3));
 }
 
 // Every row that is equal is selected in turn.
