@@ -10,6 +10,7 @@
 #include "adapters/memory/settings_in_memory.h"
 #include "hosts/common/given_host.h"
 #include "hosts/desktop/window/awizo_wysylki_widget.h"
+#include "session/record/off_line_path.h"
 
 int main(int argumentCount, char** arguments) {
   QApplication application(argumentCount, arguments);
@@ -21,10 +22,7 @@ int main(int argumentCount, char** arguments) {
   awizo::OptionsBag bag(options);
   awizo::OptionsPage page(options);
   awizo::SettingsInMemory settings;
-  if (argumentCount > 1) {
-    settings.write(awizo::settingApplication, awizo::settingSection, awizo::offLinePathKey,
-                   arguments[1]);
-  }
+  if (argumentCount > 1) awizo::keepOffLinePath(settings, arguments[1]);
 
   awizo::desktop::AwizoWysylkiWidget control({bag, page, settings, "ru_RU"});
   control.setWindowTitle(control.property("OnLine").toString() == "Off" ? "Без связи" : "На связи");

@@ -13,6 +13,7 @@
 #include "hosts/common/given_host.h"
 #include "hosts/common/program/machine.h"
 #include "hosts/version.h"
+#include "session/record/off_line_path.h"
 
 namespace awizo::headless {
 
@@ -57,8 +58,7 @@ std::vector<Finding> check(const Options& options) {
   const std::string& file = *options.checkedFile;
   const Surroundings around(options);
   const Platform& platform = around.platform;
-  const std::string folder =
-      platform.settings.read(settingApplication, settingSection, offLinePathKey, "");
+  const std::string folder = keptOffLinePath(platform.settings);
   const ReaderIdentity reader = readerIdentity(platform, folder, platform.bag.read("PartnerILN"));
   try {
     return checkDocument(platform, std::filesystem::absolute(file).string(), reader);

@@ -4,6 +4,7 @@
 #include "hosts/protocol/control_members.h"
 #include "hosts/protocol/procedures/control_procedures.h"
 #include "hosts/protocol/session_json.h"
+#include "session/record/off_line_path.h"
 
 namespace awizo::protocol {
 
@@ -43,8 +44,7 @@ void ControlAccess::addRecords(const OptionsBag& bag) {
   records["cursor"] = [this] { return cursorName(screen_.cursor()); };
   records["bag"] = [&bag] { return Json(bag.written()); };
   records["settings"] = [this] {
-    return Json{{"OffLinePath", control_.editor.platform.settings.read(
-                                    settingApplication, settingSection, offLinePathKey, "")}};
+    return Json{{"OffLinePath", keptOffLinePath(control_.editor.platform.settings)}};
   };
 }
 

@@ -86,12 +86,12 @@ void CompleteFromLocalizationCatalog(Editor& editor, std::string_view iln) {
     return;
   }
   DebugLog& log = editor.session.log;
-  log.WriteDebugLine("CompleteFromLocalizationCatalog start przetwarzania slownika lokalizacji");
+  log.trace("CompleteFromLocalizationCatalog start przetwarzania slownika lokalizacji");
   const XmlNode places = editor.session.LocalizationsDom->node();
   const std::string place = std::string(placePath).append(iln).append("]/");
   form.lblNazwaMiejscaDostawy.setCaption(GetNodeValue(places, place + "number", true));
   form.lblAdresMiejscaDostawy.setCaption(GetNodeValue(places, place + "address", true));
-  log.WriteDebugLine("CompleteFromLocalizationCatalog przetworzono slownik lokalizacji");
+  log.trace("CompleteFromLocalizationCatalog przetworzono slownik lokalizacji");
 }
 
 }  // namespace awizo

@@ -37,8 +37,8 @@ CustomsNumberFields SplitCDN(Work& work, std::string_view cdn) {
   std::vector<std::string> pieces = split(cdn, "/");
   if (pieces.empty()) pieces.emplace_back();
   DebugLog& log = work.session.log;
-  log.WriteDebugLine("SplitCDN: cdn=" + std::string(cdn));
-  log.WriteDebugLine("SplitCDN: count=" + std::to_string(pieces.size() - 1));
+  log.trace("SplitCDN: cdn=", cdn);
+  log.trace("SplitCDN: count=", pieces.size() - 1);
   switch (pieces.size()) {
     case 4:
       return {pieces[0], pieces[1], pieces[2], pieces[3]};
@@ -62,7 +62,7 @@ std::string FormatCDNDate(Work& work, Date date) {
   const auto year = static_cast<unsigned>(static_cast<int>(date.year()));
   const std::string text = twoDigits(static_cast<unsigned>(date.day())) +
                            twoDigits(static_cast<unsigned>(date.month())) + twoDigits(year % 100);
-  work.session.log.WriteDebugLine("FormatCDNDate: " + text);
+  work.session.log.trace("FormatCDNDate: ", text);
   return text;
 }
 

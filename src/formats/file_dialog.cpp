@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "session/record/off_line_path.h"
+
 namespace awizo {
 namespace {
 
@@ -102,7 +104,7 @@ void DlgWczytajZapisz::setOffLineFolder() {
   const std::string& path = lblOffLinePath.text();
   session_.OffLinePathValue = path;
   if (lastName(path) != offLineFolder || !files_.folderExists(path)) files_.makeFolder(path);
-  settings_.write("VIRD", "VirdActiveX", "OffLinePath", path);
+  keepOffLinePath(settings_, path);
 }
 
 void DlgWczytajZapisz::setUp(std::string_view mode, std::string_view dialogCaption,

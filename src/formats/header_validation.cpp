@@ -4,7 +4,6 @@
 #include "platform/text.h"
 
 namespace awizo {
-namespace {}  // namespace
 
 bool ValidateHeader(Editor& editor) {
   AwizoForm& form = editor.form;

@@ -1,12 +1,15 @@
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/locale.h"
+#include "platform/text.h"
 #include "platform/xml.h"
 
 namespace awizo {
@@ -29,17 +32,27 @@ class DebugLog {
   /// Whether a line of this level would be written; guards the making of costly messages.
   bool writes(std::int16_t level) const { return LogStream != nullptr && level <= LogLevel; }
 
+  /// WriteDebugLine of the pieces, texts and whole numbers, one after another. Where the line isn't
+  /// written, its text isn't made.
+  template <class... Pieces>
+  void trace(const Pieces&... pieces) {
+    if (writes(traceLevel)) WriteDebugLine(joined({textOf(pieces)...}), traceLevel);
+  }
+
+  std::int16_t LogLevel = 0;
+  std::unique_ptr<TextStream> LogStream;
+  Files* LogFileSystem = nullptr;  ///< none before the first opening
+
  private:
+  static constexpr std::int16_t traceLevel = 4;
+
+  static std::string_view textOf(std::string_view text) { return text; }
+  static std::string textOf(std::integral auto number) { return std::to_string(number); }
   void writeStamped(std::string_view message);
 
   const Clock& clock_;
   const Locale& locale_;
   Files& files_;
-
- public:
-  std::int16_t LogLevel = 0;
-  std::unique_ptr<TextStream> LogStream;
-  Files* LogFileSystem = nullptr;  ///< none before the first opening
 };
 
 }  // namespace awizo

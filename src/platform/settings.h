@@ -5,11 +5,6 @@
 
 namespace awizo {
 
-// Where the one value that the system keeps, the local folder, stands in the store.
-inline constexpr std::string_view settingApplication = "VIRD";
-inline constexpr std::string_view settingSection = "VirdActiveX";
-inline constexpr std::string_view offLinePathKey = "OffLinePath";
-
 /// Per-user settings that outlive the program.
 class SettingsStore {
  public:

@@ -1,5 +1,6 @@
 #include "session/awizo_wysylki.h"
 
+#include "session/record/off_line_path.h"
 #include "session/set_up.h"
 #include "session/start_up.h"
 
@@ -78,10 +79,8 @@ void AwizoWysylki::UserControl_Paint() {
 }
 
 void AwizoWysylki::UserControl_Terminate() {
-  form.raise([this] {
-    editor.platform.settings.write("VIRD", "VirdActiveX", "OffLinePath",
-                                   editor.session.OffLinePathValue);
-  });
+  form.raise(
+      [this] { keepOffLinePath(editor.platform.settings, editor.session.OffLinePathValue); });
 }
 
 void AwizoWysylki::showOnLine() {

@@ -35,13 +35,17 @@ bool readPartner(Work& work) {
   if (!session.PartnerInfoLoaded) return false;
   const XmlNode info = session.PartnerInfoDom->root().selectSingle(identityPath);
   if (!info) return false;
-  session.BuyerNIP = GetNodeValue(info, "nip", true);
-  session.BuyerName = GetNodeValue(info, "name", true);
-  session.BuyerAccount = GetNodeValue(info, "account", true);
+  readBuyer(session, info);
   return true;
 }
 
 }  // namespace
+
+void readBuyer(SessionState& session, const XmlNode& info) {
+  session.BuyerNIP = GetNodeValue(info, "nip", true);
+  session.BuyerName = GetNodeValue(info, "name", true);
+  session.BuyerAccount = GetNodeValue(info, "account", true);
+}
 
 std::string_view readIdentity(Editor& editor) {
   SessionState& session = editor.session;

@@ -10,4 +10,8 @@ namespace awizo {
 /// answer is the text that tells the user why the editor can't work; empty where it can.
 std::string_view readIdentity(Editor& editor);
 
+/// Takes the buyer's tax number, name and account from the partner's `info` element, wherever that
+/// came from.
+void readBuyer(SessionState& session, const XmlNode& info);
+
 }  // namespace awizo

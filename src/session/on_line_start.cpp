@@ -2,9 +2,12 @@
 
 #include "formats/order_reader.h"
 #include "formats/row_check.h"
+#include "platform/at_exit.h"
 #include "platform/narrow.h"
 #include "service/exchanges.h"
 #include "service/transport.h"
+#include "session/identity.h"
+#include "session/record/header_panel.h"
 #include "tables/columns/columns.h"
 #include "tables/row_colour.h"
 
@@ -38,26 +41,18 @@ bool fetchPartner(Editor& editor) {
 
   session.PartnerInfoDom = std::move(reply);
   session.PartnerInfoLoaded = true;
-  session.BuyerNIP = GetNodeValue(info, "nip", true);
-  session.BuyerName = GetNodeValue(info, "name", true);
-  session.BuyerAccount = GetNodeValue(info, "account", true);
+  readBuyer(session, info);
   platform.files.replace(
       partnerInfoFile(session.OffLinePathValue, session.SellerILN, session.BuyerILN),
       session.PartnerInfoDom->fileBytes());
   return true;
 }
 
-void showParties(Editor& editor) {
-  const SessionState& session = editor.session;
-  AwizoForm& form = editor.form;
+void keepParties(const SessionState& session, AwizoForm& form) {
   form.HeaderBuyerILN = session.BuyerILN;
   form.HeaderBuyerName = session.BuyerName;
   form.HeaderSellerILN = session.SellerILN;
   form.HeaderSellerName = session.SellerName;
-  form.lblILNKupWart.setCaption(form.HeaderBuyerILN);
-  form.lblNameKupWart.setCaption(form.HeaderBuyerName);
-  form.lblILNSprzedWart.setCaption(form.HeaderSellerILN);
-  form.lblNameSprzedWart.setCaption(form.HeaderSellerName);
 }
 
 /// Without a catalogue the dialogs work all the same, so nothing here is told to the user.
@@ -118,14 +113,9 @@ void checkLines(Editor& editor) {
 
 void checkLinesWaiting(Editor& editor) {
   const Cursor earlier = editor.screen().setCursor(editor.session.WaitCursor);
-  try {
-    checkLines(editor);
-  } catch (...) {
-    // The control stays usable after an error, so the cursor must not go on to say "wait".
-    editor.screen().setCursor(earlier);
-    throw;
-  }
-  editor.screen().setCursor(earlier);
+  // The control stays usable after an error, so the cursor must not go on to say "wait".
+  const AtExit end([&] { editor.screen().setCursor(earlier); });
+  checkLines(editor);
 }
 
 }  // namespace
@@ -142,6 +132,7 @@ bool HasHostDocument(HostPage& page) {
 std::string_view startOnLine(Editor& editor) {
   const std::string base = readPage(editor);
   if (!fetchPartner(editor)) return "Неправильный формат XML партнёр инфо.";
+  keepParties(editor.session, editor.form);
   showParties(editor);
   fetchProductCatalogue(editor, base);
   fetchLocalizations(editor, base);

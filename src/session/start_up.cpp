@@ -8,6 +8,7 @@
 #include "session/on_line_start.h"
 #include "session/record/countries.h"
 #include "session/record/header_panel.h"
+#include "session/record/off_line_path.h"
 #include "tables/totals.h"
 
 namespace awizo {
@@ -46,8 +47,7 @@ void openLog(Editor& editor) {
 /// The answer is the text that tells the user why the editor can't work; empty where it can.
 std::string_view start(Editor& editor) {
   SessionState& session = editor.session;
-  session.OffLinePathValue =
-      editor.platform.settings.read("VIRD", "VirdActiveX", "OffLinePath", "");
+  session.OffLinePathValue = keptOffLinePath(editor.platform.settings);
   if (session.OffLinePathValue.empty()) return "Нет определённого пути доступа к запасам.";
   openLog(editor);
   if (const std::string_view refusal = readIdentity(editor); !refusal.empty()) return refusal;

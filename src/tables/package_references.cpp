@@ -33,11 +33,6 @@ const std::string& serialOf(const std::vector<std::string>& fields) {
   return fields.front();
 }
 
-void logReferences(Work& work, std::string_view what, std::string_view text) {
-  DebugLog& log = work.session.log;
-  if (log.writes(4)) log.WriteDebugLine(std::string(what).append(text), 4);
-}
-
 std::string gridText(const Table& table) {
   if (table.rows() == 2 && table.cell(flatIndex(table, 1, 1)).empty()) return "";
   std::string text;
@@ -94,13 +89,13 @@ template <class Contains>
 std::string removeReferences(Work& work, std::string_view text, const Contains& isDeleted) {
   std::string result;
   const bool done = reportErrors(work.screen(), "Произошла ошибка в RemoveOldPackRef", [&] {
-    logReferences(work, "RemoveOldPackRef - INPUT: ", text);
+    work.session.log.trace("RemoveOldPackRef - INPUT: ", text);
     result = keptReferences(text, isDeleted);
     if (result.starts_with(referenceSeparator)) {
-      logReferences(work, "RemoveOldPackRef - separator z przodu: ", result);
+      work.session.log.trace("RemoveOldPackRef - separator z przodu: ", result);
       result.erase(0, referenceSeparator.size());
     }
-    logReferences(work, "RemoveOldPackRef - OUTPUT: ", result);
+    work.session.log.trace("RemoveOldPackRef - OUTPUT: ", result);
   });
   return done ? result : "";
 }
@@ -188,14 +183,14 @@ std::string GetPackedQuantity(Work& work, std::string_view text) {
   std::string result;
   reportErrors(work.screen(), "Произошла ошибка в GetPackedQuantity", [&] {
     const Conversions& conversions = work.conversions;
-    logReferences(work, "GetPackedQuantity - INPUT: ", text);
+    work.session.log.trace("GetPackedQuantity - INPUT: ", text);
     double total = 0;
     for (const std::string& reference : referencesOf(text)) {
       const std::vector<std::string> fields = fieldsOf(reference);
       if (fields.size() > quantityField) total += conversions.toDouble(fields[quantityField]);
     }
     const std::string plain = conversions.plainNumber(total);
-    logReferences(work, "GetPackedQuantity - OUTPUT: ", plain);
+    work.session.log.trace("GetPackedQuantity - OUTPUT: ", plain);
     result = conversions.NormalizeDecimal(plain, 3);
   });
   return result;

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "session.h"
+#include "foundation/session.h"
 #include "support/error_of.h"
 
 namespace awizo::test {

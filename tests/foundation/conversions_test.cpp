@@ -1,7 +1,7 @@
 #include "foundation/conversions.h"
 
 #include "foundation/date_text.h"
-#include "session.h"
+#include "foundation/session.h"
 #include "support/error_of.h"
 
 namespace awizo::test {

@@ -4,6 +4,7 @@
 #include "adapters/memory/settings_in_memory.h"
 #include "adapters/posix/clocks.h"
 #include "adapters/posix/settings_stores.h"
+#include "session/record/off_line_path.h"
 
 namespace awizo {
 
@@ -21,9 +22,7 @@ std::unique_ptr<SettingsStore> makeSettings(const Options& options) {
   } else {
     settings = std::make_unique<SettingsFile>(SettingsFile::usersOwnPath());
   }
-  if (options.offLinePath) {
-    settings->write(settingApplication, settingSection, offLinePathKey, *options.offLinePath);
-  }
+  if (options.offLinePath) keepOffLinePath(*settings, *options.offLinePath);
   return settings;
 }
 

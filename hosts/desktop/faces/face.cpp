@@ -31,7 +31,7 @@ void Face::showAll() {
 }
 
 void Face::showState() {
-  const FormFace::Following following(form_);
+  const auto following = form_.following();
   const bool visible = control_.visible() && !control_.covered();
   if (widget_->isHidden() == visible) widget_->setVisible(visible);
   if (widget_->isEnabledTo(widget_->parentWidget()) != control_.enabled()) {
@@ -90,7 +90,7 @@ bool Face::eventFilter(QObject* watched, QEvent* event) {
       if (watched != widget_->window()->focusWidget()) break;
       auto& key = static_cast<QKeyEvent&>(*event);
       if (keyCodeOf(key) != keys::tab) return pressKey(key);
-      const FormFace::ByKeyboard byKeyboard(form_);
+      const auto byKeyboard = form_.byKeyboard();
       sendKey(key);
       return true;
     }

@@ -44,7 +44,7 @@ void FormFace::showAll() {
 void FormFace::showChange(const Change& change) {
   switch (change.aspect) {
     case Aspect::enabled: {
-      const Following following(*this);
+      const auto following = this->following();
       window_.setEnabled(form_.enabled());
       break;
     }
@@ -69,7 +69,7 @@ Face* FormFace::focusedFace() const {
 
 void FormFace::followFocus() {
   if (following_ > 0 || !alive_) return;
-  const Following following(*this);
+  const auto following = this->following();
   QWidget* there = window_.focusWidget();
   const Face* face = focusedFace();
   QWidget* wanted = face == nullptr ? nullptr : face->focusWidget();
@@ -127,7 +127,7 @@ bool FormFace::pressKeyWithoutFocus(QKeyEvent& key) {
     return true;
   }
   if (code != keys::tab) return false;
-  const ByKeyboard byKeyboard(*this);
+  const auto byKeyboard = this->byKeyboard();
   for (Control* control : form_.controls()) {
     if (!control->isFocusable() || control->covered()) continue;
     if (act([&] { control->userFocus(); })) break;

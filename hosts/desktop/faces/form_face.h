@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "hosts/desktop/faces/face.h"
+#include "platform/at_exit.h"
 #include "platform/forms/form.h"
 
 namespace awizo::desktop {
@@ -52,28 +53,17 @@ class FormFace : public QObject {
   void focusCame(Face& face, Qt::FocusReason reason);
   void stateShown(Face& face);
 
-  /// While one lives, what happens to Qt's widgets is the models' doing, not the user's.
-  class Following {
-   public:
-    explicit Following(FormFace& form) : form_(form) { ++form_.following_; }
-    ~Following() { --form_.following_; }
-    Following(const Following&) = delete;
-    Following& operator=(const Following&) = delete;
-
-   private:
-    FormFace& form_;
-  };
-  /// While one lives, the focus is moved by the keyboard: a field's text is selected.
-  class ByKeyboard {
-   public:
-    explicit ByKeyboard(FormFace& form) : form_(form) { form_.reason_ = Qt::TabFocusReason; }
-    ~ByKeyboard() { form_.reason_ = Qt::OtherFocusReason; }
-    ByKeyboard(const ByKeyboard&) = delete;
-    ByKeyboard& operator=(const ByKeyboard&) = delete;
-
-   private:
-    FormFace& form_;
-  };
+  /// While what this gives lives, what happens to Qt's widgets is the models' doing, not the
+  /// user's.
+  auto following() {
+    ++following_;
+    return AtExit([this] { --following_; });
+  }
+  /// While what this gives lives, the focus is moved by the keyboard: a field's text is selected.
+  auto byKeyboard() {
+    reason_ = Qt::TabFocusReason;
+    return AtExit([this] { reason_ = Qt::OtherFocusReason; });
+  }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

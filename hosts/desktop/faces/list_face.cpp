@@ -53,7 +53,7 @@ ListFace::ListFace(FormFace& form, DropDownList& list, QWidget* parent)
   box_->setAccessibleName(fromText(list_.caption()));
   box_->rowsWidth = [this] { return rowsWidth(); };
   box_->onTab = [this](bool forwards) {
-    const FormFace::ByKeyboard byKeyboard(this->form());
+    const auto byKeyboard = this->form().byKeyboard();
     act([&] { list_.userKey(keys::tab, !forwards); });
   };
   connect(box_, &QComboBox::activated, this, &ListFace::choose);

@@ -73,7 +73,7 @@ void PickerFace::takeChecked(bool checked) {
 }
 
 void PickerFace::showHasValue(bool hasValue) {
-  const FormFace::Following following(form());
+  const auto following = form().following();
   if (hasValue_ != nullptr) hasValue_->setChecked(hasValue);
   edit_->setEnabled(hasValue);
 }

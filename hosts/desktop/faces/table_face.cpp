@@ -139,7 +139,7 @@ void TableFace::showLater() {
 void TableFace::showNow() {
   if (!stale_ || !table_.redraw()) return;
   stale_ = false;
-  const FormFace::Following following(form());
+  const auto following = form().following();
   rows_->changed();
   showWidths();
   showHeights();
@@ -215,7 +215,7 @@ void TableFace::showSelection() {
 }
 
 void TableFace::showTop() {
-  const FormFace::Following following(form());
+  const auto following = form().following();
   view_->verticalScrollBar()->setValue(table_.topRow() - table_.fixedRows());
   // A wide table's current column comes into view along the row.
   const QModelIndex current = view_->currentIndex();

@@ -13,7 +13,7 @@ FormDialog::FormDialog(Form& form, QWidget* parent) : QDialog(parent), faces_(fo
 void FormDialog::showChange(const Change& change) {
   if (change.aspect == Aspect::content) setWindowTitle(fromText(form().caption()));
   if (change.aspect != Aspect::visible || form().shown()) return;
-  const FormFace::Following following(faces_);
+  const auto following = faces_.following();
   hide();
   if (loop_ != nullptr) loop_->quit();
 }
@@ -22,7 +22,7 @@ void FormDialog::open() {
   setWindowModality(Qt::ApplicationModal);
   faces_.showAll();
   {
-    const FormFace::Following following(faces_);
+    const auto following = faces_.following();
     show();
     activateWindow();
   }

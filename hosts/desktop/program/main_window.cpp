@@ -11,6 +11,7 @@
 #include "hosts/desktop/program/guide.h"
 #include "hosts/desktop/window/commands.h"
 #include "session/awizo_wysylki.h"
+#include "session/record/off_line_path.h"
 
 namespace awizo::desktop {
 namespace {
@@ -98,7 +99,7 @@ void MainWindow::makeHelpMenu() {
 bool MainWindow::mayStart() { return agreesToAddresses() && hasFolder(); }
 
 bool MainWindow::hasFolder() {
-  if (!settings_->read(settingApplication, settingSection, offLinePathKey, "").empty()) return true;
+  if (!keptOffLinePath(*settings_).empty()) return true;
   widget_->ask(
       {"Для работы нужна папка с файлами вашей фирмы.\r\n\r\n"
        "Выберите, где она лежит или где её создать: редактор работает в папке VIRD внутри "

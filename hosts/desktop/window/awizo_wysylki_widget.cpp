@@ -18,6 +18,7 @@
 #include "hosts/desktop/window/watched_http.h"
 #include "hosts/version.h"
 #include "session/awizo_wysylki.h"
+#include "session/record/off_line_path.h"
 
 namespace awizo::desktop {
 namespace {
@@ -165,8 +166,7 @@ Answer AwizoWysylkiWidget::ask(const MessageBox& box) {
 bool AwizoWysylkiWidget::askOffLineFolder() {
   Parts& parts = *parts_;
   awizo::askOffLineFolder(parts.control.dlgWczytajZapisz);
-  return !parts.platform.settings.read(settingApplication, settingSection, offLinePathKey, "")
-              .empty();
+  return !keptOffLinePath(parts.platform.settings).empty();
 }
 
 void AwizoWysylkiWidget::start() {
@@ -179,7 +179,7 @@ void AwizoWysylkiWidget::start() {
   }
   started_ = true;
   {
-    const Waiting::Span span(parts_->waiting);
+    const auto span = parts_->waiting.span();
     parts_->control.UserControl_Show();
   }
   if (!parts_->control.form.OrderAnswer) keepContent();
@@ -189,7 +189,7 @@ void AwizoWysylkiWidget::start() {
 
 void AwizoWysylkiWidget::runExchange(const std::string& url,
                                      const std::function<void()>& exchange) {
-  const Waiting::Span span(parts_->waiting);
+  const auto span = parts_->waiting.span();
   parts_->waiting.show(workOf(url, parts_->control.form));
   exchange();
 }

@@ -4,28 +4,15 @@
 #include <QMessageBox>
 
 #include "hosts/desktop/screen/message_box.h"
+#include "platform/at_exit.h"
 
 namespace awizo::desktop {
-namespace {
-
-/// Counts up for its own lifetime.
-class Counting {
- public:
-  explicit Counting(int& count) : count_(count) { ++count_; }
-  ~Counting() { --count_; }
-  Counting(const Counting&) = delete;
-  Counting& operator=(const Counting&) = delete;
-
- private:
-  int& count_;
-};
-
-}  // namespace
 
 Answer HostScreen::ask(const MessageBox& box) {
   if (ending_) return box.buttons == BoxButtons::ok ? Answer::ok : Answer::no;
-  const Counting asking(asking_);
-  const Waiting::Aside aside(waiting_);
+  ++asking_;
+  const AtExit asked([this] { --asking_; });
+  const auto aside = waiting_.aside();
   return DesktopScreen::ask(box);
 }
 
@@ -35,8 +22,9 @@ void HostScreen::formOpened(Form& form) {
 
 void HostScreen::runModal(Form& form) {
   if (ending_) return form.hide();
-  const Counting asking(asking_);
-  const Waiting::Aside aside(waiting_);
+  ++asking_;
+  const AtExit asked([this] { --asking_; });
+  const auto aside = waiting_.aside();
   modal_.push_back(&form);
   DesktopScreen::runModal(form);
   modal_.pop_back();

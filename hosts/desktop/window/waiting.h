@@ -5,6 +5,7 @@
 #include <QLabel>
 
 #include "hosts/desktop/window/moving_bar.h"
+#include "platform/at_exit.h"
 
 namespace awizo::desktop {
 
@@ -17,28 +18,16 @@ class Waiting : public QObject {
   explicit Waiting(QWidget& window);
   ~Waiting() override;
 
-  /// The wait lasts as long as one of these lives.
-  class Span {
-   public:
-    explicit Span(Waiting& waiting) : waiting_(waiting) { waiting_.begin(); }
-    ~Span() { waiting_.end(); }
-    Span(const Span&) = delete;
-    Span& operator=(const Span&) = delete;
-
-   private:
-    Waiting& waiting_;
-  };
-  /// While one lives, the user answers something.
-  class Aside {
-   public:
-    explicit Aside(Waiting& waiting) : waiting_(waiting) { waiting_.setAside(); }
-    ~Aside() { waiting_.takeUp(); }
-    Aside(const Aside&) = delete;
-    Aside& operator=(const Aside&) = delete;
-
-   private:
-    Waiting& waiting_;
-  };
+  /// The wait lasts while what this gives lives.
+  auto span() {
+    begin();
+    return AtExit([this] { end(); });
+  }
+  /// While what this gives lives, the user answers something.
+  auto aside() {
+    setAside();
+    return AtExit([this] { takeUp(); });
+  }
 
   bool lasts() const { return spans_ > 0; }
   QString text() const { return text_->text(); }

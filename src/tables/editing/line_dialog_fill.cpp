@@ -103,14 +103,14 @@ void fillCustomsNumber(Editor& editor, DlgDodaj& dialog, const Row& line) {
   dialog.txtCDN1.setText(fields[0]);
   DebugLog& log = editor.session.log;
   const std::string& date = fields[1];
-  log.WriteDebugLine("Edycja: cdnTab(1)=" + date);
+  log.trace("Edycja: cdnTab(1)=", date);
   if (countCharacters(date) == 6 && editor.conversions.isNumeric(date)) {
     const std::string day(firstCharacters(date, 2));
     const std::string month(lastCharacters(firstCharacters(date, 4), 2));
     const std::string year(lastCharacters(date, 2));
-    log.WriteDebugLine("Edycja-DD: " + day);
-    log.WriteDebugLine("Edycja-MM: " + month);
-    log.WriteDebugLine("Edycja-YY: " + year);
+    log.trace("Edycja-DD: ", day);
+    log.trace("Edycja-MM: ", month);
+    log.trace("Edycja-YY: ", year);
     dialog.dpCDN2.setDate(editor.conversions.toDate(day + "-" + month + "-" + year));
   } else {
     dialog.dpCDN2.setDate(editor.platform.clock.today());

@@ -67,17 +67,13 @@ void PreparePackageArrays(Editor& editor, std::string_view) {
   session.ParentDescriptions.assign(count + 1, "");
   session.ParentLevels.assign(count + 1, 0);
   DebugLog& log = session.log;
-  log.WriteDebugLine("btnDodajOpak_Click: IloscPozycjiOpak = " +
-                     std::to_string(session.IloscPozycjiOpak));
+  log.trace("btnDodajOpak_Click: IloscPozycjiOpak = ", session.IloscPozycjiOpak);
   for (std::size_t i = 0; i < count; ++i) {
     const Row package = packageRow(editor, static_cast<int>(i) + 1);
     session.ParentSerials[i] = package.cell(GRD_OPAK_SERIAL);
     session.ParentDescriptions[i] = package.cell(GRD_OPAK_DESC);
     const std::string& level = package.cell(GRD_OPAK_LEVEL);
-    if (log.writes(4)) {
-      log.WriteDebugLine("btnDodajOpak_Click: i - 1 = " + std::to_string(i) +
-                         ", level =  " + level);
-    }
+    log.trace("btnDodajOpak_Click: i - 1 = ", i, ", level =  ", level);
     session.ParentLevels[i] = editor.conversions.toInt16(level);
   }
 }

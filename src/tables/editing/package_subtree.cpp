@@ -22,12 +22,6 @@ std::size_t longestChain(const Editor& editor, std::int16_t firstRow) {
   return static_cast<std::size_t>(count) + (isCounted ? 0 : 1);
 }
 
-void logParent(DebugLog& log, std::int16_t row, const std::string& parent) {
-  if (!log.writes(4)) return;
-  log.WriteDebugLine("GetPackagesRec: GRD_OPAK_PARENT_SERIAL[" + std::to_string(row) +
-                     "] = " + parent);
-}
-
 // Every scan goes into the log, row by row. `room`: how many packages the chain may still take.
 void scanAllRows(Editor& editor, std::int16_t row, std::vector<std::string>& delSerials,
                  std::size_t room) {
@@ -35,10 +29,10 @@ void scanAllRows(Editor& editor, std::int16_t row, std::vector<std::string>& del
   DebugLog& log = editor.session.log;
   const std::string currSerial = packageRow(editor, row).cell(GRD_OPAK_SERIAL);
   delSerials.push_back(currSerial);
-  log.WriteDebugLine("GetPackagesRec: currSerial = " + currSerial);
+  log.trace("GetPackagesRec: currSerial = ", currSerial);
   for (std::int16_t i = 1; i <= editor.session.IloscPozycjiOpak; ++i) {
     const std::string parent = packageRow(editor, i).cell(GRD_OPAK_PARENT_SERIAL);
-    logParent(log, i, parent);
+    log.trace("GetPackagesRec: GRD_OPAK_PARENT_SERIAL[", i, "] = ", parent);
     editor.form.grdOpakowania.setRow(i);
     if (parent == currSerial) scanAllRows(editor, i, delSerials, room - 1);
   }
@@ -92,7 +86,7 @@ void removePackageRow(Editor& editor, std::int16_t row) {
   } else {
     count = 0;
     ClearGrdOpakowania(editor);
-    editor.session.log.WriteDebugLine("Usun opak - wyczysc grd");
+    editor.session.log.trace("Usun opak - wyczysc grd");
   }
 }
 
@@ -154,7 +148,7 @@ void removePackageRows(Editor& editor, const std::vector<std::string>& delSerial
     return;
   }
   for (std::size_t i = 0; i < delSerials.size(); ++i) {
-    log.WriteDebugLine("delSerials[" + std::to_string(i + 1) + "] = " + delSerials[i]);
+    log.trace("delSerials[", i + 1, "] = ", delSerials[i]);
     removeFirstRowOf(editor, delSerials[i]);
   }
 }

@@ -17,8 +17,8 @@ void removePackagesOfCurrentRow(Editor& editor, std::vector<std::string>& delSer
   Table& grid = editor.form.grdOpakowania;
   DebugLog& log = editor.session.log;
   GetPackagesRec(editor, narrow16(grid.row()), delSerials);
-  log.WriteDebugLine("After GetPackagesRec");
-  log.WriteDebugLine("delSerials.Count = " + std::to_string(delSerials.size()));
+  log.trace("After GetPackagesRec");
+  log.trace("delSerials.Count = ", delSerials.size());
   removePackageRows(editor, delSerials);
   grid.setRow(1);
   grid.setColumn(1);
@@ -28,11 +28,11 @@ void removePackagesOfCurrentRow(Editor& editor, std::vector<std::string>& delSer
 void removeReferences(Editor& editor, const SerialSet& delSerials) {
   DebugLog& log = editor.session.log;
   for (std::int16_t m = 1; m <= editor.session.LineCount; ++m) {
-    log.WriteDebugLine("Usuwanie opak - usuwanie ref przed m = " + std::to_string(m));
+    log.trace("Usuwanie opak - usuwanie ref przed m = ", m);
     const Row line = lineRow(editor, m);
     line.set(GRD_POZ_PACK_REFS, RemoveOldPackRef(editor, line.cell(GRD_POZ_PACK_REFS), delSerials));
     line.set(GRD_POZ_PACKED_QTY, GetPackedQuantity(editor, line.cell(GRD_POZ_PACK_REFS)));
-    log.WriteDebugLine("Usuwanie opak - usuwanie ref po m = " + std::to_string(m));
+    log.trace("Usuwanie opak - usuwanie ref po m = ", m);
   }
 }
 
