@@ -5,7 +5,6 @@
 #include "formats/catalogue_completion.h"
 #include "formats/order_line.h"
 #include "formats/order_row.h"
-#include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
 #include "session/record/header_panel.h"
 
@@ -70,7 +69,7 @@ bool readLines(Editor& editor, const XmlNode& order) {
   return true;
 }
 
-void readOrder(Editor& editor, std::unique_ptr<XmlDocument>& order) {
+void fillFrom(Editor& editor, std::unique_ptr<XmlDocument>& order) {
   AwizoForm& form = editor.form;
   form.setEnabled(false);
   form.OrderAnswer = true;
@@ -90,11 +89,16 @@ void readOrder(Editor& editor, std::unique_ptr<XmlDocument>& order) {
 
 }  // namespace
 
+std::optional<RunTimeError> readOrder(Editor& editor, std::unique_ptr<XmlDocument>& order) {
+  return caughtError([&] { fillFrom(editor, order); });
+}
+
 void Wczytaj_Zamowienie(Editor& editor, std::unique_ptr<XmlDocument>& order) {
   const Cursor earlier = editor.screen().setCursor(editor.session.WaitCursor);
-  const bool read = reportErrors(editor.screen(), "Произошла ошибка в Wczytaj_Zamowienie()",
-                                 [&] { readOrder(editor, order); });
-  if (!read) editor.form.setEnabled(true);
+  if (const std::optional<RunTimeError> error = readOrder(editor, order)) {
+    editor.screen().showCritical(error->description(), "Произошла ошибка в Wczytaj_Zamowienie()");
+    editor.form.setEnabled(true);
+  }
   editor.screen().setCursor(earlier);
 }
 

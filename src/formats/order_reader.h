@@ -1,8 +1,10 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string_view>
 
+#include "platform/run_time_error.h"
 #include "platform/xml.h"
 #include "session/record/editor.h"
 
@@ -10,6 +12,10 @@ namespace awizo {
 
 /// The element whose children are the lines.
 inline constexpr std::string_view orderLinesPath = "/Document-Order/Order-Lines";
+
+/// Fills the form as Wczytaj_Zamowienie does, without a word to the user. Returns the error that
+/// ended the reading; none where it came to its end.
+std::optional<RunTimeError> readOrder(Editor& editor, std::unique_ptr<XmlDocument>& order);
 
 /// Makes the form a new despatch advice that answers this order: completes the order from the
 /// product catalogue, fills the header and gives each order line a row. `order` isn't none; it

@@ -1,7 +1,5 @@
 #include "formats/row_check.h"
 
-#include <string>
-
 #include "formats/customs_number.h"
 #include "tables/columns/columns.h"
 #include "tables/row.h"
@@ -11,11 +9,6 @@
 namespace awizo {
 namespace {
 
-bool fails(Editor& editor, std::string_view columnName) {
-  editor.form.BadColumnName = columnName;
-  return false;
-}
-
 /// A cell of the table that may stay empty.
 bool isEmptyOrNumber(const Work& work, const std::string& text) {
   return text.empty() || work.conversions.isNumeric(text);
@@ -23,20 +16,29 @@ bool isEmptyOrNumber(const Work& work, const std::string& text) {
 
 }  // namespace
 
-bool CheckGridRow(Editor& editor, std::int16_t row) {
+std::optional<RowFault> firstFault(Editor& editor, std::int16_t row) {
   const Row line = lineRow(editor, row);
   const Conversions& conversions = editor.conversions;
-  if (!conversions.isNumeric(line.cell(GRD_POZ_EAN))) return fails(editor, "EAN");
-  if (!isEmptyOrNumber(editor, line.cell(GRD_POZ_QTY_ORDERED)))
-    return fails(editor, "Zamowiona ilosc");
-  if (!conversions.isNumeric(Conversions::DotToComma(line.cell(GRD_POZ_QTY_DESPATCHED)))) {
-    return fails(editor, "Potwierdzana ilosc");
+  if (!conversions.isNumeric(line.cell(GRD_POZ_EAN))) return RowFault{GRD_POZ_EAN, "EAN"};
+  if (!isEmptyOrNumber(editor, line.cell(GRD_POZ_QTY_ORDERED))) {
+    return RowFault{GRD_POZ_QTY_ORDERED, "Zamowiona ilosc"};
   }
-  if (!isEmptyOrNumber(editor, line.cell(GRD_POZ_PRICE))) return fails(editor, "Cena netto");
-  if (!isEmptyOrNumber(editor, line.cell(GRD_POZ_NET_AMOUNT)))
-    return fails(editor, "Wartosc netto");
+  if (!conversions.isNumeric(Conversions::DotToComma(line.cell(GRD_POZ_QTY_DESPATCHED)))) {
+    return RowFault{GRD_POZ_QTY_DESPATCHED, "Potwierdzana ilosc"};
+  }
+  if (!isEmptyOrNumber(editor, line.cell(GRD_POZ_PRICE)))
+    return RowFault{GRD_POZ_PRICE, "Cena netto"};
+  if (!isEmptyOrNumber(editor, line.cell(GRD_POZ_NET_AMOUNT))) {
+    return RowFault{GRD_POZ_NET_AMOUNT, "Wartosc netto"};
+  }
   const std::string faulty = faultyCustomsNumberField(editor, line.cell(GRD_POZ_CDN));
-  return faulty.empty() || fails(editor, faulty);
+  return faulty.empty() ? std::optional<RowFault>() : RowFault{GRD_POZ_CDN, faulty};
+}
+
+bool CheckGridRow(Editor& editor, std::int16_t row) {
+  const std::optional<RowFault> fault = firstFault(editor, row);
+  if (fault) editor.form.BadColumnName = fault->name;
+  return !fault;
 }
 
 void RepaintValidRows(Editor& editor) {

@@ -1,13 +1,25 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+#include <string>
 
 #include "session/record/editor.h"
 
 namespace awizo {
 
+/// A cell for which a line can't leave in a document.
+struct RowFault {
+  int column;
+  std::string name;  ///< as BadColumnName takes it; of a customs number, its field
+};
+
+/// The first fault of the line in this row of grdPozycje. Error 6 beyond the last row that the cell
+/// index reaches.
+std::optional<RowFault> firstFault(Editor& editor, std::int16_t row);
+
 /// Whether the line in this row of grdPozycje can leave in a document. The first cell that fails
-/// gives its name to BadColumnName. Error 6 beyond the last row that the cell index reaches.
+/// gives its name to BadColumnName. Error 6 as firstFault.
 bool CheckGridRow(Editor& editor, std::int16_t row);
 
 /// Paints every line that passes white. Failing lines keep their colours; the current cell stays.

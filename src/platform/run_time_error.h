@@ -1,8 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <new>
+#include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace awizo {
 
@@ -77,4 +80,19 @@ inline RunTimeError replyNotAvailable() {
 }
 
 }  // namespace errors
+
+/// Runs the work and returns the run-time error that ended it, want of memory included; none where
+/// it came to its end.
+template <class Work>
+std::optional<RunTimeError> caughtError(Work&& work) {
+  try {
+    std::forward<Work>(work)();
+    return std::nullopt;
+  } catch (const RunTimeError& error) {
+    return error;
+  } catch (const std::bad_alloc&) {
+    return errors::outOfMemory();
+  }
+}
+
 }  // namespace awizo

@@ -306,5 +306,15 @@ TEST_F(OrderReader, ACompletionThatFailsLeavesNoOrderToRead) {
   EXPECT_TRUE(form.enabled());
 }
 
+TEST_F(OrderReader, TheErrorThatEndsAReadingIsReturnedToWhoeverReadsWithoutAUser) {
+  order = test.document("<Document-Order/>");
+  const std::optional<RunTimeError> error = readOrder(test.editor, order);
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->number(), errors::objectNotSet().number());
+  expectNoBox();
+  order = test.document("<Document-Order><Order-Lines/></Document-Order>");
+  EXPECT_FALSE(readOrder(test.editor, order));
+}
+
 }  // namespace
 }  // namespace awizo::test

@@ -62,6 +62,22 @@ TEST_F(RowCheck, PassesAGoodLineAndLeavesTheBadColumnName) {
   EXPECT_EQ(test.form.BadColumnName, "earlier");
 }
 
+TEST_F(RowCheck, TheFirstFaultTellsItsColumnAndLeavesTheBadColumnName) {
+  for (const int column : {GRD_POZ_EAN, GRD_POZ_QTY_ORDERED, GRD_POZ_QTY_DESPATCHED, GRD_POZ_PRICE,
+                           GRD_POZ_NET_AMOUNT, GRD_POZ_CDN}) {
+    check({column, column == GRD_POZ_CDN ? "1/010108/1234567" : "x"});
+    const std::string name = test.form.BadColumnName;
+    test.form.BadColumnName = "earlier";
+    const std::optional<RowFault> fault = firstFault(test.editor, 1);
+    ASSERT_TRUE(fault) << column;
+    EXPECT_EQ(fault->column, column);
+    EXPECT_EQ(fault->name, name);
+    EXPECT_EQ(test.form.BadColumnName, "earlier");
+  }
+  check({GRD_POZ_LP, "x"});
+  EXPECT_FALSE(firstFault(test.editor, 1));
+}
+
 TEST_F(RowCheck, EmptyCellsPassWhereAnEmptyOneIsAllowed) {
   for (const int column :
        {GRD_POZ_QTY_ORDERED, GRD_POZ_PRICE, GRD_POZ_NET_AMOUNT, GRD_POZ_CDN, GRD_POZ_NAME}) {

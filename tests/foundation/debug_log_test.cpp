@@ -101,6 +101,23 @@ TEST_F(LogTest, IsWrittenInTheSingleByteEncoding) {
             "<a>\xC6</a>\r\n");
 }
 
+TEST_F(LogTest, ATraceJoinsTextsAndNumbersInOneLine) {
+  log.OpenDebugLog(path, 4);
+  const std::string serial = "Паллета";
+  log.trace("delSerials[", std::size_t{2}, "] = ", serial, std::int16_t{-1}, std::string_view("."));
+  log.trace("P1");
+  EXPECT_EQ(there.locale.fromSingleByte(text()),
+            "21.11.2026 10:15 Start logowania...\r\n"
+            "21.11.2026 10:15 delSerials[2] = Паллета-1.\r\n"
+            "21.11.2026 10:15 P1\r\n");
+}
+
+TEST_F(LogTest, ATraceIsWrittenFromLevelFourOn) {
+  log.OpenDebugLog(path, 3);
+  log.trace("trace ", 1);
+  EXPECT_EQ(text(), "21.11.2026 10:15 Start logowania...\r\n");
+}
+
 TEST_F(LogTest, ASecondRunOverwritesTheFile) {
   log.OpenDebugLog(path, 4);
   log.WriteDebugLine("first run");

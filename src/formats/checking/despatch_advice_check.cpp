@@ -59,8 +59,8 @@ class DespatchAdviceCheck {
     std::vector<Finding> all = packageFindings(map);
     for (const std::string& path : result.missing) all.push_back(missing(path));
     std::size_t end = map.places().size();
-    if (result.outcome == ReadingOutcome::failed) {
-      all.push_back(stoppedReading(map, document_, result.error));
+    if (result.error) {
+      all.push_back(stoppedReading(map, document_, *result.error));
       end = map.numberOf(document_.last());
     }
     const std::set<std::string> written = writtenKinds(scratch_.editor.platform.xml);

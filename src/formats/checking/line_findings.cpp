@@ -1,6 +1,5 @@
 #include "formats/checking/line_findings.h"
 
-#include <array>
 #include <string>
 
 #include "formats/row_check.h"
@@ -10,22 +9,23 @@
 namespace awizo {
 namespace {
 
-/// A column by the name that the line check gives it, and as the user calls it.
-struct CheckedColumn {
-  std::string_view checkName;
-  int column;
-  std::string_view name;
-};
-
-constexpr std::array<CheckedColumn, 5> checkedColumns{{
-    {"EAN", GRD_POZ_EAN, "EAN"},
-    {"Zamowiona ilosc", GRD_POZ_QTY_ORDERED, "количество заказа"},
-    {"Potwierdzana ilosc", GRD_POZ_QTY_DESPATCHED, "отгруженное количество"},
-    {"Cena netto", GRD_POZ_PRICE, "цена"},
-    {"Wartosc netto", GRD_POZ_NET_AMOUNT, "сумма"},
-}};
-
-constexpr int none = -1;
+/// A column that the line check looks at, as the user calls it.
+std::string_view nameOfChecked(int column) {
+  switch (column) {
+    case GRD_POZ_EAN:
+      return "EAN";
+    case GRD_POZ_QTY_ORDERED:
+      return "количество заказа";
+    case GRD_POZ_QTY_DESPATCHED:
+      return "отгруженное количество";
+    case GRD_POZ_PRICE:
+      return "цена";
+    case GRD_POZ_NET_AMOUNT:
+      return "сумма";
+    default:
+      return "таможенный номер";
+  }
+}
 
 /// More decimals than any number of a document has.
 std::string exactText(const Conversions& conversions, std::string_view text) {
@@ -35,24 +35,13 @@ std::string exactText(const Conversions& conversions, std::string_view text) {
 }  // namespace
 
 void LineFindings::add(const XmlNode& line, std::int16_t row) {
-  const int failing = failingColumn(row);
-  if (failing != none) addFailure(line, row, failing);
-  addNumbers(line, row, failing);
-}
-
-int LineFindings::failingColumn(std::int16_t row) {
-  if (CheckGridRow(editor_, row)) return none;
-  for (const CheckedColumn& checked : checkedColumns) {
-    if (checked.checkName == editor_.form.BadColumnName) return checked.column;
-  }
-  return none;
+  const std::optional<RowFault> fault = firstFault(editor_, row);
+  if (fault) addFailure(line, row, fault->column);
+  addNumbers(line, row, fault ? std::optional(fault->column) : std::nullopt);
 }
 
 void LineFindings::addFailure(const XmlNode& line, std::int16_t row, int column) {
-  std::string name;
-  for (const CheckedColumn& checked : checkedColumns) {
-    if (checked.column == column) name = checked.name;
-  }
+  const std::string name(nameOfChecked(column));
   const std::string& value = lineRow(editor_, row).cell(column);
   const std::string text =
       "строка не пройдёт проверку: " +
@@ -61,7 +50,7 @@ void LineFindings::addFailure(const XmlNode& line, std::int16_t row, int column)
   found_.push_back(map_.finding(node ? node : line, text));
 }
 
-void LineFindings::addNumbers(const XmlNode& line, std::int16_t row, int failing) {
+void LineFindings::addNumbers(const XmlNode& line, std::int16_t row, std::optional<int> failing) {
   const Conversions& conversions = editor_.conversions;
   std::string_view lastPath;
   for (const Column& column : lineColumns) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "formats/checking/document_map.h"
@@ -23,10 +24,9 @@ class LineFindings {
   const std::vector<Finding>& found() const { return found_; }
 
  private:
-  /// The column for which the row fails the line check; -1 where it passes.
-  int failingColumn(std::int16_t row);
   void addFailure(const XmlNode& line, std::int16_t row, int column);
-  void addNumbers(const XmlNode& line, std::int16_t row, int failing);
+  /// `failing`: the column that is told of already, if there is one.
+  void addNumbers(const XmlNode& line, std::int16_t row, std::optional<int> failing);
   XmlNode valueOf(const XmlNode& line, int column) const;
 
   Editor& editor_;

@@ -33,10 +33,6 @@ class OrderCheck {
 
   Editor& editor() { return scratch_.editor; }
   const DocumentMap& map() const { return map_; }
-  /// The box that ended the reading; none where it came to its end.
-  const MessageBox* failure() const {
-    return scratch_.face.boxes.empty() ? nullptr : &scratch_.face.boxes.front();
-  }
 
   std::vector<Finding> header() const {
     std::vector<Finding> found;
@@ -111,14 +107,13 @@ std::vector<Finding> checkOrder(const Platform& platform, std::unique_ptr<Traced
   TracedDocument& traced = *order;
   OrderCheck check(platform, traced.within());
   std::unique_ptr<XmlDocument> document = std::move(order);
-  Wczytaj_Zamowienie(check.editor(), document);
+  const std::optional<RunTimeError> failure = readOrder(check.editor(), document);
 
   std::vector<Finding> findings = check.header();
   // An order without the element of its lines is told by itself.
-  const MessageBox* failure = check.failure();
   std::size_t end = check.map().places().size();
-  if (failure != nullptr && failure->text != errors::objectNotSet().description()) {
-    findings.push_back(stoppedReading(check.map(), traced, failure->text));
+  if (failure && failure->number() != errors::objectNotSet().number()) {
+    findings.push_back(stoppedReading(check.map(), traced, *failure));
     end = check.map().numberOf(traced.last());
   }
   const auto ignored =

@@ -1,18 +1,13 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "platform/forms/screen.h"
 #include "session/record/editor.h"
 
 namespace awizo {
 
-/// A screen with nobody in front of it: boxes are kept, and answered at once with what goes on.
+/// A screen with nobody in front of it: boxes are answered at once with what goes on.
 class SilentFace : public ScreenFace {
  public:
-  std::vector<MessageBox> boxes;
-
   Answer ask(const MessageBox& box) override;
   void runModal(Form& form) override;
   void cursorChanged(Cursor) override {}

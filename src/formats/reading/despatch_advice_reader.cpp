@@ -1,6 +1,5 @@
 #include "formats/reading/despatch_advice_reader.h"
 
-#include <new>
 #include <utility>
 
 #include "formats/catalogue_completion.h"
@@ -27,7 +26,7 @@ void showPlain(Work& work, std::string_view text) {
 
 ReadingResult refuse(Work& work, std::string_view text, ReadingOutcome why) {
   work.screen().showExclamation(text, "VIRD");
-  return {why, {}, ""};
+  return {why, {}};
 }
 
 int packageDescriptionIndex(std::string_view code) {
@@ -68,8 +67,7 @@ class DocumentReader {
     readPackages();
     readLines();
     const bool complete = missing_.empty();
-    return {complete ? ReadingOutcome::complete : ReadingOutcome::incomplete, std::move(missing_),
-            ""};
+    return {complete ? ReadingOutcome::complete : ReadingOutcome::incomplete, std::move(missing_)};
   }
 
  private:
@@ -189,13 +187,9 @@ class DocumentReader {
 
 // An error while the document is read counts as a document that isn't complete.
 ReadingResult readInto(Editor& editor, XmlDocument& document) {
-  try {
-    return DocumentReader(editor, document).read();
-  } catch (const RunTimeError& error) {
-    return {ReadingOutcome::failed, {}, error.description()};
-  } catch (const std::bad_alloc&) {
-    return {ReadingOutcome::failed, {}, errors::outOfMemory().description()};
-  }
+  ReadingResult result;
+  const auto error = caughtError([&] { result = DocumentReader(editor, document).read(); });
+  return error ? ReadingResult{ReadingOutcome::failed, {}, error} : result;
 }
 
 // The document's own totals stand over the computed ones, where it has them.

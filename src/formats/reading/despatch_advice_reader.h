@@ -1,10 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "formats/file_dialog.h"
+#include "platform/run_time_error.h"
 #include "session/record/editor.h"
 
 namespace awizo {
@@ -25,8 +27,8 @@ enum class ReadingOutcome {
 
 struct ReadingResult {
   ReadingOutcome outcome = ReadingOutcome::complete;
-  std::vector<std::string> missing;  ///< paths of what was required and not there
-  std::string error;                 ///< description of the error that ended the reading
+  std::vector<std::string> missing;        ///< paths of what was required and not there
+  std::optional<RunTimeError> error = {};  ///< what ended the reading, where it failed
 };
 
 /// Empties the form, loads the file by its classic path into `document` and puts it into the form,

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <concepts>
-#include <new>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -16,15 +16,9 @@ namespace awizo {
 /// end.
 template <std::invocable Title, class Body>
 bool reportErrors(Screen& screen, Title&& title, Body&& body) {
-  try {
-    std::forward<Body>(body)();
-    return true;
-  } catch (const RunTimeError& error) {
-    screen.showCritical(error.description(), title());
-  } catch (const std::bad_alloc&) {
-    screen.showCritical(errors::outOfMemory().description(), title());
-  }
-  return false;
+  const std::optional<RunTimeError> error = caughtError(std::forward<Body>(body));
+  if (error) screen.showCritical(error->description(), title());
+  return !error;
 }
 
 /// The same under a title that is always the same.
