@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -52,6 +53,17 @@ TEST_F(ObserversTest, OneThatRemovesItselfKeepsWhatItHoldsUntilItReturns) {
   addNamed("last");
   EXPECT_THAT(tell("a"), ElementsAre("first a", "once, with a name of its own a", "last a"));
   EXPECT_THAT(tell("b"), ElementsAre("first b", "last b"));
+}
+
+TEST_F(ObserversTest, OneThatRemovedItselfLetsGoOfWhatItHoldsWhenAllHaveReturned) {
+  int once = 0;
+  auto held = std::make_shared<int>(0);
+  once = observers.add([this, &once, held](const std::string&) { observers.remove(once); });
+  const std::weak_ptr<int> watched = held;
+  held.reset();
+  EXPECT_FALSE(watched.expired());
+  tell("a");
+  EXPECT_TRUE(watched.expired());
 }
 
 TEST_F(ObserversTest, OneThatAnotherRemovesHearsNothingMore) {
