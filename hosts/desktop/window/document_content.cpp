@@ -1,6 +1,6 @@
 #include "hosts/desktop/window/document_content.h"
 
-#include "foundation/date_text.h"
+#include "session/record/header_fields.h"
 
 namespace awizo::desktop {
 namespace {
@@ -11,21 +11,6 @@ constexpr char separator = '\0';
 void add(std::string& content, std::string_view text) {
   content += text;
   content += separator;
-}
-
-void addHeader(std::string& content, const AwizoForm& form) {
-  for (const TextField* field :
-       {&form.txtNrAwiza, &form.txtNrZam, &form.txtCodeByBuyer, &form.txtGoodsIdentity}) {
-    add(content, field->text());
-  }
-  for (const DatePicker* picker :
-       {&form.txtDataAwiza, &form.dpDataZam, &form.txtEstimatedDeliveryDate}) {
-    add(content, picker->date() ? isoDate(*picker->date()) : "");
-  }
-  for (const TimePicker* picker : {&form.txtDespatchAdviceTime, &form.txtEstimatedDeliveryTime}) {
-    add(content, picker->time() ? hourMinute(*picker->time()) : "");
-  }
-  add(content, form.cboxPackageDescription.text());
 }
 
 void addTable(std::string& content, const Table& table, int rowsInUse) {
@@ -39,7 +24,7 @@ void addTable(std::string& content, const Table& table, int rowsInUse) {
 
 std::string documentContent(const Editor& editor) {
   std::string content;
-  addHeader(content, editor.form);
+  for (const HeaderField& field : headerFields(editor.form)) add(content, valueText(field));
   addTable(content, editor.form.grdPozycje, editor.session.LineCount);
   addTable(content, editor.form.grdOpakowania, editor.session.IloscPozycjiOpak);
   const TextField& edited = editor.form.txtEdycja;
