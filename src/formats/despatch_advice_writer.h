@@ -1,10 +1,8 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
-#include <string_view>
 
-#include "formats/despatch_advice_elements.h"
+#include "formats/despatch_advice.h"
 #include "platform/xml.h"
 #include "session/record/editor.h"
 
@@ -14,17 +12,14 @@ namespace awizo {
 /// box has shown. Changes no field and no table.
 std::unique_ptr<XmlDocument> MakeDesAdv(Editor& editor);
 
-/// A despatch advice without values. Times are "hh:mm", the date is "yyyy-mm-dd"; an optional
-/// value that is empty gives no element. Lines and summary stand in it where there are lines.
-std::unique_ptr<XmlDocument> CreateDesAdvSkeleton(
-    const Xml& xml, std::string_view timeText, std::string_view estimatedTimeText,
-    std::string_view orderDateText, std::int16_t lineCount, std::string_view codeByBuyer,
-    std::string_view deliveryILN, std::int16_t packageCount);
+/// The document of a despatch advice. Error 94 without a delivery date, error 5 for a value that
+/// XML can't hold or that makes no well-formed element.
+std::unique_ptr<XmlDocument> xmlOf(const Xml& xml, const DespatchAdvice& advice);
 
 /// Appends one package to the consignment. Values that make no well-formed element raise error 5.
-void AddPackingSequence(const Xml& xml, XmlDocument& document, const PackingSequenceValues& values);
+void AddPackingSequence(const Xml& xml, XmlDocument& document, const AdvicePackage& package);
 
 /// Appends one line with its package references to the lines, in the same way.
-void AddDesAdvLine(const Xml& xml, XmlDocument& document, const DesAdvLineValues& values);
+void AddDesAdvLine(const Xml& xml, XmlDocument& document, const AdviceLine& line);
 
 }  // namespace awizo

@@ -100,20 +100,6 @@ std::string removeReferences(Work& work, std::string_view text, const Contains& 
   return done ? result : "";
 }
 
-std::string xmlOf(std::string_view text) {
-  std::string xml;
-  for (const std::string& reference : referencesOf(text)) {
-    const std::vector<std::string> fields = fieldsOf(reference);
-    xml.append("<Package-Reference><PackageId>").append(serialOf(fields)).append("</PackageId>");
-    if (fields.size() > quantityField) {
-      xml.append("<Quantity>").append(Conversions::CommaToDot(fields[quantityField]));
-      xml.append("</Quantity>");
-    }
-    xml.append("</Package-Reference>");
-  }
-  return xml;
-}
-
 std::string textAt(const XmlNode& node, std::string_view path) {
   const XmlNode found = node.selectSingle(path);
   return found ? found.text() : "";
@@ -196,8 +182,33 @@ std::string GetPackedQuantity(Work& work, std::string_view text) {
   return result;
 }
 
+std::vector<PackageReference> packageReferences(std::string_view text) {
+  std::vector<PackageReference> references;
+  for (const std::string& reference : referencesOf(text)) {
+    std::vector<std::string> fields = fieldsOf(reference);
+    if (fields.empty()) return {};
+    PackageReference& added = references.emplace_back();
+    added.packageId = std::move(fields.front());
+    if (fields.size() > quantityField) {
+      added.quantity = Conversions::CommaToDot(fields[quantityField]);
+    }
+  }
+  return references;
+}
+
+std::string packageReferenceXml(const PackageReference& reference) {
+  std::string xml = "<Package-Reference><PackageId>" + reference.packageId + "</PackageId>";
+  if (reference.quantity)
+    xml.append("<Quantity>").append(*reference.quantity).append("</Quantity>");
+  return xml.append("</Package-Reference>");
+}
+
 std::string PackageRefsToXml(std::string_view text) {
-  return emptyOnError([&] { return xmlOf(text); });
+  std::string xml;
+  for (const PackageReference& reference : packageReferences(text)) {
+    xml += packageReferenceXml(reference);
+  }
+  return xml;
 }
 
 std::string PackageRefsFromXml(const Xml& xml, std::string_view text) {

@@ -7,6 +7,7 @@
 
 #include "platform/forms/table.h"
 #include "session/record/work.h"
+#include "tables/package_reference.h"
 
 namespace awizo {
 
@@ -47,8 +48,14 @@ std::string RemoveOldPackRef(Work& work, std::string_view text, const SerialSet&
 /// has none. An error, such as a quantity that is no number, is shown and gives the empty text.
 std::string GetPackedQuantity(Work& work, std::string_view text);
 
-/// One Package-Reference element for each reference, with PackageId and, for a reference of four
-/// fields, Quantity with a point. The empty text where a reference has no field.
+/// The references as a document has them: without description and level, and with a quantity where
+/// there are four fields. None at all where a reference has no field.
+std::vector<PackageReference> packageReferences(std::string_view text);
+
+/// Its element, in which the values stand as they are.
+std::string packageReferenceXml(const PackageReference& reference);
+
+/// The elements of the references of the string, one behind the other.
 std::string PackageRefsToXml(std::string_view text);
 
 /// The string of the Package-Reference elements in this XML text of siblings, each as

@@ -1,3 +1,4 @@
+#include "formats/despatch_advice_skeleton.h"
 #include "support/cells.h"
 #include "support/error_of.h"
 #include "written_despatch_advice.h"
@@ -32,7 +33,7 @@ TEST(DespatchAdviceInAPointLocale, WritesTheSameNumbersDatesAndTimes) {
 
 TEST(DespatchAdviceSkeleton, HoldsOnlyWhatAlwaysStands) {
   const Libxml2 xml;
-  EXPECT_EQ(CreateDesAdvSkeleton(xml, "", "", "", 0, "", "", 5)->fileBytes(),
+  EXPECT_EQ(CreateDesAdvSkeleton(xml, {})->fileBytes(),
             std::string("<Document-DespatchAdvice><DespatchAdvice-Header>"
                         "<DespatchAdviceNumber/><DespatchAdviceDate/><EstimatedDeliveryDate/>"
                         "<BuyerOrderNumber/><Currency>RUR</Currency></DespatchAdvice-Header>"
@@ -43,31 +44,41 @@ TEST(DespatchAdviceSkeleton, HoldsOnlyWhatAlwaysStands) {
 
 TEST(DespatchAdviceSkeleton, HoldsPlacesForOptionalValuesWithoutTheValues) {
   const Libxml2 xml;
-  EXPECT_EQ(
-      CreateDesAdvSkeleton(xml, "10:00", "11:00", "2026-01-01", 1, "77", "952", 0)->fileBytes(),
-      std::string("<Document-DespatchAdvice><DespatchAdvice-Header>"
-                  "<DespatchAdviceNumber/><DespatchAdviceDate/><DespatchAdviceTime/>"
-                  "<EstimatedDeliveryDate/><EstimatedDeliveryTime/><BuyerOrderNumber/>"
-                  "<BuyerOrderDate/><Currency>RUR</Currency></DespatchAdvice-Header>"
-                  "<DespatchAdvice-Parties><Buyer><ILN/></Buyer>"
-                  "<Seller><ILN/><CodeByBuyer/></Seller><DeliveryPoint><ILN/></DeliveryPoint>"
-                  "</DespatchAdvice-Parties>") +
-          emptyConsignment +
-          "<DespatchAdvice-Lines/><DespatchAdvice-Summary><TotalAmount/><TotalQuantity/>"
-          "</DespatchAdvice-Summary></Document-DespatchAdvice>");
+  DespatchAdvice advice;
+  advice.header.time = "10:00";
+  advice.header.deliveryTime = "11:00";
+  advice.header.orderDate = "2026-01-01";
+  advice.header.codeByBuyer = "77";
+  advice.header.deliveryILN = "952";
+  advice.lines.resize(1);
+  EXPECT_EQ(CreateDesAdvSkeleton(xml, advice)->fileBytes(),
+            std::string("<Document-DespatchAdvice><DespatchAdvice-Header>"
+                        "<DespatchAdviceNumber/><DespatchAdviceDate/><DespatchAdviceTime/>"
+                        "<EstimatedDeliveryDate/><EstimatedDeliveryTime/><BuyerOrderNumber/>"
+                        "<BuyerOrderDate/><Currency>RUR</Currency></DespatchAdvice-Header>"
+                        "<DespatchAdvice-Parties><Buyer><ILN/></Buyer>"
+                        "<Seller><ILN/><CodeByBuyer/></Seller><DeliveryPoint><ILN/></DeliveryPoint>"
+                        "</DespatchAdvice-Parties>") +
+                emptyConsignment +
+                "<DespatchAdvice-Lines/><DespatchAdvice-Summary><TotalAmount/><TotalQuantity/>"
+                "</DespatchAdvice-Summary></Document-DespatchAdvice>");
+}
+
+DespatchAdvice withOneLine() {
+  DespatchAdvice advice;
+  advice.lines.resize(1);
+  return advice;
 }
 
 TEST(DespatchAdviceParts, CanBeAddedOneByOne) {
   const Libxml2 xml;
-  const auto document = CreateDesAdvSkeleton(xml, "", "", "", 1, "", "", 0);
-  PackingSequenceValues box;
-  box.packageId = "2";
+  const auto document = CreateDesAdvSkeleton(xml, withOneLine());
+  AdvicePackage box;
+  box.id = "2";
   box.weight = "1.5";
   AddPackingSequence(xml, *document, box);
-  DesAdvLineValues line;
+  AdviceLine line;
   line.ean = "5";
-  line.taxCategory = "S";
-  line.expiryDate = "2026-01-01";
   AddDesAdvLine(xml, *document, line);
   EXPECT_THAT(document->fileBytes(),
               ::testing::HasSubstr("<Packing-Sequence><PackageId>2</PackageId>"
@@ -80,11 +91,11 @@ TEST(DespatchAdviceParts, CanBeAddedOneByOne) {
 
 TEST(DespatchAdviceParts, ThatAreNotWellFormedAreAnError) {
   const Libxml2 xml;
-  const auto document = CreateDesAdvSkeleton(xml, "", "", "", 1, "", "", 0);
-  PackingSequenceValues box;
-  box.packageId = "<";
+  const auto document = CreateDesAdvSkeleton(xml, withOneLine());
+  AdvicePackage box;
+  box.id = "<";
   EXPECT_EQ(errorNumberOf([&] { AddPackingSequence(xml, *document, box); }), 5);
-  DesAdvLineValues line;
+  AdviceLine line;
   line.description = "]]>";
   EXPECT_EQ(errorNumberOf([&] { AddDesAdvLine(xml, *document, line); }), 5);
 }

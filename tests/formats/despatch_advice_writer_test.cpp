@@ -3,7 +3,7 @@
 namespace awizo::test {
 namespace {
 
-TEST_F(DespatchAdvice, WithoutLinesAndPackagesIsTheHeaderAndTheConsignmentPackage) {
+TEST_F(WrittenAdvice, WithoutLinesAndPackagesIsTheHeaderAndTheConsignmentPackage) {
   EXPECT_EQ(written(), std::string("<Document-DespatchAdvice>"
                                    "<DespatchAdvice-Header>"
                                    "<DespatchAdviceNumber>WZ-1</DespatchAdviceNumber>"
@@ -19,7 +19,7 @@ TEST_F(DespatchAdvice, WithoutLinesAndPackagesIsTheHeaderAndTheConsignmentPackag
                            emptyConsignment + "</Document-DespatchAdvice>");
 }
 
-TEST_F(DespatchAdvice, WithEveryOptionalHeaderValue) {
+TEST_F(WrittenAdvice, WithEveryOptionalHeaderValue) {
   form.txtDespatchAdviceTime.setTime(TimeOfDay{9, 5, 59});
   form.txtEstimatedDeliveryTime.setTime(TimeOfDay{14, 30, 0});
   form.dpDataZam.setDate(makeDate(2026, 1, 2));
@@ -46,7 +46,7 @@ TEST_F(DespatchAdvice, WithEveryOptionalHeaderValue) {
                            emptyConsignment + "</Document-DespatchAdvice>");
 }
 
-TEST_F(DespatchAdvice, EmptyHeaderValuesStandAsEmptyElements) {
+TEST_F(WrittenAdvice, EmptyHeaderValuesStandAsEmptyElements) {
   form.txtNrAwiza.setText("");
   form.txtDataAwiza.setDate(std::nullopt);
   form.txtNrZam.setText("");
@@ -68,14 +68,14 @@ TEST_F(DespatchAdvice, EmptyHeaderValuesStandAsEmptyElements) {
                            emptyConsignment + "</Document-DespatchAdvice>");
 }
 
-TEST_F(DespatchAdvice, HeaderValuesAreEscaped) {
+TEST_F(WrittenAdvice, HeaderValuesAreEscaped) {
   form.txtNrAwiza.setText("A&B<C>");
   form.txtCodeByBuyer.setText("x & y");
   EXPECT_THAT(written(), ::testing::HasSubstr("<DespatchAdviceNumber>A&amp;B&lt;C&gt;</"));
   EXPECT_EQ(value("/Document-DespatchAdvice/DespatchAdvice-Parties/Seller/CodeByBuyer"), "x & y");
 }
 
-TEST_F(DespatchAdvice, ACharacterThatXmlCantHoldEndsAtItsStep) {
+TEST_F(WrittenAdvice, ACharacterThatXmlCantHoldEndsAtItsStep) {
   form.lblILNKupWart.setCaption("1\x01");
   expectFailure("8", "Invalid procedure call or argument");
   form.txtNrZam.setText("\uFFFF");
@@ -84,12 +84,12 @@ TEST_F(DespatchAdvice, ACharacterThatXmlCantHoldEndsAtItsStep) {
   expectFailure("1", "Invalid procedure call or argument");
 }
 
-TEST_F(DespatchAdvice, AMissingDeliveryDateEndsAtItsStep) {
+TEST_F(WrittenAdvice, AMissingDeliveryDateEndsAtItsStep) {
   form.txtEstimatedDeliveryDate.setDate(std::nullopt);
   expectFailure("4", "Invalid use of Null");
 }
 
-TEST_F(DespatchAdvice, CarriesAPackageWithAllItsValues) {
+TEST_F(WrittenAdvice, CarriesAPackageWithAllItsValues) {
   std::vector<std::string> cells = package("2", "1");
   cells[GRD_OPAK_DESC] = "not written";
   cells[GRD_OPAK_TYPE] = "201";
@@ -117,7 +117,7 @@ TEST_F(DespatchAdvice, CarriesAPackageWithAllItsValues) {
                                               "</DespatchAdvice-Consignment>"));
 }
 
-TEST_F(DespatchAdvice, KeepsThePackagesInTheirOrderUnderTheirParents) {
+TEST_F(WrittenAdvice, KeepsThePackagesInTheirOrderUnderTheirParents) {
   // The first package lies in the consignment, whatever its cell says.
   setPackages({package("4", "9"), package("2", "4"), package("3", "")});
   EXPECT_THAT(written(), ::testing::HasSubstr(
@@ -129,13 +129,13 @@ TEST_F(DespatchAdvice, KeepsThePackagesInTheirOrderUnderTheirParents) {
                              "</DespatchAdvice-Consignment>"));
 }
 
-TEST_F(DespatchAdvice, APackageWithoutSerialHasAnEmptyId) {
+TEST_F(WrittenAdvice, APackageWithoutSerialHasAnEmptyId) {
   setPackages({package("", "")});
   EXPECT_THAT(written(), ::testing::HasSubstr("<Packing-Sequence><PackageId/><ParentId>1</ParentId>"
                                               "</Packing-Sequence></DespatchAdvice-Consignment>"));
 }
 
-TEST_F(DespatchAdvice, CarriesALineWithAllItsValues) {
+TEST_F(WrittenAdvice, CarriesALineWithAllItsValues) {
   std::vector<std::string> cells = lineCells();
   cells[GRD_POZ_LP] = "1";
   cells[GRD_POZ_EAN] = "5901234123457";
@@ -192,7 +192,7 @@ TEST_F(DespatchAdvice, CarriesALineWithAllItsValues) {
                   "</Document-DespatchAdvice>"));
 }
 
-TEST_F(DespatchAdvice, CommasOfALineStayWhereNoNumberStands) {
+TEST_F(WrittenAdvice, CommasOfALineStayWhereNoNumberStands) {
   std::vector<std::string> cells = line("1");
   for (const int column :
        {GRD_POZ_LP, GRD_POZ_ORDER_LINE, GRD_POZ_EAN, GRD_POZ_CODE_BY_BUYER, GRD_POZ_CODE_BY_SELLER,
@@ -207,7 +207,7 @@ TEST_F(DespatchAdvice, CommasOfALineStayWhereNoNumberStands) {
   }
 }
 
-TEST_F(DespatchAdvice, CommasOfAPackageStayWhereNoNumberStands) {
+TEST_F(WrittenAdvice, CommasOfAPackageStayWhereNoNumberStands) {
   std::vector<std::string> cells = package("A, B", "A, B");
   for (const int column : {GRD_OPAK_TYPE, GRD_OPAK_SERIAL_NUMBER, GRD_OPAK_LOCATION_ILN}) {
     cells[static_cast<std::size_t>(column)] = "A, B";
@@ -219,18 +219,18 @@ TEST_F(DespatchAdvice, CommasOfAPackageStayWhereNoNumberStands) {
   }
 }
 
-TEST_F(DespatchAdvice, ALineWithoutValuesKeepsTheElementsThatAlwaysStand) {
+TEST_F(WrittenAdvice, ALineWithoutValuesKeepsTheElementsThatAlwaysStand) {
   setLines({lineCells()});
   EXPECT_THAT(written(), ::testing::HasSubstr("<Line><Line-Item><LineNumber/><EAN/>"
                                               "<DespatchedQuantity/></Line-Item></Line>"));
 }
 
-TEST_F(DespatchAdvice, KeepsTheLinesInTheirOrder) {
+TEST_F(WrittenAdvice, KeepsTheLinesInTheirOrder) {
   setLines({line("1"), line("3"), line("2")});
   EXPECT_THAT(lineNumbers(), ::testing::ElementsAre("1", "3", "2"));
 }
 
-TEST_F(DespatchAdvice, WritesNoMoreRowsThanAreCounted) {
+TEST_F(WrittenAdvice, WritesNoMoreRowsThanAreCounted) {
   setLines({line("1"), line("2")});
   setPackages({package("2", "1"), package("3", "1")});
   test.session.LineCount = 1;
@@ -240,7 +240,7 @@ TEST_F(DespatchAdvice, WritesNoMoreRowsThanAreCounted) {
   EXPECT_EQ(document->node().selectAll("//Packing-Sequence").size(), 1U);
 }
 
-TEST_F(DespatchAdvice, ATaxRateThatIsMissingIsLeftOutAndZeroIsWritten) {
+TEST_F(WrittenAdvice, ATaxRateThatIsMissingIsLeftOutAndZeroIsWritten) {
   const char* path = "//TaxRate";
   std::vector<std::string> cells = line("1");
   for (const auto& [rate, expected] : std::vector<std::pair<const char*, const char*>>{
@@ -251,14 +251,14 @@ TEST_F(DespatchAdvice, ATaxRateThatIsMissingIsLeftOutAndZeroIsWritten) {
   }
 }
 
-TEST_F(DespatchAdvice, TheMarkOfAMissingOrderLineNumberIsWritten) {
+TEST_F(WrittenAdvice, TheMarkOfAMissingOrderLineNumberIsWritten) {
   std::vector<std::string> cells = line("1");
   cells[GRD_POZ_ORDER_LINE] = "-1";
   setLines({cells});
   EXPECT_EQ(value("//OrderLineNumber"), "-1");
 }
 
-TEST_F(DespatchAdvice, AReferenceOfThreeFieldsHasNoQuantity) {
+TEST_F(WrittenAdvice, AReferenceOfThreeFieldsHasNoQuantity) {
   std::vector<std::string> cells = line("1");
   cells[GRD_POZ_PACK_REFS] = "2@@1,5";
   setLines({cells});
@@ -267,14 +267,14 @@ TEST_F(DespatchAdvice, AReferenceOfThreeFieldsHasNoQuantity) {
                                    "</Package-Reference></Line>"));
 }
 
-TEST_F(DespatchAdvice, EmptyTotalsAreWrittenAsMissing) {
+TEST_F(WrittenAdvice, EmptyTotalsAreWrittenAsMissing) {
   setLines({line("1")});
   EXPECT_THAT(written(),
               ::testing::HasSubstr("<DespatchAdvice-Summary><TotalAmount>-1</TotalAmount>"
                                    "<TotalQuantity>-1</TotalQuantity>"));
 }
 
-TEST_F(DespatchAdvice, TotalsAreRoundedToTwoDecimalsAndTheTableKeepsItsOwn) {
+TEST_F(WrittenAdvice, TotalsAreRoundedToTwoDecimalsAndTheTableKeepsItsOwn) {
   setLines({line("1")});
   form.grdSuma.setCell(1, GRD_SUMA_QTY_DESPATCHED, "7,125");
   form.grdSuma.setCell(1, GRD_SUMA_NET_AMOUNT, "0,1");

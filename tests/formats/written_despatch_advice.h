@@ -14,11 +14,11 @@ inline constexpr const char* emptyConsignment =
     "</DespatchAdvice-Consignment>";
 
 /// A document with the least header that validates.
-struct DespatchAdvice : ::testing::Test {
+struct WrittenAdvice : ::testing::Test {
   TestEditor test;
   AwizoForm& form = test.form;
 
-  DespatchAdvice() {
+  WrittenAdvice() {
     form.txtNrAwiza.setText("WZ-1");
     form.txtDataAwiza.setDate(makeDate(2026, 11, 21));
     form.txtDespatchAdviceTime.setTime(std::nullopt);

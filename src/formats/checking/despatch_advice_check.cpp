@@ -7,8 +7,8 @@
 #include "formats/checking/package_findings.h"
 #include "formats/checking/scratch_editor.h"
 #include "formats/checking/stopped_reading.h"
+#include "formats/despatch_advice_elements.h"
 #include "formats/despatch_advice_paths.h"
-#include "formats/despatch_advice_writer.h"
 #include "formats/reading/despatch_advice_reader.h"
 #include "formats/reading/line_reader.h"
 #include "service/transport.h"
@@ -18,20 +18,6 @@ namespace {
 
 void append(std::vector<Finding>& findings, const std::vector<Finding>& more) {
   findings.insert(findings.end(), more.begin(), more.end());
-}
-
-/// Kinds of all elements that the editor can write, as the writer itself tells them.
-std::set<std::string> writtenKinds(const Xml& xml) {
-  const std::string any = "1";
-  const auto document = CreateDesAdvSkeleton(xml, any, any, any, 1, any, any, 1);
-  AddPackingSequence(xml, *document, {any, any, any, any, any, any, any, any, any});
-  DesAdvLineValues line{any, any, any, any, any, any, any, any,      any,
-                        any, any, any, any, any, any, any, "1@1@1@1"};
-  AddDesAdvLine(xml, *document, line);
-  std::set<std::string> kinds;
-  const DocumentMap map(*document);
-  for (const DocumentMap::Place& place : map.places()) kinds.insert(place.kind);
-  return kinds;
 }
 
 /// The element at the path, or the nearest above it that is there.
@@ -63,7 +49,7 @@ class DespatchAdviceCheck {
       all.push_back(stoppedReading(map, document_, *result.error));
       end = map.numberOf(document_.last());
     }
-    const std::set<std::string> written = writtenKinds(scratch_.editor.platform.xml);
+    const std::set<std::string> written = writtenKinds();
     append(all, ignoredElements(map, document_, end,
                                 [&](const std::string& kind) { return written.contains(kind); }));
     append(all, lines(map));
