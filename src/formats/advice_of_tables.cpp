@@ -1,5 +1,7 @@
 #include "formats/advice_of_tables.h"
 
+#include <algorithm>
+
 #include "tables/columns/columns.h"
 #include "tables/package_references.h"
 #include "tables/row.h"
@@ -86,10 +88,13 @@ DespatchAdvice adviceOf(const Editor& editor) {
 
 void readAdvice(const Editor& editor, DespatchAdvice& advice) {
   advice.header = headerOf(editor.form);
-  for (int row = 1; row <= editor.session.IloscPozycjiOpak; ++row) {
+  const SessionState& session = editor.session;
+  advice.packages.reserve(static_cast<std::size_t>(std::max<int>(session.IloscPozycjiOpak, 0)));
+  for (int row = 1; row <= session.IloscPozycjiOpak; ++row) {
     advice.packages.push_back(packageOf(packageRow(editor, row)));
   }
-  for (int row = 1; row <= editor.session.LineCount; ++row) {
+  advice.lines.reserve(static_cast<std::size_t>(std::max<int>(session.LineCount, 0)));
+  for (int row = 1; row <= session.LineCount; ++row) {
     advice.lines.push_back(lineOf(lineRow(editor, row)));
   }
   if (advice.lines.empty()) return;

@@ -72,7 +72,8 @@ ElementText lineText(const AdviceLine& line) {
   }
   writer.close("Line-Item");
   for (const PackageReference& package : line.packages) {
-    writer.insert(packageReferenceXml(package), package.packageId, package.quantity.value_or(""));
+    const std::string_view quantity = package.quantity ? *package.quantity : std::string_view();
+    writer.insert(packageReferenceXml(package), package.packageId, quantity);
   }
   writer.close("Line");
   return writer.take();
