@@ -29,10 +29,10 @@ fail_for_room() {
   local place
   for place in "$PWD/build" "${TMPDIR:-/tmp}"; do
     if [[ -d $place ]] && (($(df --output=avail --block-size=1M "$place" | tail -n 1) < 10)); then
-      fail "the disk of $place is full; make room (building takes 2 GB), then call again."
+      fail "the disk of $place is full; make room (building takes 1 GB), then call again."
     fi
   done
   if grep -qs 'No space left on device' "$1"; then
-    fail "a disk is full; make room (building takes 2 GB), then call again."
+    fail "a disk is full; make room (building takes 1 GB), then call again."
   fi
 }
