@@ -84,4 +84,28 @@ std::unique_ptr<XmlDocument> SendXMLDOMRequest(Work& work, std::string_view url,
   return response;
 }
 
+std::string_view wordsOf(Exchange exchange) {
+  switch (exchange) {
+    case Exchange::partnerInfo:
+      return "Загрузка данных партнёра…";
+    case Exchange::productCatalogue:
+      return "Загрузка каталога…";
+    case Exchange::deliveryPlaces:
+      return "Загрузка мест доставки…";
+    case Exchange::order:
+      return "Получение заказа…";
+    case Exchange::sending:
+      break;
+  }
+  return "Отправка документа…";
+}
+
+std::unique_ptr<XmlDocument> runExchange(Work& work, Exchange exchange, std::string_view url,
+                                         XmlDocument& request) {
+  std::unique_ptr<XmlDocument> response;
+  work.screen().during(wordsOf(exchange),
+                       [&] { response = SendXMLDOMRequest(work, url, request); });
+  return response;
+}
+
 }  // namespace awizo

@@ -20,4 +20,14 @@ std::string GetNodeValue(const XmlNode& node, std::string_view xpath, bool blank
 std::unique_ptr<XmlDocument> SendXMLDOMRequest(Work& work, std::string_view url,
                                                XmlDocument& request);
 
+/// What the control and the service exchange.
+enum class Exchange { partnerInfo, productCatalogue, deliveryPlaces, order, sending };
+
+/// What the user is told while it runs.
+std::string_view wordsOf(Exchange exchange);
+
+/// SendXMLDOMRequest for one exchange, of which the user is told while it runs.
+std::unique_ptr<XmlDocument> runExchange(Work& work, Exchange exchange, std::string_view url,
+                                         XmlDocument& request);
+
 }  // namespace awizo

@@ -1,5 +1,6 @@
 #include "session/awizo_wysylki.h"
 
+#include "session/document_content.h"
 #include "session/record/off_line_path.h"
 #include "session/set_up.h"
 #include "session/start_up.h"
@@ -29,6 +30,7 @@ AwizoWysylki::AwizoWysylki(const Platform& platform, SessionState& session)
       dlgSzczegoly(editor),
       dlgWczytajZapisz(screen, platform.files, platform.settings, session) {
   connectEvents();
+  form.onDocumentKept = [this] { keepDocument(); };
 }
 
 void AwizoWysylki::setOnLine(std::string_view value) {
@@ -61,10 +63,23 @@ void AwizoWysylki::UserControl_ReadProperties() {
 }
 
 void AwizoWysylki::UserControl_Show() {
+  start_ = Start::runs;
   form.showMain();
-  awizo::UserControl_Show(editor, dlgDodaj);
+  editor.screen().during("", [this] { awizo::UserControl_Show(editor, dlgDodaj); });
   // Only now is there a catalogue that the line dialog can read when it loads.
   dlgDodaj.allowLoading();
+  start_ = form.enabled() ? Start::done : Start::failed;
+  // An order is handed out once: until it is answered, it would be lost.
+  if (!form.OrderAnswer) keepDocument();
+}
+
+void AwizoWysylki::keepDocument() { keptDocument_ = documentContent(editor); }
+
+bool AwizoWysylki::isDocumentChanged() const {
+  // A start that failed left nothing to work on.
+  if (start_ == Start::none || start_ == Start::failed) return false;
+  if (!keptDocument_) return editor.session.LineCount > 0;
+  return documentContent(editor) != *keptDocument_;
 }
 
 void AwizoWysylki::UserControl_WriteProperties() {

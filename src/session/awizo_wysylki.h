@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -58,6 +59,10 @@ class AwizoWysylki {
   /// Keeps the local folder for the next run. An unsaved document is lost.
   void UserControl_Terminate();
 
+  /// Whether the document holds what was neither saved nor sent: the user's changes, or an order
+  /// that the service has handed out for good. A host asks before it lets such a document go.
+  bool isDocumentChanged() const;
+
   // Methods that the system itself doesn't call and a host may. Where an error is named, it reaches
   // the host as RunTimeError; the others raise none.
 
@@ -95,6 +100,9 @@ class AwizoWysylki {
   std::int16_t IndexGrdPozycjeDlgDodaj(std::int16_t row, std::int16_t col);
 
  private:
+  enum class Start { none, runs, failed, done };
+
+  void keepDocument();
   void connectEvents();
   void connectLineButtons();
   void connectPackageButtons();
@@ -102,6 +110,10 @@ class AwizoWysylki {
   void connectTables();
   void connectTableEditor();
   void showOnLine();
+
+  Start start_ = Start::none;
+  /// The document as it was last kept; none where it never was and would be lost.
+  std::optional<std::string> keptDocument_;
 };
 
 }  // namespace awizo

@@ -35,7 +35,7 @@ bool fetchPartner(Editor& editor) {
   SessionState& session = editor.session;
   const Platform& platform = editor.platform;
   const auto request = partnerInfoRequest(platform.xml, session.BuyerILN);
-  auto reply = SendXMLDOMRequest(editor, editor.form.PartnersUrl, *request);
+  auto reply = runExchange(editor, Exchange::partnerInfo, editor.form.PartnersUrl, *request);
   const XmlNode info = nodeOf(reply).selectSingle(partnerInfoPath);
   if (!info) return false;
 
@@ -59,7 +59,7 @@ void keepParties(const SessionState& session, AwizoForm& form) {
 void fetchProductCatalogue(Editor& editor, std::string_view base) {
   SessionState& session = editor.session;
   const auto request = productCatalogueRequest(editor.platform.xml, session.BuyerILN);
-  auto reply = SendXMLDOMRequest(editor, productCatalogueUrl(base), *request);
+  auto reply = runExchange(editor, Exchange::productCatalogue, productCatalogueUrl(base), *request);
   const std::string status = GetNodeValue(nodeOf(reply), catalogueStatusPath, true);
   if (status == "ERROR") {
     // The service's description isn't shown to anybody; the control is only made usable.
@@ -78,7 +78,8 @@ void fetchLocalizations(Work& work, std::string_view base) {
   SessionState& session = work.session;
   session.LocalizationsLoaded = false;
   const auto request = localizationCatalogueRequest(work.platform.xml, session.BuyerILN);
-  auto reply = SendXMLDOMRequest(work, localizationCatalogueUrl(base), *request);
+  auto reply =
+      runExchange(work, Exchange::deliveryPlaces, localizationCatalogueUrl(base), *request);
   if (GetNodeValue(nodeOf(reply), localizationStatusPath, true) != "CHANGED") return;
   session.LocalizationsDom = std::move(reply);
   session.LocalizationsLoaded = true;
@@ -87,7 +88,7 @@ void fetchLocalizations(Work& work, std::string_view base) {
 /// The document of a waiting order; none where no order waits.
 std::unique_ptr<XmlDocument> fetchOrder(Editor& editor) {
   const auto request = orderRequest(editor.platform.xml);
-  auto reply = SendXMLDOMRequest(editor, editor.form.OrderDataUrl, *request);
+  auto reply = runExchange(editor, Exchange::order, editor.form.OrderDataUrl, *request);
   const XmlNode order = nodeOf(reply).selectSingle(orderPath);
   if (!order) return nullptr;
   reply->keepOnly(order);

@@ -64,9 +64,11 @@ TEST_F(CommandsTest, KeysOfTablesAreTheFieldsOwnElsewhere) {
 
 TEST_F(CommandsTest, EveryMenuItemPressesItsButton) {
   openCounting();
-  for (QAction* action : {commands().open, commands().save, commands().addLine, commands().editLine,
-                          commands().removeLine, commands().addPackage, commands().editPackage,
-                          commands().removePackage}) {
+  for (QAction* action :
+       {commands().action(form().btnWczytaj), commands().action(form().btnZapisz),
+        commands().action(form().btnDodaj), commands().action(form().btnEdytuj),
+        commands().action(form().btnUsun), commands().action(form().btnDodajOpak),
+        commands().action(form().btnEdytujOpak), commands().action(form().btnUsunOpak)}) {
     action->trigger();
   }
   EXPECT_EQ(pressed,
@@ -76,15 +78,16 @@ TEST_F(CommandsTest, EveryMenuItemPressesItsButton) {
 
 TEST_F(CommandsTest, MenuStandsAsTheButtonsStand) {
   openCounting();
-  EXPECT_FALSE(commands().send->isVisible()) << "off line nothing can be sent";
+  EXPECT_FALSE(commands().action(form().btnPrzeslij)->isVisible())
+      << "off line nothing can be sent";
   widget().setOnLine("On");
-  EXPECT_TRUE(commands().send->isVisible());
+  EXPECT_TRUE(commands().action(form().btnPrzeslij)->isVisible());
   form().btnEdytuj.setEnabled(false);
-  EXPECT_FALSE(commands().editLine->isEnabled());
+  EXPECT_FALSE(commands().action(form().btnEdytuj)->isEnabled());
   form().btnEdytuj.setEnabled(true);
-  EXPECT_TRUE(commands().editLine->isEnabled());
+  EXPECT_TRUE(commands().action(form().btnEdytuj)->isEnabled());
   form().setEnabled(false);
-  EXPECT_FALSE(commands().open->isEnabled());
+  EXPECT_FALSE(commands().action(form().btnWczytaj)->isEnabled());
   press(Qt::Key_O, Qt::ControlModifier);
   EXPECT_EQ(pressed, "");
 }
@@ -94,8 +97,8 @@ TEST_F(CommandsTest, MenusAndTipsTellTheKeys) {
   QStringList menus;
   for (const QAction* menu : window().menuBar()->actions()) menus << menu->text();
   EXPECT_EQ(menus, QStringList({"&Документ", "&Правка", "&Справка"}));
-  EXPECT_EQ(commands().open->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_O));
-  EXPECT_EQ(commands().removePackage->shortcut(), QKeySequence(Qt::Key_Delete));
+  EXPECT_EQ(commands().action(form().btnWczytaj)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_O));
+  EXPECT_EQ(commands().action(form().btnUsunOpak)->shortcut(), QKeySequence(Qt::Key_Delete));
   EXPECT_EQ(face(form().btnDodaj).widget()->toolTip(), "Добавить строку (Ins)");
   EXPECT_EQ(face(form().btnZapisz).widget()->toolTip(), "Сохранить (Ctrl+S)");
   EXPECT_EQ(face(form().btnEdytujOpak).widget()->toolTip(), "Изменить упаковку (F2)");

@@ -40,7 +40,7 @@ TEST_F(StartTest, WithoutTheUsersAgreementNothingIsSent) {
   answerNext("&Нет");
   waitForStart();
   EXPECT_FALSE(widget().hasStarted());
-  EXPECT_FALSE(commands().open->isEnabled());
+  EXPECT_FALSE(commands().action(form().btnWczytaj)->isEnabled());
   // The order still waits for who does agree.
   agreeTo(service);
   window().startAgain();

@@ -53,6 +53,7 @@ TEST_F(Sending, AsksPostsTheDocumentAndTellsThatItWasSent) {
   session.SessionCookie = "SID=abc";
   send();
   EXPECT_THAT(takeBoxes(), ElementsAre(plainQuestion, sentBox));
+  EXPECT_THAT(face.works(), ElementsAre("Отправка документа…"));
   ASSERT_EQ(http.sent.size(), 1U);
   EXPECT_EQ(http.sent[0].url, "http://firm.example/app/partner/Upload.aspx");
   EXPECT_THAT(http.sent[0].body, HasSubstr("<DespatchAdviceNumber>WZ-1</DespatchAdviceNumber>"));

@@ -27,6 +27,13 @@ TEST_F(OnLineStart, MakesFourExchangesInOrder) {
   EXPECT_TRUE(finished());
 }
 
+TEST_F(OnLineStart, TheUserIsToldWhatIsBeingDone) {
+  startWith(catalogueReply, placesReply, "<none/>");
+  EXPECT_THAT(face.works(), ElementsAre("", "Загрузка данных партнёра…", "Загрузка каталога…",
+                                        "Загрузка мест доставки…", "Получение заказа…"));
+  EXPECT_EQ(face.worksGoingOn, 0);
+}
+
 TEST_F(OnLineStart, TakesAddressesAndCookieFromThePage) {
   startWith("<none/>", "<none/>", "<none/>");
   EXPECT_EQ(form.PartnersUrl, "http://firm.example/app/Partners.aspx?format=xml");

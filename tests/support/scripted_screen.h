@@ -56,6 +56,9 @@ class ScriptedScreen : public ScreenFace {
   const std::vector<std::string>& modalForms() const { return modalForms_; }
   /// Each change of the cursor.
   const std::vector<Cursor>& cursors() const { return cursors_; }
+  /// The words of each work that took long, and how many go on now.
+  const std::vector<std::string>& works() const { return works_; }
+  int worksGoingOn = 0;
   /// How often waiting events were let run, and what runs then.
   int lettingEventsRun = 0;
   std::function<void()> onLetEventsRun;
@@ -66,6 +69,11 @@ class ScriptedScreen : public ScreenFace {
   Answer ask(const MessageBox& box) override;
   void runModal(Form& form) override;
   void cursorChanged(Cursor cursor) override { cursors_.push_back(cursor); }
+  void workBegins(std::string_view what) override {
+    works_.emplace_back(what);
+    ++worksGoingOn;
+  }
+  void workEnds() override { --worksGoingOn; }
   void letEventsRun() override;
   void endProgram() override { programEnded = true; }
 
@@ -76,6 +84,7 @@ class ScriptedScreen : public ScreenFace {
   std::vector<MessageBox> boxes_;
   std::vector<std::string> modalForms_;
   std::vector<Cursor> cursors_;
+  std::vector<std::string> works_;
 };
 
 /// The box as a test writes it down: "title|icon|buttons|text", line breaks as \r and \n.

@@ -70,8 +70,8 @@ void Fields::addCovered(int row, int pair, const Control& caption, const Control
   addField(row, pair, faces_.widget(cover), pairs);
 }
 
-QGroupBox* makeGroup(const QString& heading) {
-  auto* group = new QGroupBox(heading);
+QGroupBox* makeGroup(std::string_view heading) {
+  auto* group = new QGroupBox(fromText(heading));
   group->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   return group;
 }

@@ -34,7 +34,7 @@ class Fields {
 };
 
 /// A box with a heading.
-QGroupBox* makeGroup(const QString& heading);
+QGroupBox* makeGroup(std::string_view heading);
 
 /// A row of widgets and the room that is left after them.
 QHBoxLayout* makeRow(std::initializer_list<QWidget*> widgets);

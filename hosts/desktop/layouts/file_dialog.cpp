@@ -5,15 +5,16 @@
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/layouts/dialog_layouts.h"
 #include "hosts/desktop/layouts/fields.h"
+#include "session/layout_words.h"
 
 namespace awizo::desktop {
 namespace {
 
 void dress(FormFace& faces, const PictureButton& button, const QString& picture,
-           const QString& words) {
+           std::string_view words) {
   auto& face = static_cast<ButtonFace&>(faces.face(button));
-  face.setPicture(picture, words);
-  face.setWords(words);
+  face.setPicture(picture, fromText(words));
+  face.setWords(fromText(words));
 }
 
 void placeLists(DlgWczytajZapisz& form, FormFace& faces) {
@@ -32,12 +33,12 @@ void layOut(DlgWczytajZapisz& form, FormDialog& dialog) {
   FormFace& faces = dialog.faces();
   placeLists(form, faces);
   Fields fields(faces, nullptr);
-  fields.add(0, 0, QString("Имя файла:"), form.txtAwizoPlik);
-  fields.add(1, 0, QString("Папка:"), form.lblOffLinePath);
+  fields.add(0, 0, fromText(words::fileName), form.txtAwizoPlik);
+  fields.add(1, 0, fromText(words::folder), form.lblOffLinePath);
 
-  dress(faces, form.ImageWczytaj, "open", "Выбрать");
-  dress(faces, form.ImageZapisz, "save", "Записать");
-  dress(faces, form.ImageZamknij, "close", "Закрыть");
+  dress(faces, form.ImageWczytaj, "open", words::chooseFile);
+  dress(faces, form.ImageZapisz, "save", words::writeFile);
+  dress(faces, form.ImageZamknij, "close", words::closeDialog);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(faces.widget(form.btnWczytaj));
   buttons->addStretch(1);

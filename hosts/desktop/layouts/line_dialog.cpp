@@ -6,6 +6,7 @@
 #include "hosts/desktop/layouts/dialog_layouts.h"
 #include "hosts/desktop/layouts/fields.h"
 #include "linedialog/dlg_dodaj.h"
+#include "session/layout_words.h"
 
 namespace awizo::desktop {
 namespace {
@@ -15,7 +16,7 @@ ButtonFace& button(FormFace& faces, const Button& control) {
 }
 
 QGroupBox* makeProduct(DlgDodaj& form, FormFace& faces) {
-  QGroupBox* group = makeGroup("Товар");
+  QGroupBox* group = makeGroup(words::productGroup);
   Fields fields(faces, group);
   fields.addCovered(0, 0, form.lblNazwaProd, form.txtNazwaProdWart, form.cboxNazwaProd, 2);
   fields.addCovered(1, 0, form.lblEANProd, form.txtlEANProdWart, form.cboxEANProd);
@@ -26,7 +27,7 @@ QGroupBox* makeProduct(DlgDodaj& form, FormFace& faces) {
 }
 
 QGroupBox* makeAmounts(DlgDodaj& form, FormFace& faces) {
-  QGroupBox* group = makeGroup("Количество и налог");
+  QGroupBox* group = makeGroup(words::quantityGroup);
   Fields fields(faces, group);
   fields.add(0, 0, form.lblIloscZam, form.txtIloscZam);
   fields.add(1, 0, form.lblIloscPotw, form.txtIloscPotw);
@@ -39,7 +40,7 @@ QGroupBox* makeAmounts(DlgDodaj& form, FormFace& faces) {
 }
 
 QGroupBox* makeOrigin(DlgDodaj& form, FormFace& faces) {
-  QGroupBox* group = makeGroup("Сроки и происхождение");
+  QGroupBox* group = makeGroup(words::datesGroup);
   Fields fields(faces, group);
   fields.add(0, 0, form.Label5, form.dtProdDate);
   fields.add(1, 0, form.lblExpiryDate, form.dtExpiryDate);
@@ -59,7 +60,7 @@ QGroupBox* makeOrigin(DlgDodaj& form, FormFace& faces) {
 }
 
 QGroupBox* makePackages(DlgDodaj& form, FormFace& faces) {
-  QGroupBox* group = makeGroup({});
+  QGroupBox* group = makeGroup("");
   group->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
   auto* rows = new QGridLayout(group);
   QWidget* heading = faces.widget(form.Label4);
@@ -78,9 +79,9 @@ QGroupBox* makePackages(DlgDodaj& form, FormFace& faces) {
   table.stretchColumn(2);
   auto* buttons = new QVBoxLayout;
   buttons->setSpacing(4);
-  button(faces, form.Command1).setTip("Положить товар в упаковку");
-  button(faces, form.Command2).setTip("Вынуть товар из упаковки");
-  button(faces, form.Command3).setTip("Изменить упаковку или количество");
+  button(faces, form.Command1).setTip(fromText(words::putIntoPackage));
+  button(faces, form.Command2).setTip(fromText(words::takeOutOfPackage));
+  button(faces, form.Command3).setTip(fromText(words::changePackage));
   for (const Button* command : {&form.Command1, &form.Command2, &form.Command3}) {
     faces.widget(*command)->setMaximumWidth(48);
     buttons->addWidget(faces.widget(*command));

@@ -3,12 +3,13 @@
 #include "hosts/desktop/layouts/dialog_layouts.h"
 #include "hosts/desktop/layouts/fields.h"
 #include "packagedialog/dlg_szczegoly.h"
+#include "session/layout_words.h"
 
 namespace awizo::desktop {
 namespace {
 
 QGroupBox* makePackage(DlgSzczegoly& form, FormFace& faces) {
-  QGroupBox* group = makeGroup("Упаковка");
+  QGroupBox* group = makeGroup(words::packageGroup);
   Fields fields(faces, group);
   const auto caption = [](const auto& control) { return fromText(control.caption()); };
   fields.add(0, 0, caption(form.cboxPackageType), form.cboxPackageType);
@@ -21,7 +22,7 @@ QGroupBox* makePackage(DlgSzczegoly& form, FormFace& faces) {
 }
 
 QGroupBox* makeMeasures(DlgSzczegoly& form, FormFace& faces) {
-  QGroupBox* group = makeGroup("Размеры и номер");
+  QGroupBox* group = makeGroup(words::sizesGroup);
   Fields fields(faces, group);
   int row = 0;
   for (const TextField* field :
@@ -33,7 +34,7 @@ QGroupBox* makeMeasures(DlgSzczegoly& form, FormFace& faces) {
 }
 
 QGroupBox* makeDelivery(DlgSzczegoly& form, FormFace& faces) {
-  QGroupBox* group = makeGroup("Доставка");
+  QGroupBox* group = makeGroup(words::packageDeliveryGroup);
   Fields fields(faces, group);
   fields.add(0, 0, fromText(form.cboxILNLokalizacji.caption()), form.cboxILNLokalizacji);
   fields.add(1, 0, fromText(form.cboxLokalizacja.caption()), form.cboxLokalizacja);

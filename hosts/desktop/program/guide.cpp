@@ -6,13 +6,16 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include "hosts/desktop/faces/text.h"
+#include "session/layout_words.h"
+
 namespace awizo::desktop {
 
 void openGuide(QWidget& owner) {
   auto* window = new QDialog(&owner);
   window->setObjectName("guide");
   window->setAttribute(Qt::WA_DeleteOnClose);
-  window->setWindowTitle("Руководство пользователя");
+  window->setWindowTitle(fromText(words::guideTitle));
   auto* text = new QTextBrowser;
   text->setOpenExternalLinks(true);
   QFile file(AWIZO_GUIDE);
@@ -20,7 +23,7 @@ void openGuide(QWidget& owner) {
     text->setSearchPaths({QFileInfo(file).absolutePath()});
     text->setMarkdown(QString::fromUtf8(file.readAll()));
   } else {
-    text->setPlainText("Руководство не установлено.");
+    text->setPlainText(fromText(words::noGuide));
   }
   auto* rows = new QVBoxLayout(window);
   rows->setContentsMargins(0, 0, 0, 0);

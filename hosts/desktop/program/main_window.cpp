@@ -11,12 +11,13 @@
 #include "hosts/desktop/program/guide.h"
 #include "hosts/desktop/window/commands.h"
 #include "session/awizo_wysylki.h"
+#include "session/host_boxes.h"
+#include "session/layout_words.h"
 #include "session/record/off_line_path.h"
 
 namespace awizo::desktop {
 namespace {
 
-constexpr std::string_view title = "VIRD";
 const QSize usualSize(1024, 700);
 
 }  // namespace
@@ -27,7 +28,7 @@ MainWindow::MainWindow(Options options, Http* http)
       page_(options_),
       settings_(makeSettings(options_)),
       clock_(makeClock(options_)) {
-  setWindowTitle("Подтверждение отгрузки");
+  setWindowTitle(fromText(words::windowTitle));
   makeSession();
   // On a smaller screen the form scrolls instead of losing its edges.
   resize(usualSize.expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
@@ -61,50 +62,57 @@ void MainWindow::chooseFolder() {
 
 void MainWindow::makeMenus() {
   menuBar()->clear();
-  makeDocumentMenu();
-  makeEditMenu();
-  makeHelpMenu();
+  for (const CommandMenu& menu : widget_->commands().menus()) {
+    fill(*menuBar()->addMenu(fromText(menu.heading)), menu);
+  }
 }
 
-void MainWindow::makeDocumentMenu() {
-  Commands& commands = widget_->commands();
-  QMenu* menu = menuBar()->addMenu("&Документ");
-  menu->addActions({commands.open, commands.save, commands.send});
-  menu->addSeparator();
-  // What rebuilds the menu waits until the menu has closed.
-  menu->addAction(pictureNamed("folder"), "&Папка для работы без связи…", this,
-                  &MainWindow::chooseFolder, Qt::QueuedConnection);
-  menu->addAction(pictureNamed("again"), "&Начать сеанс заново", this, &MainWindow::startAgain,
-                  Qt::QueuedConnection);
-  menu->addSeparator();
-  QAction* quit = menu->addAction("&Выход", this, &MainWindow::close, Qt::QueuedConnection);
-  quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+void MainWindow::fill(QMenu& menu, const CommandMenu& commands) {
+  for (const std::vector<Command>& group : commands.groups) {
+    if (!menu.isEmpty()) menu.addSeparator();
+    for (const Command& command : group) {
+      menu.addAction(command.button != nullptr ? widget_->commands().action(*command.button)
+                                               : makeTask(command));
+    }
+  }
 }
 
-void MainWindow::makeEditMenu() {
-  Commands& commands = widget_->commands();
-  QMenu* menu = menuBar()->addMenu("&Правка");
-  menu->addActions({commands.addLine, commands.editLine, commands.removeLine});
-  menu->addSeparator();
-  menu->addActions({commands.addPackage, commands.editPackage, commands.removePackage});
+QAction* MainWindow::makeTask(const Command& command) {
+  auto* action = new QAction(fromText(command.words), menuBar());
+  if (!command.icon.empty()) action->setIcon(pictureNamed(fromText(command.icon)));
+  for (const CommandKey& key : command.keys) action->setShortcut(keysOf(key));
+  // What may take the menu away waits until it has closed.
+  const bool showsOnly = command.task == HostTask::showGuide || command.task == HostTask::showAbout;
+  connect(
+      action, &QAction::triggered, this, [this, task = command.task] { perform(task); },
+      showsOnly ? Qt::AutoConnection : Qt::QueuedConnection);
+  return action;
 }
 
-void MainWindow::makeHelpMenu() {
-  QMenu* menu = menuBar()->addMenu("&Справка");
-  QAction* guide = menu->addAction("&Руководство пользователя", this, &MainWindow::showGuide);
-  guide->setShortcut(QKeySequence(Qt::Key_F1));
-  menu->addAction("&О программе", this, &MainWindow::showAbout);
+void MainWindow::perform(HostTask task) {
+  switch (task) {
+    case HostTask::chooseFolder:
+      return chooseFolder();
+    case HostTask::startAgain:
+      return startAgain();
+    case HostTask::quit:
+      close();
+      return;
+    case HostTask::showGuide:
+      return openGuide(*this);
+    case HostTask::showAbout:
+      widget_->ask(aboutBox(widget_->control().form.lblVersion.caption()));
+      return;
+    case HostTask::none:
+      return;
+  }
 }
 
 bool MainWindow::mayStart() { return agreesToAddresses() && hasFolder(); }
 
 bool MainWindow::hasFolder() {
   if (!keptOffLinePath(*settings_).empty()) return true;
-  widget_->ask(
-      {"Для работы нужна папка с файлами вашей фирмы.\r\n\r\n"
-       "Выберите, где она лежит или где её создать: редактор работает в папке VIRD внутри "
-       "выбранной. В ней должен быть файл userinfo.xml, который выдал ваш партнёр.",
-       std::string(title), BoxIcon::information, BoxButtons::ok});
+  widget_->ask(folderRequest());
   return widget_->askOffLineFolder();
 }
 
@@ -116,11 +124,7 @@ bool MainWindow::agreesToAddresses() {
   AgreedAddresses agreed(*settings_);
   for (const std::string& origin : serviceOrigins(url, widget_->control().form.PartnerURL)) {
     if (agreed.holds(origin)) continue;
-    const Answer answer =
-        widget_->ask({"Редактор будет обмениваться документами со службой по адресу:\r\n\r\n" +
-                          origin + "\r\n\r\nЭтот адрес встречается впервые. Вы ему доверяете?",
-                      std::string(title), BoxIcon::question, BoxButtons::yesNo});
-    if (answer != Answer::yes) return false;
+    if (widget_->ask(newAddressQuestion(origin)) != Answer::yes) return false;
     agreed.add(origin);
   }
   return true;
@@ -128,9 +132,7 @@ bool MainWindow::agreesToAddresses() {
 
 bool MainWindow::mayLoseDocument() {
   if (!widget_->isDocumentChanged()) return true;
-  return widget_->ask({"Документ не отправлен и не сохранён после изменений.\r\n"
-                       "Закрыть его без сохранения?",
-                       std::string(title), BoxIcon::question, BoxButtons::yesNo}) == Answer::yes;
+  return widget_->ask(lossQuestion()) == Answer::yes;
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -147,14 +149,6 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
   widget_->endWork();
   QTimer::singleShot(0, this, &MainWindow::close);
-}
-
-void MainWindow::showGuide() { openGuide(*this); }
-
-void MainWindow::showAbout() {
-  const std::string version = widget_->control().form.lblVersion.caption();
-  widget_->ask({version + "\r\n\r\nРедактор подтверждений отгрузки (EDIFACT DESADV в виде XML).",
-                "О программе", BoxIcon::information, BoxButtons::ok});
 }
 
 }  // namespace awizo::desktop

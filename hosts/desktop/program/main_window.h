@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QMenu>
 #include <memory>
 
 #include "hosts/common/given_host.h"
 #include "hosts/common/options.h"
 #include "hosts/common/program/machine.h"
 #include "hosts/desktop/window/awizo_wysylki_widget.h"
+#include "session/commands.h"
 
 namespace awizo::desktop {
 
@@ -33,16 +35,14 @@ class MainWindow : public QMainWindow {
  private:
   void makeSession();
   void makeMenus();
-  void makeDocumentMenu();
-  void makeEditMenu();
-  void makeHelpMenu();
+  void fill(QMenu& menu, const CommandMenu& commands);
+  QAction* makeTask(const Command& command);
+  void perform(HostTask task);
   bool mayStart();
   bool hasFolder();
   bool agreesToAddresses();
   /// Whether the document may go: it is kept, or the user says so.
   bool mayLoseDocument();
-  void showGuide();
-  void showAbout();
 
   const Options options_;
   Http* http_;

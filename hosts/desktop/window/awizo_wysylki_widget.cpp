@@ -2,7 +2,6 @@
 
 #include <QLabel>
 #include <QVBoxLayout>
-#include <optional>
 
 #include "adapters/curl/curl_http.h"
 #include "adapters/icu/icu_locale.h"
@@ -12,24 +11,14 @@
 #include "hosts/common/given_host.h"
 #include "hosts/desktop/faces/form_face.h"
 #include "hosts/desktop/window/commands.h"
-#include "hosts/desktop/window/document_content.h"
 #include "hosts/desktop/window/host_screen.h"
 #include "hosts/desktop/window/main_layout.h"
-#include "hosts/desktop/window/watched_http.h"
 #include "hosts/version.h"
 #include "session/awizo_wysylki.h"
 #include "session/record/off_line_path.h"
 
 namespace awizo::desktop {
 namespace {
-
-QString workOf(const std::string& url, const AwizoForm& form) {
-  if (url == form.UploadUrl) return "Отправка документа…";
-  if (url == form.OrderDataUrl) return "Получение заказа…";
-  if (url == form.PartnersUrl) return "Загрузка данных партнёра…";
-  if (url.ends_with("Dictionary.aspx")) return "Загрузка мест доставки…";
-  return "Загрузка каталога…";
-}
 
 std::string chosenLocale(const std::string& given) {
   return given.empty() ? IcuLocale::environmentName() : given;
@@ -54,13 +43,12 @@ struct AwizoWysylkiWidget::Parts {
                    return !face.ending();
                  },
                  ""}),
-        http(given.http != nullptr ? *given.http : network),
         host([&widget](std::string_view property) {
           if (property == "OnLine") emit widget.onLineChanged();
           if (property == "DebugLevel") emit widget.debugLevelChanged();
         }),
         platform{.xml = xml,
-                 .http = http,
+                 .http = given.http != nullptr ? *given.http : network,
                  .page = given.page,
                  .bag = given.bag,
                  .host = host,
@@ -91,7 +79,6 @@ struct AwizoWysylkiWidget::Parts {
   Libxml2 xml;
   IcuLocale locale;
   CurlHttp network;
-  WatchedHttp http;
   PosixFiles files;
   SystemClock machineClock;
   ReportingHost host;
@@ -100,16 +87,11 @@ struct AwizoWysylkiWidget::Parts {
   AwizoWysylki control;
   FormFace* faces;
   Commands* commands = nullptr;
-  /// The document as it was last kept; none where it never was and would be lost.
-  std::optional<std::string> keptContent;
 };
 
 AwizoWysylkiWidget::AwizoWysylkiWidget(const Surroundings& surroundings, QWidget* parent)
     : QWidget(parent), parts_(std::make_unique<Parts>(surroundings, *this)) {
   Parts& parts = *parts_;
-  parts.http.during = [this](const std::string& url, const std::function<void()>& exchange) {
-    runExchange(url, exchange);
-  };
   parts.control.UserControl_Initialize();
   parts.control.UserControl_ReadProperties();
   layOutMain(parts.control.form, *parts.faces);
@@ -117,7 +99,6 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const Surroundings& surroundings, QWidget
   parts.commands = new Commands(parts.control.form, *parts.faces, *this);
   parts.faces->onStateShown.add([this](Face&) { showStates(); });
   parts.faces->onChange = [this](const Change&) { showStates(); };
-  parts.control.form.onDocumentKept = [this] { keepContent(); };
 
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, 0);
@@ -130,7 +111,6 @@ AwizoWysylkiWidget::~AwizoWysylkiWidget() {
   parts.control.UserControl_WriteProperties();
   // A control that never worked has read no folder that it could keep.
   if (started_) parts.control.UserControl_Terminate();
-  parts.control.form.onDocumentKept = nullptr;
   delete parts.commands;
 }
 
@@ -178,20 +158,9 @@ void AwizoWysylkiWidget::start() {
     return;
   }
   started_ = true;
-  {
-    const auto span = parts_->waiting.span();
-    parts_->control.UserControl_Show();
-  }
-  if (!parts_->control.form.OrderAnswer) keepContent();
+  parts_->control.UserControl_Show();
   showStates();
   emit startEnded();
-}
-
-void AwizoWysylkiWidget::runExchange(const std::string& url,
-                                     const std::function<void()>& exchange) {
-  const auto span = parts_->waiting.span();
-  parts_->waiting.show(workOf(url, parts_->control.form));
-  exchange();
 }
 
 void AwizoWysylkiWidget::showStates() {
@@ -203,17 +172,7 @@ void AwizoWysylkiWidget::showStates() {
   address->setToolTip(url);
 }
 
-void AwizoWysylkiWidget::keepContent() {
-  parts_->keptContent = documentContent(parts_->control.editor);
-}
-
-bool AwizoWysylkiWidget::isDocumentChanged() const {
-  // A start that failed left nothing to work on.
-  const bool usable = parts_->control.form.enabled() || isWorking();
-  if (!started_ || !usable) return false;
-  if (!parts_->keptContent) return parts_->session.LineCount > 0;
-  return documentContent(parts_->control.editor) != *parts_->keptContent;
-}
+bool AwizoWysylkiWidget::isDocumentChanged() const { return parts_->control.isDocumentChanged(); }
 
 void AwizoWysylkiWidget::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);

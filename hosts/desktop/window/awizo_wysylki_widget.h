@@ -94,9 +94,7 @@ class AwizoWysylkiWidget : public QWidget {
  private:
   struct Parts;
 
-  void runExchange(const std::string& url, const std::function<void()>& exchange);
   void showStates();
-  void keepContent();
 
   std::unique_ptr<Parts> parts_;
   bool startAsked_ = false;

@@ -2,62 +2,71 @@
 
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/pictures.h"
+#include "platform/forms/keys.h"
 
 namespace awizo::desktop {
+namespace {
+
+Qt::Key keyOf(std::int16_t code) {
+  constexpr std::int16_t lastFunctionKey = keys::f1 + 23;
+  switch (code) {
+    case keys::insert:
+      return Qt::Key_Insert;
+    case keys::remove:
+      return Qt::Key_Delete;
+    case keys::enter:
+      return Qt::Key_Return;
+    default:
+      break;
+  }
+  if (code >= keys::f1 && code <= lastFunctionKey) {
+    return static_cast<Qt::Key>(Qt::Key_F1 + code - keys::f1);
+  }
+  // Letters and digits have the same numbers.
+  return static_cast<Qt::Key>(code);
+}
+
+}  // namespace
+
+QKeySequence keysOf(const CommandKey& key) {
+  const Qt::Key one = keyOf(key.code);
+  return key.control ? QKeySequence(Qt::CTRL | one) : QKeySequence(one);
+}
 
 Commands::Commands(AwizoForm& form, FormFace& faces, QWidget& window)
-    : QObject(&window), open(nullptr), save(nullptr), send(nullptr), form_(form), faces_(faces) {
-  open = make(form.btnWczytaj, "&Открыть…", "open");
-  save = make(form.btnZapisz, "&Сохранить…", "save");
-  send = make(form.btnPrzeslij, "О&тправить", "send");
-  addLine = make(form.btnDodaj, "&Добавить строку…", "add");
-  editLine = make(form.btnEdytuj, "&Изменить строку…", "edit");
-  removeLine = make(form.btnUsun, "&Удалить строку", "remove");
-  addPackage = make(form.btnDodajOpak, "До&бавить упаковку…", "add");
-  editPackage = make(form.btnEdytujOpak, "Из&менить упаковку…", "edit");
-  removePackage = make(form.btnUsunOpak, "Уд&алить упаковку", "remove");
-
-  const auto inWindow = Qt::WidgetWithChildrenShortcut;
-  giveKeys(open, {QKeySequence(Qt::CTRL | Qt::Key_O)}, window, inWindow);
-  giveKeys(save, {QKeySequence(Qt::CTRL | Qt::Key_S)}, window, inWindow);
-  giveKeys(send, {QKeySequence(Qt::Key_F9)}, window, inWindow);
-
-  const auto onTable = Qt::WidgetShortcut;
-  const QList<QKeySequence> insert{QKeySequence(Qt::Key_Insert)};
-  const QList<QKeySequence> remove{QKeySequence(Qt::Key_Delete)};
-  QWidget& lines = *faces.widget(form.grdPozycje);
-  giveKeys(addLine, insert, lines, onTable);
-  // On the lines Enter is the table's own: it edits what the current column holds.
-  giveKeys(editLine, {QKeySequence(Qt::Key_F2)}, lines, onTable);
-  giveKeys(removeLine, remove, lines, onTable);
-  QWidget& packages = *faces.widget(form.grdOpakowania);
-  giveKeys(addPackage, insert, packages, onTable);
-  giveKeys(editPackage,
-           {QKeySequence(Qt::Key_F2), QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)},
-           packages, onTable);
-  giveKeys(removePackage, remove, packages, onTable);
+    : QObject(&window), faces_(faces), menus_(commandMenus(form)) {
+  for (const CommandMenu& menu : menus_) {
+    for (const std::vector<Command>& group : menu.groups) {
+      for (const Command& command : group) {
+        if (command.button != nullptr) add(command, window);
+      }
+    }
+  }
   follow();
 }
 
-QAction* Commands::make(Button& button, const QString& text, const QString& picture) {
-  auto* action = new QAction(pictureNamed(picture), text, this);
-  entries_.push_back({action, &button});
-  connect(action, &QAction::triggered, this, [this, &button] { press(button); });
-  return action;
+void Commands::add(const Command& command, QWidget& window) {
+  auto* action = new QAction(pictureNamed(fromText(command.icon)), fromText(command.words), this);
+  entries_[command.button] = {&command, action};
+  connect(action, &QAction::triggered, this, [this, &command] { press(*command.button); });
+  giveKeys(command, *action, window);
 }
 
-void Commands::giveKeys(QAction* action, const QList<QKeySequence>& keys, QWidget& where,
-                        Qt::ShortcutContext context) {
-  action->setShortcuts(keys);
-  action->setShortcutContext(context);
-  where.addAction(action);
-  // The button tells its key.
-  const QString words = action->text().remove('&').remove(u'…');
-  const QString tip = words + " (" + keys.front().toString(QKeySequence::NativeText) + ")";
-  for (const Entry& entry : entries_) {
-    if (entry.action != action) continue;
-    static_cast<ButtonFace&>(faces_.face(*entry.button)).setTip(tip);
+void Commands::giveKeys(const Command& command, QAction& action, QWidget& window) {
+  QList<QKeySequence> all;
+  for (const CommandKey& key : command.keys) {
+    all << keysOf(key);
+    // The key of the number pad is as good.
+    if (key.code == keys::enter) all << QKeySequence(Qt::Key_Enter);
   }
+  action.setShortcuts(all);
+  action.setShortcutContext(command.place == nullptr ? Qt::WidgetWithChildrenShortcut
+                                                     : Qt::WidgetShortcut);
+  (command.place == nullptr ? window : *faces_.widget(*command.place)).addAction(&action);
+  // The button tells its key.
+  const QString tip =
+      fromText(command.plainWords()) + " (" + all.front().toString(QKeySequence::NativeText) + ")";
+  static_cast<ButtonFace&>(faces_.face(*command.button)).setTip(tip);
 }
 
 void Commands::press(Button& button) {
@@ -66,10 +75,9 @@ void Commands::press(Button& button) {
 }
 
 void Commands::follow() {
-  const bool ready = form_.shown() && form_.enabled();
-  for (const Entry& entry : entries_) {
-    entry.action->setEnabled(ready && entry.button->enabled() && entry.button->visible());
-    entry.action->setVisible(entry.button->visible());
+  for (const auto& [button, entry] : entries_) {
+    entry.action->setEnabled(entry.command->isEnabled());
+    entry.action->setVisible(entry.command->isVisible());
   }
 }
 

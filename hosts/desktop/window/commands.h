@@ -1,49 +1,41 @@
 #pragma once
 
 #include <QAction>
-#include <functional>
+#include <map>
 #include <vector>
 
 #include "hosts/desktop/faces/form_face.h"
-#include "session/record/awizo_form.h"
+#include "session/commands.h"
 
 namespace awizo::desktop {
 
-/// What the user can do to the document, for menus and keys. Each command presses one button of the
-/// main form without moving the focus, and is enabled and shown as the button is. Keys of a table's
-/// commands work while that table has the focus.
+QKeySequence keysOf(const CommandKey& key);
+
+/// The commands that press a button of the main form, as actions for menus and keys.
 class Commands : public QObject {
  public:
-  /// The keys reach `window` and what is in it.
+  /// The keys reach `window` and what is in it, or the control that they belong to.
   Commands(AwizoForm& form, FormFace& faces, QWidget& window);
 
-  QAction* open;
-  QAction* save;
-  QAction* send;
-  QAction* addLine;
-  QAction* editLine;
-  QAction* removeLine;
-  QAction* addPackage;
-  QAction* editPackage;
-  QAction* removePackage;
+  const std::vector<CommandMenu>& menus() const { return menus_; }
+  QAction* action(const Button& button) const { return entries_.at(&button).action; }
 
   /// Shows the buttons' states.
   void follow();
 
  private:
   struct Entry {
+    const Command* command;
     QAction* action;
-    Button* button;
   };
 
-  QAction* make(Button& button, const QString& text, const QString& picture);
-  void giveKeys(QAction* action, const QList<QKeySequence>& keys, QWidget& where,
-                Qt::ShortcutContext context);
+  void add(const Command& command, QWidget& window);
+  void giveKeys(const Command& command, QAction& action, QWidget& window);
   void press(Button& button);
 
-  AwizoForm& form_;
   FormFace& faces_;
-  std::vector<Entry> entries_;
+  std::vector<CommandMenu> menus_;
+  std::map<const Button*, Entry> entries_;
 };
 
 }  // namespace awizo::desktop

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "hosts/desktop/window/main_layout.h"
+#include "session/layout_words.h"
 
 namespace awizo::desktop {
 namespace {
@@ -15,12 +16,12 @@ struct Group {
   QGridLayout* grid;
 };
 
-Group makeGroup(const QString& heading) {
+Group makeGroup(std::string_view heading) {
   auto* widget = new QWidget;
   auto* rows = new QVBoxLayout(widget);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(4);
-  auto* label = new QLabel(heading);
+  auto* label = new QLabel(fromText(heading));
   QFont bold = label->font();
   bold.setBold(true);
   label->setFont(bold);
@@ -52,7 +53,7 @@ void add(QGridLayout* grid, FormFace& faces, const Field& field, int row, int co
 }
 
 QWidget* makeDocument(AwizoForm& form, FormFace& faces) {
-  const auto [group, grid] = makeGroup("Документ");
+  const auto [group, grid] = makeGroup(words::documentGroup);
   add(grid, faces, form.txtNrAwiza, 0, 0, 2);
   add(grid, faces, form.txtDataAwiza, 1, 0);
   add(grid, faces, form.txtDespatchAdviceTime, 1, 1);
@@ -60,7 +61,7 @@ QWidget* makeDocument(AwizoForm& form, FormFace& faces) {
 }
 
 QWidget* makeOrder(AwizoForm& form, FormFace& faces) {
-  const auto [group, grid] = makeGroup("Заказ");
+  const auto [group, grid] = makeGroup(words::orderGroup);
   add(grid, faces, form.txtNrZam, 0, 0);
   add(grid, faces, form.dpDataZam, 0, 1);
   add(grid, faces, form.txtCodeByBuyer, 1, 0, 2);
@@ -68,7 +69,7 @@ QWidget* makeOrder(AwizoForm& form, FormFace& faces) {
 }
 
 QWidget* makeDelivery(AwizoForm& form, FormFace& faces) {
-  const auto [group, grid] = makeGroup("Доставка");
+  const auto [group, grid] = makeGroup(words::deliveryGroup);
   add(grid, faces, form.txtEstimatedDeliveryDate, 0, 0);
   add(grid, faces, form.txtEstimatedDeliveryTime, 0, 1);
   add(grid, faces, form.cboxPackageDescription, 1, 0);

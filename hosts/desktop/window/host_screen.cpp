@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include "hosts/desktop/faces/text.h"
 #include "hosts/desktop/screen/message_box.h"
 #include "platform/at_exit.h"
 
@@ -29,6 +30,13 @@ void HostScreen::runModal(Form& form) {
   DesktopScreen::runModal(form);
   modal_.pop_back();
 }
+
+void HostScreen::workBegins(std::string_view what) {
+  waiting_.begin();
+  if (!what.empty()) waiting_.show(fromText(what));
+}
+
+void HostScreen::workEnds() { waiting_.end(); }
 
 void HostScreen::end() {
   ending_ = true;

@@ -17,6 +17,8 @@ class HostScreen : public DesktopScreen {
   Answer ask(const MessageBox& box) override;
   void formOpened(Form& form) override;
   void runModal(Form& form) override;
+  void workBegins(std::string_view what) override;
+  void workEnds() override;
 
   void end();
   bool ending() const { return ending_; }

@@ -4,12 +4,14 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <initializer_list>
-#include <tuple>
+#include <vector>
 
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/table_face.h"
 #include "hosts/desktop/window/column_fill.h"
 #include "hosts/desktop/window/main_layout.h"
+#include "session/commands.h"
+#include "session/layout_words.h"
 #include "tables/columns/columns.h"
 
 namespace awizo::desktop {
@@ -23,16 +25,13 @@ TableFace& tableOf(FormFace& faces, const Table& table) {
   return static_cast<TableFace&>(faces.face(table));
 }
 
-/// Adding, editing and removing, one below the other beside their table.
-QLayout* makeRowButtons(FormFace& faces, const Button& add, const Button& edit,
-                        const Button& remove) {
+/// The commands of a table's rows, one below the other beside the table.
+QLayout* makeRowButtons(FormFace& faces, const std::vector<Command>& commands) {
   auto* column = new QVBoxLayout;
   column->setSpacing(4);
-  const std::initializer_list<std::pair<const Button*, const char*>> buttons{
-      {&add, "add"}, {&edit, "edit"}, {&remove, "remove"}};
-  for (const auto& [button, picture] : buttons) {
-    buttonOf(faces, *button).setPicture(picture);
-    QWidget* widget = faces.widget(*button);
+  for (const Command& command : commands) {
+    buttonOf(faces, *command.button).setPicture(fromText(command.icon));
+    QWidget* widget = faces.widget(*command.button);
     const int side = widget->fontMetrics().height() + 14;
     widget->setFixedSize(side + 6, side);
     column->addWidget(widget);
@@ -66,13 +65,13 @@ QWidget* makeLines(AwizoForm& form, FormFace& faces) {
   grid->setSpacing(6);
   new ColumnFill(*table.view(), GRD_POZ_NAME);
   grid->addWidget(table.view(), 0, 0);
-  grid->addLayout(makeRowButtons(faces, form.btnDodaj, form.btnEdytuj, form.btnUsun), 0, 1);
+  grid->addLayout(makeRowButtons(faces, lineCommands(form)), 0, 1);
   grid->addLayout(
       makeFillRow(faces, faces.widget(form.lblStawkaVAT), {faces.widget(form.comboStawkaVAT)},
                   form.btnUzupelnij, form.btnNadpisz),
       1, 0, 1, 2);
   buttonOf(faces, form.Image2).setPicture("countries");
-  grid->addLayout(makeFillRow(faces, new QLabel("Страна:"),
+  grid->addLayout(makeFillRow(faces, new QLabel(fromText(words::country)),
                               {faces.widget(form.comboCountry), faces.widget(form.Image2)},
                               form.btnUzupelnij2, form.btnNadpisz2),
                   2, 0, 1, 2);
@@ -88,7 +87,7 @@ QWidget* makePackages(AwizoForm& form, FormFace& faces) {
   new ColumnFill(*view, GRD_OPAK_DESC);
   view->setMinimumHeight(view->fontMetrics().height() * 6);
   row->addWidget(view);
-  row->addLayout(makeRowButtons(faces, form.btnDodajOpak, form.btnEdytujOpak, form.btnUsunOpak));
+  row->addLayout(makeRowButtons(faces, packageCommands(form)));
   return frame;
 }
 
@@ -120,15 +119,12 @@ QWidget* makeTotals(AwizoForm& form, FormFace& faces) {
   auto* ways = new QHBoxLayout;
   ways->setSpacing(8);
   ways->addStretch(1);
-  const std::initializer_list<std::tuple<const Button*, const char*, const char*>> buttons{
-      {&form.btnWczytaj, "open", "Открыть"},
-      {&form.btnZapisz, "save", "Сохранить"},
-      {&form.btnPrzeslij, "send", "Отправить"}};
-  for (const auto& [button, picture, words] : buttons) {
-    buttonOf(faces, *button).setPicture(picture);
-    buttonOf(faces, *button).setWords(words);
-    static_cast<QToolButton*>(faces.widget(*button))->setAutoRaise(false);
-    ways->addWidget(faces.widget(*button));
+  for (const Command& command : documentCommands(form)) {
+    ButtonFace& button = buttonOf(faces, *command.button);
+    button.setPicture(fromText(command.icon));
+    button.setWords(fromText(command.plainWords()));
+    static_cast<QToolButton*>(button.widget())->setAutoRaise(false);
+    ways->addWidget(button.widget());
   }
   auto* column = new QWidget;
   auto* parts = new QVBoxLayout(column);

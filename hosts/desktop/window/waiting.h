@@ -18,11 +18,9 @@ class Waiting : public QObject {
   explicit Waiting(QWidget& window);
   ~Waiting() override;
 
-  /// The wait lasts while what this gives lives.
-  auto span() {
-    begin();
-    return AtExit([this] { end(); });
-  }
+  // The wait lasts from the first beginning to the last end.
+  void begin();
+  void end();
   /// While what this gives lives, the user answers something.
   auto aside() {
     setAside();
@@ -42,8 +40,6 @@ class Waiting : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void begin();
-  void end();
   void setAside();
   void takeUp();
   void apply();

@@ -22,6 +22,11 @@ inline constexpr std::int16_t left = 37;
 inline constexpr std::int16_t up = 38;
 inline constexpr std::int16_t right = 39;
 inline constexpr std::int16_t down = 40;
+inline constexpr std::int16_t insert = 45;
+inline constexpr std::int16_t remove = 46;
+inline constexpr std::int16_t f1 = 112;
+inline constexpr std::int16_t f2 = 113;
+inline constexpr std::int16_t f9 = 120;
 
 /// The character code that KeyPress gets for a key, 0 for a key that stands for none. Enter, Escape
 /// and Backspace stand for one. Codes of 256 and more are no keys of a keyboard but characters

@@ -47,6 +47,12 @@ void Screen::runEvent(const std::function<void()>& procedure) {
   reportErrors(*this, "VIRD", procedure);
 }
 
+void Screen::during(std::string_view what, const std::function<void()>& work) {
+  face_.workBegins(what);
+  const AtExit end([this] { face_.workEnds(); });
+  work();
+}
+
 Cursor Screen::setCursor(Cursor cursor) {
   const Cursor earlier = std::exchange(cursor_, cursor);
   if (earlier != cursor) face_.cursorChanged(cursor);

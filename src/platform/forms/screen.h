@@ -38,6 +38,9 @@ class Screen {
   Cursor setCursor(Cursor cursor);
   Cursor cursor() const { return cursor_; }
 
+  /// Does what takes long, and lets the user know what it is.
+  void during(std::string_view what, const std::function<void()>& work);
+
   void letEventsRun() { face_.letEventsRun(); }
   void endProgram() { face_.endProgram(); }
 

@@ -52,6 +52,10 @@ class ScreenFace {
   /// Lets the user act on the form, over all others, and returns when it has hidden.
   virtual void runModal(Form& form) = 0;
   virtual void cursorChanged(Cursor cursor) = 0;
+  /// Work begins during which the user can do nothing: `what` tells him what is done, empty where
+  /// that isn't worth a word. Such works nest; each ends, boxes and forms within it come and go.
+  virtual void workBegins(std::string_view what) { static_cast<void>(what); }
+  virtual void workEnds() {}
   /// Lets events that wait run, without waiting for new ones.
   virtual void letEventsRun() = 0;
   /// Ends the whole program.

@@ -48,7 +48,7 @@ bool maySend(Editor& editor) {
 
 void post(Editor& editor, XmlDocument& document) {
   AwizoForm& form = editor.form;
-  const auto reply = SendXMLDOMRequest(editor, form.UploadUrl, document);
+  const auto reply = runExchange(editor, Exchange::sending, form.UploadUrl, document);
   const std::string status =
       GetNodeValue(reply ? reply->node() : XmlNode(), submissionStatusPath, false);
   if (status == "OK") {

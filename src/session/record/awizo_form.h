@@ -79,7 +79,7 @@ class AwizoForm : public Form {
   bool WeightComplete = false;
 
   /// Told when the document has been saved, sent or read from a file: as it stands now, it would
-  /// not be lost. A host may set it.
+  /// not be lost.
   Event onDocumentKept;
   void documentKept() const {
     if (onDocumentKept) onDocumentKept();

@@ -1,8 +1,8 @@
-#include "hosts/desktop/window/document_content.h"
+#include "session/document_content.h"
 
 #include "session/record/header_fields.h"
 
-namespace awizo::desktop {
+namespace awizo {
 namespace {
 
 /// No text of the user's holds it.
@@ -35,4 +35,4 @@ std::string documentContent(const Editor& editor) {
   return content;
 }
 
-}  // namespace awizo::desktop
+}  // namespace awizo

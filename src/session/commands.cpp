@@ -1,0 +1,96 @@
+#include "session/commands.h"
+
+#include "platform/forms/keys.h"
+#include "platform/text.h"
+
+namespace awizo {
+namespace {
+
+constexpr CommandKey key(std::int16_t code) { return {.code = code}; }
+constexpr CommandKey withControl(char letter) { return {.code = letter, .control = true}; }
+
+std::vector<Command> sessionCommands() {
+  return {
+      {.words = "&Папка для работы без связи…", .icon = "folder", .task = HostTask::chooseFolder},
+      {.words = "&Начать сеанс заново", .icon = "again", .task = HostTask::startAgain}};
+}
+
+std::vector<Command> endCommands() {
+  return {{.words = "&Выход", .task = HostTask::quit, .keys = {withControl('Q')}}};
+}
+
+std::vector<Command> helpCommands() {
+  return {
+      {.words = "&Руководство пользователя", .task = HostTask::showGuide, .keys = {key(keys::f1)}},
+      {.words = "&О программе", .task = HostTask::showAbout}};
+}
+
+}  // namespace
+
+std::string Command::plainWords() const { return replaceAll(replaceAll(words, "&", ""), "…", ""); }
+
+bool Command::isEnabled() const {
+  if (button == nullptr) return true;
+  const Form& form = button->form();
+  return form.shown() && form.enabled() && button->enabled() && button->visible();
+}
+
+std::vector<Command> documentCommands(AwizoForm& form) {
+  return {{.words = "&Открыть…",
+           .icon = "open",
+           .button = &form.btnWczytaj,
+           .keys = {withControl('O')}},
+          {.words = "&Сохранить…",
+           .icon = "save",
+           .button = &form.btnZapisz,
+           .keys = {withControl('S')}},
+          {.words = "О&тправить",
+           .icon = "send",
+           .button = &form.btnPrzeslij,
+           .keys = {key(keys::f9)}}};
+}
+
+std::vector<Command> lineCommands(AwizoForm& form) {
+  // On the lines Enter is the table's own: it edits what the current column holds.
+  return {{.words = "&Добавить строку…",
+           .icon = "add",
+           .button = &form.btnDodaj,
+           .keys = {key(keys::insert)},
+           .place = &form.grdPozycje},
+          {.words = "&Изменить строку…",
+           .icon = "edit",
+           .button = &form.btnEdytuj,
+           .keys = {key(keys::f2)},
+           .place = &form.grdPozycje},
+          {.words = "&Удалить строку",
+           .icon = "remove",
+           .button = &form.btnUsun,
+           .keys = {key(keys::remove)},
+           .place = &form.grdPozycje}};
+}
+
+std::vector<Command> packageCommands(AwizoForm& form) {
+  return {{.words = "До&бавить упаковку…",
+           .icon = "add",
+           .button = &form.btnDodajOpak,
+           .keys = {key(keys::insert)},
+           .place = &form.grdOpakowania},
+          {.words = "Из&менить упаковку…",
+           .icon = "edit",
+           .button = &form.btnEdytujOpak,
+           .keys = {key(keys::f2), key(keys::enter)},
+           .place = &form.grdOpakowania},
+          {.words = "Уд&алить упаковку",
+           .icon = "remove",
+           .button = &form.btnUsunOpak,
+           .keys = {key(keys::remove)},
+           .place = &form.grdOpakowania}};
+}
+
+std::vector<CommandMenu> commandMenus(AwizoForm& form) {
+  return {{"&Документ", {documentCommands(form), sessionCommands(), endCommands()}},
+          {"&Правка", {lineCommands(form), packageCommands(form)}},
+          {"&Справка", {helpCommands()}}};
+}
+
+}  // namespace awizo

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "session/record/awizo_form.h"
+
+namespace awizo {
+
+/// A key pressed alone or with Ctrl; `code` as keys.h numbers keys.
+struct CommandKey {
+  std::int16_t code = 0;
+  bool control = false;
+  bool operator==(const CommandKey&) const = default;
+};
+
+/// What a command does that no button of the form does: the host does it.
+enum class HostTask { none, chooseFolder, startAgain, quit, showGuide, showAbout };
+
+/// What the user can do to the document, for menus and keys. A command that presses a button of the
+/// form moves no focus, and is there as the button is.
+struct Command {
+  std::string_view words;      ///< "&" before the mnemonic letter
+  std::string_view icon = "";  ///< name of the picture; empty for none
+  Button* button = nullptr;    ///< null where the host has a task
+  HostTask task = HostTask::none;
+  std::vector<CommandKey> keys = {};
+  const Control* place = nullptr;  ///< its keys work while this has the focus; null: anywhere
+
+  /// The words without the mnemonic's mark and the dots that announce a question: "Открыть".
+  std::string plainWords() const;
+  bool isVisible() const { return button == nullptr || button->visible(); }
+  bool isEnabled() const;
+};
+
+/// A menu: its heading, and its commands in groups with a line between them.
+struct CommandMenu {
+  std::string_view heading;
+  std::vector<std::vector<Command>> groups;
+};
+
+// The groups that press buttons of the form: the document's ways in and out, its lines, its
+// packages.
+std::vector<Command> documentCommands(AwizoForm& form);
+std::vector<Command> lineCommands(AwizoForm& form);
+std::vector<Command> packageCommands(AwizoForm& form);
+
+/// The menus, from the left.
+std::vector<CommandMenu> commandMenus(AwizoForm& form);
+
+}  // namespace awizo

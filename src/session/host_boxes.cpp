@@ -1,0 +1,38 @@
+#include "session/host_boxes.h"
+
+#include "platform/text.h"
+
+namespace awizo {
+namespace {
+
+constexpr const char* title = "VIRD";
+
+}  // namespace
+
+MessageBox lossQuestion() {
+  return {
+      "Документ не отправлен и не сохранён после изменений.\r\n"
+      "Закрыть его без сохранения?",
+      title, BoxIcon::question, BoxButtons::yesNo};
+}
+
+MessageBox folderRequest() {
+  return {
+      "Для работы нужна папка с файлами вашей фирмы.\r\n\r\n"
+      "Выберите, где она лежит или где её создать: редактор работает в папке VIRD внутри "
+      "выбранной. В ней должен быть файл userinfo.xml, который выдал ваш партнёр.",
+      title, BoxIcon::information, BoxButtons::ok};
+}
+
+MessageBox newAddressQuestion(std::string_view origin) {
+  return {joined({"Редактор будет обмениваться документами со службой по адресу:\r\n\r\n", origin,
+                  "\r\n\r\nЭтот адрес встречается впервые. Вы ему доверяете?"}),
+          title, BoxIcon::question, BoxButtons::yesNo};
+}
+
+MessageBox aboutBox(std::string_view version) {
+  return {joined({version, "\r\n\r\nРедактор подтверждений отгрузки (EDIFACT DESADV в виде XML)."}),
+          "О программе", BoxIcon::information, BoxButtons::ok};
+}
+
+}  // namespace awizo

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string_view>
+
+// Words that stand on a form beside what its models say. Where they stand is the host's.
+namespace awizo::words {
+
+inline constexpr std::string_view windowTitle = "Подтверждение отгрузки";
+inline constexpr std::string_view guideTitle = "Руководство пользователя";
+inline constexpr std::string_view noGuide = "Руководство не установлено.";
+
+// Main form: groups of the header's fields, the country that is written over all lines.
+inline constexpr std::string_view documentGroup = "Документ";
+inline constexpr std::string_view orderGroup = "Заказ";
+inline constexpr std::string_view deliveryGroup = "Доставка";
+inline constexpr std::string_view country = "Страна:";
+
+// Line dialog: groups of fields, tips of the buttons beside its packages.
+inline constexpr std::string_view productGroup = "Товар";
+inline constexpr std::string_view quantityGroup = "Количество и налог";
+inline constexpr std::string_view datesGroup = "Сроки и происхождение";
+inline constexpr std::string_view putIntoPackage = "Положить товар в упаковку";
+inline constexpr std::string_view takeOutOfPackage = "Вынуть товар из упаковки";
+inline constexpr std::string_view changePackage = "Изменить упаковку или количество";
+
+// Package dialog: groups of fields.
+inline constexpr std::string_view packageGroup = "Упаковка";
+inline constexpr std::string_view sizesGroup = "Размеры и номер";
+inline constexpr std::string_view packageDeliveryGroup = "Доставка";
+
+// File dialog.
+inline constexpr std::string_view fileName = "Имя файла:";
+inline constexpr std::string_view folder = "Папка:";
+inline constexpr std::string_view chooseFile = "Выбрать";
+inline constexpr std::string_view writeFile = "Записать";
+inline constexpr std::string_view closeDialog = "Закрыть";
+
+}  // namespace awizo::words

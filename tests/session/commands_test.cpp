@@ -1,0 +1,96 @@
+#include "session/commands.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "platform/text.h"
+#include "test_control.h"
+
+namespace awizo::test {
+namespace {
+
+using ::testing::ElementsAre;
+
+class CommandsTest : public ::testing::Test, public TestControl {
+ protected:
+  std::vector<const Command*> all() const {
+    std::vector<const Command*> commands;
+    for (const CommandMenu& menu : menus) {
+      for (const auto& group : menu.groups) {
+        for (const Command& command : group) commands.push_back(&command);
+      }
+    }
+    return commands;
+  }
+
+  const std::vector<CommandMenu> menus = commandMenus(form);
+};
+
+/// The letter that the mark stands before, in UTF-8.
+std::string mnemonicOf(std::string_view words) {
+  const std::size_t mark = words.find('&');
+  return mark == words.npos ? "" : std::string(firstCharacters(words.substr(mark + 1), 1));
+}
+
+TEST_F(CommandsTest, StandInThreeMenus) {
+  std::vector<std::string_view> headings;
+  for (const CommandMenu& menu : menus) headings.push_back(menu.heading);
+  EXPECT_THAT(headings, ElementsAre("&Документ", "&Правка", "&Справка"));
+}
+
+TEST_F(CommandsTest, EachDoesOneThingAndNoTwoTheSame) {
+  std::set<const Button*> buttons;
+  std::set<HostTask> tasks;
+  for (const Command* command : all()) {
+    const bool pressesButton = command->button != nullptr;
+    EXPECT_NE(pressesButton, command->task != HostTask::none) << command->words;
+    const bool isNew =
+        pressesButton ? buttons.insert(command->button).second : tasks.insert(command->task).second;
+    EXPECT_TRUE(isNew) << command->words;
+  }
+  EXPECT_EQ(buttons.size(), 9U);
+  EXPECT_EQ(tasks.size(), 5U);
+}
+
+TEST_F(CommandsTest, NoTwoOfAMenuShareALetterAndNoTwoOfAPlaceAKey) {
+  std::set<std::tuple<const Control*, std::int16_t, bool>> keys;
+  for (const CommandMenu& menu : menus) {
+    std::set<std::string> letters;
+    for (const auto& group : menu.groups) {
+      for (const Command& command : group) {
+        EXPECT_NE(mnemonicOf(command.words), "") << command.words;
+        EXPECT_TRUE(letters.insert(mnemonicOf(command.words)).second) << command.words;
+        for (const CommandKey& key : command.keys) {
+          EXPECT_TRUE(keys.emplace(command.place, key.code, key.control).second) << command.words;
+        }
+      }
+    }
+  }
+}
+
+TEST_F(CommandsTest, PlainWordsHaveNeitherMarkNorDots) {
+  EXPECT_EQ(documentCommands(form).front().plainWords(), "Открыть");
+  EXPECT_EQ(lineCommands(form).back().plainWords(), "Удалить строку");
+}
+
+TEST_F(CommandsTest, AreThereAsTheirButtonsAre) {
+  const Command edit = lineCommands(form)[1];
+  EXPECT_FALSE(edit.isEnabled()) << "the form isn't shown yet";
+  form.showMain();
+  EXPECT_TRUE(edit.isEnabled());
+  form.btnEdytuj.setEnabled(false);
+  EXPECT_FALSE(edit.isEnabled());
+  EXPECT_TRUE(edit.isVisible());
+  form.btnEdytuj.setEnabled(true);
+  form.setEnabled(false);
+  EXPECT_FALSE(edit.isEnabled());
+  form.setEnabled(true);
+  form.btnEdytuj.setVisible(false);
+  EXPECT_FALSE(edit.isVisible());
+  EXPECT_FALSE(edit.isEnabled());
+}
+
+}  // namespace
+}  // namespace awizo::test
