@@ -20,6 +20,9 @@ class ControlAccess {
   /// Does what a line asks. What it returns stands in the closing line ("value", "args"). Throws
   /// BadLine, Refused or RunTimeError.
   Json act(const Json& line) { return dispatcher_.act(line); }
+  const FormDirectory& forms() const { return forms_; }
+  /// For what lines may ask of the host beside.
+  Dispatcher& dispatcher() { return dispatcher_; }
   /// The dialogs, all hidden at the start.
   std::vector<Form*> dialogs() const;
   /// Takes the control down, unless a line has done so.

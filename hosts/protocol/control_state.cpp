@@ -114,15 +114,20 @@ Kind kindOf(ControlKind kind) {
 
 }  // namespace
 
+const char* kindName(ControlKind kind) { return kindOf(kind).name; }
+
+Json ownState(const Control& control) { return kindOf(control.kind()).state(control); }
+
 Json controlState(const Control& control) {
-  const Kind kind = kindOf(control.kind());
-  Json state{{"kind", kind.name}, {"visible", control.visible()}, {"enabled", control.enabled()}};
+  Json state{{"kind", kindName(control.kind())},
+             {"visible", control.visible()},
+             {"enabled", control.enabled()}};
   if (control.visible() && control.place()) {
     const Place& place = *control.place();
     state.update(
         Json{{"x", place.x}, {"y", place.y}, {"width", place.width}, {"height", place.height}});
   }
-  state.update(kind.state(control));
+  state.update(ownState(control));
   return state;
 }
 

@@ -9,4 +9,8 @@ namespace awizo::protocol {
 /// has set one, and what its kind has.
 Json controlState(const Control& control);
 
+const char* kindName(ControlKind kind);
+/// What its kind has.
+Json ownState(const Control& control);
+
 }  // namespace awizo::protocol

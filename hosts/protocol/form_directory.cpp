@@ -4,6 +4,12 @@
 
 namespace awizo::protocol {
 
+std::vector<Form*> FormDirectory::forms() const {
+  std::vector<Form*> forms;
+  for (const Entry& entry : forms_) forms.push_back(entry.form);
+  return forms;
+}
+
 Form* FormDirectory::findForm(std::string_view name) const {
   const auto found = std::ranges::find(
       forms_, name, [](const Entry& entry) -> std::string_view { return entry.form->name(); });

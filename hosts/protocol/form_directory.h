@@ -23,6 +23,8 @@ class FormDirectory {
   void add(Form& form, Members members) { forms_.push_back({&form, std::move(members)}); }
 
   Form& mainForm() const { return mainForm_; }
+  /// All of them, in the order in which they were added.
+  std::vector<Form*> forms() const;
   /// The form of that name, or null.
   Form* findForm(std::string_view name) const;
   Form& form(std::string_view name) const;

@@ -7,16 +7,6 @@ namespace awizo::protocol {
 
 namespace {
 
-std::string colourText(Colour colour) {
-  constexpr std::string_view digits = "0123456789abcdef";
-  std::string text = "#";
-  for (const std::uint8_t part : {colour.red, colour.green, colour.blue}) {
-    text += digits[part / 16];
-    text += digits[part % 16];
-  }
-  return text;
-}
-
 /// The looks of the cells, gathered row by row.
 struct Looks {
   Json colours = Json::array();
@@ -29,8 +19,7 @@ struct Looks {
       colours.push_back(Json::array({row, column, colourText(look.background)}));
     }
     if (look.alignment != Alignment::left) {
-      const char* name = look.alignment == Alignment::centre ? "centre" : "right";
-      alignments.push_back(Json::array({row, column, name}));
+      alignments.push_back(Json::array({row, column, alignmentName(look.alignment)}));
     }
     if (look.bold) bold.push_back(Json::array({row, column}));
     if (look.wrap) wrap.push_back(Json::array({row, column}));
@@ -38,6 +27,28 @@ struct Looks {
 };
 
 }  // namespace
+
+std::string colourText(Colour colour) {
+  constexpr std::string_view digits = "0123456789abcdef";
+  std::string text = "#";
+  for (const std::uint8_t part : {colour.red, colour.green, colour.blue}) {
+    text += digits[part / 16];
+    text += digits[part % 16];
+  }
+  return text;
+}
+
+const char* alignmentName(Alignment alignment) {
+  switch (alignment) {
+    case Alignment::centre:
+      return "centre";
+    case Alignment::right:
+      return "right";
+    case Alignment::left:
+      break;
+  }
+  return "left";
+}
 
 Json tableState(const Table& table) {
   Looks looks;

@@ -292,6 +292,7 @@ void RandomUser::attempt(const std::string& what, const std::function<void()>& a
   } catch (const Refused&) {
     history_.push_back("    refused");
   }
+  if (onAction) onAction();
 }
 
 void RandomUser::lookAtBoxes() {

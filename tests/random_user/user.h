@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -28,6 +29,10 @@ class RandomUser {
   void act();
   /// What is wrong now; empty where all is well.
   std::vector<std::string> complaints();
+
+  AwizoWysylki& control() { return desk_.control; }
+  /// Told after each thing that the user did, in dialogs too.
+  std::function<void()> onAction;
 
   const Trust& trust() const { return trust_; }
   /// The last things that were done, one a line.
