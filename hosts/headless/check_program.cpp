@@ -23,8 +23,8 @@ namespace {
 constexpr std::int64_t lastCountedLine = 65535;
 
 /// What a check asks of the machine, and what it never asks.
-struct Surroundings {
-  explicit Surroundings(const Options& options)
+struct Machine {
+  explicit Machine(const Options& options)
       : locale(options.locale.empty() ? IcuLocale::environmentName() : options.locale),
         page(options),
         bag(options),
@@ -56,8 +56,8 @@ struct Surroundings {
 
 std::vector<Finding> check(const Options& options) {
   const std::string& file = *options.checkedFile;
-  const Surroundings around(options);
-  const Platform& platform = around.platform;
+  const Machine machine(options);
+  const Platform& platform = machine.platform;
   const std::string folder = keptOffLinePath(platform.settings);
   const ReaderIdentity reader = readerIdentity(platform, folder, platform.bag.read("PartnerILN"));
   try {

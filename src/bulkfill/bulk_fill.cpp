@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "formats/row_check.h"
+#include "platform/forms/boxes.h"
 #include "platform/forms/report_errors.h"
-#include "platform/forms/verdicts.h"
 #include "platform/narrow.h"
 #include "platform/text.h"
 #include "session/record/countries.h"

@@ -1,6 +1,6 @@
 #include "formats/header_validation.h"
 
-#include "platform/forms/verdicts.h"
+#include "platform/forms/boxes.h"
 #include "platform/text.h"
 
 namespace awizo {

@@ -2,7 +2,7 @@
 
 #include "formats/customs_number.h"
 #include "linedialog/dlg_dodaj.h"
-#include "platform/forms/verdicts.h"
+#include "platform/forms/boxes.h"
 #include "platform/text.h"
 
 namespace awizo {

@@ -1,5 +1,5 @@
 #include "packagedialog/dlg_szczegoly.h"
-#include "platform/forms/verdicts.h"
+#include "platform/forms/boxes.h"
 #include "platform/text.h"
 
 namespace awizo {

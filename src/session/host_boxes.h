@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "platform/screen_face.h"
+#include "platform/forms/screen_face.h"
 
 namespace awizo {
 

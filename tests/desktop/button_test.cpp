@@ -4,7 +4,7 @@
 
 #include "form_window.h"
 #include "hosts/desktop/faces/button_face.h"
-#include "hosts/desktop/faces/pictures.h"
+#include "hosts/desktop/faces/icons.h"
 #include "platform/forms/label.h"
 #include "platform/forms/spin_buttons.h"
 
@@ -62,7 +62,7 @@ TEST_F(ButtonsOnDesktop, ShowItsCaptionAsCodeChangesIt) {
 
 TEST_F(ButtonsOnDesktop, APictureButtonsCaptionIsItsTip) {
   EXPECT_EQ(desktop::toText(button(picture)->toolTip()), "ISO коды стран.");
-  static_cast<desktop::ButtonFace&>(faceOf(picture)).setPicture("countries");
+  static_cast<desktop::ButtonFace&>(faceOf(picture)).setIcon("countries");
   EXPECT_FALSE(button(picture)->icon().isNull());
   EXPECT_EQ(shownText(faceOf(picture)), "");
   EXPECT_EQ(desktop::toText(button(picture)->toolTip()), "ISO коды стран.");
@@ -70,14 +70,14 @@ TEST_F(ButtonsOnDesktop, APictureButtonsCaptionIsItsTip) {
 
 TEST_F(ButtonsOnDesktop, PicturesAreDrawnInBothSchemes) {
   for (const char* name : {"countries", "open", "save", "close"}) {
-    const QImage drawn = desktop::pictureNamed(name).pixmap(24, 24).toImage();
+    const QImage drawn = desktop::iconNamed(name).pixmap(24, 24).toImage();
     int inked = 0;
     for (int y = 0; y < drawn.height(); ++y) {
       for (int x = 0; x < drawn.width(); ++x) inked += qAlpha(drawn.pixel(x, y)) > 128 ? 1 : 0;
     }
     EXPECT_GT(inked, 20) << name;
   }
-  EXPECT_TRUE(desktop::pictureNamed("no such picture").isNull());
+  EXPECT_TRUE(desktop::iconNamed("no such picture").isNull());
 }
 
 TEST_F(ButtonsOnDesktop, ADoubleClickOfItsOwnRaisesNoClick) {

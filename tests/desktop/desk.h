@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "hosts/desktop/layouts/form_dialog.h"
-#include "hosts/desktop/screen/desktop_screen.h"
+#include "hosts/desktop/screen/desktop_screen_face.h"
 #include "session/awizo_wysylki.h"
 #include "support/test_editor.h"
 #include "user.h"
@@ -32,7 +32,7 @@ class Desk : public TestSurroundings {
   /// Whether keys go to this control's face, as the model says.
   testing::AssertionResult keysGoTo(const Control& shown);
 
-  desktop::DesktopScreen desktop;
+  desktop::DesktopScreenFace desktop;
   Platform deskPlatform;
   SessionState session;
   AwizoWysylki control;

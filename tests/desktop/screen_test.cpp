@@ -2,7 +2,7 @@
 #include <QMessageBox>
 
 #include "desk.h"
-#include "hosts/desktop/screen/desktop_screen.h"
+#include "hosts/desktop/screen/desktop_screen_face.h"
 #include "hosts/desktop/screen/message_box.h"
 
 namespace awizo::test {

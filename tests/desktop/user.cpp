@@ -10,7 +10,7 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "hosts/desktop/faces/pictures.h"
+#include "hosts/desktop/faces/icons.h"
 
 namespace awizo::test {
 
@@ -35,7 +35,7 @@ std::string iconOf(const QMessageBox& box) {
   const QPixmap shown = box.iconPixmap();
   if (shown.isNull()) return "none";
   for (const char* name : {"critical", "question", "exclamation", "information"}) {
-    const QPixmap known = desktop::pictureNamed(name).pixmap(shown.size());
+    const QPixmap known = desktop::iconNamed(name).pixmap(shown.size());
     if (known.toImage() == shown.toImage()) return name;
   }
   return "unknown";

@@ -6,8 +6,8 @@
 #include <QShortcutEvent>
 #include <QToolButton>
 
+#include "hosts/desktop/faces/icons.h"
 #include "hosts/desktop/faces/key_codes.h"
-#include "hosts/desktop/faces/pictures.h"
 
 namespace awizo::desktop {
 namespace {
@@ -41,8 +41,8 @@ ButtonFace::ButtonFace(FormFace& form, Button& button, QWidget* parent)
   connect(widget_, &QAbstractButton::clicked, this, &ButtonFace::click);
 }
 
-void ButtonFace::setPicture(const QString& picture, const QString& tip) {
-  widget_->setIcon(pictureNamed(picture));
+void ButtonFace::setIcon(const QString& icon, const QString& tip) {
+  widget_->setIcon(iconNamed(icon));
   setTip(tip);
 }
 

@@ -13,9 +13,9 @@ class ButtonFace : public Face {
  public:
   ButtonFace(FormFace& form, Button& button, QWidget* parent);
 
-  /// `picture`: name of one of the program's pictures. `tip`: what the button does, where its
-  /// caption doesn't say it.
-  void setPicture(const QString& picture, const QString& tip = {});
+  /// `icon`: name of one of the program's icons. `tip`: what the button does, where its caption
+  /// doesn't say it.
+  void setIcon(const QString& icon, const QString& tip = {});
   void setTip(const QString& tip);
   /// Words beside a picture button's picture; its tip stays.
   void setWords(const QString& words);

@@ -6,6 +6,8 @@
 #include <QStyle>
 
 #include "hosts/desktop/faces/key_codes.h"
+#include "hosts/desktop/faces/text.h"
+#include "platform/forms/face_words.h"
 #include "platform/run_time_error.h"
 
 namespace awizo::desktop {
@@ -35,7 +37,7 @@ DriveFace::DriveFace(FormFace& form, DriveList& drives, QWidget* parent)
       drives_(drives),
       box_(static_cast<QComboBox*>(widget())) {
   box_->setFocusPolicy(Qt::TabFocus);
-  box_->setAccessibleName("Диск");
+  box_->setAccessibleName(fromText(words::drives));
   connect(box_, &QComboBox::textActivated, this,
           [this](const QString& drive) { act([&] { drives_.userChoose(toText(drive)); }); });
 }
@@ -56,7 +58,7 @@ FolderFace::FolderFace(FormFace& form, FolderList& folders, QWidget* parent)
     : Face(form, folders, makeList(parent)),
       folders_(folders),
       list_(static_cast<QListWidget*>(widget())) {
-  list_->setAccessibleName("Папки");
+  list_->setAccessibleName(fromText(words::folders));
   watch(list_->viewport());
   connect(list_, &QListWidget::itemDoubleClicked, this, &FolderFace::open);
 }
@@ -136,7 +138,7 @@ FileListFace::FileListFace(FormFace& form, FileList& files, QWidget* parent)
     : Face(form, files, makeList(parent)),
       files_(files),
       list_(static_cast<QListWidget*>(widget())) {
-  list_->setAccessibleName("Файлы");
+  list_->setAccessibleName(fromText(words::files));
   watch(list_->viewport());
 }
 

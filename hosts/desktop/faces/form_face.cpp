@@ -2,8 +2,10 @@
 
 #include <QKeyEvent>
 
+#include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/key_codes.h"
 #include "hosts/desktop/faces/make_face.h"
+#include "hosts/desktop/faces/table_face.h"
 #include "platform/forms/button.h"
 
 namespace awizo::desktop {
@@ -29,6 +31,14 @@ void FormFace::release() {
 }
 
 Face& FormFace::face(const Control& control) const { return *faces_.at(&control); }
+
+ButtonFace& FormFace::button(const Button& control) const {
+  return static_cast<ButtonFace&>(face(control));
+}
+
+TableFace& FormFace::table(const Table& control) const {
+  return static_cast<TableFace&>(face(control));
+}
 
 Face* FormFace::find(std::string_view name) const {
   const Control* control = form_.find(name);

@@ -11,7 +11,15 @@
 #include "platform/at_exit.h"
 #include "platform/forms/form.h"
 
+namespace awizo {
+class Button;
+class Table;
+}  // namespace awizo
+
 namespace awizo::desktop {
+
+class ButtonFace;
+class TableFace;
 
 /// The faces of one form in one window, by the controls' names, and the focus between them: a
 /// user's move goes to the model first, and Qt's focus follows the model, wherever it goes.
@@ -25,6 +33,8 @@ class FormFace : public QObject {
   Form& form() const { return form_; }
   QWidget& window() const { return window_; }
   Face& face(const Control& control) const;
+  ButtonFace& button(const Button& control) const;
+  TableFace& table(const Table& control) const;
   QWidget* widget(const Control& control) const { return face(control).widget(); }
   /// The face of the control of that name, or null.
   Face* find(std::string_view name) const;

@@ -7,6 +7,8 @@
 
 #include "hosts/desktop/faces/form_face.h"
 #include "hosts/desktop/faces/key_codes.h"
+#include "hosts/desktop/faces/text.h"
+#include "platform/forms/face_words.h"
 
 namespace awizo::desktop {
 namespace {
@@ -47,7 +49,7 @@ PickerFace::PickerFace(FormFace& form, Control& picker, QDateTimeEdit* edit, boo
     hasValue_ = new QCheckBox(widget());
     hasValue_->setFocusPolicy(Qt::TabFocus);
     hasValue_->setAccessibleName(caption);
-    hasValue_->setToolTip("Указано или нет; то же делает пробел");
+    hasValue_->setToolTip(fromText(words::hasValue));
     watch(hasValue_);
     row->addWidget(hasValue_);
     connect(hasValue_, &QCheckBox::clicked, this, &PickerFace::takeChecked);

@@ -3,6 +3,9 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "hosts/desktop/faces/text.h"
+#include "platform/forms/face_words.h"
+
 namespace awizo::desktop {
 
 SpinFace::SpinFace(FormFace& form, SpinButtons& spin, QWidget* parent)
@@ -13,7 +16,7 @@ SpinFace::SpinFace(FormFace& form, SpinButtons& spin, QWidget* parent)
   for (const int by : {1, -1}) {
     auto* arrow = new QToolButton(widget());
     arrow->setObjectName(by > 0 ? "up" : "down");
-    arrow->setAccessibleName(by > 0 ? "Больше" : "Меньше");
+    arrow->setAccessibleName(fromText(by > 0 ? words::spinUp : words::spinDown));
     arrow->setArrowType(by > 0 ? Qt::UpArrow : Qt::DownArrow);
     arrow->setFocusPolicy(Qt::NoFocus);
     arrow->setAutoRepeat(true);

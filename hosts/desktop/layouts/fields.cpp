@@ -76,6 +76,12 @@ QGroupBox* makeGroup(std::string_view heading) {
   return group;
 }
 
+void makeBold(QWidget& words) {
+  QFont bold = words.font();
+  bold.setBold(true);
+  words.setFont(bold);
+}
+
 QHBoxLayout* makeRow(std::initializer_list<QWidget*> widgets) {
   auto* row = new QHBoxLayout;
   row->setSpacing(6);

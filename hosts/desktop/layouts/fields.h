@@ -36,6 +36,11 @@ class Fields {
 /// A box with a heading.
 QGroupBox* makeGroup(std::string_view heading);
 
+/// Between a frame's edge and what stands in it.
+inline constexpr QMargins insideFrame(8, 4, 8, 6);
+
+void makeBold(QWidget& words);
+
 /// A row of widgets and the room that is left after them.
 QHBoxLayout* makeRow(std::initializer_list<QWidget*> widgets);
 

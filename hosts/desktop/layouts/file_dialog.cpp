@@ -10,10 +10,10 @@
 namespace awizo::desktop {
 namespace {
 
-void dress(FormFace& faces, const PictureButton& button, const QString& picture,
+void dress(FormFace& faces, const PictureButton& button, const QString& icon,
            std::string_view words) {
-  auto& face = static_cast<ButtonFace&>(faces.face(button));
-  face.setPicture(picture, fromText(words));
+  ButtonFace& face = faces.button(button);
+  face.setIcon(icon, fromText(words));
   face.setWords(fromText(words));
 }
 

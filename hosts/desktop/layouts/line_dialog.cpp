@@ -11,10 +11,6 @@
 namespace awizo::desktop {
 namespace {
 
-ButtonFace& button(FormFace& faces, const Button& control) {
-  return static_cast<ButtonFace&>(faces.face(control));
-}
-
 QGroupBox* makeProduct(DlgDodaj& form, FormFace& faces) {
   QGroupBox* group = makeGroup(words::productGroup);
   Fields fields(faces, group);
@@ -64,9 +60,7 @@ QGroupBox* makePackages(DlgDodaj& form, FormFace& faces) {
   group->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
   auto* rows = new QGridLayout(group);
   QWidget* heading = faces.widget(form.Label4);
-  QFont bold = heading->font();
-  bold.setBold(true);
-  heading->setFont(bold);
+  makeBold(*heading);
   QHBoxLayout* head = makeRow({heading});
   head->addStretch(1);
   head->addWidget(faces.widget(form.lblPackedQuantity));
@@ -74,14 +68,14 @@ QGroupBox* makePackages(DlgDodaj& form, FormFace& faces) {
   rows->addLayout(head, 0, 0);
   rows->addWidget(faces.widget(form.grdPozycje), 1, 0);
   rows->addWidget(faces.widget(form.grdPozycjeN), 1, 0);
-  auto& table = static_cast<TableFace&>(faces.face(form.grdPozycje));
+  TableFace& table = faces.table(form.grdPozycje);
   table.view()->setMinimumHeight(table.view()->fontMetrics().height() * 7);
   table.stretchColumn(2);
   auto* buttons = new QVBoxLayout;
   buttons->setSpacing(4);
-  button(faces, form.Command1).setTip(fromText(words::putIntoPackage));
-  button(faces, form.Command2).setTip(fromText(words::takeOutOfPackage));
-  button(faces, form.Command3).setTip(fromText(words::changePackage));
+  faces.button(form.Command1).setTip(fromText(words::putIntoPackage));
+  faces.button(form.Command2).setTip(fromText(words::takeOutOfPackage));
+  faces.button(form.Command3).setTip(fromText(words::changePackage));
   for (const Button* command : {&form.Command1, &form.Command2, &form.Command3}) {
     faces.widget(*command)->setMaximumWidth(48);
     buttons->addWidget(faces.widget(*command));
@@ -100,7 +94,7 @@ void layOut(DlgDodaj& form, FormDialog& dialog) {
   large.setPointSizeF(large.pointSizeF() * 1.3);
   large.setBold(true);
   heading->setFont(large);
-  button(faces, form.btnISOcodes).setPicture("countries");
+  faces.button(form.btnISOcodes).setIcon("countries");
   static_cast<QAbstractButton*>(faces.widget(form.btnISOcodes))->setIconSize({16, 16});
 
   auto* middle = new QHBoxLayout;

@@ -27,7 +27,7 @@ void layOut(DlgdodajPule& form, FormDialog& dialog) {
 
 void layOut(DlgIsoCodes& form, FormDialog& dialog) {
   FormFace& faces = dialog.faces();
-  auto& table = static_cast<TableFace&>(faces.face(form.grdISO));
+  TableFace& table = faces.table(form.grdISO);
   table.stretchColumn(0);
   const QFontMetrics metrics = dialog.fontMetrics();
   table.view()->setMinimumSize(metrics.averageCharWidth() * 52, metrics.height() * 22);

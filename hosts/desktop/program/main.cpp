@@ -8,7 +8,7 @@
 #include <iostream>
 
 #include "hosts/common/program/about.h"
-#include "hosts/desktop/faces/pictures.h"
+#include "hosts/desktop/faces/icons.h"
 #include "hosts/desktop/program/launch_file.h"
 #include "hosts/desktop/program/main_window.h"
 #include "hosts/desktop/screen/message_box.h"
@@ -71,7 +71,7 @@ int main(int argumentCount, char** arguments) {
   QApplication application(argumentCount, arguments);
   QApplication::setApplicationName("awizo");
   QApplication::setDesktopFileName("awizo");
-  QApplication::setWindowIcon(desktop::pictureNamed("awizo"));
+  QApplication::setWindowIcon(desktop::iconNamed("awizo"));
   // The words of Qt's own menus, such as a field's "copy" and "paste".
   QTranslator words;
   if (words.load("qtbase_ru", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {

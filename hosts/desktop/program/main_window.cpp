@@ -6,7 +6,7 @@
 #include <QScrollArea>
 #include <QTimer>
 
-#include "hosts/desktop/faces/pictures.h"
+#include "hosts/desktop/faces/icons.h"
 #include "hosts/desktop/program/addresses.h"
 #include "hosts/desktop/program/guide.h"
 #include "hosts/desktop/window/commands.h"
@@ -79,7 +79,7 @@ void MainWindow::fill(QMenu& menu, const CommandMenu& commands) {
 
 QAction* MainWindow::makeTask(const Command& command) {
   auto* action = new QAction(fromText(command.words), menuBar());
-  if (!command.icon.empty()) action->setIcon(pictureNamed(fromText(command.icon)));
+  if (!command.icon.empty()) action->setIcon(iconNamed(fromText(command.icon)));
   for (const CommandKey& key : command.keys) action->setShortcut(keysOf(key));
   // What may take the menu away waits until it has closed.
   const bool showsOnly = command.task == HostTask::showGuide || command.task == HostTask::showAbout;

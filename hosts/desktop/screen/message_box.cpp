@@ -3,36 +3,21 @@
 #include <QPushButton>
 #include <QStyle>
 
-#include "hosts/desktop/faces/pictures.h"
+#include "hosts/desktop/faces/icons.h"
 #include "hosts/desktop/faces/text.h"
+#include "platform/forms/face_words.h"
 
 namespace awizo::desktop {
 namespace {
 
 constexpr int longestText = 5000;
 
-const char* pictureOf(BoxIcon icon) {
-  switch (icon) {
-    case BoxIcon::critical:
-      return "critical";
-    case BoxIcon::question:
-      return "question";
-    case BoxIcon::exclamation:
-      return "exclamation";
-    case BoxIcon::information:
-      return "information";
-    case BoxIcon::none:
-      break;
-  }
-  return nullptr;
-}
-
 /// The icon is the program's own: a system without an icon theme has none.
 void showIcon(QMessageBox& window, BoxIcon icon) {
-  const char* picture = pictureOf(icon);
-  if (picture == nullptr) return;
+  if (icon == BoxIcon::none) return;
   const int side = window.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &window);
-  window.setIconPixmap(pictureNamed(picture).pixmap(QSize(side, side), window.devicePixelRatioF()));
+  window.setIconPixmap(
+      iconNamed(fromText(nameOf(icon))).pixmap(QSize(side, side), window.devicePixelRatioF()));
 }
 
 }  // namespace
@@ -50,14 +35,14 @@ Answer askUser(const MessageBox& box, QWidget* over) {
   showIcon(window, box.icon);
   window.setTextFormat(Qt::PlainText);
   if (box.buttons == BoxButtons::ok) {
-    QPushButton* ok = window.addButton("ОК", QMessageBox::AcceptRole);
+    QPushButton* ok = window.addButton(fromText(words::ok), QMessageBox::AcceptRole);
     window.setDefaultButton(ok);
     window.setEscapeButton(ok);
     window.exec();
     return Answer::ok;
   }
-  QPushButton* yes = window.addButton("&Да", QMessageBox::YesRole);
-  QPushButton* no = window.addButton("&Нет", QMessageBox::NoRole);
+  QPushButton* yes = window.addButton(fromText(words::yes), QMessageBox::YesRole);
+  QPushButton* no = window.addButton(fromText(words::no), QMessageBox::NoRole);
   window.setDefaultButton(yes);
   window.setEscapeButton(no);
   window.exec();

@@ -11,7 +11,7 @@
 #include "hosts/common/given_host.h"
 #include "hosts/desktop/faces/form_face.h"
 #include "hosts/desktop/window/commands.h"
-#include "hosts/desktop/window/host_screen.h"
+#include "hosts/desktop/window/host_screen_face.h"
 #include "hosts/desktop/window/main_layout.h"
 #include "hosts/version.h"
 #include "session/awizo_wysylki.h"
@@ -33,7 +33,7 @@ QLocale localeNamed(const std::string& name) {
 
 /// The control in its surroundings and on the screen.
 struct AwizoWysylkiWidget::Parts {
-  Parts(const Surroundings& given, AwizoWysylkiWidget& widget)
+  Parts(const Host& given, AwizoWysylkiWidget& widget)
       : content(new QWidget(&widget)),
         waiting(widget),
         face(waiting),
@@ -75,7 +75,7 @@ struct AwizoWysylkiWidget::Parts {
 
   QWidget* content;
   Waiting waiting;
-  HostScreen face;
+  HostScreenFace face;
   Libxml2 xml;
   IcuLocale locale;
   CurlHttp network;
@@ -86,15 +86,16 @@ struct AwizoWysylkiWidget::Parts {
   SessionState session;
   AwizoWysylki control;
   FormFace* faces;
+  QLabel* address = nullptr;
   Commands* commands = nullptr;
 };
 
-AwizoWysylkiWidget::AwizoWysylkiWidget(const Surroundings& surroundings, QWidget* parent)
-    : QWidget(parent), parts_(std::make_unique<Parts>(surroundings, *this)) {
+AwizoWysylkiWidget::AwizoWysylkiWidget(const Host& host, QWidget* parent)
+    : QWidget(parent), parts_(std::make_unique<Parts>(host, *this)) {
   Parts& parts = *parts_;
   parts.control.UserControl_Initialize();
   parts.control.UserControl_ReadProperties();
-  layOutMain(parts.control.form, *parts.faces);
+  parts.address = layOutMain(parts.control.form, *parts.faces);
   parts.faces->showAll();
   parts.commands = new Commands(parts.control.form, *parts.faces, *this);
   parts.faces->onStateShown.add([this](Face&) { showStates(); });
@@ -166,10 +167,9 @@ void AwizoWysylkiWidget::start() {
 void AwizoWysylkiWidget::showStates() {
   const AwizoForm& form = parts_->control.form;
   if (parts_->commands != nullptr) parts_->commands->follow();
-  auto* address = parts_->content->findChild<QLabel*>("lblUploadUrl");
   const QString url = form.OnLine == "Off" ? QString() : fromText(form.UploadUrl);
-  address->setText(url);
-  address->setToolTip(url);
+  parts_->address->setText(url);
+  parts_->address->setToolTip(url);
 }
 
 bool AwizoWysylkiWidget::isDocumentChanged() const { return parts_->control.isDocumentChanged(); }

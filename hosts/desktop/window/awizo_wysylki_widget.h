@@ -20,7 +20,7 @@ namespace awizo::desktop {
 
 class Commands;
 class FormFace;
-class HostScreen;
+class HostScreenFace;
 class Waiting;
 
 /// The locale in which Qt writes dates and times: that of the name, else the environment's; ru_RU
@@ -39,7 +39,7 @@ class AwizoWysylkiWidget : public QWidget {
 
  public:
   /// What the host gives the control. All of it outlives the widget.
-  struct Surroundings {
+  struct Host {
     PropertyBag& bag;
     HostPage& page;
     SettingsStore& settings;
@@ -48,7 +48,7 @@ class AwizoWysylkiWidget : public QWidget {
     Http* http = nullptr;          ///< null: the network
   };
 
-  explicit AwizoWysylkiWidget(const Surroundings& surroundings, QWidget* parent = nullptr);
+  explicit AwizoWysylkiWidget(const Host& host, QWidget* parent = nullptr);
   ~AwizoWysylkiWidget() override;
 
   QString onLine() const;

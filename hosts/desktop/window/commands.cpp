@@ -1,7 +1,7 @@
 #include "hosts/desktop/window/commands.h"
 
 #include "hosts/desktop/faces/button_face.h"
-#include "hosts/desktop/faces/pictures.h"
+#include "hosts/desktop/faces/icons.h"
 #include "platform/forms/keys.h"
 
 namespace awizo::desktop {
@@ -46,7 +46,7 @@ Commands::Commands(AwizoForm& form, FormFace& faces, QWidget& window)
 }
 
 void Commands::add(const Command& command, QWidget& window) {
-  auto* action = new QAction(pictureNamed(fromText(command.icon)), fromText(command.words), this);
+  auto* action = new QAction(iconNamed(fromText(command.icon)), fromText(command.words), this);
   entries_[command.button] = {&command, action};
   connect(action, &QAction::triggered, this, [this, &command] { press(*command.button); });
   giveKeys(command, *action, window);
@@ -66,7 +66,7 @@ void Commands::giveKeys(const Command& command, QAction& action, QWidget& window
   // The button tells its key.
   const QString tip =
       fromText(command.plainWords()) + " (" + all.front().toString(QKeySequence::NativeText) + ")";
-  static_cast<ButtonFace&>(faces_.face(*command.button)).setTip(tip);
+  faces_.button(*command.button).setTip(tip);
 }
 
 void Commands::press(Button& button) {

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "hosts/desktop/layouts/fields.h"
 #include "hosts/desktop/window/main_layout.h"
 #include "session/layout_words.h"
 
@@ -16,15 +17,13 @@ struct Group {
   QGridLayout* grid;
 };
 
-Group makeGroup(std::string_view heading) {
+Group makeHeaderGroup(std::string_view heading) {
   auto* widget = new QWidget;
   auto* rows = new QVBoxLayout(widget);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(4);
   auto* label = new QLabel(fromText(heading));
-  QFont bold = label->font();
-  bold.setBold(true);
-  label->setFont(bold);
+  makeBold(*label);
   rows->addWidget(label);
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(8);
@@ -53,7 +52,7 @@ void add(QGridLayout* grid, FormFace& faces, const Field& field, int row, int co
 }
 
 QWidget* makeDocument(AwizoForm& form, FormFace& faces) {
-  const auto [group, grid] = makeGroup(words::documentGroup);
+  const auto [group, grid] = makeHeaderGroup(words::documentGroup);
   add(grid, faces, form.txtNrAwiza, 0, 0, 2);
   add(grid, faces, form.txtDataAwiza, 1, 0);
   add(grid, faces, form.txtDespatchAdviceTime, 1, 1);
@@ -61,7 +60,7 @@ QWidget* makeDocument(AwizoForm& form, FormFace& faces) {
 }
 
 QWidget* makeOrder(AwizoForm& form, FormFace& faces) {
-  const auto [group, grid] = makeGroup(words::orderGroup);
+  const auto [group, grid] = makeHeaderGroup(words::orderGroup);
   add(grid, faces, form.txtNrZam, 0, 0);
   add(grid, faces, form.dpDataZam, 0, 1);
   add(grid, faces, form.txtCodeByBuyer, 1, 0, 2);
@@ -69,7 +68,7 @@ QWidget* makeOrder(AwizoForm& form, FormFace& faces) {
 }
 
 QWidget* makeDelivery(AwizoForm& form, FormFace& faces) {
-  const auto [group, grid] = makeGroup(words::deliveryGroup);
+  const auto [group, grid] = makeHeaderGroup(words::deliveryGroup);
   add(grid, faces, form.txtEstimatedDeliveryDate, 0, 0);
   add(grid, faces, form.txtEstimatedDeliveryTime, 0, 1);
   add(grid, faces, form.cboxPackageDescription, 1, 0);
@@ -164,7 +163,7 @@ QWidget* makeHeader(AwizoForm& form, FormFace& faces) {
   groups->addWidget(makeLine(QFrame::VLine));
   groups->addWidget(makeDelivery(form, faces), 3);
   auto* rows = new QVBoxLayout(frame);
-  rows->setContentsMargins(8, 4, 8, 6);
+  rows->setContentsMargins(insideFrame);
   rows->setSpacing(6);
   rows->addLayout(groups);
   rows->addWidget(makeLine(QFrame::HLine));

@@ -5,7 +5,7 @@
 
 namespace awizo::desktop {
 
-void layOutMain(AwizoForm& form, FormFace& faces) {
+QLabel* layOutMain(AwizoForm& form, FormFace& faces) {
   auto* below = new QSplitter(Qt::Horizontal);
   below->setChildrenCollapsible(false);
   below->addWidget(makePackages(form, faces));
@@ -24,7 +24,9 @@ void layOutMain(AwizoForm& form, FormFace& faces) {
   rows->setSpacing(6);
   rows->addWidget(makeHeader(form, faces));
   rows->addWidget(tables, 1);
-  rows->addWidget(makeStatus(form, faces));
+  const Status status = makeStatus(form, faces);
+  rows->addWidget(status.line);
+  return status.address;
 }
 
 }  // namespace awizo::desktop

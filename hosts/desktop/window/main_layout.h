@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLabel>
 #include <QWidget>
 
 #include "hosts/desktop/faces/form_face.h"
@@ -7,8 +8,9 @@
 
 namespace awizo::desktop {
 
-/// Gives every face of the main form its place in the form's window.
-void layOutMain(AwizoForm& form, FormFace& faces);
+/// Gives every face of the main form its place in the form's window. Returns the label for the
+/// address that documents are sent to, which is no control of the form.
+QLabel* layOutMain(AwizoForm& form, FormFace& faces);
 
 // Its parts, each one widget.
 QWidget* makeHeader(AwizoForm& form, FormFace& faces);
@@ -16,7 +18,11 @@ QWidget* makeLines(AwizoForm& form, FormFace& faces);
 QWidget* makePackages(AwizoForm& form, FormFace& faces);
 /// The totals, and below them the document's ways in and out.
 QWidget* makeTotals(AwizoForm& form, FormFace& faces);
-/// On-line state, address, version. The address stands in the label named "lblUploadUrl".
-QWidget* makeStatus(AwizoForm& form, FormFace& faces);
+/// On-line state, address, version.
+struct Status {
+  QWidget* line;
+  QLabel* address;
+};
+Status makeStatus(AwizoForm& form, FormFace& faces);
 
 }  // namespace awizo::desktop

@@ -8,6 +8,7 @@
 
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/table_face.h"
+#include "hosts/desktop/layouts/fields.h"
 #include "hosts/desktop/window/column_fill.h"
 #include "hosts/desktop/window/main_layout.h"
 #include "session/commands.h"
@@ -17,20 +18,12 @@
 namespace awizo::desktop {
 namespace {
 
-ButtonFace& buttonOf(FormFace& faces, const Button& button) {
-  return static_cast<ButtonFace&>(faces.face(button));
-}
-
-TableFace& tableOf(FormFace& faces, const Table& table) {
-  return static_cast<TableFace&>(faces.face(table));
-}
-
 /// The commands of a table's rows, one below the other beside the table.
 QLayout* makeRowButtons(FormFace& faces, const std::vector<Command>& commands) {
   auto* column = new QVBoxLayout;
   column->setSpacing(4);
   for (const Command& command : commands) {
-    buttonOf(faces, *command.button).setPicture(fromText(command.icon));
+    faces.button(*command.button).setIcon(fromText(command.icon));
     QWidget* widget = faces.widget(*command.button);
     const int side = widget->fontMetrics().height() + 14;
     widget->setFixedSize(side + 6, side);
@@ -53,50 +46,9 @@ QLayout* makeFillRow(FormFace& faces, QWidget* caption, std::initializer_list<QW
   return row;
 }
 
-}  // namespace
-
-QWidget* makeLines(AwizoForm& form, FormFace& faces) {
-  QWidget* frame = faces.widget(form.frmPozycje);
-  TableFace& table = tableOf(faces, form.grdPozycje);
-  table.layOverCell(faces.face(form.txtEdycja));
-  table.view()->setMinimumHeight(table.view()->fontMetrics().height() * 7);
-  auto* grid = new QGridLayout(frame);
-  grid->setContentsMargins(8, 4, 8, 6);
-  grid->setSpacing(6);
-  new ColumnFill(*table.view(), GRD_POZ_NAME);
-  grid->addWidget(table.view(), 0, 0);
-  grid->addLayout(makeRowButtons(faces, lineCommands(form)), 0, 1);
-  grid->addLayout(
-      makeFillRow(faces, faces.widget(form.lblStawkaVAT), {faces.widget(form.comboStawkaVAT)},
-                  form.btnUzupelnij, form.btnNadpisz),
-      1, 0, 1, 2);
-  buttonOf(faces, form.Image2).setPicture("countries");
-  grid->addLayout(makeFillRow(faces, new QLabel(fromText(words::country)),
-                              {faces.widget(form.comboCountry), faces.widget(form.Image2)},
-                              form.btnUzupelnij2, form.btnNadpisz2),
-                  2, 0, 1, 2);
-  return frame;
-}
-
-QWidget* makePackages(AwizoForm& form, FormFace& faces) {
-  QWidget* frame = faces.widget(form.Frame1);
-  auto* row = new QHBoxLayout(frame);
-  row->setContentsMargins(8, 4, 8, 6);
-  row->setSpacing(6);
-  QTableView* view = tableOf(faces, form.grdOpakowania).view();
-  new ColumnFill(*view, GRD_OPAK_DESC);
-  view->setMinimumHeight(view->fontMetrics().height() * 6);
-  row->addWidget(view);
-  row->addLayout(makeRowButtons(faces, packageCommands(form)));
-  return frame;
-}
-
-QWidget* makeTotals(AwizoForm& form, FormFace& faces) {
-  QWidget* frame = faces.widget(form.frmPodsumowanie);
-  auto* rows = new QVBoxLayout(frame);
-  rows->setContentsMargins(8, 4, 8, 6);
-  rows->setSpacing(4);
-  TableFace& table = tableOf(faces, form.grdSuma);
+/// The table of totals, as high as its one row.
+QWidget* makeSums(AwizoForm& form, FormFace& faces) {
+  TableFace& table = faces.table(form.grdSuma);
   table.layOverCell(faces.face(form.txtEdycjaSuma));
   QTableView* view = table.view();
   view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -107,43 +59,96 @@ QWidget* makeTotals(AwizoForm& form, FormFace& faces) {
   new ColumnFill(*view, 1);
   table.showNow();
   view->setMinimumWidth(view->horizontalHeader()->length() + 2 * view->frameWidth());
-  rows->addWidget(view);
-  auto* currency = new QHBoxLayout;
-  currency->addWidget(faces.widget(form.lblNiepelnaWagaKom));
-  currency->addStretch(1);
-  currency->addWidget(new QLabel(fromText(form.lblCurrencyWart.heading())));
-  currency->addWidget(faces.widget(form.lblCurrencyWart));
-  rows->addLayout(currency);
-  rows->addStretch(1);
+  return view;
+}
 
-  auto* ways = new QHBoxLayout;
-  ways->setSpacing(8);
-  ways->addStretch(1);
+/// Whether the weight is complete, and the currency.
+QLayout* makeCurrency(AwizoForm& form, FormFace& faces) {
+  auto* row = new QHBoxLayout;
+  row->addWidget(faces.widget(form.lblNiepelnaWagaKom));
+  row->addStretch(1);
+  row->addWidget(new QLabel(fromText(form.lblCurrencyWart.heading())));
+  row->addWidget(faces.widget(form.lblCurrencyWart));
+  return row;
+}
+
+/// The document's ways in and out.
+QLayout* makeWays(AwizoForm& form, FormFace& faces) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(8);
+  row->addStretch(1);
   for (const Command& command : documentCommands(form)) {
-    ButtonFace& button = buttonOf(faces, *command.button);
-    button.setPicture(fromText(command.icon));
+    ButtonFace& button = faces.button(*command.button);
+    button.setIcon(fromText(command.icon));
     button.setWords(fromText(command.plainWords()));
     static_cast<QToolButton*>(button.widget())->setAutoRaise(false);
-    ways->addWidget(button.widget());
+    row->addWidget(button.widget());
   }
+  return row;
+}
+
+}  // namespace
+
+QWidget* makeLines(AwizoForm& form, FormFace& faces) {
+  QWidget* frame = faces.widget(form.frmPozycje);
+  TableFace& table = faces.table(form.grdPozycje);
+  table.layOverCell(faces.face(form.txtEdycja));
+  table.view()->setMinimumHeight(table.view()->fontMetrics().height() * 7);
+  auto* grid = new QGridLayout(frame);
+  grid->setContentsMargins(insideFrame);
+  grid->setSpacing(6);
+  new ColumnFill(*table.view(), GRD_POZ_NAME);
+  grid->addWidget(table.view(), 0, 0);
+  grid->addLayout(makeRowButtons(faces, lineCommands(form)), 0, 1);
+  grid->addLayout(
+      makeFillRow(faces, faces.widget(form.lblStawkaVAT), {faces.widget(form.comboStawkaVAT)},
+                  form.btnUzupelnij, form.btnNadpisz),
+      1, 0, 1, 2);
+  faces.button(form.Image2).setIcon("countries");
+  grid->addLayout(makeFillRow(faces, new QLabel(fromText(words::country)),
+                              {faces.widget(form.comboCountry), faces.widget(form.Image2)},
+                              form.btnUzupelnij2, form.btnNadpisz2),
+                  2, 0, 1, 2);
+  return frame;
+}
+
+QWidget* makePackages(AwizoForm& form, FormFace& faces) {
+  QWidget* frame = faces.widget(form.Frame1);
+  auto* row = new QHBoxLayout(frame);
+  row->setContentsMargins(insideFrame);
+  row->setSpacing(6);
+  QTableView* view = faces.table(form.grdOpakowania).view();
+  new ColumnFill(*view, GRD_OPAK_DESC);
+  view->setMinimumHeight(view->fontMetrics().height() * 6);
+  row->addWidget(view);
+  row->addLayout(makeRowButtons(faces, packageCommands(form)));
+  return frame;
+}
+
+QWidget* makeTotals(AwizoForm& form, FormFace& faces) {
+  QWidget* frame = faces.widget(form.frmPodsumowanie);
+  auto* rows = new QVBoxLayout(frame);
+  rows->setContentsMargins(insideFrame);
+  rows->setSpacing(4);
+  rows->addWidget(makeSums(form, faces));
+  rows->addLayout(makeCurrency(form, faces));
+  rows->addStretch(1);
   auto* column = new QWidget;
   auto* parts = new QVBoxLayout(column);
   parts->setContentsMargins(0, 0, 0, 0);
   parts->setSpacing(6);
   parts->addWidget(frame, 1);
-  parts->addLayout(ways);
+  parts->addLayout(makeWays(form, faces));
   return column;
 }
 
-QWidget* makeStatus(AwizoForm& form, FormFace& faces) {
+Status makeStatus(AwizoForm& form, FormFace& faces) {
   auto* line = new QWidget;
   auto* row = new QHBoxLayout(line);
   row->setContentsMargins(2, 0, 2, 0);
   row->setSpacing(12);
   QWidget* state = faces.widget(form.lblOnLineStatus);
-  QFont bold = state->font();
-  bold.setBold(true);
-  state->setFont(bold);
+  makeBold(*state);
   row->addWidget(state);
   auto* address = new QLabel;
   address->setObjectName("lblUploadUrl");
@@ -154,7 +159,7 @@ QWidget* makeStatus(AwizoForm& form, FormFace& faces) {
   address->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   row->addWidget(address, 1);
   row->addWidget(faces.widget(form.lblVersion));
-  return line;
+  return {line, address};
 }
 
 }  // namespace awizo::desktop

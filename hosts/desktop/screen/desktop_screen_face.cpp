@@ -1,4 +1,4 @@
-#include "hosts/desktop/screen/desktop_screen.h"
+#include "hosts/desktop/screen/desktop_screen_face.h"
 
 #include <QApplication>
 #include <algorithm>
@@ -8,46 +8,46 @@
 
 namespace awizo::desktop {
 
-DesktopScreen::~DesktopScreen() {
+DesktopScreenFace::~DesktopScreenFace() {
   releaseDialogs();
   cursorChanged(Cursor::normal);
 }
 
-void DesktopScreen::setMainWindow(const Form& form, QWidget& window) {
+void DesktopScreenFace::setMainWindow(const Form& form, QWidget& window) {
   mainForm_ = &form;
   mainWindow_ = &window;
 }
 
-void DesktopScreen::releaseDialogs() {
+void DesktopScreenFace::releaseDialogs() {
   opened_.clear();
   for (const auto& [form, dialog] : dialogs_) delete dialog;
   dialogs_.clear();
 }
 
-FormDialog& DesktopScreen::dialog(Form& form) {
+FormDialog& DesktopScreenFace::dialog(Form& form) {
   QPointer<FormDialog>& dialog = dialogs_[&form];
   if (!dialog) dialog = makeDialog(form, mainWindow_);
   return *dialog;
 }
 
-QWidget* DesktopScreen::topWindow() const {
+QWidget* DesktopScreenFace::topWindow() const {
   const auto top = std::find_if(opened_.rbegin(), opened_.rend(),
                                 [](const FormDialog* dialog) { return dialog->isVisible(); });
   return top == opened_.rend() ? mainWindow_.data() : *top;
 }
 
 // Not every platform activates the window below by itself.
-void DesktopScreen::activateTop() {
+void DesktopScreenFace::activateTop() {
   if (QWidget* top = topWindow()) top->activateWindow();
 }
 
-Answer DesktopScreen::ask(const MessageBox& box) {
+Answer DesktopScreenFace::ask(const MessageBox& box) {
   const Answer answer = askUser(box, topWindow());
   activateTop();
   return answer;
 }
 
-void DesktopScreen::formOpened(Form& form) {
+void DesktopScreenFace::formOpened(Form& form) {
   if (&form == mainForm_) return;
   FormDialog& window = dialog(form);
   std::erase(opened_, &window);
@@ -58,12 +58,12 @@ void DesktopScreen::formOpened(Form& form) {
   window.open();
 }
 
-void DesktopScreen::runModal(Form& form) {
+void DesktopScreenFace::runModal(Form& form) {
   dialog(form).runUntilHidden();
   activateTop();
 }
 
-void DesktopScreen::cursorChanged(Cursor cursor) {
+void DesktopScreenFace::cursorChanged(Cursor cursor) {
   const bool wait = cursor == Cursor::wait;
   if (wait == showsWaitCursor_) return;
   showsWaitCursor_ = wait;
@@ -74,11 +74,11 @@ void DesktopScreen::cursorChanged(Cursor cursor) {
   }
 }
 
-void DesktopScreen::letEventsRun() {
+void DesktopScreenFace::letEventsRun() {
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
-void DesktopScreen::endProgram() {
+void DesktopScreenFace::endProgram() {
   programEnded_ = true;
   QCoreApplication::exit(1);
 }

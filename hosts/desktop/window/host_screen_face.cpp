@@ -1,4 +1,4 @@
-#include "hosts/desktop/window/host_screen.h"
+#include "hosts/desktop/window/host_screen_face.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -9,36 +9,36 @@
 
 namespace awizo::desktop {
 
-Answer HostScreen::ask(const MessageBox& box) {
+Answer HostScreenFace::ask(const MessageBox& box) {
   if (ending_) return box.buttons == BoxButtons::ok ? Answer::ok : Answer::no;
   ++asking_;
   const AtExit asked([this] { --asking_; });
   const auto aside = waiting_.aside();
-  return DesktopScreen::ask(box);
+  return DesktopScreenFace::ask(box);
 }
 
-void HostScreen::formOpened(Form& form) {
-  if (!ending_) DesktopScreen::formOpened(form);
+void HostScreenFace::formOpened(Form& form) {
+  if (!ending_) DesktopScreenFace::formOpened(form);
 }
 
-void HostScreen::runModal(Form& form) {
+void HostScreenFace::runModal(Form& form) {
   if (ending_) return form.hide();
   ++asking_;
   const AtExit asked([this] { --asking_; });
   const auto aside = waiting_.aside();
   modal_.push_back(&form);
-  DesktopScreen::runModal(form);
+  DesktopScreenFace::runModal(form);
   modal_.pop_back();
 }
 
-void HostScreen::workBegins(std::string_view what) {
+void HostScreenFace::workBegins(std::string_view what) {
   waiting_.begin();
   if (!what.empty()) waiting_.show(fromText(what));
 }
 
-void HostScreen::workEnds() { waiting_.end(); }
+void HostScreenFace::workEnds() { waiting_.end(); }
 
-void HostScreen::end() {
+void HostScreenFace::end() {
   ending_ = true;
   if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) box->reject();
   for (auto form = modal_.rbegin(); form != modal_.rend(); ++form) (*form)->hide();

@@ -1,4 +1,4 @@
-#include "hosts/desktop/drawing/demo_http.h"
+#include "hosts/desktop/screenshots/demo_http.h"
 
 #include "demo/exchange.h"
 

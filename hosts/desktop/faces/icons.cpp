@@ -1,4 +1,4 @@
-#include "hosts/desktop/faces/pictures.h"
+#include "hosts/desktop/faces/icons.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -10,11 +10,11 @@
 namespace awizo::desktop {
 namespace {
 
-/// Draws a picture anew at every size and in the present colours: what the file draws in black
+/// Draws an icon anew at every size and in the present colours: what the file draws in black
 /// takes the colour of texts.
-class PictureEngine : public QIconEngine {
+class IconEngine : public QIconEngine {
  public:
-  explicit PictureEngine(QByteArray drawing) : drawing_(std::move(drawing)) {}
+  explicit IconEngine(QByteArray drawing) : drawing_(std::move(drawing)) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
     const QPalette palette = QGuiApplication::palette();
@@ -35,7 +35,7 @@ class PictureEngine : public QIconEngine {
     return made;
   }
 
-  QIconEngine* clone() const override { return new PictureEngine(drawing_); }
+  QIconEngine* clone() const override { return new IconEngine(drawing_); }
 
  private:
   QByteArray drawing_;
@@ -43,10 +43,10 @@ class PictureEngine : public QIconEngine {
 
 }  // namespace
 
-QIcon pictureNamed(const QString& name) {
+QIcon iconNamed(const QString& name) {
   QFile file(":/awizo/" + name + ".svg");
   if (!file.open(QIODevice::ReadOnly)) return {};
-  return QIcon(new PictureEngine(file.readAll()));
+  return QIcon(new IconEngine(file.readAll()));
 }
 
 }  // namespace awizo::desktop

@@ -11,9 +11,9 @@ namespace awizo::desktop {
 
 /// The screen of the desktop: message boxes, modal dialogs, the cursor. Calls that wait run a
 /// nested event loop, in which the user acts on what is on top.
-class DesktopScreen : public ScreenFace {
+class DesktopScreenFace : public ScreenFace {
  public:
-  ~DesktopScreen() override;
+  ~DesktopScreenFace() override;
 
   /// The window of the main form, which is its owner's to show; all others lie over it.
   void setMainWindow(const Form& form, QWidget& window);

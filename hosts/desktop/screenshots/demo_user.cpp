@@ -1,4 +1,4 @@
-#include "hosts/desktop/drawing/demo_user.h"
+#include "hosts/desktop/screenshots/demo_user.h"
 
 #include <QApplication>
 #include <QKeyEvent>

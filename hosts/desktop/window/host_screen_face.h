@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "hosts/desktop/screen/desktop_screen.h"
+#include "hosts/desktop/screen/desktop_screen_face.h"
 #include "hosts/desktop/window/waiting.h"
 
 namespace awizo::desktop {
@@ -10,9 +10,9 @@ namespace awizo::desktop {
 /// The screen of a window that may be closed at any time: once it is told to end, boxes answer
 /// themselves with OK or No and forms hide, so that all work that waits for the user comes to its
 /// end.
-class HostScreen : public DesktopScreen {
+class HostScreenFace : public DesktopScreenFace {
  public:
-  explicit HostScreen(Waiting& waiting) : waiting_(waiting) {}
+  explicit HostScreenFace(Waiting& waiting) : waiting_(waiting) {}
 
   Answer ask(const MessageBox& box) override;
   void formOpened(Form& form) override;

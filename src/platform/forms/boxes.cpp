@@ -1,4 +1,4 @@
-#include "platform/forms/verdicts.h"
+#include "platform/forms/boxes.h"
 
 #include "platform/forms/screen.h"
 

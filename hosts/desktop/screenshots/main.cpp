@@ -12,8 +12,8 @@
 #include "adapters/posix/clocks.h"
 #include "hosts/common/given_host.h"
 #include "hosts/common/program/machine.h"
-#include "hosts/desktop/drawing/demo_http.h"
-#include "hosts/desktop/drawing/demo_user.h"
+#include "hosts/desktop/screenshots/demo_http.h"
+#include "hosts/desktop/screenshots/demo_user.h"
 
 namespace {
 
