@@ -40,6 +40,12 @@ class ChangeFeedTest : public testing::Test {
                   }};
 };
 
+TEST(WithoutAFeed, NobodyCanSubscribe) {
+  SampleClient client;
+  EXPECT_EQ(client.closingOf(R"({"do":"subscribe"})")["error"],
+            "There is no action \"subscribe\".");
+}
+
 TEST_F(ChangeFeedTest, WithoutASubscriptionNothingIsTold) {
   client.form.field.setText("a");
   EXPECT_TRUE(flush().empty());
