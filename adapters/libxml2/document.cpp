@@ -160,28 +160,33 @@ void* Document::nextSiblingOf(void* node) const {
 }
 
 void* Document::selectSingleOf(void* node, std::string_view path) const {
-  const PlainPath plain = plainPath(path);
-  if (const FlatTree* flat = content_.flat(); flat && !plain.names.empty()) {
-    const FlatNode* top = plain.fromDocument ? flat->document() : content_.flatNodeOf(node);
-    return content_.handleOf(firstBelow(*flat, top, plain.names));
+  if (const FlatTree* flat = content_.flat()) {
+    if (const std::optional<WalkedPath> walked = walkedPath(path)) {
+      return content_.handleOf(firstOnPath(*flat, walkStart(*flat, node, *walked), *walked));
+    }
   }
   return content_.handleOf(selecting_.first(content_.nodeOf(node), path));
 }
 
 std::vector<void*> Document::selectAllOf(void* node, std::string_view path) const {
   std::vector<void*> handles;
-  const PlainPath plain = plainPath(path);
-  if (const FlatTree* flat = content_.flat(); flat && !plain.names.empty()) {
-    const FlatNode* top = plain.fromDocument ? flat->document() : content_.flatNodeOf(node);
-    std::vector<const FlatNode*> found;
-    allBelow(*flat, top, plain.names, found);
-    for (const FlatNode* one : found) handles.push_back(content_.handleOf(one));
-    return handles;
+  if (const FlatTree* flat = content_.flat()) {
+    if (const std::optional<WalkedPath> walked = walkedPath(path)) {
+      for (const FlatNode* one : allOnPath(*flat, walkStart(*flat, node, *walked), *walked)) {
+        handles.push_back(content_.handleOf(one));
+      }
+      return handles;
+    }
   }
   for (xmlNode* one : selecting_.all(content_.nodeOf(node), path)) {
     handles.push_back(content_.handleOf(one));
   }
   return handles;
+}
+
+const FlatNode* Document::walkStart(const FlatTree& flat, void* node,
+                                    const WalkedPath& path) const {
+  return path.fromDocument ? flat.document() : content_.flatNodeOf(node);
 }
 
 void Document::appendTo(void* parent, const XmlNode& child) {

@@ -4,6 +4,7 @@
 
 #include "adapters/libxml2/content.h"
 #include "adapters/libxml2/loading.h"
+#include "adapters/libxml2/path_shapes.h"
 #include "adapters/libxml2/selecting.h"
 #include "adapters/libxml2/writing.h"
 #include "platform/xml.h"
@@ -45,6 +46,7 @@ class Document final : public XmlDocument {
   /// Takes the place of what there was; no document stands for an empty one.
   void take(Parsed parsed);
   void keepOnlyNode(xmlNode* kept);
+  const FlatNode* walkStart(const FlatTree& flat, void* node, const WalkedPath& path) const;
   void freeLoose();
 
   mutable Content content_;

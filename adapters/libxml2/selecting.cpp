@@ -5,6 +5,7 @@
 #include <string>
 
 #include "adapters/libxml2/path_shapes.h"
+#include "adapters/libxml2/text.h"
 #include "adapters/libxml2/walking.h"
 #include "platform/run_time_error.h"
 
@@ -25,10 +26,11 @@ struct NodeTree {
   static bool isElementNamed(const xmlNode* node, std::string_view name) {
     return libxml2::isElementNamed(node, name);
   }
+  static std::string trimmedText(const xmlNode* node) { return libxml2::trimmedText(node); }
 };
 
 /// Where the walk of a path begins; none for a node that has no children.
-xmlNode* walkStart(xmlNode* start, const PlainPath& path) {
+xmlNode* walkStart(xmlNode* start, const WalkedPath& path) {
   if (path.fromDocument) return reinterpret_cast<xmlNode*>(start->doc);
   const bool hasChildren = start->type == XML_ELEMENT_NODE || start->type == XML_DOCUMENT_NODE;
   return hasChildren ? start : nullptr;
@@ -55,25 +57,24 @@ class Silence {
 }  // namespace
 
 xmlNode* Selecting::first(xmlNode* start, std::string_view path) {
-  const PlainPath plain = plainPath(path);
-  if (!plain.names.empty()) {
-    xmlNode* top = walkStart(start, plain);
-    return top ? firstBelow(NodeTree(), top, plain.names) : nullptr;
+  if (const std::optional<WalkedPath> walked = walkedPath(path)) {
+    xmlNode* top = walkStart(start, *walked);
+    return top ? firstOnPath(NodeTree(), top, *walked) : nullptr;
   }
   const std::vector<xmlNode*> found = evaluate(start, path);
   return found.empty() ? nullptr : found.front();
 }
 
 std::vector<xmlNode*> Selecting::all(xmlNode* start, std::string_view path) {
-  const PlainPath plain = plainPath(path);
-  if (plain.names.empty()) return evaluate(start, path);
-  std::vector<xmlNode*> found;
-  if (xmlNode* top = walkStart(start, plain)) allBelow(NodeTree(), top, plain.names, found);
-  return found;
+  if (const std::optional<WalkedPath> walked = walkedPath(path)) {
+    xmlNode* top = walkStart(start, *walked);
+    return top ? allOnPath(NodeTree(), top, *walked) : std::vector<xmlNode*>();
+  }
+  return evaluate(start, path);
 }
 
 std::vector<xmlNode*> Selecting::evaluate(xmlNode* start, std::string_view path) {
-  if (path.find('\0') != path.npos) throw errors::invalidXPath();
+  if (path.find('\0') != path.npos || hasExponent(path)) throw errors::invalidXPath();
   if (!context_) {
     context_.reset(xmlXPathNewContext(start->doc));
     if (!context_) throw errors::outOfMemory();

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -30,9 +29,5 @@ class CatalogueIndex {
   XmlDocument& catalogue_;
   std::unordered_map<std::int64_t, XmlNode> lines_;
 };
-
-/// The value of a text as XPath 1.0 takes it for a number: blanks, a minus, digits with or without
-/// a fraction, blanks. None for any other text.
-std::optional<double> xpathNumber(std::string_view text);
 
 }  // namespace awizo

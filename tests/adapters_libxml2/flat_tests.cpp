@@ -21,7 +21,8 @@ std::string outline(const XmlNode& node) {
 
 std::string selected(XmlDocument& document) {
   std::string told;
-  for (const char* path : {"a", "/a/b", "b", "b/c", "/a/b/c", "c", "/a", "/b", "a/c/b"}) {
+  for (const char* path : {"a", "/a/b", "b", "b/c", "/a/b/c", "c", "/a", "/b", "a/c/b", "/a[b=1]",
+                           "a/b[c = -1.0]/c", "b[c/b=1]", "c[b=--1]/a"}) {
     for (const XmlNode& from : {document.node(), document.root()}) {
       for (const XmlNode& node : from.selectAll(path)) told += outline(node) + ",";
       const XmlNode first = from.selectSingle(path);
@@ -33,8 +34,8 @@ std::string selected(XmlDocument& document) {
 
 /// A document of three names, with blanks and texts in all places.
 std::string randomDocument(std::mt19937& random) {
-  const std::vector<std::string> texts{"",     " ",     "\n  ",  "x",      " x ",
-                                       "Ёж ё", "&amp;", "&#32;", "\r\n\t", "1 <b/> 2"};
+  const std::vector<std::string> texts{"",      " ",      "\n  ",     "x", " x ",  "Ёж ё", "&amp;",
+                                       "&#32;", "\r\n\t", "1 <b/> 2", "1", " 01.", "-1",   "1e0"};
   const std::vector<std::string> names{"a", "b", "c"};
   const auto text = [&] { return texts[random() % texts.size()]; };
   std::string document = "<a>";

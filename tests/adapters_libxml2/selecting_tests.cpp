@@ -144,6 +144,71 @@ TEST(Selecting, FromATextThereIsNothingBelow) {
   EXPECT_THAT(document->root().firstChild().selectAll("b/c"), IsEmpty());
 }
 
+TEST(Selecting, ANumberWithAnExponentMakesAnInvalidPath) {
+  const auto document = loaded("<a><b>100000</b></a>");
+  for (const char* path :
+       {"b[.=1e5]", "b[.=1E5]", "b[.=-1e5]", "b[. = 1.0e5 ]", "b[.=1.e5]", "b[.=.1e6]", "b[.=1e+5]",
+        "b[.=1e]", "b[1e0]", "b[.=2-1e5]", "b[.='x' or .=1e5]", "/a[b=1e5]", "/a[b = 1e5]/b"}) {
+    EXPECT_EQ(errorNumberOf([&] { document->root().selectSingle(path); }), invalidPath) << path;
+    EXPECT_EQ(errorNumberOf([&] { document->root().selectAll(path); }), invalidPath) << path;
+  }
+}
+
+TEST(Selecting, AnExponentIsNoneInNamesAndLiterals) {
+  const auto document =
+      loaded("<a><b>1e5</b><a1e5>2</a1e5><c-1e5>3</c-1e5><d.1e5>4</d.1e5><п1e5>5</п1e5></a>");
+  EXPECT_EQ(document->root().selectSingle("b[.='1e5']").text(), "1e5");
+  EXPECT_EQ(document->root().selectSingle("b[.=\"1e5\"]").text(), "1e5");
+  EXPECT_EQ(document->root().selectSingle("b[.!=\"'1e5\"]").text(), "1e5");
+  EXPECT_EQ(document->root().selectSingle("a1e5").text(), "2");
+  EXPECT_EQ(document->root().selectSingle("*[.=2 and self::a1e5]").text(), "2");
+  EXPECT_EQ(document->root().selectSingle("child::c-1e5").text(), "3");
+  EXPECT_EQ(document->root().selectSingle("child::d.1e5").text(), "4");
+  EXPECT_EQ(document->root().selectSingle("п1e5").text(), "5");
+}
+
+TEST(Selecting, ATextWithAnExponentIsNoNumber) {
+  const auto document = loaded(
+      "<R><A><B>1e5</B><C>1</C></A><A><B>1E5</B><B>0100000.0</B><C>2</C><C>3</C></A>"
+      "<A><B>100000</B></A></R>");
+  EXPECT_EQ(document->node().selectSingle("/R/A[B=100000]/C").text(), "2");
+  EXPECT_THAT(texts(document->node().selectAll("/R/A[B=100000]/C")), ElementsAre("2", "3"));
+  EXPECT_THAT(texts(document->node().selectAll("R/A[ B = --100000. ]")),
+              ElementsAre("1E50100000.023", "100000"));
+}
+
+/// The walk must give what the full evaluation gives, whose brackets it doesn't take.
+TEST(Selecting, TheWalkComparesNumbersAsTheEvaluationDoes) {
+  const auto document = loaded(
+      "<R><A><B>1</B><C>a</C></A><A><B>x</B><B> 01.0 </B><C>b</C><C>c</C></A><A><B>-1</B></A>"
+      "<A/><A><B><![CDATA[1]]><D>.5</D></B><C>d</C></A><A><D><B>0</B></D><B/><C>e</C></A>"
+      "<A xmlns=\"u\"><B>1</B><C>f</C></A><A><B xmlns=\"u\">1</B></A><E><B>1</B></E>text</R>");
+  for (const std::string nodes : {"R/A", "/R/A", "A", "/R", "B"}) {
+    for (const std::string value : {"B", "D/B", " B\n", "C", "A/B", "/R/A/B", ".", "B/.."}) {
+      for (const std::string number : {"1", "-1", "- 1", "--1", " 1.5 ", "0", "-0", ".5", "1.0",
+                                       "2", "+1", ".", "-", "", "1 2", "1]", "'1'", "B", "1=1"}) {
+        for (const std::string rest : {"", "/C", "/B/D", "C", "//C", "/", "/C/..", "[1]"}) {
+          const std::string path = nodes + "[" + value + "=" + number + "]" + rest;
+          for (const XmlNode& start :
+               {document->node(), document->root(), document->root().firstChild()}) {
+            std::vector<XmlNode> evaluated;
+            const int error = errorNumberOf([&] { evaluated = start.selectAll("(" + path + ")"); });
+            EXPECT_EQ(errorNumberOf([&] { EXPECT_EQ(start.selectAll(path), evaluated); }), error)
+                << path;
+            EXPECT_EQ(errorNumberOf([&] {
+                        const XmlNode first = start.selectSingle(path);
+                        EXPECT_EQ(first.handle(),
+                                  evaluated.empty() ? nullptr : evaluated.front().handle());
+                      }),
+                      error)
+                << path;
+          }
+        }
+      }
+    }
+  }
+}
+
 /// The walk by names must give what the full evaluation gives, whose brackets it doesn't take.
 TEST(Selecting, TheWalkByNamesSelectsWhatTheEvaluationSelects) {
   const auto document = loaded(

@@ -173,7 +173,11 @@ TEST_F(Completion, FindsNothingInEansThatAreNoNumbers) {
   for (const char* ean : {"", ".", "+123", "1 23", "123A", "12-3", "1.2.3", "- 123", "1e2", "x"}) {
     EXPECT_EQ(productOf("123", product(ean, "found")), "") << ean;
   }
-  EXPECT_EQ(productOf("100", product("1e2", "found")), "");
+  for (const char* ean : {"1e2", "1E2", "10e1", "1e+2", "1.0e2", "1000e-1"}) {
+    EXPECT_EQ(productOf("100", product(ean, "found")), "") << ean;
+    EXPECT_EQ(productOf("100.0", product(ean, "found")), "") << ean;
+    EXPECT_EQ(productOf("100", product(ean, "none") + product("100", "found")), "found") << ean;
+  }
   EXPECT_EQ(productOf("123", product("-123", "found")), "");
   EXPECT_EQ(productOf("123", product("123.5", "found")), "");
 }
@@ -231,7 +235,7 @@ TEST_F(Completion, ALineWithoutEanIsAnError) {
 }
 
 TEST_F(Completion, AnEanThatMakesNoExpressionIsAnError) {
-  for (const char* ean : {"5901 234", "5901]", "59+", "A'B"}) {
+  for (const char* ean : {"5901 234", "5901]", "59+", "A'B", "1e2", "1E2", "-1e2", "1.0e2"}) {
     complete(orderLine(std::string("<EAN>") + ean + "</EAN>"), fullProduct);
     expectError("Invalid XPath expression.");
   }
@@ -322,8 +326,20 @@ TEST_F(DeliveryPlace, ComparesTheIlnAsANumberAndShowsMissingValuesEmpty) {
   expectShown("Магазин 2", "");
 }
 
+TEST_F(DeliveryPlace, KnowsNoNumbersWithExponents) {
+  test.session.LocalizationsDom->loadText(
+      "<dictionary-response><document-content><Document-LocalizationsCatalog><localizations>"
+      "<localization><iln>1e5</iln><number>none</number><address>none</address></localization>"
+      "<localization><iln>100000</iln><number>Магазин</number></localization>"
+      "</localizations></Document-LocalizationsCatalog></document-content></dictionary-response>");
+  CompleteFromLocalizationCatalog(test.editor, "100000");
+  expectShown("Магазин", "");
+  CompleteFromLocalizationCatalog(test.editor, "1e5");
+  expectShown("", "");
+}
+
 TEST_F(DeliveryPlace, IsEmptyForAnIlnThatIsUnknownEmptyOrNonsense) {
-  for (const char* iln : {"1", "", "A B", "]", "'"}) {
+  for (const char* iln : {"1", "", "A B", "]", "'", "9520002000026e0"}) {
     test.form.lblNazwaMiejscaDostawy.setCaption("old name");
     test.form.lblAdresMiejscaDostawy.setCaption("old address");
     CompleteFromLocalizationCatalog(test.editor, iln);
