@@ -236,6 +236,20 @@ TEST_F(ProductChoice, AmongEqualEANsTheFirstRowWinsAndIsntFilledAgain) {
   });
 }
 
+TEST_F(ProductChoice, TheSecondRowOfAnEANLeadsToTheFieldsOfTheFirst) {
+  test.loadProducts({{"4601", "Кофе", "s1", "b1", "<UnitNetPrice>1</UnitNetPrice>"},
+                     {"4601", "Чай", "s2", "b2", "<UnitNetPrice>2</UnitNetPrice>"}});
+  ASSERT_THAT(dialog.dictionary().IdxEAN, ElementsAre(1, 0));
+  test.show([&] { dialog.cboxEANProd.userChoose(1); });
+  // The name sets the EAN, which moves the list to its first row while the text stays.
+  EXPECT_EQ(dialog.cboxEANProd.index(), 0);
+  EXPECT_THAT(lists(), ElementsAre("4601", "Кофе", "b1", "s1"));
+  EXPECT_THAT(fields(), ElementsAre("4601", "Кофе", "b2", "s2"));
+  EXPECT_EQ(dialog.txtCenaNetto.text(), "2,00");
+  EXPECT_EQ(dialog.ProductChangeSource, 0);
+  EXPECT_THAT(test.takeBoxes(), IsEmpty());
+}
+
 // Setting the buyer's code leads over the name to another EAN, and from there round and round.
 TEST_F(ProductChoice, LinesThatLeadToEachOtherWithoutEndAreToldOnce) {
   test.loadProducts({{"1", "в", "s1", "b2"},

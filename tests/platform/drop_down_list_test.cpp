@@ -46,10 +46,22 @@ TEST_F(DropDownListTest, TextMatchesExactly) {
   EXPECT_EQ(list.text(), "килограмм");
 }
 
-TEST_F(DropDownListTest, EqualTextRaisesNoChangeAndKeepsItsRow) {
+TEST_F(DropDownListTest, EqualTextByCodeMovesToItsFirstRowWithoutAChange) {
   list.setIndex(3);
   takeEvents();
+  list.observers.add([&](const Change& change) {
+    if (change.aspect == Aspect::selection) events.push_back("selection");
+    if (change.aspect == Aspect::content) events.push_back("content");
+  });
   list.setText("Килограмм");
+  EXPECT_EQ(list.index(), 1);
+  EXPECT_THAT(events, ElementsAre("selection"));
+}
+
+TEST_F(DropDownListTest, TypingAnEqualTextKeepsItsRow) {
+  list.setIndex(3);
+  takeEvents();
+  list.userType("Килограмм");
   EXPECT_EQ(list.index(), 3);
   EXPECT_THAT(events, IsEmpty());
 }

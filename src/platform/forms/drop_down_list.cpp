@@ -57,6 +57,8 @@ void DropDownList::userType(std::string_view text) {
   if (style_ == ListStyle::listOnly) throw Refused(name() + " takes only its rows");
   if (!takeUserFocus()) return;
   const std::string typed = withoutControlCharacters(text);
+  // Typing what stands there keeps its row, which among equal rows needn't be the first.
+  if (index_ >= 0 && typed == text_ && !typed.empty()) return;
   become(typed.empty() ? -1 : find(typed), typed);
 }
 
@@ -81,8 +83,6 @@ bool DropDownList::mayBeLeft() const {
 }
 
 int DropDownList::find(std::string_view text) const {
-  // An equal text keeps its row, which among equal rows needn't be the first.
-  if (index_ >= 0 && text == text_) return index_;
   const auto found = std::find(rows_.begin(), rows_.end(), text);
   return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
 }
