@@ -169,6 +169,21 @@ TEST_P(CheckingADespatchAdvice, NumbersThatAreRoundedAreTold) {
   EXPECT_THAT(checkWith(">1.500<", ">1,5000000<"), IsEmpty());
 }
 
+TEST_P(CheckingADespatchAdvice, EveryNumberOfALineIsLookedAt) {
+  const std::string where = "11|DespatchAdvice-Lines/Line/Line-Item/";
+  const std::pair<std::string, std::string> numbers[] = {{"OrderedQuantity", "1.235"},
+                                                         {"UnitNetPrice", "1.23"},
+                                                         {"LineNumber", "1"},
+                                                         {"NetAmount", "1.23"},
+                                                         {"TaxRate", "1"}};
+  for (const auto& [name, rounded] : numbers) {
+    const std::string element = "<" + name + ">1.2345</" + name + ">\n<EAN>";
+    EXPECT_THAT(
+        checkWith("<EAN>", element),
+        ElementsAre(where + name + "|«1.2345» будет прочитано как «" + shown(rounded) + "»"));
+  }
+}
+
 TEST_P(CheckingADespatchAdvice, PackagesReferToOneAnother) {
   const std::string package = "DespatchAdvice-Consignment/Packing-Sequence[2]/";
   const auto checkPackage = [&](const std::string& children) {

@@ -58,6 +58,9 @@ TEST_P(CheckingAnOrder, NumbersThatAreRoundedAreToldOnce) {
   EXPECT_THAT(checkWith(">1.500<", ">1.2345<"),
               ElementsAre("5|" + item + "OrderedQuantity|«1.2345» будет прочитано как «" +
                           shown("1.235") + "»"));
+  EXPECT_THAT(checkWith("<EAN>", "<OrderedUnitNetPrice>0.004</OrderedUnitNetPrice><EAN>"),
+              ElementsAre("4|" + item + "OrderedUnitNetPrice|«0.004» будет прочитано как «" +
+                          shown("0.00") + "»"));
   EXPECT_THAT(
       checkWith("<EAN>", "<Weight>0.0004</Weight><EAN>"),
       ElementsAre("4|" + item + "Weight|«0.0004» будет прочитано как «" + shown("0.000") + "»"));

@@ -129,6 +129,9 @@ TEST(ReadingANumber, AnExponentNeedsDigits) {
   EXPECT_TRUE(refusedByBoth("e3"));
   EXPECT_TRUE(refusedByBoth("1e3e3"));
   EXPECT_TRUE(refusedByBoth("1e--3"));
+  for (const char* text : {"1e ", "1e+ ", "1e-", "1e -", "(1e)", "1ex", "1e3x", "1e 3", "$1e"}) {
+    EXPECT_TRUE(refusedByBoth(text)) << text;
+  }
 }
 
 TEST(ReadingANumber, HexadecimalAndOctal) {

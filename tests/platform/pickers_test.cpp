@@ -86,6 +86,18 @@ TEST_F(PickersTest, RememberTheLastDateWhileTheyHoldNone) {
   EXPECT_EQ(may.lastDate(), makeDate(2026, 3, 4));
 }
 
+TEST_F(PickersTest, TimesRunFromMidnightToTheLastSecondOfTheDay) {
+  for (const TimeOfDay shown : {TimeOfDay{0, 0, 0}, TimeOfDay{8, 0, 30}, TimeOfDay{23, 59, 59}}) {
+    time.userSet(shown);
+    EXPECT_EQ(time.time(), shown);
+  }
+  for (const TimeOfDay none : {TimeOfDay{-1, 0, 0}, TimeOfDay{24, 0, 0}, TimeOfDay{8, -1, 0},
+                               TimeOfDay{8, 60, 0}, TimeOfDay{8, 0, -1}, TimeOfDay{8, 0, 60}}) {
+    EXPECT_EQ(errorOf([&] { time.setTime(none); }), "380 Invalid property value");
+  }
+  EXPECT_EQ(time.time(), (TimeOfDay{23, 59, 59}));
+}
+
 TEST_F(PickersTest, TimeThatNoClockShowsIsRefused) {
   EXPECT_EQ(errorOf([&] { time.setTime(TimeOfDay{24, 0, 0}); }), "380 Invalid property value");
   EXPECT_EQ(refusal([&] { time.userSet(TimeOfDay{10, 60, 0}); }), "time doesn't offer this time");

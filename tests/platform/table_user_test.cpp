@@ -261,5 +261,15 @@ TEST_F(TableUser, DisabledTableRefusesEverything) {
   }
 }
 
+TEST_F(TableUser, DisabledTableSaysSoWhateverTheCell) {
+  table.setColumn(1);
+  table.setEnabled(false);
+  for (const auto& act : std::vector<std::function<void()>>{
+           [&] { table.userCell(0, 0); }, [&] { table.userDoubleClick(); },
+           [&] { table.userSelect(1, 1, 20, 1); }, [&] { table.userScroll(20); }}) {
+    EXPECT_EQ(refusal(act), "table is disabled");
+  }
+}
+
 }  // namespace
 }  // namespace awizo::test

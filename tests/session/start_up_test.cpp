@@ -291,6 +291,18 @@ TEST_F(StartUp, MissingDetailsOfTheFirmAreEmpty) {
   EXPECT_EQ(session.BuyerAccount, "");
 }
 
+TEST_F(StartUp, AFirmWithoutANumberOfItsOwnHasTheEmptyOne) {
+  bag.values["OnLine"] = "Off";
+  files.put("c:\\VIRD\\userinfo.xml",
+            "<user><partner-info><info><name>ООО Продавец</name></info></partner-info></user>");
+  files.put("c:\\VIRD\\_9520002000019_partner_INFO.xml", partnerInfo("ООО Покупатель"));
+  start();
+  EXPECT_THAT(boxes(), IsEmpty());
+  EXPECT_EQ(session.SellerILN, "");
+  EXPECT_EQ(session.SellerName, "ООО Продавец");
+  EXPECT_EQ(session.BuyerName, "ООО Покупатель");
+}
+
 // Off line.
 
 TEST_F(StartUp, OffLineReadsThePartnersFileAndAsksNobody) {
