@@ -38,14 +38,5 @@ inline constexpr std::string_view orderPath =
     "/receive-document-response/document-content/Document-Order";
 inline constexpr std::string_view submissionStatusPath =
     "/send-document-response/submission-status";
-/// Below the document element of the user's file and of the partner's file alike.
-inline constexpr std::string_view identityPath = "partner-info/info";
-
-// Files of the local folder, by classic paths. A separator of paths in a name becomes "_", so that
-// none of them lies elsewhere.
-std::string userInfoFile(std::string_view folder);
-std::string partnerInfoFile(std::string_view folder, std::string_view sellerIln,
-                            std::string_view buyerIln);
-std::string debugLogFile(std::string_view folder, std::string_view partnerName);
 
 }  // namespace awizo

@@ -11,9 +11,9 @@
 #include "linedialog/dlg_iso_codes.h"
 #include "linedialog/dlgdodaj_pule.h"
 #include "packagedialog/dlg_szczegoly.h"
+#include "session/array_remove_item.h"
 #include "session/record/awizo_form.h"
 #include "session/record/editor.h"
-#include "tables/array_remove_item.h"
 
 namespace awizo {
 

@@ -1,10 +1,30 @@
+#include <array>
+
 #include "session/awizo_wysylki.h"
-#include "tables/editing/line_commit.h"
 #include "tables/flat_index.h"
 #include "tables/package_references.h"
 #include "tables/totals.h"
 
 namespace awizo {
+namespace {
+
+struct UnitName {
+  std::string_view name;
+  std::string_view symbol;
+};
+
+// Russian words for the first, Polish ones for the rest.
+constexpr std::array<UnitName, 9> unitNames{{{"штука", "PCE"},
+                                             {"килограмм", "KGM"},
+                                             {"метр", "MTR"},
+                                             {"kilometr", "KMT"},
+                                             {"opakowanie", "PA"},
+                                             {"komplet", "SET"},
+                                             {"para", "PR"},
+                                             {"tona", "TNE"},
+                                             {"литр", "LTR"}}};
+
+}  // namespace
 
 std::string AwizoWysylki::MyCalculateWeight() { return awizo::MyCalculateWeight(editor); }
 
@@ -13,7 +33,11 @@ double AwizoWysylki::MyCalculatePartWeight(std::string& quantity, std::string& w
 }
 
 std::string AwizoWysylki::JednostkiMiaryNazwaToSymbol(std::string_view name) const {
-  return awizo::JednostkiMiaryNazwaToSymbol(editor.platform.locale, name);
+  const std::string lower = editor.platform.locale.lower(name);
+  for (const UnitName& unit : unitNames) {
+    if (lower == unit.name) return std::string(unit.symbol);
+  }
+  return std::string(name);
 }
 
 void AwizoWysylki::ArrayRemoveItem(HostValue& array, std::int32_t index) {

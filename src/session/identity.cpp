@@ -1,10 +1,13 @@
 #include "session/identity.h"
 
-#include "service/exchanges.h"
 #include "service/transport.h"
+#include "session/local_folder.h"
 
 namespace awizo {
 namespace {
+
+/// Below the document element of the user's file and of the partner's file alike.
+constexpr std::string_view identityPath = "partner-info/info";
 
 /// Whether the file is there and is XML. The document is empty otherwise.
 bool loadFile(Files& files, XmlDocument& document, std::string_view path) {

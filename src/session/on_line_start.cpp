@@ -7,6 +7,7 @@
 #include "service/exchanges.h"
 #include "service/transport.h"
 #include "session/identity.h"
+#include "session/local_folder.h"
 #include "session/record/header_panel.h"
 #include "tables/columns/columns.h"
 #include "tables/row_colour.h"

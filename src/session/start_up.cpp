@@ -3,8 +3,8 @@
 #include <initializer_list>
 
 #include "platform/forms/report_errors.h"
-#include "service/exchanges.h"
 #include "session/identity.h"
+#include "session/local_folder.h"
 #include "session/on_line_start.h"
 #include "session/record/countries.h"
 #include "session/record/header_panel.h"

@@ -347,24 +347,5 @@ TEST_F(AddingALine, AFullCounterOverflowsBeforeTheDialogOpens) {
   EXPECT_EQ(session.LineCount, 32767);
 }
 
-TEST_F(AddingALine, UnitNamesHaveSymbols) {
-  const auto symbol = [&](std::string_view name) {
-    return control.JednostkiMiaryNazwaToSymbol(name);
-  };
-  EXPECT_EQ(symbol("штука"), "PCE");
-  EXPECT_EQ(symbol("Штука"), "PCE");
-  EXPECT_EQ(symbol("КИЛОГРАММ"), "KGM");
-  EXPECT_EQ(symbol("Метр"), "MTR");
-  EXPECT_EQ(symbol("kilometr"), "KMT");
-  EXPECT_EQ(symbol("Opakowanie"), "PA");
-  EXPECT_EQ(symbol("KOMPLET"), "SET");
-  EXPECT_EQ(symbol("para"), "PR");
-  EXPECT_EQ(symbol("tona"), "TNE");
-  EXPECT_EQ(symbol("литр"), "LTR");
-  EXPECT_EQ(symbol("Sztuka"), "Sztuka");
-  EXPECT_EQ(symbol("штука "), "штука ");
-  EXPECT_EQ(symbol(""), "");
-}
-
 }  // namespace
 }  // namespace awizo::test

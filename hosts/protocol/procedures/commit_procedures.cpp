@@ -17,9 +17,8 @@ void addCommitProcedures(Procedures& procedures, AwizoWysylki& control) {
   procedures.add("ZatwierdzPozycje", [&](std::int16_t row) {
     std::ignore = ZatwierdzPozycje(editor, control.dlgDodaj.touch(), row);
   });
-  procedures.add("JednostkiMiaryNazwaToSymbol", [&](Text name) {
-    return JednostkiMiaryNazwaToSymbol(editor.platform.locale, name);
-  });
+  procedures.add("JednostkiMiaryNazwaToSymbol",
+                 [&](Text name) { return control.JednostkiMiaryNazwaToSymbol(name); });
   procedures.add("ZatwierdzPozycjeOpak", [&](std::int16_t row, bool isNew) {
     std::ignore = ZatwierdzPozycjeOpak(editor, control.dlgSzczegoly.touch(), row, isNew);
   });

@@ -1,7 +1,7 @@
 // Procedures on the three tables, on package references, totals and weights.
 
 #include "hosts/protocol/procedures/control_procedures.h"
-#include "tables/array_remove_item.h"
+#include "session/array_remove_item.h"
 #include "tables/clear_tables.h"
 #include "tables/editing/clear_form.h"
 #include "tables/editing/in_table_editing.h"

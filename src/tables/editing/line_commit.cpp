@@ -1,7 +1,5 @@
 #include "tables/editing/line_commit.h"
 
-#include <array>
-
 #include "formats/customs_number.h"
 #include "formats/row_check.h"
 #include "platform/forms/report_errors.h"
@@ -68,22 +66,6 @@ void writePackages(Editor& editor, const DlgDodaj& dialog, const Row& line) {
   line.set(GRD_POZ_PACKED_QTY, GetPackedQuantity(editor, line.cell(GRD_POZ_PACK_REFS)));
 }
 
-struct UnitName {
-  std::string_view name;
-  std::string_view symbol;
-};
-
-// Russian words for the first, Polish ones for the rest.
-constexpr std::array<UnitName, 9> unitNames{{{"штука", "PCE"},
-                                             {"килограмм", "KGM"},
-                                             {"метр", "MTR"},
-                                             {"kilometr", "KMT"},
-                                             {"opakowanie", "PA"},
-                                             {"komplet", "SET"},
-                                             {"para", "PR"},
-                                             {"tona", "TNE"},
-                                             {"литр", "LTR"}}};
-
 }  // namespace
 
 void btnDodaj_Click(Editor& editor, DlgDodaj& dialog) {
@@ -137,14 +119,6 @@ bool ZatwierdzPozycje(Editor& editor, DlgDodaj& dialog, std::int16_t row) {
     editor.form.grdPozycje.setRow(row);
     CountValidRows(editor);
   });
-}
-
-std::string JednostkiMiaryNazwaToSymbol(const Locale& locale, std::string_view name) {
-  const std::string lower = locale.lower(name);
-  for (const UnitName& unit : unitNames) {
-    if (lower == unit.name) return std::string(unit.symbol);
-  }
-  return std::string(name);
 }
 
 }  // namespace awizo

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
-#include <string_view>
 
 #include "linedialog/dlg_dodaj.h"
 #include "session/record/editor.h"
@@ -17,7 +15,5 @@ void btnEdytuj_Click(Editor& editor, DlgDodaj& dialog);
 /// error is told and leaves what was written, and a button that gets that answer ends where it
 /// stands, with the table unpainted and the control as it then is.
 [[nodiscard]] bool ZatwierdzPozycje(Editor& editor, DlgDodaj& dialog, std::int16_t row);
-/// Symbol of a unit by its name, case ignored; an unknown name comes back as it is.
-std::string JednostkiMiaryNazwaToSymbol(const Locale& locale, std::string_view name);
 
 }  // namespace awizo

@@ -1,4 +1,4 @@
-#include "tables/array_remove_item.h"
+#include "session/array_remove_item.h"
 
 #include "support/error_of.h"
 

@@ -1,4 +1,4 @@
-#include "tables/editing/country_picker.h"
+#include "bulkfill/country_picker.h"
 
 #include <algorithm>
 

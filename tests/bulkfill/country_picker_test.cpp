@@ -1,4 +1,4 @@
-#include "desk.h"
+#include "editing/desk.h"
 
 namespace awizo::test {
 namespace {
