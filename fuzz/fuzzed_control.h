@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "tests/session/test_control.h"
+#include "tests/support/control/test_control.h"
 
 namespace awizo::fuzz {
 

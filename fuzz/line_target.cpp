@@ -4,7 +4,7 @@
 #include "fuzz/targets.h"
 #include "hosts/headless/headless_program.h"
 #include "hosts/protocol/values/json.h"
-#include "tests/session/test_control.h"
+#include "tests/support/control/test_control.h"
 #include "tests/support/fake_http.h"
 #include "tests/support/memory_files.h"
 

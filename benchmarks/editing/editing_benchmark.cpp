@@ -2,7 +2,7 @@
 
 #include "benchmarks/support/compare.h"
 #include "benchmarks/support/full_document.h"
-#include "tests/editing/desk.h"
+#include "tests/support/control/desk.h"
 
 namespace awizo::benchmarks {
 namespace {

@@ -3,7 +3,7 @@
 #include "benchmarks/support/compare.h"
 #include "benchmarks/support/full_document.h"
 #include "formats/despatch_advice_writer.h"
-#include "tests/editing/desk.h"
+#include "tests/support/control/desk.h"
 
 namespace awizo::benchmarks {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "benchmarks/support/compare.h"
 #include "benchmarks/support/full_size.h"
-#include "tests/session/test_control.h"
+#include "tests/support/control/test_control.h"
 
 namespace awizo::benchmarks {
 namespace {

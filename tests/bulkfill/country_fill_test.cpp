@@ -1,4 +1,4 @@
-#include "editing/desk.h"
+#include "support/control/desk.h"
 
 namespace awizo::test {
 namespace {

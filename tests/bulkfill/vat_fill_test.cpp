@@ -1,5 +1,5 @@
 #include "bulkfill/bulk_fill.h"
-#include "editing/desk.h"
+#include "support/control/desk.h"
 
 namespace awizo::test {
 namespace {

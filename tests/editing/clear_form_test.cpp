@@ -1,7 +1,7 @@
 #include "tables/editing/clear_form.h"
 
-#include "desk.h"
 #include "support/cells.h"
+#include "support/control/desk.h"
 
 namespace awizo::test {
 namespace {

@@ -1,4 +1,5 @@
 #include "in_table_editing.h"
+#include "support/control/desk.h"
 #include "tables/editing/in_table_editing.h"
 
 namespace awizo::test {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desk.h"
+#include "support/control/desk.h"
 
 namespace awizo::test {
 

@@ -1,4 +1,4 @@
-#include "desk.h"
+#include "support/control/desk.h"
 
 namespace awizo::test {
 namespace {

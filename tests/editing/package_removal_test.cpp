@@ -1,4 +1,4 @@
-#include "desk.h"
+#include "support/control/desk.h"
 #include "tables/editing/package_subtree.h"
 
 namespace awizo::test {

@@ -1,6 +1,6 @@
 #include "formats/catalogue_completion.h"
 
-#include "formats/logged.h"
+#include "support/logged.h"
 
 namespace awizo::test {
 namespace {

@@ -1,6 +1,6 @@
 #include "formats/customs_number.h"
 
-#include "formats/logged.h"
+#include "support/logged.h"
 
 namespace awizo::test {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "formats/logged.h"
 #include "formats/order_reader.h"
+#include "support/logged.h"
 #include "tables/columns/columns.h"
 
 namespace awizo::test {

@@ -1,6 +1,6 @@
-#include "formats/logged.h"
 #include "line_dialog.h"
 #include "platform/forms/keys.h"
+#include "support/logged.h"
 
 namespace awizo::test {
 namespace {

@@ -1,5 +1,5 @@
-#include "formats/logged.h"
 #include "line_dialog.h"
+#include "support/logged.h"
 
 namespace awizo::test {
 namespace {

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "session/test_control.h"
+#include "support/control/test_control.h"
 
 namespace awizo::test {
 

@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "random_user/dice.h"
-#include "session/test_control.h"
+#include "support/control/test_control.h"
 
 namespace awizo::test {
 

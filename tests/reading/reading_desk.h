@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "editing/desk.h"
+#include "support/control/desk.h"
 
 namespace awizo::test {
 

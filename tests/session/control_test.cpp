@@ -1,5 +1,5 @@
+#include "support/control/test_control.h"
 #include "tables/columns/columns.h"
-#include "test_control.h"
 
 namespace awizo::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "session/test_control.h"
+#include "support/control/test_control.h"
 
 namespace awizo::test {
 namespace {

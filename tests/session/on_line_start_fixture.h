@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "test_control.h"
+#include "support/control/test_control.h"
 
 namespace awizo::test {
 

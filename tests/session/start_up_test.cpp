@@ -1,6 +1,6 @@
 #include "platform/forms/table.h"
+#include "support/control/test_control.h"
 #include "tables/columns/columns.h"
-#include "test_control.h"
 
 namespace awizo::test {
 namespace {

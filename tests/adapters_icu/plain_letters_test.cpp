@@ -1,9 +1,9 @@
+#include "adapters/icu/plain_letters.h"
+
 #include <unicode/unistr.h>
 
 #include <memory>
 #include <random>
-
-#include "adapters/icu/plain_letters.h"
 
 namespace awizo::icu_locale {
 namespace {

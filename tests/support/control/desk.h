@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/forms/keys.h"
-#include "session/test_control.h"
+#include "support/control/test_control.h"
 #include "tables/columns/columns.h"
 
 namespace awizo::test {
