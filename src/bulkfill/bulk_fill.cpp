@@ -1,15 +1,13 @@
 #include "bulkfill/bulk_fill.h"
 
-#include <algorithm>
-
 #include "formats/row_check.h"
 #include "platform/forms/boxes.h"
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
 #include "platform/text.h"
 #include "session/record/countries.h"
-#include "session/record/header_panel.h"
 #include "tables/columns/columns.h"
+#include "tables/editing/country_lists.h"
 #include "tables/row.h"
 
 namespace awizo {
@@ -28,11 +26,9 @@ void forLinesToFill(Editor& editor, int column, bool overwrite, Fill fill) {
 
 // "(PL)Польша" of a two-letter code; the bare code where the table doesn't know it.
 std::string listRow(DlgIsoCodes& isoCodes, const std::string& code) {
-  const Table& table = isoCodes.touch().grdISO;
-  for (int index = DlgIsoCodes::firstCode; index <= DlgIsoCodes::lastCode; index += 2) {
-    if (table.cell(index) == code) return countryEntry(code, table.cell(index - 1));
-  }
-  return code;
+  const std::optional<int> index =
+      isoCodes.findCode([&](const std::string& cell) { return cell == code; });
+  return index ? countryEntry(code, isoCodes.grdISO.cell(*index - 1)) : code;
 }
 
 void fillCountry(Editor& editor, DlgIsoCodes& isoCodes, DlgDodaj& lineDialog, bool overwrite) {
@@ -46,11 +42,7 @@ void fillCountry(Editor& editor, DlgIsoCodes& isoCodes, DlgDodaj& lineDialog, bo
   countries.setText(editor.session.IsoCheckCode);
   FillLines2(editor, overwrite);
   if (countCharacters(countries.text()) != 2) return;
-  const std::string row = listRow(isoCodes, countries.text());
-  const std::vector<std::string>& rows = countries.rows();
-  if (std::find(rows.begin(), rows.end(), row) != rows.end()) return;
-  countries.addRow(row);
-  lineDialog.touch().comboCountry.addRow(row);
+  addCountry(editor, lineDialog, listRow(isoCodes, countries.text()));
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include "bulkfill/country_picker.h"
 
-#include <algorithm>
+#include "tables/editing/country_lists.h"
 
 namespace awizo {
 
@@ -10,14 +10,9 @@ void Image2_Click(Editor& editor, DlgIsoCodes& isoCodes, DlgDodaj& lineDialog) {
   chosen = countries.text();
   isoCodes.touch().showModal();
   countries.setText(chosen);
-  const std::vector<std::string> rows = lineDialog.touch().comboCountry.rows();
-  countries.clear();
-  for (const std::string& row : rows) countries.addRow(row);
+  copyCountries(editor, lineDialog.touch());
   if (chosen.empty()) return;
-  if (std::find(rows.begin(), rows.end(), chosen) == rows.end()) {
-    countries.addRow(chosen);
-    lineDialog.comboCountry.addRow(chosen);
-  }
+  addCountry(editor, lineDialog, chosen);
   countries.setText(chosen);
 }
 

@@ -1,12 +1,23 @@
 #include "linedialog/dlg_dodaj.h"
 
+#include "linedialog/country_list.h"
+#include "linedialog/fixed_lists.h"
+#include "linedialog/line_validation.h"
+#include "platform/forms/report_errors.h"
 #include "platform/text.h"
 #include "session/record/countries.h"
+#include "tables/flat_index.h"
+#include "tables/package_references.h"
 
 namespace awizo {
+namespace {
 
-DlgDodaj::DlgDodaj(Editor& editor, DlgIsoCodes& isoCodes, DlgdodajPule& quantityDialog)
-    : Form(editor.screen(), "DlgDodaj"),
+constexpr std::string_view formLoadTitle = "Произошла ошибка в Form_Load() (Dodaj)";
+
+}  // namespace
+
+DlgDodaj::DlgDodaj(Work& work, DlgIsoCodes& isoCodes, DlgdodajPule& quantityDialog)
+    : Form(work.screen(), "DlgDodaj"),
       lblPozycjaTow(*this, "lblPozycjaTow", "Номер товарной позиции"),
       lblNazwaProd(*this, "lblNazwaProd", "Наименование товара:"),
       cboxNazwaProd(*this, "cboxNazwaProd", "Наименование товара:"),
@@ -35,17 +46,17 @@ DlgDodaj::DlgDodaj(Editor& editor, DlgIsoCodes& isoCodes, DlgdodajPule& quantity
       Label10(*this, "Label10", "Код ставки НДС:"),
       cboxKodVAT(*this, "cboxKodVAT", "Код ставки НДС:", ListStyle::listOnly),
       Label5(*this, "Label5", "Дата изготовления:"),
-      dtProdDate(*this, "dtProdDate", editor.platform.clock.today(), NoValue::refused,
+      dtProdDate(*this, "dtProdDate", work.platform.clock.today(), NoValue::refused,
                  "Дата изготовления:", DateForm::longDate),
       lblExpiryDate(*this, "lblExpiryDate", "Срок годности:"),
-      dtExpiryDate(*this, "dtExpiryDate", editor.platform.clock.today(), NoValue::allowed,
+      dtExpiryDate(*this, "dtExpiryDate", work.platform.clock.today(), NoValue::allowed,
                    "Срок годности:", DateForm::longDate),
       lblContryOfOryginCode(*this, "lblContryOfOryginCode", "Код страны производителя:"),
       comboCountry(*this, "comboCountry", "Код страны производителя:"),
       btnISOcodes(*this, "btnISOcodes", "ISO коды стран."),
       Label9(*this, "Label9", "ГТД:"),
       txtCDN1(*this, "txtCDN1", "ГТД:", 8),
-      dpCDN2(*this, "dpCDN2", editor.platform.clock.today(), NoValue::refused),
+      dpCDN2(*this, "dpCDN2", work.platform.clock.today(), NoValue::refused),
       txtCDN3(*this, "txtCDN3", "", 7),
       txtCDN4(*this, "txtCDN4", "", 3),
       Label4(*this, "Label4", "Секция упаковки"),
@@ -58,10 +69,11 @@ DlgDodaj::DlgDodaj(Editor& editor, DlgIsoCodes& isoCodes, DlgdodajPule& quantity
       Command3(*this, "Command3", "•"),
       btnDodaj(*this, "btnDodaj", "&Добавить"),
       btnZamknij(*this, "btnZamknij", "&Назад"),
-      editor_(editor),
+      work_(work),
       isoCodes_(isoCodes),
-      quantityDialog_(quantityDialog),
-      sorter_(editor.screen(), editor.conversions) {
+      sorter_(work.screen(), work.conversions),
+      choice_(work, *this, products_),
+      packages_(work, *this, quantityDialog) {
   acceptButton = &btnDodaj;
   closeButton = &btnZamknij;
   onClose = [this] { btnZamknij_Click(); };
@@ -77,12 +89,12 @@ void DlgDodaj::wireFields() {
   };
   txtCenaNetto.onChange = [this] { txtAmount.setText(MyCalculateAmount()); };
   dtProdDate.onChange = [this] { showExpiryDate(MyCalculateExpiryDate()); };
-  txtIloscZam.onValidate = [this] { txtIloscZam_Validate(); };
-  txtIloscPotw.onValidate = [this] { txtIloscPotw_Validate(); };
-  txtCenaNetto.onValidate = [this] { txtCenaNetto_Validate(); };
-  txtAmount.onValidate = [this] { txtAmount_Validate(); };
-  txtCDN1.onValidate = [this] { txtCDN1_Validate(); };
-  txtCDN3.onValidate = [this] { txtCDN3_Validate(); };
+  txtIloscZam.onValidate = [this] { txtIloscZam_Validate(work_.conversions, *this); };
+  txtIloscPotw.onValidate = [this] { txtIloscPotw_Validate(work_.conversions, *this); };
+  txtCenaNetto.onValidate = [this] { txtCenaNetto_Validate(work_.conversions, *this); };
+  txtAmount.onValidate = [this] { txtAmount_Validate(work_.conversions, *this); };
+  txtCDN1.onValidate = [this] { txtCDN1_Validate(work_.conversions, *this); };
+  txtCDN3.onValidate = [this] { txtCDN3_Validate(work_.conversions, *this); };
 }
 
 void DlgDodaj::wireLists() {
@@ -91,10 +103,10 @@ void DlgDodaj::wireLists() {
   txtKodKup.cover = &cboxKodAPP;
   txtKodSprzed.cover = &cboxKodSprzed;
   grdPozycjeN.cover = &grdPozycje;
-  cboxEANProd.onChange = [this] { cboxEANProd_Change(); };
-  cboxKodAPP.onChange = [this] { cboxKodAPP_Change(); };
-  cboxKodSprzed.onChange = [this] { cboxKodSprzed_Change(); };
-  cboxNazwaProd.onChange = [this] { cboxNazwaProd_Change(); };
+  cboxEANProd.onChange = [this] { choice_.cboxEANProd_Change(); };
+  cboxKodAPP.onChange = [this] { choice_.cboxKodAPP_Change(); };
+  cboxKodSprzed.onChange = [this] { choice_.cboxKodSprzed_Change(); };
+  cboxNazwaProd.onChange = [this] { choice_.cboxNazwaProd_Change(); };
   cboxKodVAT.onClick = [this] { CheckVAT(0); };
   cboxStawkaVAT.onClick = [this] { CheckVAT(1); };
   for (DropDownList* list : {&cboxJednostkaMiary, &comboCountry}) {
@@ -107,13 +119,15 @@ void DlgDodaj::wireLists() {
 void DlgDodaj::wireButtons() {
   btnDodaj.onClick = [this] { btnDodaj_Click(); };
   btnZamknij.onClick = [this] { btnZamknij_Click(); };
-  btnISOcodes.onClick = [this] { btnISOcodes_Click(); };
+  btnISOcodes.onClick = [this] {
+    pickCountry(comboCountry, isoCodes_, work_.session, work_.platform.locale);
+  };
   // What is picked after a double click takes effect only through the next plain click.
   btnISOcodes.doubleClickAlone = true;
   btnISOcodes.onDoubleClick = [this] { isoCodes_.touch().showModal(); };
-  Command1.onClick = [this] { Command1_Click(); };
-  Command2.onClick = [this] { Command2_Click(); };
-  Command3.onClick = [this] { Command3_Click(); };
+  Command1.onClick = [this] { packages_.Command1_Click(); };
+  Command2.onClick = [this] { packages_.Command2_Click(); };
+  Command3.onClick = [this] { packages_.Command3_Click(); };
 }
 
 DlgDodaj& DlgDodaj::touch() {
@@ -124,37 +138,109 @@ DlgDodaj& DlgDodaj::touch() {
   return *this;
 }
 
+// A failure in one part is told to the user and doesn't stop the rest.
+void DlgDodaj::Form_Load() {
+  DebugLog& log = work_.session.log;
+  work_.session.IsoCheckOk = true;
+  choice_.ProductChangeSource = 0;
+  log.WriteDebugLine("Form_Load start");
+  const Cursor earlier = screen().setCursor(work_.session.WaitCursor);
+  reportErrors(screen(), formLoadTitle, [&] { fillFixedLists(); });
+  reportErrors(screen(), formLoadTitle, [&] { packages_.setUpTable(); });
+  log.WriteDebugLine("Form_Load utworzono obiekty MSXML2 ");
+  if (work_.session.ProductCatalogLoaded) {
+    reportErrors(screen(), formLoadTitle, [&] { readCatalogue(); });
+  } else {
+    for (DropDownList* list : {&cboxNazwaProd, &cboxEANProd, &cboxKodAPP, &cboxKodSprzed}) {
+      list->setVisible(false);
+    }
+  }
+  screen().setCursor(earlier);
+  log.WriteDebugLine("Form_Load zmiana kursora na poczatkowy");
+}
+
+void DlgDodaj::fillFixedLists() {
+  cboxJednostkaMiary.setRows(unitRows());
+  cboxKodVAT.setRows(taxCategoryRows());
+  cboxStawkaVAT.setRows(taxRateRows());
+  comboCountry.setRows(fixedCountryEntries());
+}
+
+void DlgDodaj::readCatalogue() {
+  DebugLog& log = work_.session.log;
+  log.WriteDebugLine("Form_Load start przetwarzania slownika produktow");
+  const XmlNode catalogue =
+      work_.session.ProductCatalogDom->node().selectSingle("Document-ProductCatalogue");
+  if (catalogue) {
+    products_.read(catalogue, work_.conversions, sorter_, screen(), formLoadTitle);
+    cboxNazwaProd.setRows(products_.rowsByName());
+    cboxEANProd.setRows(products_.rowsByEAN());
+    cboxKodSprzed.setRows(products_.rowsBySupplierCode());
+    cboxKodAPP.setRows(products_.rowsByBuyerCode());
+  }
+  log.WriteDebugLine("Form_Load przetworzono slownik produktow");
+}
+
+std::string DlgDodaj::symbolJednostkiMiary(std::int16_t index) const {
+  return index == -1 ? cboxJednostkaMiary.text() : unitCode(index);
+}
+
+std::int16_t DlgDodaj::indexJednostkiMiary(std::string_view code) const {
+  return unitIndex(work_.platform.locale, code);
+}
+
+std::string DlgDodaj::symbolKodVAT(std::int16_t index) const {
+  return index == -1 ? cboxKodVAT.text() : taxCategoryCode(index);
+}
+
+std::int16_t DlgDodaj::indexKodVAT(std::string_view code) const {
+  return taxCategoryIndex(work_.platform.locale, code);
+}
+
+std::string DlgDodaj::symbolStawkaVAT(std::int16_t index) const {
+  return index == -1 ? cboxStawkaVAT.text() : taxRateCode(index);
+}
+
+std::int16_t DlgDodaj::indexStawkaVAT(std::string_view rate) const { return taxRateIndex(rate); }
+
+bool DlgDodaj::Walidacja() { return awizo::Walidacja(work_, *this, isoCodes_); }
+
+std::string DlgDodaj::MyCalculateAmount() const {
+  return awizo::MyCalculateAmount(work_.conversions, txtIloscPotw.text(), txtCenaNetto.text());
+}
+
+std::string DlgDodaj::MyCalculateExpiryDate() const {
+  return work_.conversions.AddPeriodToDate(dtProdDate.date().value(), LinePeriod, LinePeriodFormat);
+}
+
+void DlgDodaj::showExpiryDate(const std::string& isoDate) {
+  if (!isoDate.empty()) {
+    dtExpiryDate.setDate(work_.conversions.toDate(isoDate));
+    return;
+  }
+  dtExpiryDate.setDate(work_.platform.clock.today());
+  dtExpiryDate.setDate(std::nullopt);
+}
+
+std::int16_t DlgDodaj::IndexGrdPozycje(std::int16_t row, std::int16_t column) const {
+  return flatIndex(grdPozycje, row, column);
+}
+
+// An error ends these two without a word, with what they have done so far.
+
+void DlgDodaj::StringToGrid(std::string_view text) { awizo::StringToGrid(grdPozycje, text); }
+
+std::string DlgDodaj::GridToString() const { return awizo::GridToString(grdPozycje); }
+
 void DlgDodaj::btnDodaj_Click() {
   if (!Walidacja()) return;
   DlgResult = 1;
-  if (countCharacters(comboCountry.text()) == 2) addCountryOfCode();
+  if (countCharacters(comboCountry.text()) == 2) {
+    addCountryOfCode(comboCountry, isoCodes_, work_.platform.locale);
+  }
   if (cboxNazwaProd.visible()) cboxNazwaProd.setFocus();
-  if (Command3.enabled() || Command1.enabled()) tellWhatIsUnpacked();
+  if (Command3.enabled() || Command1.enabled()) packages_.tellWhatIsUnpacked();
   hide();
-}
-
-// The list grows with the countries used; its own text stays the two letters.
-void DlgDodaj::addCountryOfCode() {
-  const Locale& locale = editor_.platform.locale;
-  const Table& table = isoCodes_.touch().grdISO;
-  for (int index = DlgIsoCodes::firstCode; index <= DlgIsoCodes::lastCode; index += 2) {
-    if (!locale.sameIgnoringCase(table.cell(index), comboCountry.text())) continue;
-    addMissingRow(comboCountry, countryEntry(comboCountry.text(), table.cell(index - 1)), locale);
-    return;
-  }
-}
-
-void DlgDodaj::tellWhatIsUnpacked() {
-  const Conversions& conversions = editor_.conversions;
-  double packed = 0;
-  for (int row = 1; row < grdPozycje.rows(); ++row) {
-    const std::string& cell = grdPozycje.cell(row, 4);
-    if (cell.empty()) continue;
-    packed += conversions.toDouble(conversions.NormalizeDecimal(Conversions::CommaToDot(cell), 2));
-  }
-  if (conversions.MyDouble(std::string(txtIloscPotw.text())) > packed) {
-    screen().messageBox({"Отгруженный товар упакован не полностью", ""});
-  }
 }
 
 // Nothing that was typed is undone: the main form just doesn't read it.
@@ -162,23 +248,6 @@ void DlgDodaj::btnZamknij_Click() {
   DlgResult = 0;
   if (cboxNazwaProd.visible()) cboxNazwaProd.setFocus();
   hide();
-}
-
-// A cancelled choice leaves IsoResult, so an earlier one comes back, and none empties the field.
-void DlgDodaj::btnISOcodes_Click() {
-  const int count = comboCountry.count();
-  isoCodes_.touch().showModal();
-  const std::string& chosen = editor_.session.IsoResult;
-  comboCountry.setText(chosen);
-  if (!chosen.empty()) addMissingRow(comboCountry, chosen, editor_.platform.locale);
-  if (comboCountry.count() != count) comboCountry.setIndex(comboCountry.count() - 1);
-}
-
-void addMissingRow(DropDownList& list, const std::string& entry, const Locale& locale) {
-  for (const std::string& row : list.rows()) {
-    if (locale.sameIgnoringCase(row, entry)) return;
-  }
-  list.addRow(entry);
 }
 
 }  // namespace awizo

@@ -3,10 +3,13 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "linedialog/dlg_iso_codes.h"
 #include "linedialog/dlgdodaj_pule.h"
+#include "linedialog/line_calculations.h"
+#include "linedialog/line_packages.h"
+#include "linedialog/product_choice.h"
+#include "linedialog/product_dictionary.h"
 #include "linedialog/sort.h"
 #include "platform/forms/button.h"
 #include "platform/forms/drop_down_list.h"
@@ -15,27 +18,15 @@
 #include "platform/forms/pickers.h"
 #include "platform/forms/table.h"
 #include "platform/forms/text_field.h"
-#include "session/record/editor.h"
+#include "session/record/work.h"
 
 namespace awizo {
-
-/// The product catalogue as the dialog keeps it: element i belongs to the i-th catalogue line.
-/// The texts never move; the index vectors give each list's order.
-struct ProductDictionary {
-  std::vector<std::string> ProdEAN, ProdName, ProdSupplierCode, ProdBuyerCode, ProdUnit,
-      ProdPackSize, ProdTaxRate, ProdPrice, ProdTaxCategory, ProdPeriod, ProdPeriodFormat,
-      ProdWeight;
-  std::vector<std::int32_t> IdxEAN, IdxName, IdxSupplierCode, IdxBuyerCode;
-
-  /// Empty texts, and the indexes in the file's order.
-  void makeRoom(std::size_t lines);
-};
 
 /// The modal dialog of one line. It is hidden and never unloaded, so its fields keep their last
 /// values. The main form fills it, shows it, and reads it when DlgResult is 1.
 class DlgDodaj : public Form {
  public:
-  DlgDodaj(Editor& editor, DlgIsoCodes& isoCodes, DlgdodajPule& quantityDialog);
+  DlgDodaj(Work& work, DlgIsoCodes& isoCodes, DlgdodajPule& quantityDialog);
 
   // Product. The lists lie over the text fields; without a catalogue they are hidden.
   Label lblPozycjaTow;
@@ -118,18 +109,20 @@ class DlgDodaj : public Form {
   bool Walidacja();
   /// Keeps category "E" and a rate above 0 from standing together: 0 after the category changed, 1
   /// after the rate changed.
-  void CheckVAT(std::int16_t which);
+  void CheckVAT(std::int16_t which) { awizo::CheckVAT(which, cboxKodVAT, cboxStawkaVAT); }
   /// Net amount, screen number with 2 decimals; empty where quantity or price is no number.
   std::string MyCalculateAmount() const;
   /// "yyyy-mm-dd" or empty.
   std::string MyCalculateExpiryDate() const;
+  /// "yyyy-mm-dd"; the empty text leaves the picker without a value but opening on today.
+  void showExpiryDate(const std::string& isoDate);
   /// Fills the line's fields from a row of the EAN list.
-  void setFieldsValues(int index);
+  void setFieldsValues(int index) { choice_.setFieldsValues(index); }
 
   /// What can still be put into packages; negative when too much lies in them.
-  double GetMaxQuantity();
-  void UpdatePackedQuantity();
-  void SetButtons();
+  double GetMaxQuantity() { return packages_.GetMaxQuantity(); }
+  void UpdatePackedQuantity() { packages_.UpdatePackedQuantity(); }
+  void SetButtons() { packages_.SetButtons(); }
   /// Flat index of the table of packages; error 6 beyond 16 bits.
   std::int16_t IndexGrdPozycje(std::int16_t row, std::int16_t column) const;
   void StringToGrid(std::string_view text);
@@ -137,8 +130,7 @@ class DlgDodaj : public Form {
 
   Sorter& sorter() { return sorter_; }
   const ProductDictionary& dictionary() const { return products_; }
-
-  std::int16_t ProductChangeSource = 0;  ///< the list at which a chain of changes began, 0 for none
+  ProductChoice& productChoice() { return choice_; }
 
  private:
   void wireFields();
@@ -147,63 +139,19 @@ class DlgDodaj : public Form {
 
   void Form_Load();
   void fillFixedLists();
-  void setUpPackageTable();
   void readCatalogue();
-  void readCatalogueLines(const std::vector<XmlNode>& lines);
-  void readCatalogueLine(const XmlNode& line, std::size_t place);
-  void sortCatalogue(std::int32_t lines);
-  void fillCatalogueLists();
 
   void btnDodaj_Click();
   void btnZamknij_Click();
-  void btnISOcodes_Click();
-  void addCountryOfCode();
-  void tellWhatIsUnpacked();
 
-  void cboxEANProd_Change();
-  void cboxKodAPP_Change();
-  void cboxKodSprzed_Change();
-  void cboxNazwaProd_Change();
-  void followList(DropDownList& list, std::int16_t mark, TextField& field,
-                  const std::function<void()>& onward);
-  /// Sets the text of the next list of a chain; error 28 where that led into an endless one.
-  void lead(DropDownList& list, const std::string& text);
-  void takeProduct(std::size_t line);
-  void forgetProduct();
-  void showExpiryDate(const std::string& isoDate);
-
-  bool checkProductAndQuantities();
-  bool checkPackedQuantity();
-  bool checkAmounts();
-  bool checkCustomsNumber();
-  bool checkCountry();
-
-  void txtIloscZam_Validate();
-  void txtIloscPotw_Validate();
-  void txtCenaNetto_Validate();
-  void txtAmount_Validate();
-  void txtCDN1_Validate();
-  void txtCDN3_Validate();
-
-  void Command1_Click();
-  void Command2_Click();
-  void Command3_Click();
-  int packageBound() const;
-  void offerQuantity(double most, double offered);
-  void writeAssignment(int row);
-
-  Editor& editor_;
+  Work& work_;
   DlgIsoCodes& isoCodes_;
-  DlgdodajPule& quantityDialog_;
   Sorter sorter_;
   ProductDictionary products_;
-  bool inChain_ = false;         ///< a change event of a linked list is running
-  bool chainIsEndless_ = false;  ///< the chain is breaking off up to its first event
+  ProductChoice choice_;
+  LinePackages packages_;
   bool mayLoad_ = false;
   bool loaded_ = false;
 };
-
-/// Adds the entry at the end unless a row is the same but for case.
-void addMissingRow(DropDownList& list, const std::string& entry, const Locale& locale);
 
 }  // namespace awizo

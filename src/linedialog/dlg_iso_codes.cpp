@@ -1,6 +1,7 @@
 #include "linedialog/dlg_iso_codes.h"
 
 #include "linedialog/iso_countries.h"
+#include "platform/forms/keys.h"
 #include "platform/narrow.h"
 #include "platform/text.h"
 #include "session/record/countries.h"
@@ -8,7 +9,6 @@
 namespace awizo {
 namespace {
 
-constexpr std::int16_t shiftKey = 16;
 constexpr int rowCount = 237;
 
 }  // namespace
@@ -26,7 +26,7 @@ DlgIsoCodes::DlgIsoCodes(Screen& screen, SessionState& session)
   btnAccept.onClick = [this] { btnAccept_Click(); };
   btnCancel.onClick = [this] { btnCancel_Click(); };
   grdISO.onKeyDown = [this](std::int16_t code, bool shift) {
-    if (shift || code == shiftKey) hold(ShiftHeld);
+    if (shift || code == keys::shift) hold(ShiftHeld);
   };
   grdISO.onKeyUp = [this](std::int16_t, bool) { release(ShiftHeld); };
   grdISO.onMouseDown = [this] { hold(MouseHeld); };
@@ -60,6 +60,15 @@ void DlgIsoCodes::Form_Load() {
     grdISO.setCell(index, country.code);
     index += 2;
   }
+}
+
+std::optional<int> DlgIsoCodes::findCode(
+    const std::function<bool(const std::string& code)>& matches) {
+  touch();
+  for (int index = firstCode; index <= lastCode; index += 2) {
+    if (matches(grdISO.cell(index))) return index;
+  }
+  return std::nullopt;
 }
 
 void DlgIsoCodes::btnAccept_Click() {
@@ -105,13 +114,10 @@ void CheckIsoCountry(SessionState& session, DlgIsoCodes& dialog, const Locale& l
     if (countCharacters(code) == 4) code = replaceAll(replaceAll(code, "(", ""), ")", "");
   }
   if (countCharacters(code) != 2) return;
-  const Table& table = dialog.touch().grdISO;
-  for (int index = DlgIsoCodes::firstCode; index <= DlgIsoCodes::lastCode; index += 2) {
-    if (replaceAll(table.cell(index), " ", "") != code) continue;
-    session.IsoCheckOk = true;
-    session.IsoCheckCode = code;
-    return;
-  }
+  const auto isCode = [&](const std::string& cell) { return replaceAll(cell, " ", "") == code; };
+  if (!dialog.findCode(isCode)) return;
+  session.IsoCheckOk = true;
+  session.IsoCheckCode = code;
 }
 
 }  // namespace awizo

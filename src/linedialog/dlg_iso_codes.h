@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <optional>
 #include <string>
 
 #include "platform/forms/button.h"
@@ -27,6 +29,8 @@ class DlgIsoCodes : public Form {
   /// name in the cell before each.
   static constexpr int firstCode = 3;
   static constexpr int lastCode = 473;
+  /// Flat index of the first code that matches; nothing where none does.
+  std::optional<int> findCode(const std::function<bool(const std::string& code)>& matches);
 
   std::int16_t PickedIndex = 0;  ///< flat index of the code picked last
   bool ShiftHeld = false;

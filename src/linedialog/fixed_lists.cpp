@@ -1,79 +1,65 @@
-#include <array>
+#include "linedialog/fixed_lists.h"
 
-#include "linedialog/dlg_dodaj.h"
-#include "session/record/countries.h"
+#include <array>
+#include <span>
 
 namespace awizo {
 namespace {
 
-struct Unit {
-  std::string_view name;
-  std::string_view code;
-};
+using Texts = std::span<const std::string_view>;
 
 // The first name ends in a Latin letter a.
-constexpr std::array<Unit, 9> units{{{"Штукa", "PCE"},
-                                     {"Килограмм", "KGM"},
-                                     {"Метр", "MTR"},
-                                     {"Километр", "KMT"},
-                                     {"Упаковка", "PA"},
-                                     {"Комплект", "SET"},
-                                     {"Пара", "PR"},
-                                     {"Тонна", "TNE"},
-                                     {"Литр", "LTR"}}};
-constexpr std::array<std::string_view, 2> categories{"S", "E"};
-constexpr std::array<std::string_view, 3> rates{"0", "10", "18"};
+constexpr std::array<std::string_view, 9> unitNames{
+    "Штукa", "Килограмм", "Метр", "Километр", "Упаковка", "Комплект", "Пара", "Тонна", "Литр"};
+constexpr std::array<std::string_view, 9> unitCodes{"PCE", "KGM", "MTR", "KMT", "PA",
+                                                    "SET", "PR",  "TNE", "LTR"};
+constexpr std::array<std::string_view, 2> taxCategories{"S", "E"};
+constexpr std::array<std::string_view, 3> taxRates{"0", "10", "18"};
+
+std::vector<std::string> rowsOf(Texts texts) { return {texts.begin(), texts.end()}; }
+
+std::string textAt(Texts texts, std::int16_t index) {
+  const auto place = static_cast<std::size_t>(index);
+  return index >= 0 && place < texts.size() ? std::string(texts[place]) : std::string();
+}
+
+template <class Matches>
+std::int16_t firstIndex(Texts texts, Matches matches) {
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    if (matches(texts[i])) return static_cast<std::int16_t>(i);
+  }
+  return -1;
+}
+
+std::int16_t indexIgnoringCase(const Locale& locale, Texts texts, std::string_view text) {
+  return firstIndex(texts,
+                    [&](std::string_view known) { return locale.sameIgnoringCase(known, text); });
+}
 
 }  // namespace
 
-void DlgDodaj::fillFixedLists() {
-  for (const Unit& unit : units) cboxJednostkaMiary.addRow(unit.name);
-  for (const std::string_view category : categories) cboxKodVAT.addRow(category);
-  for (const std::string_view rate : rates) cboxStawkaVAT.addRow(rate);
-  comboCountry.setRows(fixedCountryEntries());
+std::vector<std::string> unitRows() { return rowsOf(unitNames); }
+
+std::string unitCode(std::int16_t index) { return textAt(unitCodes, index); }
+
+std::int16_t unitIndex(const Locale& locale, std::string_view code) {
+  return indexIgnoringCase(locale, unitCodes, code);
 }
 
-std::string DlgDodaj::symbolJednostkiMiary(std::int16_t index) const {
-  if (index == -1) return cboxJednostkaMiary.text();
-  const auto place = static_cast<std::size_t>(index);
-  return index >= 0 && place < units.size() ? std::string(units[place].code) : std::string();
+std::vector<std::string> taxCategoryRows() { return rowsOf(taxCategories); }
+
+std::string taxCategoryCode(std::int16_t index) { return index == 0 ? "S" : "E"; }
+
+std::int16_t taxCategoryIndex(const Locale& locale, std::string_view code) {
+  return indexIgnoringCase(locale, taxCategories, code);
 }
 
-std::int16_t DlgDodaj::indexJednostkiMiary(std::string_view code) const {
-  for (std::size_t i = 0; i < units.size(); ++i) {
-    if (editor_.platform.locale.sameIgnoringCase(units[i].code, code)) {
-      return static_cast<std::int16_t>(i);
-    }
-  }
-  return -1;
-}
+std::vector<std::string> taxRateRows() { return rowsOf(taxRates); }
 
-// An unknown index gives "E" here, unlike the units and the rates.
-std::string DlgDodaj::symbolKodVAT(std::int16_t index) const {
-  if (index == -1) return cboxKodVAT.text();
-  return index == 0 ? "S" : "E";
-}
+std::string taxRateCode(std::int16_t index) { return textAt(taxRates, index); }
 
-std::int16_t DlgDodaj::indexKodVAT(std::string_view code) const {
-  for (std::size_t i = 0; i < categories.size(); ++i) {
-    if (editor_.platform.locale.sameIgnoringCase(categories[i], code)) {
-      return static_cast<std::int16_t>(i);
-    }
-  }
-  return -1;
-}
-
-std::string DlgDodaj::symbolStawkaVAT(std::int16_t index) const {
-  if (index == -1) return cboxStawkaVAT.text();
-  const auto place = static_cast<std::size_t>(index);
-  return index >= 0 && place < rates.size() ? std::string(rates[place]) : std::string();
-}
-
-std::int16_t DlgDodaj::indexStawkaVAT(std::string_view rate) const {
-  for (std::size_t i = 0; i < rates.size(); ++i) {
-    if (rates[i] == rate) return static_cast<std::int16_t>(i);
-  }
-  return -1;
+std::int16_t taxRateIndex(std::string_view rate) {
+  return firstIndex(taxRates, [&](std::string_view known) { return known == rate; });
 }
 
 }  // namespace awizo

@@ -1,7 +1,9 @@
+#include "linedialog/line_validation.h"
+
 #include <array>
 
 #include "formats/customs_number.h"
-#include "linedialog/dlg_dodaj.h"
+#include "linedialog/tidy_number.h"
 #include "platform/forms/boxes.h"
 #include "platform/text.h"
 
@@ -11,133 +13,116 @@ namespace {
 // Buyers to whom more may be despatched than they ordered.
 constexpr std::array<std::string_view, 2> buyersTakingMore{"4607173499998", "4607070199991"};
 
-}  // namespace
-
-bool DlgDodaj::Walidacja() {
-  return checkProductAndQuantities() && checkPackedQuantity() && checkAmounts() &&
-         checkCustomsNumber() && checkCountry();
-}
-
-bool DlgDodaj::checkProductAndQuantities() {
-  const Conversions& conversions = editor_.conversions;
-  if (!conversions.isNumeric(txtlEANProdWart.text())) {
-    return refuse(screen(), "Стоимость для поля 'Штрих-код товара' есть ошибочная или отсутсвует",
-                  &txtlEANProdWart);
+bool checkProductAndQuantities(Work& work, DlgDodaj& dialog) {
+  const Conversions& conversions = work.conversions;
+  if (!conversions.isNumeric(dialog.txtlEANProdWart.text())) {
+    return refuse(work.screen(),
+                  "Стоимость для поля 'Штрих-код товара' есть ошибочная или отсутсвует",
+                  &dialog.txtlEANProdWart);
   }
-  txtIloscZam_Validate();
-  if (!txtIloscZam.text().empty() && !conversions.isNumeric(txtIloscZam.text())) {
-    return refuse(screen(), "Неправильно количество в поле 'Количество заказа'", &txtIloscZam);
+  txtIloscZam_Validate(conversions, dialog);
+  if (!dialog.txtIloscZam.text().empty() && !conversions.isNumeric(dialog.txtIloscZam.text())) {
+    return refuse(work.screen(), "Неправильно количество в поле 'Количество заказа'",
+                  &dialog.txtIloscZam);
   }
-  txtIloscPotw_Validate();
-  if (!conversions.isNumeric(txtIloscPotw.text())) {
-    return refuse(screen(),
+  txtIloscPotw_Validate(conversions, dialog);
+  if (!conversions.isNumeric(dialog.txtIloscPotw.text())) {
+    return refuse(work.screen(),
                   "Стоимость для поля 'Количество отгружено' есть ошибочная или отсутсвует",
-                  &txtIloscPotw);
+                  &dialog.txtIloscPotw);
   }
-  if (txtIloscZam.text().empty()) return true;
-  const double ordered = conversions.MyDouble(std::string(trimmed(txtIloscZam.text())));
-  const double despatched = conversions.MyDouble(std::string(trimmed(txtIloscPotw.text())));
+  if (dialog.txtIloscZam.text().empty()) return true;
+  const double ordered = conversions.MyDouble(std::string(trimmed(dialog.txtIloscZam.text())));
+  const double despatched = conversions.MyDouble(std::string(trimmed(dialog.txtIloscPotw.text())));
   if (despatched <= ordered) return true;
   for (const std::string_view buyer : buyersTakingMore) {
-    if (editor_.platform.locale.sameIgnoringCase(editor_.session.BuyerILN, buyer)) return true;
+    if (work.platform.locale.sameIgnoringCase(work.session.BuyerILN, buyer)) return true;
   }
-  return refuse(screen(), "Подтверждённое количество больше заказанного количества товара",
-                &txtIloscPotw);
+  return refuse(work.screen(), "Подтверждённое количество больше заказанного количества товара",
+                &dialog.txtIloscPotw);
 }
 
-bool DlgDodaj::checkPackedQuantity() {
-  if (GetMaxQuantity() >= 0) return true;
-  return refuse(screen(),
+bool checkPackedQuantity(Work& work, DlgDodaj& dialog) {
+  if (dialog.GetMaxQuantity() >= 0) return true;
+  return refuse(work.screen(),
                 "Подтверждённое количество меньше, чем суммарное количество товара в упаковках.\r"
                 "Удалите, пожалуйста, принадлежность товарных позиции к упаковке  или увеличте \r"
                 "подтверждённое количество товара.",
                 nullptr);
 }
 
-bool DlgDodaj::checkAmounts() {
-  const Conversions& conversions = editor_.conversions;
-  txtCenaNetto_Validate();
-  if (!txtCenaNetto.text().empty() && !conversions.isNumeric(txtCenaNetto.text())) {
-    return refuse(screen(), "Неправильно количество в поле 'Цена за единицу без НДС'",
-                  &txtCenaNetto);
+bool checkAmounts(Work& work, DlgDodaj& dialog) {
+  const Conversions& conversions = work.conversions;
+  txtCenaNetto_Validate(conversions, dialog);
+  if (!dialog.txtCenaNetto.text().empty() && !conversions.isNumeric(dialog.txtCenaNetto.text())) {
+    return refuse(work.screen(), "Неправильно количество в поле 'Цена за единицу без НДС'",
+                  &dialog.txtCenaNetto);
   }
-  txtAmount_Validate();
-  if (!txtAmount.text().empty() && !conversions.isNumeric(txtAmount.text())) {
-    return refuse(screen(), "Неправильно количество в поле 'Сумма без НДС'", &txtAmount);
+  txtAmount_Validate(conversions, dialog);
+  if (!dialog.txtAmount.text().empty() && !conversions.isNumeric(dialog.txtAmount.text())) {
+    return refuse(work.screen(), "Неправильно количество в поле 'Сумма без НДС'",
+                  &dialog.txtAmount);
   }
   return true;
 }
 
-bool DlgDodaj::checkCustomsNumber() {
-  if (txtCDN1.text().empty() && txtCDN3.text().empty()) return true;
-  txtCDN1_Validate();
-  if (countCharacters(txtCDN1.text()) < 8 ||
-      !IsCDNPartNumeric(editor_.conversions, txtCDN1.text())) {
-    return warn(screen(), "ГТД - обязательный", &txtCDN1);
+bool checkCustomsNumber(Work& work, DlgDodaj& dialog) {
+  const Conversions& conversions = work.conversions;
+  if (dialog.txtCDN1.text().empty() && dialog.txtCDN3.text().empty()) return true;
+  txtCDN1_Validate(conversions, dialog);
+  if (countCharacters(dialog.txtCDN1.text()) < 8 ||
+      !IsCDNPartNumeric(conversions, dialog.txtCDN1.text())) {
+    return warn(work.screen(), "ГТД - обязательный", &dialog.txtCDN1);
   }
-  txtCDN3_Validate();
-  if (countCharacters(txtCDN3.text()) != 7 ||
-      !IsCDNPartNumeric(editor_.conversions, txtCDN3.text())) {
-    return warn(screen(), "ГТД - обязательный", &txtCDN3);
+  txtCDN3_Validate(conversions, dialog);
+  if (countCharacters(dialog.txtCDN3.text()) != 7 ||
+      !IsCDNPartNumeric(conversions, dialog.txtCDN3.text())) {
+    return warn(work.screen(), "ГТД - обязательный", &dialog.txtCDN3);
   }
   return true;
 }
 
 // "(RU)Россия" leaves the dialog as "RU".
-bool DlgDodaj::checkCountry() {
-  std::string country = comboCountry.text();
-  CheckIsoCountry(editor_.session, isoCodes_, editor_.platform.locale, country);
-  if (!editor_.session.IsoCheckOk) return warn(screen(), "Код ISO неправильный", nullptr);
-  comboCountry.setText(editor_.session.IsoCheckCode);
+bool checkCountry(Work& work, DlgDodaj& dialog, DlgIsoCodes& isoCodes) {
+  std::string country = dialog.comboCountry.text();
+  CheckIsoCountry(work.session, isoCodes, work.platform.locale, country);
+  if (!work.session.IsoCheckOk) return warn(work.screen(), "Код ISO неправильный", nullptr);
+  dialog.comboCountry.setText(work.session.IsoCheckCode);
   return true;
 }
 
-void DlgDodaj::CheckVAT(std::int16_t which) {
-  if (which == 0 && cboxKodVAT.index() == 1) cboxStawkaVAT.setIndex(0);
-  if (which == 1 && cboxStawkaVAT.index() >= 1) cboxKodVAT.setIndex(0);
+}  // namespace
+
+bool Walidacja(Work& work, DlgDodaj& dialog, DlgIsoCodes& isoCodes) {
+  return checkProductAndQuantities(work, dialog) && checkPackedQuantity(work, dialog) &&
+         checkAmounts(work, dialog) && checkCustomsNumber(work, dialog) &&
+         checkCountry(work, dialog, isoCodes);
 }
 
-std::string DlgDodaj::MyCalculateAmount() const {
-  const Conversions& conversions = editor_.conversions;
-  return conversions.NormalizeDecimal(
-      conversions.MultiplyToAmount(Conversions::CommaToDot(txtIloscPotw.text()),
-                                   Conversions::CommaToDot(txtCenaNetto.text())),
-      2);
+void txtIloscZam_Validate(const Conversions& conversions, DlgDodaj& dialog) {
+  tidyNumber(conversions, dialog.txtIloscZam, 3);
 }
 
-std::string DlgDodaj::MyCalculateExpiryDate() const {
-  return editor_.conversions.AddPeriodToDate(dtProdDate.date().value(), LinePeriod,
-                                             LinePeriodFormat);
+// The trimmed text is a change of its own, which the calculations see.
+void txtIloscPotw_Validate(const Conversions& conversions, DlgDodaj& dialog) {
+  dialog.txtIloscPotw.setText(std::string(trimmed(dialog.txtIloscPotw.text())));
+  tidyNumber(conversions, dialog.txtIloscPotw, 3);
 }
 
-// Leaving a field tidies its text and never refuses.
-
-void DlgDodaj::txtIloscZam_Validate() {
-  txtIloscZam.setText(
-      editor_.conversions.NormalizeDecimal(std::string(trimmed(txtIloscZam.text())), 3));
+void txtCenaNetto_Validate(const Conversions& conversions, DlgDodaj& dialog) {
+  tidyNumber(conversions, dialog.txtCenaNetto, 2);
 }
 
-void DlgDodaj::txtIloscPotw_Validate() {
-  txtIloscPotw.setText(std::string(trimmed(txtIloscPotw.text())));
-  txtIloscPotw.setText(editor_.conversions.NormalizeDecimal(std::string(txtIloscPotw.text()), 3));
+void txtAmount_Validate(const Conversions& conversions, DlgDodaj& dialog) {
+  tidyNumber(conversions, dialog.txtAmount, 2);
 }
 
-void DlgDodaj::txtCenaNetto_Validate() {
-  txtCenaNetto.setText(
-      editor_.conversions.NormalizeDecimal(std::string(trimmed(txtCenaNetto.text())), 2));
+void txtCDN1_Validate(const Conversions& conversions, DlgDodaj& dialog) {
+  dialog.txtCDN1.setText(PadCDNPart(conversions, dialog.txtCDN1.text(), 8));
 }
 
-void DlgDodaj::txtAmount_Validate() {
-  txtAmount.setText(
-      editor_.conversions.NormalizeDecimal(std::string(trimmed(txtAmount.text())), 2));
-}
-
-void DlgDodaj::txtCDN1_Validate() {
-  txtCDN1.setText(PadCDNPart(editor_.conversions, txtCDN1.text(), 8));
-}
-
-void DlgDodaj::txtCDN3_Validate() {
-  txtCDN3.setText(PadCDNPart(editor_.conversions, txtCDN3.text(), 7));
+void txtCDN3_Validate(const Conversions& conversions, DlgDodaj& dialog) {
+  dialog.txtCDN3.setText(PadCDNPart(conversions, dialog.txtCDN3.text(), 7));
 }
 
 }  // namespace awizo

@@ -1,4 +1,5 @@
-#include <functional>
+#include "linedialog/product_choice.h"
+
 #include <utility>
 
 #include "linedialog/dlg_dodaj.h"
@@ -30,13 +31,13 @@ std::size_t lineOf(int index, const std::vector<std::int32_t>& order) {
 // A change event that fails keeps its mark: its last step is skipped. Lines that share names and
 // codes can lead to each other without end. Such a chain ends as a whole, and the event with which
 // it began tells so: would each event on the way report and go on, there were no end of boxes.
-void DlgDodaj::followList(DropDownList& list, std::int16_t mark, TextField& field,
-                          const std::function<void()>& onward) {
+void ProductChoice::followList(DropDownList& list, std::int16_t mark, TextField& field,
+                               const std::function<void()>& onward) {
   const std::string event = list.name() + "_Change";
   const bool begins = !std::exchange(inChain_, true);
-  reportErrors(screen(), "VIRDПроизошла ошибка в  " + event, [&] {
+  reportErrors(work_.screen(), "VIRDПроизошла ошибка в  " + event, [&] {
     try {
-      DebugLog& log = editor_.session.log;
+      DebugLog& log = work_.session.log;
       log.WriteDebugLine(event + " start");
       if (ProductChangeSource == 0) ProductChangeSource = mark;
       field.setText(list.text());
@@ -51,50 +52,51 @@ void DlgDodaj::followList(DropDownList& list, std::int16_t mark, TextField& fiel
   if (begins) inChain_ = false;
 }
 
-void DlgDodaj::lead(DropDownList& list, const std::string& text) {
+void ProductChoice::lead(DropDownList& list, const std::string& text) {
   list.setText(text);
   if (chainIsEndless_) throw errors::outOfStackSpace();
 }
 
-void DlgDodaj::cboxEANProd_Change() {
-  followList(cboxEANProd, fromEAN, txtlEANProdWart, [&] {
+void ProductChoice::cboxEANProd_Change() {
+  followList(dialog_.cboxEANProd, fromEAN, dialog_.txtlEANProdWart, [&] {
     const ProductDictionary& p = products_;
-    if (!inList(cboxEANProd, p.IdxEAN)) return;
-    const std::size_t line = lineOf(cboxEANProd.index(), p.IdxEAN);
-    if (ProductChangeSource != fromBuyerCode) lead(cboxKodAPP, p.ProdBuyerCode[line]);
-    if (ProductChangeSource != fromName) lead(cboxNazwaProd, p.ProdName[line]);
-    if (ProductChangeSource != fromSupplierCode) lead(cboxKodSprzed, p.ProdSupplierCode[line]);
-    setFieldsValues(narrow16(cboxEANProd.index()));
+    if (!inList(dialog_.cboxEANProd, p.IdxEAN)) return;
+    const std::size_t line = lineOf(dialog_.cboxEANProd.index(), p.IdxEAN);
+    if (ProductChangeSource != fromBuyerCode) lead(dialog_.cboxKodAPP, p.ProdBuyerCode[line]);
+    if (ProductChangeSource != fromName) lead(dialog_.cboxNazwaProd, p.ProdName[line]);
+    if (ProductChangeSource != fromSupplierCode)
+      lead(dialog_.cboxKodSprzed, p.ProdSupplierCode[line]);
+    setFieldsValues(narrow16(dialog_.cboxEANProd.index()));
   });
 }
 
 // The other lists lead to the name, and the name to the EAN, from which the fields are filled.
-void DlgDodaj::cboxKodAPP_Change() {
-  followList(cboxKodAPP, fromBuyerCode, txtKodKup, [&] {
+void ProductChoice::cboxKodAPP_Change() {
+  followList(dialog_.cboxKodAPP, fromBuyerCode, dialog_.txtKodKup, [&] {
     const std::vector<std::int32_t>& order = products_.IdxBuyerCode;
-    if (!inList(cboxKodAPP, order) || ProductChangeSource == fromName) return;
-    lead(cboxNazwaProd, products_.ProdName[lineOf(cboxKodAPP.index(), order)]);
+    if (!inList(dialog_.cboxKodAPP, order) || ProductChangeSource == fromName) return;
+    lead(dialog_.cboxNazwaProd, products_.ProdName[lineOf(dialog_.cboxKodAPP.index(), order)]);
   });
 }
 
-void DlgDodaj::cboxKodSprzed_Change() {
-  followList(cboxKodSprzed, fromSupplierCode, txtKodSprzed, [&] {
+void ProductChoice::cboxKodSprzed_Change() {
+  followList(dialog_.cboxKodSprzed, fromSupplierCode, dialog_.txtKodSprzed, [&] {
     const std::vector<std::int32_t>& order = products_.IdxSupplierCode;
-    if (!inList(cboxKodSprzed, order) || ProductChangeSource == fromName) return;
-    lead(cboxNazwaProd, products_.ProdName[lineOf(cboxKodSprzed.index(), order)]);
+    if (!inList(dialog_.cboxKodSprzed, order) || ProductChangeSource == fromName) return;
+    lead(dialog_.cboxNazwaProd, products_.ProdName[lineOf(dialog_.cboxKodSprzed.index(), order)]);
   });
 }
 
-void DlgDodaj::cboxNazwaProd_Change() {
-  followList(cboxNazwaProd, fromName, txtNazwaProdWart, [&] {
+void ProductChoice::cboxNazwaProd_Change() {
+  followList(dialog_.cboxNazwaProd, fromName, dialog_.txtNazwaProdWart, [&] {
     const std::vector<std::int32_t>& order = products_.IdxName;
-    if (!inList(cboxNazwaProd, order)) return;
-    lead(cboxEANProd, products_.ProdEAN[lineOf(cboxNazwaProd.index(), order)]);
+    if (!inList(dialog_.cboxNazwaProd, order)) return;
+    lead(dialog_.cboxEANProd, products_.ProdEAN[lineOf(dialog_.cboxNazwaProd.index(), order)]);
   });
 }
 
-void DlgDodaj::setFieldsValues(int index) {
-  reportErrors(screen(), "Произошла ошибка в  setFieldsValues()", [&] {
+void ProductChoice::setFieldsValues(int index) {
+  reportErrors(work_.screen(), "Произошла ошибка в  setFieldsValues()", [&] {
     if (index >= 0) {
       takeProduct(lineOf(index, products_.IdxEAN));
     } else {
@@ -103,48 +105,41 @@ void DlgDodaj::setFieldsValues(int index) {
   });
 }
 
-void DlgDodaj::takeProduct(std::size_t line) {
+void ProductChoice::takeProduct(std::size_t line) {
   const ProductDictionary& p = products_;
-  txtKodSprzed.setText(p.ProdSupplierCode[line]);
-  txtKodKup.setText(p.ProdBuyerCode[line]);
-  const std::int16_t unit = indexJednostkiMiary(p.ProdUnit[line]);
+  dialog_.txtKodSprzed.setText(p.ProdSupplierCode[line]);
+  dialog_.txtKodKup.setText(p.ProdBuyerCode[line]);
+  const std::int16_t unit = dialog_.indexJednostkiMiary(p.ProdUnit[line]);
   if (unit < 0) {
-    cboxJednostkaMiary.setText(p.ProdUnit[line]);
+    dialog_.cboxJednostkaMiary.setText(p.ProdUnit[line]);
   } else {
-    cboxJednostkaMiary.setIndex(unit);
+    dialog_.cboxJednostkaMiary.setIndex(unit);
   }
-  txtCenaNetto.setText(editor_.conversions.NormalizeDecimal(std::string(p.ProdPrice[line]), 2));
-  txtAmount.setText(MyCalculateAmount());
-  cboxStawkaVAT.setIndex(indexStawkaVAT(p.ProdTaxRate[line]));
-  cboxKodVAT.setIndex(indexKodVAT(p.ProdTaxCategory[line]));
-  CheckVAT(0);
-  LinePeriod = p.ProdPeriod[line];
-  LinePeriodFormat = p.ProdPeriodFormat[line];
-  showExpiryDate(MyCalculateExpiryDate());
-  LineWeight = p.ProdWeight[line];
+  dialog_.txtCenaNetto.setText(
+      work_.conversions.NormalizeDecimal(std::string(p.ProdPrice[line]), 2));
+  dialog_.txtAmount.setText(dialog_.MyCalculateAmount());
+  dialog_.cboxStawkaVAT.setIndex(dialog_.indexStawkaVAT(p.ProdTaxRate[line]));
+  dialog_.cboxKodVAT.setIndex(dialog_.indexKodVAT(p.ProdTaxCategory[line]));
+  dialog_.CheckVAT(0);
+  dialog_.LinePeriod = p.ProdPeriod[line];
+  dialog_.LinePeriodFormat = p.ProdPeriodFormat[line];
+  dialog_.showExpiryDate(dialog_.MyCalculateExpiryDate());
+  dialog_.LineWeight = p.ProdWeight[line];
 }
 
-void DlgDodaj::forgetProduct() {
-  for (TextField* field : {&txtKodSprzed, &txtKodKup, &txtCenaNetto, &txtAmount}) {
+void ProductChoice::forgetProduct() {
+  for (TextField* field :
+       {&dialog_.txtKodSprzed, &dialog_.txtKodKup, &dialog_.txtCenaNetto, &dialog_.txtAmount}) {
     field->setText("");
   }
-  for (DropDownList* list : {&cboxJednostkaMiary, &cboxStawkaVAT, &cboxKodVAT}) {
+  for (DropDownList* list :
+       {&dialog_.cboxJednostkaMiary, &dialog_.cboxStawkaVAT, &dialog_.cboxKodVAT}) {
     list->clearSelection();
   }
-  LinePeriod.clear();
-  LinePeriodFormat.clear();
-  LineWeight.clear();
-  showExpiryDate("");
-}
-
-// No date leaves the picker empty but opening on today.
-void DlgDodaj::showExpiryDate(const std::string& isoDate) {
-  if (!isoDate.empty()) {
-    dtExpiryDate.setDate(editor_.conversions.toDate(isoDate));
-    return;
-  }
-  dtExpiryDate.setDate(editor_.platform.clock.today());
-  dtExpiryDate.setDate(std::nullopt);
+  dialog_.LinePeriod.clear();
+  dialog_.LinePeriodFormat.clear();
+  dialog_.LineWeight.clear();
+  dialog_.showExpiryDate("");
 }
 
 }  // namespace awizo

@@ -1,15 +1,14 @@
+#include "linedialog/product_dictionary.h"
+
 #include <algorithm>
 #include <numeric>
 
-#include "linedialog/dlg_dodaj.h"
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
 #include "service/transport.h"
 
 namespace awizo {
 namespace {
-
-constexpr std::string_view formLoadTitle = "Произошла ошибка в Form_Load() (Dodaj)";
 
 std::vector<std::string> inOrder(const std::vector<std::string>& texts,
                                  const std::vector<std::int32_t>& order) {
@@ -41,45 +40,21 @@ class LineReader {
 
 }  // namespace
 
-// A failure in one part is told to the user and doesn't stop the rest.
-void DlgDodaj::Form_Load() {
-  DebugLog& log = editor_.session.log;
-  editor_.session.IsoCheckOk = true;
-  ProductChangeSource = 0;
-  log.WriteDebugLine("Form_Load start");
-  const Cursor earlier = screen().setCursor(editor_.session.WaitCursor);
-  reportErrors(screen(), formLoadTitle, [&] { fillFixedLists(); });
-  reportErrors(screen(), formLoadTitle, [&] { setUpPackageTable(); });
-  log.WriteDebugLine("Form_Load utworzono obiekty MSXML2 ");
-  if (editor_.session.ProductCatalogLoaded) {
-    reportErrors(screen(), formLoadTitle, [&] { readCatalogue(); });
-  } else {
-    for (DropDownList* list : {&cboxNazwaProd, &cboxEANProd, &cboxKodAPP, &cboxKodSprzed}) {
-      list->setVisible(false);
-    }
+void ProductDictionary::read(const XmlNode& catalogue, const Conversions& conversions,
+                             Sorter& sorter, Screen& screen, std::string_view title) {
+  std::vector<XmlNode> lines;
+  reportErrors(screen, title,
+               [&] { lines = catalogue.selectSingle("ProductCatalogue-Lines").children(); });
+  makeRoom(lines.size());
+  // The counter has 16 bits: each line beyond takes the place of the one before it.
+  std::int16_t i = 0;
+  for (const XmlNode& line : lines) {
+    readLine(line, static_cast<std::size_t>(i), conversions);
+    reportErrors(screen, title, [&] { i = narrow16(i + 1); });
   }
-  screen().setCursor(earlier);
-  log.WriteDebugLine("Form_Load zmiana kursora na poczatkowy");
+  sort(sorter, narrow32(static_cast<std::int64_t>(lines.size())));
 }
 
-void DlgDodaj::readCatalogue() {
-  DebugLog& log = editor_.session.log;
-  log.WriteDebugLine("Form_Load start przetwarzania slownika produktow");
-  const XmlNode catalogue =
-      editor_.session.ProductCatalogDom->node().selectSingle("Document-ProductCatalogue");
-  if (catalogue) {
-    std::vector<XmlNode> lines;
-    reportErrors(screen(), formLoadTitle,
-                 [&] { lines = catalogue.selectSingle("ProductCatalogue-Lines").children(); });
-    products_.makeRoom(lines.size());
-    readCatalogueLines(lines);
-    sortCatalogue(narrow32(static_cast<std::int64_t>(lines.size())));
-    fillCatalogueLists();
-  }
-  log.WriteDebugLine("Form_Load przetworzono slownik produktow");
-}
-
-// There is always one element, also for a catalogue without lines.
 void ProductDictionary::makeRoom(std::size_t lines) {
   const std::size_t size = std::max<std::size_t>(lines, 1);
   for (auto* texts :
@@ -93,53 +68,48 @@ void ProductDictionary::makeRoom(std::size_t lines) {
   }
 }
 
-// The counter has 16 bits: each line beyond is reported and takes the place of the one before it.
-void DlgDodaj::readCatalogueLines(const std::vector<XmlNode>& lines) {
-  std::int16_t i = 0;
-  for (const XmlNode& line : lines) {
-    readCatalogueLine(line, static_cast<std::size_t>(i));
-    reportErrors(screen(), formLoadTitle, [&] { i = narrow16(i + 1); });
-  }
-}
-
-void DlgDodaj::readCatalogueLine(const XmlNode& line, std::size_t place) {
+void ProductDictionary::readLine(const XmlNode& line, std::size_t place,
+                                 const Conversions& conversions) {
   const LineReader read(line);
   const auto orEmpty = [&](std::string_view path) { return read.value(path, true); };
   const auto orMarker = [&](std::string_view path) { return read.value(path, false); };
-  ProductDictionary& p = products_;
-  p.ProdEAN[place] = orMarker("EAN");
-  p.ProdName[place] = orMarker("ItemDescription");
-  p.ProdSupplierCode[place] = orEmpty("SupplierItemCode");
-  p.ProdBuyerCode[place] = orEmpty("BuyerItemCode");
-  p.ProdUnit[place] = orMarker("UnitOfMeasure");
-  if (p.ProdUnit[place] == "-1") p.ProdUnit[place].clear();
-  p.ProdPackSize[place] = orEmpty("PackDetails/UnitPacksize");
-  if (p.ProdPackSize[place].empty()) p.ProdPackSize[place] = "1";
-  p.ProdTaxRate[place] = orEmpty("TaxRate");
-  p.ProdPrice[place] = editor_.conversions.NormalizeDecimal(orEmpty("UnitNetPrice"), 2);
-  p.ProdTaxCategory[place] = editor_.conversions.NormalizeDecimal(orEmpty("TaxCategoryCode"), 2);
-  p.ProdPeriod[place] = orEmpty("ProductLifespan/Period");
-  p.ProdPeriodFormat[place] = orEmpty("ProductLifespan/PeriodFormat");
-  p.ProdWeight[place] = orEmpty("PackDetails/Weight");
+  ProdEAN[place] = orMarker("EAN");
+  ProdName[place] = orMarker("ItemDescription");
+  ProdSupplierCode[place] = orEmpty("SupplierItemCode");
+  ProdBuyerCode[place] = orEmpty("BuyerItemCode");
+  ProdUnit[place] = orMarker("UnitOfMeasure");
+  if (ProdUnit[place] == "-1") ProdUnit[place].clear();
+  ProdPackSize[place] = orEmpty("PackDetails/UnitPacksize");
+  if (ProdPackSize[place].empty()) ProdPackSize[place] = "1";
+  ProdTaxRate[place] = orEmpty("TaxRate");
+  ProdPrice[place] = conversions.NormalizeDecimal(orEmpty("UnitNetPrice"), 2);
+  ProdTaxCategory[place] = conversions.NormalizeDecimal(orEmpty("TaxCategoryCode"), 2);
+  ProdPeriod[place] = orEmpty("ProductLifespan/Period");
+  ProdPeriodFormat[place] = orEmpty("ProductLifespan/PeriodFormat");
+  ProdWeight[place] = orEmpty("PackDetails/Weight");
 }
 
-void DlgDodaj::sortCatalogue(std::int32_t lines) {
-  ProductDictionary& p = products_;
+void ProductDictionary::sort(Sorter& sorter, std::int32_t lines) {
   const std::int32_t last = lines - 1;
-  sorter_.ReDimSplitArrays(lines + 1);
-  sorter_.QuickSort(p.ProdEAN, p.IdxEAN, 0, last);
-  sorter_.QuickSort(p.ProdName, p.IdxName, 0, last);
-  sorter_.QuickSort(p.ProdSupplierCode, p.IdxSupplierCode, 0, last);
-  sorter_.QuickSort(p.ProdBuyerCode, p.IdxBuyerCode, 0, last);
+  sorter.ReDimSplitArrays(lines + 1);
+  sorter.QuickSort(ProdEAN, IdxEAN, 0, last);
+  sorter.QuickSort(ProdName, IdxName, 0, last);
+  sorter.QuickSort(ProdSupplierCode, IdxSupplierCode, 0, last);
+  sorter.QuickSort(ProdBuyerCode, IdxBuyerCode, 0, last);
 }
 
-// Empty texts get a row too, so that a list's index is a place in its index vector.
-void DlgDodaj::fillCatalogueLists() {
-  const ProductDictionary& p = products_;
-  cboxNazwaProd.setRows(inOrder(p.ProdName, p.IdxName));
-  cboxEANProd.setRows(inOrder(p.ProdEAN, p.IdxEAN));
-  cboxKodSprzed.setRows(inOrder(p.ProdSupplierCode, p.IdxSupplierCode));
-  cboxKodAPP.setRows(inOrder(p.ProdBuyerCode, p.IdxBuyerCode));
+std::vector<std::string> ProductDictionary::rowsByEAN() const { return inOrder(ProdEAN, IdxEAN); }
+
+std::vector<std::string> ProductDictionary::rowsByName() const {
+  return inOrder(ProdName, IdxName);
+}
+
+std::vector<std::string> ProductDictionary::rowsBySupplierCode() const {
+  return inOrder(ProdSupplierCode, IdxSupplierCode);
+}
+
+std::vector<std::string> ProductDictionary::rowsByBuyerCode() const {
+  return inOrder(ProdBuyerCode, IdxBuyerCode);
 }
 
 }  // namespace awizo

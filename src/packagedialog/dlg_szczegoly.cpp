@@ -1,25 +1,16 @@
 #include "packagedialog/dlg_szczegoly.h"
 
-#include <array>
-
+#include "linedialog/tidy_number.h"
+#include "packagedialog/package_types.h"
+#include "packagedialog/package_validation.h"
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
+#include "platform/text.h"
 
 namespace awizo {
-namespace {
 
-struct PackageType {
-  std::string_view name;
-  std::string_view code;
-};
-
-constexpr std::array<PackageType, 3> packageTypes{
-    {{"Паллета", "09"}, {"Коробка", "201"}, {"Возвратная тара", "PK"}}};
-
-}  // namespace
-
-DlgSzczegoly::DlgSzczegoly(Editor& editor)
-    : Form(editor.screen(), "DlgSzczegoly"),
+DlgSzczegoly::DlgSzczegoly(Work& work)
+    : Form(work.screen(), "DlgSzczegoly"),
       cboxPackageType(*this, "cboxPackageType", "Тип упаковки:", ListStyle::listOnly),
       txtPackageDesc(*this, "txtPackageDesc", "Описание упаковки:"),
       cboxParentPackage(*this, "cboxParentPackage", "Внешняя упаковка:", ListStyle::listOnly),
@@ -35,7 +26,7 @@ DlgSzczegoly::DlgSzczegoly(Editor& editor)
       cboxLokalizacja(*this, "cboxLokalizacja", "Местo доставки:"),
       btnDodaj(*this, "btnDodaj", "&Добавить"),
       btnZamknij(*this, "btnZamknij", "&Назад"),
-      editor_(editor) {
+      work_(work) {
   // Of the two numbers the user sees the lower one.
   lbIDValue.cover = &lblIDLowValue;
   acceptButton = &btnDodaj;
@@ -47,7 +38,7 @@ DlgSzczegoly::DlgSzczegoly(Editor& editor)
   cboxLokalizacja.onChange = [this] { cboxLokalizacja_Change(); };
   for (TextField* field :
        {&txtPackageWeight, &txtPackageLength, &txtPackageWidth, &txtPackageHeight}) {
-    field->onValidate = [this, field] { measure_Validate(*field); };
+    field->onValidate = [this, field] { tidyNumber(work_.conversions, *field, 3); };
   }
   btnDodaj.onClick = [this] { btnDodaj_Click(); };
   btnZamknij.onClick = [this] { btnZamknij_Click(); };
@@ -62,9 +53,8 @@ DlgSzczegoly& DlgSzczegoly::touch() {
 }
 
 void DlgSzczegoly::Form_Load() {
-  reportErrors(screen(), "Произошла ошибка в Form_Load() (Opakowanie)", [&] {
-    for (const PackageType& type : packageTypes) cboxPackageType.addRow(type.name);
-  });
+  reportErrors(screen(), "Произошла ошибка в Form_Load() (Opakowanie)",
+               [&] { cboxPackageType.setRows(packageTypeRows()); });
 }
 
 void DlgSzczegoly::Form_Activate() {
@@ -73,11 +63,36 @@ void DlgSzczegoly::Form_Activate() {
   LoadLocalizationDictionary();
 }
 
+void DlgSzczegoly::LoadLocalizationDictionary() {
+  reportErrors(screen(), "Произошла ошибка в LoadLocalizationDictionary() (Opak)", [&] {
+    const SessionState& session = work_.session;
+    DebugLog& log = work_.session.log;
+    cboxLokalizacja.setStyle(ListStyle::freeTyping);
+    log.WriteDebugLine(std::string("LoadLocalizationDictionary: xml_loc_loaded = ") +
+                       (session.LocalizationsLoaded ? "True" : "False"));
+    if (!session.LocalizationsLoaded) return;
+    log.WriteDebugLine("Form_Load start przetwarzania slownika lokalizacji");
+    const XmlNode root = session.LocalizationsDom->root();
+    const XmlNode catalogue =
+        root ? root.selectSingle("document-content/Document-LocalizationsCatalog") : XmlNode{};
+    if (catalogue) offerLocalizations(catalogue.selectSingle("localizations").children());
+    log.WriteDebugLine("Form_Load przetworzono slownik lokalizacji");
+  });
+}
+
+void DlgSzczegoly::offerLocalizations(const std::vector<XmlNode>& entries) {
+  if (entries.size() > 1) cboxLokalizacja.setStyle(ListStyle::matchRequired);
+  Sorter sorter(screen(), work_.conversions);
+  localizations_.read(entries, sorter);
+  for (const std::string& number : localizations_.numberRows()) cboxLokalizacja.addRow(number);
+  for (const std::string& iln : localizations_.ilnRows()) cboxILNLokalizacji.addRow(iln);
+}
+
 void DlgSzczegoly::PreparePackages(bool editMode) {
-  DebugLog& log = editor_.session.log;
+  DebugLog& log = work_.session.log;
   log.WriteDebugLine("P1");
   log.WriteDebugLine("cboxParentPackage.ListCount = " + std::to_string(cboxParentPackage.count()));
-  const std::vector<std::string>& descriptions = editor_.session.ParentDescriptions;
+  const std::vector<std::string>& descriptions = work_.session.ParentDescriptions;
   cboxParentPackage.clear();
   for (std::size_t i = 0; i + 1 < descriptions.size(); ++i) {
     cboxParentPackage.addRow(descriptions[i]);
@@ -98,26 +113,26 @@ void DlgSzczegoly::PreparePackages(bool editMode) {
 
 void DlgSzczegoly::cboxParentPackage_Click() {
   const int index = cboxParentPackage.index();
-  editor_.session.log.WriteDebugLine("cboxParentPackage_Click: index = " + std::to_string(index));
+  work_.session.log.WriteDebugLine("cboxParentPackage_Click: index = " + std::to_string(index));
   const auto place = static_cast<std::size_t>(index);
-  if (index < 0 || place >= editor_.session.ParentLevels.size()) {
+  if (index < 0 || place >= work_.session.ParentLevels.size()) {
     throw errors::subscriptOutOfRange();
   }
-  lblLevelValue.setCaption(std::to_string(narrow16(editor_.session.ParentLevels[place] + 1)));
-  ParentSerial = editor_.session.ParentSerials[place];
+  lblLevelValue.setCaption(std::to_string(narrow16(work_.session.ParentLevels[place] + 1)));
+  ParentSerial = work_.session.ParentSerials[place];
 }
 
 bool DlgSzczegoly::IsKnownSerial(std::string_view text) const {
-  return isKnown(editor_.session.ParentSerials, text);
+  return isKnown(work_.session.ParentSerials, text);
 }
 
 bool DlgSzczegoly::IsKnownDescription(std::string_view text) const {
-  return isKnown(editor_.session.ParentDescriptions, text);
+  return isKnown(work_.session.ParentDescriptions, text);
 }
 
 // The last element stands for no package.
 bool DlgSzczegoly::isKnown(const std::vector<std::string>& entries, std::string_view text) const {
-  const Locale& locale = editor_.platform.locale;
+  const Locale& locale = work_.platform.locale;
   const std::string upper = locale.upper(text);
   for (std::size_t i = 0; i + 1 < entries.size(); ++i) {
     if (entries[i] == text || locale.upper(entries[i]) == upper) return true;
@@ -130,9 +145,9 @@ void DlgSzczegoly::cboxILNLokalizacji_Change() {
 }
 
 void DlgSzczegoly::cboxLokalizacja_Change() {
-  editor_.session.log.WriteDebugLine("cboxLokalizacja_Change start");
+  work_.session.log.WriteDebugLine("cboxLokalizacja_Change start");
   cboxILNLokalizacji.setIndex(cboxLokalizacja.index());
-  editor_.session.log.WriteDebugLine("cboxLokalizacja_Change koniec");
+  work_.session.log.WriteDebugLine("cboxLokalizacja_Change koniec");
 }
 
 void DlgSzczegoly::btnDodaj_Click() {
@@ -146,16 +161,15 @@ void DlgSzczegoly::btnZamknij_Click() {
   hide();
 }
 
-std::string symbolPackageType(std::int16_t index) {
-  if (index < 0 || static_cast<std::size_t>(index) >= packageTypes.size()) return {};
-  return std::string(packageTypes[static_cast<std::size_t>(index)].code);
-}
+bool DlgSzczegoly::Walidacja() { return awizo::Walidacja(work_, *this); }
 
-std::int16_t indexPackageType(const Locale& locale, std::string_view code) {
-  for (std::size_t i = 0; i < packageTypes.size(); ++i) {
-    if (locale.sameIgnoringCase(packageTypes[i].code, code)) return static_cast<std::int16_t>(i);
+bool DlgSzczegoly::CheckMandatory(std::string_view caption, TextField& field) {
+  if (!work_.platform.locale.sameIgnoringCase(field.tag, "Mandatory") || !field.text().empty()) {
+    return true;
   }
-  return -1;
+  screen().showCritical("XXX '" + replaceAll(caption, ":", "") + "'", "VIRD");
+  field.setFocus();
+  return false;
 }
 
 }  // namespace awizo

@@ -4,12 +4,13 @@
 #include <string>
 #include <vector>
 
+#include "packagedialog/localization_dictionary.h"
 #include "platform/forms/button.h"
 #include "platform/forms/drop_down_list.h"
 #include "platform/forms/form.h"
 #include "platform/forms/label.h"
 #include "platform/forms/text_field.h"
-#include "session/record/editor.h"
+#include "session/record/work.h"
 
 namespace awizo {
 
@@ -17,7 +18,7 @@ namespace awizo {
 /// opens and reads its fields after it closed.
 class DlgSzczegoly : public Form {
  public:
-  explicit DlgSzczegoly(Editor& editor);
+  explicit DlgSzczegoly(Work& work);
 
   DropDownList cboxPackageType;
   TextField txtPackageDesc;
@@ -38,10 +39,6 @@ class DlgSzczegoly : public Form {
   bool AddMode = false;              ///< adding, not changing
   bool LocalizationsFilled = false;  ///< the two delivery lists have been filled
 
-  // The delivery places, in the catalogue's order, and the order in which the lists show them.
-  std::vector<std::string> LocalizationNumbers, LocalizationIlns;
-  std::vector<std::int32_t> LocalizationOrder;
-
   /// Runs Form_Load at the first call.
   DlgSzczegoly& touch();
 
@@ -52,7 +49,9 @@ class DlgSzczegoly : public Form {
   bool IsKnownDescription(std::string_view text) const;
   /// Whether the package may be accepted; tells the user the first fault.
   bool Walidacja();
+  /// Fills the two delivery lists from the session's catalogue.
   void LoadLocalizationDictionary();
+  const LocalizationDictionary& localizations() const { return localizations_; }
   /// For code that has set an ILN: shows its place too.
   void cboxILNLokalizacji_Change_PublicWrapper() { cboxILNLokalizacji_Change(); }
   /// A required field by its tag "Mandatory"; no rule of the dialog uses it.
@@ -66,28 +65,12 @@ class DlgSzczegoly : public Form {
   void cboxLokalizacja_Change();
   void btnDodaj_Click();
   void btnZamknij_Click();
-  void measure_Validate(TextField& field);
-
+  void offerLocalizations(const std::vector<XmlNode>& entries);
   bool isKnown(const std::vector<std::string>& entries, std::string_view text) const;
-  bool checkTypeAndDescription();
-  bool checkDeliveryPlace();
-  bool checkMeasures();
-  bool checkMeasure(TextField& field, std::string_view message);
-  bool checkSerialNumber();
-  void readLocalizations(const XmlNode& catalogue);
 
-  Editor& editor_;
+  Work& work_;
+  LocalizationDictionary localizations_;
   bool loaded_ = false;
 };
-
-/// Code of a package type's row: "09", "201", "PK"; the empty text for any other index.
-std::string symbolPackageType(std::int16_t index);
-/// Row of a package type's code, case ignored; -1 for any other text.
-std::int16_t indexPackageType(const Locale& locale, std::string_view code);
-/// What is wrong with the serial number of a package, as the dialog tells it; empty where nothing
-/// is.
-std::string serialNumberRefusal(std::string_view serial);
-/// The right last digit of an 18-digit serial shipping container code, from its first 17.
-int containerCheckDigit(std::string_view digits);
 
 }  // namespace awizo

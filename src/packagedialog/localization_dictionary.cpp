@@ -1,52 +1,35 @@
-#include "linedialog/sort.h"
-#include "packagedialog/dlg_szczegoly.h"
-#include "platform/forms/report_errors.h"
+#include "packagedialog/localization_dictionary.h"
+
+#include <algorithm>
+#include <numeric>
+
 #include "platform/narrow.h"
 #include "service/transport.h"
 
 namespace awizo {
 
-void DlgSzczegoly::LoadLocalizationDictionary() {
-  reportErrors(screen(), "Произошла ошибка в LoadLocalizationDictionary() (Opak)", [&] {
-    const SessionState& session = editor_.session;
-    DebugLog& log = editor_.session.log;
-    cboxLokalizacja.setStyle(ListStyle::freeTyping);
-    log.WriteDebugLine(std::string("LoadLocalizationDictionary: xml_loc_loaded = ") +
-                       (session.LocalizationsLoaded ? "True" : "False"));
-    if (!session.LocalizationsLoaded) return;
-    log.WriteDebugLine("Form_Load start przetwarzania slownika lokalizacji");
-    const XmlNode root = session.LocalizationsDom->root();
-    const XmlNode catalogue =
-        root ? root.selectSingle("document-content/Document-LocalizationsCatalog") : XmlNode{};
-    if (catalogue) readLocalizations(catalogue);
-    log.WriteDebugLine("Form_Load przetworzono slownik lokalizacji");
-  });
-}
-
-// The lists offer one entry less than the catalogue holds: the last in sorted order stays out.
-void DlgSzczegoly::readLocalizations(const XmlNode& catalogue) {
-  const std::vector<XmlNode> entries = catalogue.selectSingle("localizations").children();
-  const std::size_t last = entries.empty() ? 0 : entries.size() - 1;
-  if (last > 0) cboxLokalizacja.setStyle(ListStyle::matchRequired);
-  LocalizationNumbers.assign(last + 1, "");
-  LocalizationOrder.assign(last + 1, 0);
-  LocalizationIlns.assign(last + 1, "");
+void LocalizationDictionary::read(const std::vector<XmlNode>& entries, Sorter& sorter) {
+  const std::size_t size = std::max<std::size_t>(entries.size(), 1);
+  LocalizationNumbers.assign(size, "");
+  LocalizationIlns.assign(size, "");
+  LocalizationOrder.resize(size);
+  std::iota(LocalizationOrder.begin(), LocalizationOrder.end(), 0);
   for (std::size_t i = 0; i < entries.size(); ++i) {
-    const bool isPlace = entries[i].isElement("localization");
-    const XmlNode place = isPlace ? entries[i] : XmlNode{};
+    const XmlNode place = entries[i].isElement("localization") ? entries[i] : XmlNode{};
     LocalizationNumbers[i] = GetNodeValue(place, "number", false);
-    LocalizationOrder[i] = narrow32(static_cast<std::int64_t>(i));
     LocalizationIlns[i] = GetNodeValue(place, "iln", false);
   }
-  Sorter(screen(), editor_.conversions)
-      .QuickSortU(LocalizationNumbers, LocalizationOrder, 0,
-                  narrow32(static_cast<std::int64_t>(entries.size()) - 1),
-                  narrow32(static_cast<std::int64_t>(entries.size())));
-  for (std::size_t i = 0; i < last; ++i) {
-    const auto entry = static_cast<std::size_t>(LocalizationOrder[i]);
-    cboxLokalizacja.addRow(LocalizationNumbers[entry]);
-    cboxILNLokalizacji.addRow(LocalizationIlns[entry]);
+  const std::int32_t count = narrow32(static_cast<std::int64_t>(entries.size()));
+  sorter.QuickSortU(LocalizationNumbers, LocalizationOrder, 0, count - 1, count);
+}
+
+std::vector<std::string> LocalizationDictionary::offered(
+    const std::vector<std::string>& texts) const {
+  std::vector<std::string> rows;
+  for (std::size_t i = 0; i + 1 < LocalizationOrder.size(); ++i) {
+    rows.push_back(texts[static_cast<std::size_t>(LocalizationOrder[i])]);
   }
+  return rows;
 }
 
 }  // namespace awizo

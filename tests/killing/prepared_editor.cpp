@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "hosts/headless/headless_program.h"
-#include "packagedialog/dlg_szczegoly.h"
+#include "packagedialog/serial_number.h"
 #include "support/files/files.h"
 
 namespace awizo::test {

@@ -1,4 +1,4 @@
-#include "line_packages.h"
+#include "packed_line.h"
 
 namespace awizo::test {
 namespace {
@@ -7,7 +7,7 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 /// Packages that the line lies in already are taken out or changed.
-class AssignedLinePackages : public LinePackages {};
+class AssignedLinePackages : public PackedLine {};
 
 INSTANTIATE_TEST_SUITE_P(InBothLocales, AssignedLinePackages, ::testing::Values("ru_RU", "en_US"));
 

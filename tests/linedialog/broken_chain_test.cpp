@@ -32,12 +32,12 @@ TEST_F(BrokenChain, FromTheBuyersCode) {
     dialog.cboxKodAPP.userChoose(0);
     EXPECT_THAT(test.takeBoxes(),
                 ElementsAre(std::string("VIRDПроизошла ошибка в  cboxKodAPP_Change") + refused));
-    EXPECT_EQ(dialog.ProductChangeSource, 2);
+    EXPECT_EQ(dialog.productChoice().ProductChangeSource, 2);
     EXPECT_EQ(dialog.txtKodKup.text(), "b1");
     takeTexts(dialog.cboxNazwaProd);
     dialog.cboxKodAPP.userChoose(1);
     EXPECT_THAT(test.takeBoxes(), IsEmpty());
-    EXPECT_EQ(dialog.ProductChangeSource, 0);
+    EXPECT_EQ(dialog.productChoice().ProductChangeSource, 0);
   });
 }
 
@@ -47,7 +47,7 @@ TEST_F(BrokenChain, FromTheSuppliersCode) {
     dialog.cboxKodSprzed.userChoose(0);
     EXPECT_THAT(test.takeBoxes(),
                 ElementsAre(std::string("VIRDПроизошла ошибка в  cboxKodSprzed_Change") + refused));
-    EXPECT_EQ(dialog.ProductChangeSource, 4);
+    EXPECT_EQ(dialog.productChoice().ProductChangeSource, 4);
     EXPECT_EQ(dialog.txtKodSprzed.text(), "s1");
   });
 }
@@ -58,7 +58,7 @@ TEST_F(BrokenChain, FromTheName) {
     dialog.cboxNazwaProd.userChoose(0);
     EXPECT_THAT(test.takeBoxes(),
                 ElementsAre(std::string("VIRDПроизошла ошибка в  cboxNazwaProd_Change") + refused));
-    EXPECT_EQ(dialog.ProductChangeSource, 3);
+    EXPECT_EQ(dialog.productChoice().ProductChangeSource, 3);
     EXPECT_EQ(dialog.txtNazwaProdWart.text(), "Кофе");
   });
 }

@@ -108,7 +108,7 @@ struct LineDialog : TestEditor {
 };
 
 /// A number as the locale of the test writes it; `text` has a comma.
-inline std::string localNumber(const LineDialog& test, std::string text) {
+inline std::string localNumber(const TestEditor& test, std::string text) {
   const std::size_t comma = text.find(',');
   if (comma != text.npos) text.replace(comma, 1, test.session.DecimalSeparator);
   return text;

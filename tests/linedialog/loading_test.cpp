@@ -40,10 +40,10 @@ TEST_F(LineDialogLoading, HappensAtTheFirstTouchOnly) {
 
 TEST_F(LineDialogLoading, ForgetsEarlierMarks) {
   test.session.IsoCheckOk = false;
-  dialog.ProductChangeSource = 3;
+  dialog.productChoice().ProductChangeSource = 3;
   test.load();
   EXPECT_TRUE(test.session.IsoCheckOk);
-  EXPECT_EQ(dialog.ProductChangeSource, 0);
+  EXPECT_EQ(dialog.productChoice().ProductChangeSource, 0);
 }
 
 TEST_F(LineDialogLoading, ShowsTheWaitCursorMeanwhile) {
@@ -59,6 +59,14 @@ TEST_F(LineDialogLoading, IsLogged) {
                           "Form_Load start przetwarzania slownika produktow",
                           "Form_Load przetworzono slownik produktow",
                           "Form_Load zmiana kursora na poczatkowy"));
+}
+
+TEST_F(LineDialogLoading, FillsEachListWithItsOwnValues) {
+  test.loadProducts({{"4602", "Чай", "s2", "b1"}, {"4601", "Кофе", "s1", "b2"}});
+  EXPECT_THAT(dialog.cboxEANProd.rows(), ElementsAre("4601", "4602"));
+  EXPECT_THAT(dialog.cboxNazwaProd.rows(), ElementsAre("Кофе", "Чай"));
+  EXPECT_THAT(dialog.cboxKodSprzed.rows(), ElementsAre("s1", "s2"));
+  EXPECT_THAT(dialog.cboxKodAPP.rows(), ElementsAre("b1", "b2"));
 }
 
 TEST_F(LineDialogLoading, WithoutACatalogueIsLoggedShorter) {
@@ -205,12 +213,13 @@ TEST_F(TooManyProducts, ARowPastTheCounterFailsAndItsMarkStays) {
                 ElementsAre("VIRDПроизошла ошибка в  cboxEANProd_Change|critical|OK|Overflow"));
     EXPECT_EQ(dialog.txtlEANProdWart.text(), "1032769");
     EXPECT_EQ(dialog.cboxNazwaProd.text(), "товар 1032769") << "what was done stays";
-    EXPECT_EQ(dialog.ProductChangeSource, 1);
+    EXPECT_EQ(dialog.productChoice().ProductChangeSource, 1);
 
     // Chains of another beginning run under the old mark and don't reset it.
     dialog.cboxNazwaProd.userChoose(2);
     EXPECT_EQ(dialog.cboxEANProd.text(), "1000000");
-    EXPECT_EQ(dialog.ProductChangeSource, 0) << "the event of that very mark ran to its end";
+    EXPECT_EQ(dialog.productChoice().ProductChangeSource, 0)
+        << "the event of that very mark ran to its end";
   });
 }
 

@@ -1,4 +1,4 @@
-#include "line_packages.h"
+#include "packed_line.h"
 #include "support/logged.h"
 
 namespace awizo::test {
@@ -6,7 +6,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-struct LinePackageButtons : LinePackages {};
+struct LinePackageButtons : PackedLine {};
 INSTANTIATE_TEST_SUITE_P(InBothLocales, LinePackageButtons, ::testing::Values("ru_RU", "en_US"));
 
 // Which buttons can be pressed.

@@ -1,4 +1,4 @@
-#include "line_packages.h"
+#include "packed_line.h"
 
 namespace awizo::test {
 namespace {
@@ -6,11 +6,11 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-INSTANTIATE_TEST_SUITE_P(InBothLocales, LinePackages, ::testing::Values("ru_RU", "en_US"));
+INSTANTIATE_TEST_SUITE_P(InBothLocales, PackedLine, ::testing::Values("ru_RU", "en_US"));
 
 // Adding.
 
-TEST_P(LinePackages, AddingOffersThePackagesAndAllThatIsFree) {
+TEST_P(PackedLine, AddingOffersThePackagesAndAllThatIsFree) {
   despatch("5");
   test.show([&] {
     test.inQuantityDialog([&] {
@@ -33,7 +33,7 @@ TEST_P(LinePackages, AddingOffersThePackagesAndAllThatIsFree) {
   EXPECT_THAT(test.face.boxes(), IsEmpty());
 }
 
-TEST_P(LinePackages, TheFirstAssignmentTakesTheEmptyRowAndOthersAreAdded) {
+TEST_P(PackedLine, TheFirstAssignmentTakesTheEmptyRowAndOthersAreAdded) {
   despatch("5");
   test.show([&] {
     test.assign(0, "2");
@@ -49,7 +49,7 @@ TEST_P(LinePackages, TheFirstAssignmentTakesTheEmptyRowAndOthersAreAdded) {
   EXPECT_EQ(dialog.GridToString(), local("2@Поддон@1@2,000$5@Коробка@2@") + local("1,250"));
 }
 
-TEST_P(LinePackages, TheSamePackageTwiceIsTwoRows) {
+TEST_P(PackedLine, TheSamePackageTwiceIsTwoRows) {
   despatch("5");
   test.show([&] {
     test.assign(1, "2");
@@ -58,7 +58,7 @@ TEST_P(LinePackages, TheSamePackageTwiceIsTwoRows) {
   EXPECT_THAT(rows(), ElementsAre(row("5 Коробка 2 2,000"), row("5 Коробка 2 3,000")));
 }
 
-TEST_P(LinePackages, AClosedSmallDialogAddsNothing) {
+TEST_P(PackedLine, AClosedSmallDialogAddsNothing) {
   despatch("5");
   small.DlgResult = 1;
   test.show([&] {
@@ -70,7 +70,7 @@ TEST_P(LinePackages, AClosedSmallDialogAddsNothing) {
   EXPECT_EQ(table.rows(), 2);
 }
 
-TEST_P(LinePackages, AHalfRoundsToTheEvenNumberAndShowsTheRangeFirst) {
+TEST_P(PackedLine, AHalfRoundsToTheEvenNumberAndShowsTheRangeFirst) {
   despatch("2,5");
   test.show([&] {
     test.inQuantityDialog([&] {
@@ -94,7 +94,7 @@ TEST_P(LinePackages, AHalfRoundsToTheEvenNumberAndShowsTheRangeFirst) {
   EXPECT_THAT(rows(), ElementsAre(row("2 Поддон 1 2,000")));
 }
 
-TEST_P(LinePackages, AHalfAboveAnOddNumberRoundsUp) {
+TEST_P(PackedLine, AHalfAboveAnOddNumberRoundsUp) {
   despatch("3,5");
   test.show([&] {
     test.inQuantityDialog([&] {
@@ -107,7 +107,7 @@ TEST_P(LinePackages, AHalfAboveAnOddNumberRoundsUp) {
   EXPECT_THAT(test.face.boxes(), IsEmpty());
 }
 
-TEST_P(LinePackages, ARemainderBelowAHalfFitsNowhere) {
+TEST_P(PackedLine, ARemainderBelowAHalfFitsNowhere) {
   despatch("0,4");
   EXPECT_EQ(enabledButtons(), "+");
   test.show([&] {
@@ -123,7 +123,7 @@ TEST_P(LinePackages, ARemainderBelowAHalfFitsNowhere) {
   });
 }
 
-TEST_P(LinePackages, TheSameQuantityOfferedAgainIsCheckedAgain) {
+TEST_P(PackedLine, TheSameQuantityOfferedAgainIsCheckedAgain) {
   despatch("0,4");
   test.show([&] {
     for (int time = 1; time <= 2; ++time) {
@@ -137,7 +137,7 @@ TEST_P(LinePackages, TheSameQuantityOfferedAgainIsCheckedAgain) {
   });
 }
 
-TEST_P(LinePackages, AQuantityThatNoSpinButtonsHoldCantBePacked) {
+TEST_P(PackedLine, AQuantityThatNoSpinButtonsHoldCantBePacked) {
   for (const char* quantity : {"9e99", "3e9"}) {
     dialog.txtIloscPotw.setText(quantity);
     test.show([&] { dialog.Command1.userClick(); });
@@ -146,7 +146,7 @@ TEST_P(LinePackages, AQuantityThatNoSpinButtonsHoldCantBePacked) {
   EXPECT_THAT(test.face.modalForms(), ElementsAre("DlgDodaj", "DlgDodaj"));
 }
 
-TEST_P(LinePackages, AddingAfterAChangeHasItsOwnCaptions) {
+TEST_P(PackedLine, AddingAfterAChangeHasItsOwnCaptions) {
   despatch("6");
   test.show([&] {
     test.assign(0, "1");
@@ -161,14 +161,14 @@ TEST_P(LinePackages, AddingAfterAChangeHasItsOwnCaptions) {
   });
 }
 
-TEST_P(LinePackages, TheOnlyRowIsTakenWhenItsSerialIsEmptyWhateverElseItHolds) {
+TEST_P(PackedLine, TheOnlyRowIsTakenWhenItsSerialIsEmptyWhateverElseItHolds) {
   dialog.StringToGrid("@Ящик@1");
   despatch("5");
   test.show([&] { test.assign(0, "2"); });
   EXPECT_THAT(rows(), ElementsAre(row("2 Поддон 1 2,000")));
 }
 
-TEST_P(LinePackages, TheTableIsntPaintedWhileARowIsWritten) {
+TEST_P(PackedLine, TheTableIsntPaintedWhileARowIsWritten) {
   std::vector<bool> painting;
   despatch("5");
   test.show([&] {
@@ -182,7 +182,7 @@ TEST_P(LinePackages, TheTableIsntPaintedWhileARowIsWritten) {
   EXPECT_THAT(painting, ElementsAre(false, true, false, true));
 }
 
-TEST_P(LinePackages, TheListIsFilledAnewEachTime) {
+TEST_P(PackedLine, TheListIsFilledAnewEachTime) {
   despatch("5");
   test.show([&] {
     test.assign(1, "1");

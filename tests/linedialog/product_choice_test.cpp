@@ -13,7 +13,7 @@ const Product coffee{"4602", "Кофе", "s2", "b2",
                      "<UnitOfMeasure>KGM</UnitOfMeasure><UnitNetPrice>20.5</UnitNetPrice>"};
 const Product juice{"4603", "Сок", "s3", "b3"};
 
-struct ProductChoice : ::testing::Test {
+struct ChoosingAProduct : ::testing::Test {
   LineDialog test;
   DlgDodaj& dialog = test.dialog;
 
@@ -37,14 +37,14 @@ struct ProductChoice : ::testing::Test {
 
 // What each list leads to.
 
-TEST_F(ProductChoice, ByEANMovesTheOthers) {
+TEST_F(ChoosingAProduct, ByEANMovesTheOthers) {
   test.loadProducts({tea, coffee, juice});
   openLog(test);
   test.show([&] { choose(dialog.cboxEANProd, "4602"); });
   EXPECT_THAT(lists(), ElementsAre("4602", "Кофе", "b2", "s2"));
   EXPECT_THAT(fields(), ElementsAre("4602", "Кофе", "b2", "s2"));
   EXPECT_EQ(dialog.txtCenaNetto.text(), "20,50");
-  EXPECT_EQ(dialog.ProductChangeSource, 0);
+  EXPECT_EQ(dialog.productChoice().ProductChangeSource, 0);
   EXPECT_THAT(loggedMessages(test),
               ElementsAre("cboxEANProd_Change start", "cboxKodAPP_Change start",
                           "cboxNazwaProd_Change start", "cboxNazwaProd_Change koniec",
@@ -52,7 +52,7 @@ TEST_F(ProductChoice, ByEANMovesTheOthers) {
                           "cboxKodSprzed_Change koniec", "cboxEANProd_Change koniec"));
 }
 
-TEST_F(ProductChoice, ByNameMovesTheOthers) {
+TEST_F(ChoosingAProduct, ByNameMovesTheOthers) {
   test.loadProducts({tea, coffee, juice});
   openLog(test);
   test.show([&] { choose(dialog.cboxNazwaProd, "Кофе"); });
@@ -66,7 +66,7 @@ TEST_F(ProductChoice, ByNameMovesTheOthers) {
                           "cboxEANProd_Change koniec", "cboxNazwaProd_Change koniec"));
 }
 
-TEST_F(ProductChoice, ByBuyersCodeLeadsToTheNameAndOn) {
+TEST_F(ChoosingAProduct, ByBuyersCodeLeadsToTheNameAndOn) {
   test.loadProducts({tea, coffee, juice});
   openLog(test);
   test.show([&] { choose(dialog.cboxKodAPP, "b2"); });
@@ -80,7 +80,7 @@ TEST_F(ProductChoice, ByBuyersCodeLeadsToTheNameAndOn) {
                           "cboxNazwaProd_Change koniec", "cboxKodAPP_Change koniec"));
 }
 
-TEST_F(ProductChoice, BySuppliersCodeLeadsToTheNameAndOn) {
+TEST_F(ChoosingAProduct, BySuppliersCodeLeadsToTheNameAndOn) {
   test.loadProducts({tea, coffee, juice});
   openLog(test);
   test.show([&] { choose(dialog.cboxKodSprzed, "s2"); });
@@ -94,7 +94,7 @@ TEST_F(ProductChoice, BySuppliersCodeLeadsToTheNameAndOn) {
                           "cboxNazwaProd_Change koniec", "cboxKodSprzed_Change koniec"));
 }
 
-TEST_F(ProductChoice, AnotherProductFollowsFromAnyList) {
+TEST_F(ChoosingAProduct, AnotherProductFollowsFromAnyList) {
   test.loadProducts({tea, coffee, juice});
   test.show([&] {
     choose(dialog.cboxEANProd, "4601");
@@ -108,13 +108,13 @@ TEST_F(ProductChoice, AnotherProductFollowsFromAnyList) {
   });
 }
 
-TEST_F(ProductChoice, ATextTypedInFullIsAsGoodAsAChoice) {
+TEST_F(ChoosingAProduct, ATextTypedInFullIsAsGoodAsAChoice) {
   test.loadProducts({tea, coffee});
   test.show([&] { dialog.cboxKodAPP.userType("b2"); });
   EXPECT_THAT(lists(), ElementsAre("4602", "Кофе", "b2", "s2"));
 }
 
-TEST_F(ProductChoice, TheSameProductAgainChangesNothing) {
+TEST_F(ChoosingAProduct, TheSameProductAgainChangesNothing) {
   test.loadProducts({tea, coffee});
   test.show([&] {
     choose(dialog.cboxEANProd, "4602");
@@ -128,7 +128,7 @@ TEST_F(ProductChoice, TheSameProductAgainChangesNothing) {
 
 // Texts that are in no list.
 
-TEST_F(ProductChoice, ATypedTextGoesToItsOwnFieldAlone) {
+TEST_F(ChoosingAProduct, ATypedTextGoesToItsOwnFieldAlone) {
   test.loadProducts({tea, coffee});
   test.show([&] {
     choose(dialog.cboxEANProd, "4602");
@@ -144,18 +144,18 @@ TEST_F(ProductChoice, ATypedTextGoesToItsOwnFieldAlone) {
     EXPECT_EQ(dialog.txtCenaNetto.text(), "20,50");
     EXPECT_EQ(dialog.LinePeriod, "6");
     EXPECT_EQ(dialog.LineWeight, "0.5");
-    EXPECT_EQ(dialog.ProductChangeSource, 0);
+    EXPECT_EQ(dialog.productChoice().ProductChangeSource, 0);
   });
   EXPECT_THAT(test.face.boxes(), IsEmpty());
 }
 
-TEST_F(ProductChoice, TheCaseOfATypedTextMatters) {
+TEST_F(ChoosingAProduct, TheCaseOfATypedTextMatters) {
   test.loadProducts({tea});
   test.show([&] { dialog.cboxNazwaProd.userType("чай"); });
   EXPECT_THAT(lists(), ElementsAre("", "чай", "", ""));
 }
 
-TEST_F(ProductChoice, AnEmptiedListEmptiesItsFieldAlone) {
+TEST_F(ChoosingAProduct, AnEmptiedListEmptiesItsFieldAlone) {
   test.loadProducts({tea});
   test.show([&] {
     choose(dialog.cboxEANProd, "4601");
@@ -164,20 +164,28 @@ TEST_F(ProductChoice, AnEmptiedListEmptiesItsFieldAlone) {
   EXPECT_THAT(fields(), ElementsAre("4601", "Чай", "b1", ""));
 }
 
-TEST_F(ProductChoice, ATypedLetterStaysTheLetterItIs) {
+TEST_F(ChoosingAProduct, ATypedLetterStaysTheLetterItIs) {
   test.loadProducts({tea});
   test.show([&] { dialog.cboxNazwaProd.userType("Ж"); });
   EXPECT_EQ(dialog.txtNazwaProdWart.text(), "Ж");
 }
 
-TEST_F(ProductChoice, ALongTextIsCutInTheFieldAlone) {
+TEST_F(ChoosingAProduct, ALongTextIsCutInTheFieldAlone) {
   test.loadProducts({{"460123456789012345", "Чай"}});
   test.show([&] { choose(dialog.cboxNazwaProd, "Чай"); });
   EXPECT_EQ(dialog.cboxEANProd.text(), "460123456789012345");
   EXPECT_EQ(dialog.txtlEANProdWart.text(), "46012345678901");
 }
 
-TEST_F(ProductChoice, ALineWithoutEANShowsTheMarker) {
+TEST_F(ChoosingAProduct, ALongNameIsWholeInTheListAndCutInTheField) {
+  const std::string longName(100000, 'x');
+  test.loadProducts({{"1", longName}, {"2", "б"}});
+  test.show([&] { choose(dialog.cboxEANProd, "1"); });
+  EXPECT_EQ(dialog.txtNazwaProdWart.text().size(), 70U);
+  EXPECT_EQ(dialog.cboxNazwaProd.text(), longName);
+}
+
+TEST_F(ChoosingAProduct, ALineWithoutEANShowsTheMarker) {
   test.loadProducts({{"", "Чай"}, coffee});
   test.show([&] { choose(dialog.cboxNazwaProd, "Чай"); });
   EXPECT_EQ(dialog.cboxEANProd.text(), "-1");
@@ -186,7 +194,7 @@ TEST_F(ProductChoice, ALineWithoutEANShowsTheMarker) {
 
 // Lines that share a name or an EAN.
 
-TEST_F(ProductChoice, AmongEqualNamesTheFirstRowOfThatNameWins) {
+TEST_F(ChoosingAProduct, AmongEqualNamesTheFirstRowOfThatNameWins) {
   // The walk of the sort turns two equal names round, so the second line has the first row.
   test.loadProducts({{"4601", "Чай", "s1", "b1"}, {"4602", "Чай", "s2", "b2"}});
   ASSERT_THAT(dialog.dictionary().IdxName, ElementsAre(1, 0));
@@ -195,24 +203,24 @@ TEST_F(ProductChoice, AmongEqualNamesTheFirstRowOfThatNameWins) {
   EXPECT_THAT(fields(), ElementsAre("4602", "Чай", "b2", "s2"));
 }
 
-TEST_F(ProductChoice, AmongEqualNamesTheChosenBuyersCodeStaysToo) {
+TEST_F(ChoosingAProduct, AmongEqualNamesTheChosenBuyersCodeStaysToo) {
   test.loadProducts({{"4601", "Чай", "s1", "b1"}, {"4602", "Чай", "s2", "b2"}});
   test.show([&] { choose(dialog.cboxKodAPP, "b1"); });
   EXPECT_THAT(lists(), ElementsAre("4602", "Чай", "b1", "s2"));
   EXPECT_THAT(fields(), ElementsAre("4602", "Чай", "b2", "s2"));
 }
 
-TEST_F(ProductChoice, ASecondLineOfTheNameIsReachedByItsEAN) {
+TEST_F(ChoosingAProduct, ASecondLineOfTheNameIsReachedByItsEAN) {
   test.loadProducts({{"4601", "Чай", "s1", "b1"}, {"4602", "Чай", "s2", "b2"}});
   test.show([&] { choose(dialog.cboxEANProd, "4601"); });
   // Setting the buyer's code leads over the name to the EAN of the name's first row, whose change
   // runs to its end within; then the outer one sets the supplier's code of its own line.
   EXPECT_THAT(lists(), ElementsAre("4602", "Чай", "b2", "s1"));
   EXPECT_THAT(fields(), ElementsAre("4602", "Чай", "b2", "s2"));
-  EXPECT_EQ(dialog.ProductChangeSource, 0);
+  EXPECT_EQ(dialog.productChoice().ProductChangeSource, 0);
 }
 
-TEST_F(ProductChoice, PickingTheOtherRowOfTheNameChangesNothing) {
+TEST_F(ChoosingAProduct, PickingTheOtherRowOfTheNameChangesNothing) {
   test.loadProducts({{"4601", "Чай", "s1", "b1"}, {"4602", "Чай", "s2", "b2"}});
   test.show([&] {
     dialog.cboxNazwaProd.userChoose(0);
@@ -223,7 +231,7 @@ TEST_F(ProductChoice, PickingTheOtherRowOfTheNameChangesNothing) {
   });
 }
 
-TEST_F(ProductChoice, AmongEqualEANsTheFirstRowWinsAndIsntFilledAgain) {
+TEST_F(ChoosingAProduct, AmongEqualEANsTheFirstRowWinsAndIsntFilledAgain) {
   test.loadProducts({{"4601", "Кофе", "s1", "b1"}, {"4601", "Чай", "s2", "b2"}});
   ASSERT_THAT(dialog.dictionary().IdxEAN, ElementsAre(1, 0));
   test.show([&] {
@@ -251,7 +259,7 @@ TEST_F(ProductChoice, TheSecondRowOfAnEANLeadsToTheFieldsOfTheFirst) {
 }
 
 // Setting the buyer's code leads over the name to another EAN, and from there round and round.
-TEST_F(ProductChoice, LinesThatLeadToEachOtherWithoutEndAreToldOnce) {
+TEST_F(ChoosingAProduct, LinesThatLeadToEachOtherWithoutEndAreToldOnce) {
   test.loadProducts({{"1", "в", "s1", "b2"},
                      {"2", "б", "s1", "b1"},
                      {"1", "в", "s3", "b1"},
@@ -261,11 +269,12 @@ TEST_F(ProductChoice, LinesThatLeadToEachOtherWithoutEndAreToldOnce) {
     EXPECT_THAT(test.takeBoxes(),
                 ElementsAre("VIRDПроизошла ошибка в  cboxEANProd_Change|critical|OK|Out of stack "
                             "space"));
-    EXPECT_EQ(dialog.ProductChangeSource, 1) << "the last step of the event was skipped";
+    EXPECT_EQ(dialog.productChoice().ProductChangeSource, 1)
+        << "the last step of the event was skipped";
     // The dialog is as good as before: a chain with an end runs to it.
     dialog.cboxEANProd.userType("3");
     EXPECT_EQ(dialog.txtlEANProdWart.text(), "3");
-    EXPECT_EQ(dialog.ProductChangeSource, 0);
+    EXPECT_EQ(dialog.productChoice().ProductChangeSource, 0);
     dialog.cboxNazwaProd.userType("");
     choose(dialog.cboxNazwaProd, "б");
     EXPECT_THAT(lists(), ElementsAre("2", "б", "b3", "s1"));
@@ -275,7 +284,7 @@ TEST_F(ProductChoice, LinesThatLeadToEachOtherWithoutEndAreToldOnce) {
 
 // Lines without codes.
 
-TEST_F(ProductChoice, ALineWithoutACodeEmptiesTheListAndSelectsNoOtherSuchLine) {
+TEST_F(ChoosingAProduct, ALineWithoutACodeEmptiesTheListAndSelectsNoOtherSuchLine) {
   test.loadProducts({{"4600", "Вода"}, {"4601", "Чай", "s1", "b1"}, {"4602", "Кофе"}});
   test.show([&] {
     choose(dialog.cboxEANProd, "4601");
@@ -288,7 +297,7 @@ TEST_F(ProductChoice, ALineWithoutACodeEmptiesTheListAndSelectsNoOtherSuchLine) 
   });
 }
 
-TEST_F(ProductChoice, TheRowOfALineWithoutACodeIsAChoiceLikeAnyOther) {
+TEST_F(ChoosingAProduct, TheRowOfALineWithoutACodeIsAChoiceLikeAnyOther) {
   test.loadProducts({{"4600", "Вода"}, {"4601", "Чай", "s1", "b1"}});
   test.show([&] {
     choose(dialog.cboxEANProd, "4601");
@@ -299,16 +308,16 @@ TEST_F(ProductChoice, TheRowOfALineWithoutACodeIsAChoiceLikeAnyOther) {
 
 // The marks.
 
-TEST_F(ProductChoice, AMarkThatStayedKeepsItsBlocksInForce) {
+TEST_F(ChoosingAProduct, AMarkThatStayedKeepsItsBlocksInForce) {
   test.loadProducts({tea, coffee});
   test.show([&] {
     choose(dialog.cboxNazwaProd, "Чай");
-    dialog.ProductChangeSource = 3;  // as after a change of the name that failed
+    dialog.productChoice().ProductChangeSource = 3;  // as after a change of the name that failed
     choose(dialog.cboxEANProd, "4602");
     EXPECT_THAT(lists(), ElementsAre("4602", "Чай", "b2", "s2"));
-    EXPECT_EQ(dialog.ProductChangeSource, 3);
+    EXPECT_EQ(dialog.productChoice().ProductChangeSource, 3);
     choose(dialog.cboxNazwaProd, "Кофе");
-    EXPECT_EQ(dialog.ProductChangeSource, 0);
+    EXPECT_EQ(dialog.productChoice().ProductChangeSource, 0);
   });
 }
 

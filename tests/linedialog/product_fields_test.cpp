@@ -127,7 +127,8 @@ TEST_P(ProductFields, AnExpiryDateThatNoPickerHoldsStopsTheFilling) {
                           "that does not fall within the MinDate and MaxDate properties"));
   EXPECT_EQ(dialog.LinePeriod, "-1") << "what was filled stays";
   EXPECT_EQ(dialog.LineWeight, "7") << "what comes later isn't filled";
-  EXPECT_EQ(dialog.ProductChangeSource, 0) << "the change event itself ran to its end";
+  EXPECT_EQ(dialog.productChoice().ProductChangeSource, 0)
+      << "the change event itself ran to its end";
 }
 
 TEST_P(ProductFields, QuantitiesAndDatesOfTheLineArentTouched) {

@@ -49,33 +49,6 @@ TEST_F(PackageDialog, AnErrorInLoadingIsTold) {
               ElementsAre("Произошла ошибка в Form_Load() (Opakowanie)|critical|OK|Out of memory"));
 }
 
-TEST(PackageType, HasACodeForEachRow) {
-  EXPECT_EQ(symbolPackageType(0), "09");
-  EXPECT_EQ(symbolPackageType(1), "201");
-  EXPECT_EQ(symbolPackageType(2), "PK");
-}
-
-TEST(PackageType, HasNoCodeForOtherIndexes) {
-  EXPECT_EQ(symbolPackageType(-1), "");
-  EXPECT_EQ(symbolPackageType(-2), "");
-  EXPECT_EQ(symbolPackageType(3), "");
-  EXPECT_EQ(symbolPackageType(32767), "");
-}
-
-TEST_F(PackageDialog, FindsATypeByItsCodeWithoutRegardToCase) {
-  EXPECT_EQ(indexPackageType(locale, "09"), 0);
-  EXPECT_EQ(indexPackageType(locale, "201"), 1);
-  EXPECT_EQ(indexPackageType(locale, "PK"), 2);
-  EXPECT_EQ(indexPackageType(locale, "pk"), 2);
-  EXPECT_EQ(indexPackageType(locale, "pK"), 2);
-}
-
-TEST_F(PackageDialog, KnowsNoOtherTypes) {
-  for (const char* code : {"", "9", "009", "09 ", "РК", "201a"}) {
-    EXPECT_EQ(indexPackageType(locale, code), -1) << code;
-  }
-}
-
 TEST_F(PackageDialog, TheFirstPackageIsATopPackage) {
   offerNoParents();
   dialog.PreparePackages(false);
@@ -169,7 +142,6 @@ TEST_F(PackageDialog, TakesOtherFormsOfACharacterForOthers) {
   for (const char* other : {"Паллета No1", "Короб м2", "Короб м²\u00AD"}) {
     EXPECT_FALSE(dialog.IsKnownDescription(other)) << other;
   }
-  EXPECT_EQ(indexPackageType(locale, "²01"), -1);
 }
 
 TEST_F(PackageDialog, TheElementForNoPackageIsNoPackage) {

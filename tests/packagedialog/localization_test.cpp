@@ -46,10 +46,10 @@ TEST_F(Localizations, RowsStandInTheOrderOfTheirNumbersAndTheLastIsNotOffered) {
   EXPECT_THAT(names(), ElementsAre("ёлка", "магазин 1", "Магазин 2"));
   EXPECT_THAT(ilns(), ElementsAre("44", "11", "22"));
   EXPECT_EQ(dialog.cboxLokalizacja.style(), ListStyle::matchRequired);
-  EXPECT_THAT(dialog.LocalizationNumbers,
+  EXPECT_THAT(dialog.localizations().LocalizationNumbers,
               ElementsAre("Магазин 3", "ёлка", "магазин 1", "Магазин 2"));
-  EXPECT_THAT(dialog.LocalizationIlns, ElementsAre("33", "44", "11", "22"));
-  EXPECT_THAT(dialog.LocalizationOrder, ElementsAre(1, 2, 3, 0));
+  EXPECT_THAT(dialog.localizations().LocalizationIlns, ElementsAre("33", "44", "11", "22"));
+  EXPECT_THAT(dialog.localizations().LocalizationOrder, ElementsAre(1, 2, 3, 0));
   EXPECT_THAT(boxes(), IsEmpty());
 }
 

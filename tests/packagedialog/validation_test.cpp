@@ -228,14 +228,6 @@ TEST_F(PackageValidation, RightCheckDigitsPass) {
   }
 }
 
-TEST(ContainerCheckDigit, TriplesEverySecondDigitFromTheFirst) {
-  EXPECT_EQ(containerCheckDigit("10000000000000000"), 7);
-  EXPECT_EQ(containerCheckDigit("01000000000000000"), 9);
-  EXPECT_EQ(containerCheckDigit("00000000000000001"), 7);
-  EXPECT_EQ(containerCheckDigit("99999999999999999"), 5);
-  EXPECT_EQ(containerCheckDigit("00000000000000000"), 0);
-}
-
 // Every field is wrong at first; as the user mends one fault after the other, the next is told.
 TEST_F(PackageValidation, TellsOneFaultAtATimeInAFixedOrder) {
   dialog.cboxPackageType.setIndex(-1);

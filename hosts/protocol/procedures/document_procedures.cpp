@@ -6,6 +6,7 @@
 #include "formats/row_check.h"
 #include "formats/saving.h"
 #include "hosts/protocol/procedures/control_procedures.h"
+#include "session/record/countries.h"
 #include "session/record/header_panel.h"
 #include "tables/set_up_tables.h"
 

@@ -1,4 +1,5 @@
 #include "hosts/protocol/procedures/control_procedures.h"
+#include "packagedialog/package_types.h"
 
 namespace awizo::protocol {
 

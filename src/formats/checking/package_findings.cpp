@@ -3,7 +3,7 @@
 #include <string>
 #include <unordered_set>
 
-#include "packagedialog/dlg_szczegoly.h"
+#include "packagedialog/serial_number.h"
 
 namespace awizo {
 namespace {

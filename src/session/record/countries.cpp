@@ -5,6 +5,11 @@
 namespace awizo {
 namespace {
 
+struct FixedCountry {
+  std::string_view code;  ///< two capital letters
+  std::string_view name;  ///< Russian
+};
+
 constexpr std::array<FixedCountry, 10> countries{{{"RU", "Россия"},
                                                   {"BY", "Белоруссия"},
                                                   {"KZ", "Казахстан"},
@@ -18,8 +23,6 @@ constexpr std::array<FixedCountry, 10> countries{{{"RU", "Россия"},
 
 }  // namespace
 
-std::span<const FixedCountry> fixedCountries() { return countries; }
-
 std::string countryEntry(std::string_view code, std::string_view name) {
   std::string entry = "(";
   entry += code;
@@ -30,11 +33,27 @@ std::string countryEntry(std::string_view code, std::string_view name) {
 
 std::vector<std::string> fixedCountryEntries() {
   std::vector<std::string> entries;
-  entries.reserve(std::size(countries));
+  entries.reserve(countries.size());
   for (const FixedCountry& country : countries) {
     entries.push_back(countryEntry(country.code, country.name));
   }
   return entries;
+}
+
+std::string symbolKraj(std::int16_t index, std::string_view typedText) {
+  if (index == -1) return std::string(typedText);
+  const auto place = static_cast<std::size_t>(index);
+  return index >= 0 && place < countries.size() ? std::string(countries[place].code)
+                                                : std::string();
+}
+
+std::int16_t indexKraj(std::string_view code) {
+  std::int16_t index = 0;
+  for (const FixedCountry& country : countries) {
+    if (country.code == code) return index;
+    ++index;
+  }
+  return -1;
 }
 
 }  // namespace awizo

@@ -1,6 +1,7 @@
 #include "tables/editing/in_table_editing.h"
 
 #include "formats/row_check.h"
+#include "platform/forms/keys.h"
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
 #include "platform/text.h"
@@ -10,11 +11,6 @@
 
 namespace awizo {
 namespace {
-
-constexpr std::int16_t enterKey = 13;
-constexpr std::int16_t escapeKey = 27;
-constexpr std::int16_t upKey = 38;
-constexpr std::int16_t downKey = 40;
 
 void placeOverCell(Table& grid, TextField& edit) {
   const Place table = grid.place().value_or(Place{});
@@ -59,21 +55,21 @@ void EditGridCell(Table& grid, TextField& edit, std::int16_t key) {
 void EditKeyCode(Editor& editor, Table& grid, TextField& edit, std::int16_t KeyCode, bool) {
   reportErrors(editor.screen(), "Произошла ошибка в EditKeyCode()", [&] {
     switch (KeyCode) {
-      case enterKey:
+      case keys::enter:
         commit(editor, grid, edit);
         moveDown(grid);
         break;
-      case escapeKey:
+      case keys::escape:
         edit.setVisible(false);
         grid.setFocus();
         PoprawGrdSuma(editor);
         break;
-      case upKey:
+      case keys::up:
         commit(editor, grid, edit);
         editor.screen().letEventsRun();
         if (grid.row() > grid.fixedRows()) grid.setRow(grid.row() - 1);
         break;
-      case downKey:
+      case keys::down:
         commit(editor, grid, edit);
         editor.screen().letEventsRun();
         moveDown(grid);
@@ -152,7 +148,7 @@ void grdPozycje_DblClick(Editor& editor, const std::function<void()>& editLine) 
       break;
     case GRD_POZ_QTY_DESPATCHED:
       editor.session.EditRow = narrow16(grid.row());
-      EditGridCell(grid, editor.form.txtEdycja, 32);
+      EditGridCell(grid, editor.form.txtEdycja, keys::blank);
       break;
     default:
       break;
@@ -161,7 +157,7 @@ void grdPozycje_DblClick(Editor& editor, const std::function<void()>& editLine) 
 
 void grdPozycje_KeyPress(Editor& editor, std::int16_t keyAscii,
                          const std::function<void()>& editLine) {
-  if (keyAscii == enterKey) grdPozycje_DblClick(editor, editLine);
+  if (keyAscii == keys::enter) grdPozycje_DblClick(editor, editLine);
 }
 
 void txtEdycja_KeyDown(Editor& editor, std::int16_t KeyCode, bool Shift) {
@@ -170,7 +166,7 @@ void txtEdycja_KeyDown(Editor& editor, std::int16_t KeyCode, bool Shift) {
 
 // Enter would beep in a one-line field.
 void txtEdycja_KeyPress(std::int16_t& keyAscii) {
-  if (keyAscii == enterKey) keyAscii = 0;
+  if (keyAscii == keys::enter) keyAscii = 0;
 }
 
 void txtEdycja_LostFocus(Editor& editor) { tidyQuantity(editor); }

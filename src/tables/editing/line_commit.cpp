@@ -4,8 +4,9 @@
 #include "formats/row_check.h"
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
-#include "session/record/header_panel.h"
+#include "session/record/countries.h"
 #include "tables/columns/columns.h"
+#include "tables/editing/country_lists.h"
 #include "tables/editing/in_table_editing.h"
 #include "tables/editing/line_dialog_fill.h"
 #include "tables/editing/numbered_row.h"
@@ -15,12 +16,6 @@
 
 namespace awizo {
 namespace {
-
-// Countries that were added in the dialog reach the main form, also after a cancelled dialog.
-void copyCountries(Editor& editor, const DlgDodaj& dialog) {
-  editor.form.comboCountry.clear();
-  for (const std::string& row : dialog.comboCountry.rows()) editor.form.comboCountry.addRow(row);
-}
 
 std::string pickedDate(const DatePicker& picker) {
   return picker.date() ? Conversions::FormatDateIso(*picker.date()) : std::string();
@@ -76,6 +71,7 @@ void btnDodaj_Click(Editor& editor, DlgDodaj& dialog) {
     fillDialogForNewLine(editor, dialog);
     dialog.showModal();
     editor.form.setEnabled(true);
+    // Countries that were added in the dialog come over, also after a cancelled dialog.
     copyCountries(editor, dialog);
     Table& grid = editor.form.grdPozycje;
     if (dialog.DlgResult == 1) {

@@ -3,7 +3,7 @@
 #include "formats/customs_number.h"
 #include "platform/narrow.h"
 #include "platform/text.h"
-#include "session/record/header_panel.h"
+#include "session/record/countries.h"
 #include "tables/columns/columns.h"
 #include "tables/editing/package_commit.h"
 #include "tables/package_references.h"
@@ -13,12 +13,6 @@ namespace awizo {
 namespace {
 
 constexpr CellLook wrappedHeading{white, Alignment::centre, false, true};
-
-// No date leaves the picker empty but opening on today.
-void showNoDate(DatePicker& picker, Date today) {
-  picker.setDate(today);
-  picker.setDate(std::nullopt);
-}
 
 void emptyProductFields(DlgDodaj& dialog) {
   for (DropDownList* list : {&dialog.cboxNazwaProd, &dialog.cboxEANProd, &dialog.cboxKodAPP,
@@ -38,7 +32,7 @@ void emptyProductFields(DlgDodaj& dialog) {
 void emptyMembersAndDates(Editor& editor, DlgDodaj& dialog) {
   const Date today = editor.platform.clock.today();
   dialog.dtProdDate.setDate(today);
-  showNoDate(dialog.dtExpiryDate, today);
+  dialog.showExpiryDate("");
   dialog.LinePeriod.clear();
   dialog.LinePeriodFormat.clear();
   dialog.LineOrderNumber.clear();
@@ -87,13 +81,8 @@ void fillAmounts(DlgDodaj& dialog, const Row& line) {
   dialog.CheckVAT(0);
 }
 
-void fillExpiryAndCountry(const Editor& editor, DlgDodaj& dialog, const Row& line) {
-  const std::string& expiry = line.cell(GRD_POZ_EXPIRY_DATE);
-  if (expiry.empty()) {
-    showNoDate(dialog.dtExpiryDate, editor.platform.clock.today());
-  } else {
-    dialog.dtExpiryDate.setDate(editor.conversions.toDate(expiry));
-  }
+void fillExpiryAndCountry(DlgDodaj& dialog, const Row& line) {
+  dialog.showExpiryDate(line.cell(GRD_POZ_EXPIRY_DATE));
   const std::string& country = line.cell(GRD_POZ_COUNTRY);
   selectOrType(dialog.comboCountry, indexKraj(country), country);
 }
@@ -162,7 +151,7 @@ void fillDialogForEdit(Editor& editor, DlgDodaj& dialog, std::int16_t row) {
   const Row line = lineRow(editor, row);
   fillProduct(dialog, line);
   fillAmounts(dialog, line);
-  fillExpiryAndCountry(editor, dialog, line);
+  fillExpiryAndCountry(dialog, line);
   fillCustomsNumber(editor, dialog, line);
   fillRest(editor, dialog, line);
   dialog.LineFromOrder = editor.form.OrderAnswer;

@@ -1,6 +1,7 @@
 #include "tables/editing/package_commit.h"
 
 #include "formats/row_check.h"
+#include "packagedialog/package_types.h"
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
 #include "tables/columns/columns.h"

@@ -8,13 +8,13 @@
 namespace awizo::test {
 
 /// A line of so much before a document with two packages.
-struct LinePackages : ::testing::TestWithParam<std::string> {
+struct PackedLine : ::testing::TestWithParam<std::string> {
   LineDialog test{GetParam()};
   DlgDodaj& dialog = test.dialog;
   DlgdodajPule& small = test.quantityDialog;
   Table& table = dialog.grdPozycje;
 
-  LinePackages() {
+  PackedLine() {
     test.load();
     test.offer({{"2", "Поддон"}, {"5", "Коробка", 2}});
     dialog.lblPackedQuantityValue.setCaption(local("0,000"));

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "packagedialog/dlg_szczegoly.h"
+
+namespace awizo {
+
+/// Whether the package may be accepted; tells the user the first fault. The measures are tidied as
+/// far as it came.
+bool Walidacja(Work& work, DlgSzczegoly& dialog);
+
+}  // namespace awizo
