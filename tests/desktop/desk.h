@@ -6,8 +6,8 @@
 #include "hosts/desktop/layouts/form_dialog.h"
 #include "hosts/desktop/screen/desktop_screen_face.h"
 #include "session/awizo_wysylki.h"
+#include "support/desktop/user.h"
 #include "support/test_editor.h"
-#include "user.h"
 
 namespace awizo::test {
 

@@ -5,8 +5,8 @@
 #include <memory>
 
 #include "hosts/desktop/faces/form_face.h"
+#include "support/desktop/user.h"
 #include "support/scripted_screen.h"
-#include "user.h"
 
 namespace awizo::test {
 

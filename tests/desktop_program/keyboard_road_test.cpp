@@ -2,14 +2,16 @@
 // what is posted is what awizo-headless posts, byte for byte.
 
 #include "desktop_program/program_test.h"
-#include "support/programs/conversation.h"
+#include "hosts/desktop/faces/text.h"
+#include "support/supplier/supplier.h"
 
 namespace awizo::test {
 namespace {
 
+using desktop::fromText;
+
 constexpr const char* number = "ТН/1";
-constexpr const char* serial = "035200010000000016";
-constexpr const char* deliveryPlace = "9520002000019";
+constexpr const char* package = "Паллета 1";
 
 class KeyboardRoadTest : public ProgramTest {
  protected:
@@ -26,11 +28,11 @@ class KeyboardRoadTest : public ProgramTest {
       DlgSzczegoly& dialog = control().dlgSzczegoly;
       tabTo(dialog.txtPackageDesc);
       press(Qt::Key_A, Qt::ControlModifier);
-      type("Паллета 1");
+      type(package);
       tabTo(dialog.txtSerialNumberN);
-      type(serial);
+      type(fromText(serials[0]));
       tabTo(dialog.cboxILNLokalizacji);
-      type(deliveryPlace);
+      type(fromText(deliveryPlace));
       press(Qt::Key_Return);
       EXPECT_FALSE(dialog.shown()) << "the package was refused";
     });
@@ -59,27 +61,14 @@ class KeyboardRoadTest : public ProgramTest {
     press(Qt::Key_F2);
   }
 
-  std::string headlessDocument() const {
-    const Workplace other;
-    const DemoService service(other.posted());
-    Conversation editor({"--offline-path", other.folder().string(), "--locale", "ru_RU", "--now",
-                         "2026-11-21T10:15:00", "--property", "PartnerName=Demo", "--property",
-                         "PartnerILN=9520002000019", "--property", "PartnerURL=partner",
-                         "--page-url", service.pageUrl(), "--cookie", "session=1; user=anna"});
+  static std::string headlessDocument() {
+    const Supplier other;
+    const DemoService service(other.place.posted());
+    Conversation editor = other.startOnLine(service);
     editor.show();
-    editor.type("txtNrAwiza", number);
-    editor.type("txtCodeByBuyer", "417");
-    editor.click("btnDodajOpak");
-    editor.type("DlgSzczegoly.txtPackageDesc", "Паллета 1");
-    editor.type("DlgSzczegoly.txtSerialNumberN", serial);
-    editor.type("DlgSzczegoly.cboxILNLokalizacji", deliveryPlace);
-    editor.click("DlgSzczegoly.btnDodaj");
-    editor.cell("grdPozycje", 1, 1);
-    editor.click("btnEdytuj");
-    editor.click("DlgDodaj.Command1");
-    editor.choose("DlgdodajPule.cboxPackages", 0);
-    editor.click("DlgdodajPule.btnDodaj");
-    editor.click("DlgDodaj.btnDodaj");
+    completeHeader(editor, number);
+    test::addPackage(editor, package, serials[0]);
+    packLine(editor, 1, package);
     editor.click("btnPrzeslij");
     editor.answerAll();
     EXPECT_EQ(editor.finish(), 0);

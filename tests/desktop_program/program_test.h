@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "desktop/user.h"
 #include "hosts/desktop/program/main_window.h"
 #include "hosts/desktop/window/commands.h"
 #include "hosts/desktop/window/waiting.h"
 #include "session/awizo_wysylki.h"
+#include "support/desktop/user.h"
 #include "support/programs/demo_service.h"
 #include "support/programs/workplace.h"
 

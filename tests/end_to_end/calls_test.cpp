@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "end_to_end/supplier.h"
+#include "support/supplier/supplier.h"
 
 namespace awizo::test {
 namespace {

@@ -5,8 +5,8 @@
 
 #include <filesystem>
 
-#include "end_to_end/supplier.h"
 #include "support/files/files.h"
+#include "support/supplier/supplier.h"
 
 namespace awizo::test {
 namespace {

@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "end_to_end/supplier.h"
 #include "support/files/files.h"
+#include "support/supplier/supplier.h"
 
 namespace awizo::test {
 namespace {

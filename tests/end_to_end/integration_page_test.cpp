@@ -6,9 +6,9 @@
 
 #include <filesystem>
 
-#include "end_to_end/supplier.h"
 #include "support/files/files.h"
 #include "support/schemas/schema.h"
+#include "support/supplier/supplier.h"
 
 namespace awizo::test {
 namespace {

@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "end_to_end/supplier.h"
 #include "platform/run_time_error.h"
 #include "support/files/files.h"
 #include "support/servers/tls_server.h"
+#include "support/supplier/supplier.h"
 
 namespace awizo::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "end_to_end/supplier.h"
+#include "support/supplier/supplier.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -85,7 +85,7 @@ void addPackage(Conversation& editor, std::string_view description, std::string_
   editor.click("btnDodajOpak");
   editor.type("DlgSzczegoly.txtPackageDesc", description);
   if (parent >= 0) editor.choose("DlgSzczegoly.cboxParentPackage", parent);
-  editor.type("DlgSzczegoly.cboxILNLokalizacji", "9520002001016");
+  editor.type("DlgSzczegoly.cboxILNLokalizacji", deliveryPlace);
   editor.type("DlgSzczegoly.txtSerialNumberN", serial);
   editor.click("DlgSzczegoly.btnDodaj");
 }
@@ -95,7 +95,7 @@ void packLine(Conversation& editor, int row, std::string_view package, std::stri
   editor.click("btnEdytuj");
   editor.click("DlgDodaj.Command1");
   editor.chooseText("DlgdodajPule.cboxPackages", package);
-  editor.type("DlgdodajPule.txtQuantity", quantity);
+  if (!quantity.empty()) editor.type("DlgdodajPule.txtQuantity", quantity);
   editor.click("DlgdodajPule.btnDodaj");
   editor.click("DlgDodaj.btnDodaj");
 }

@@ -14,6 +14,7 @@ namespace awizo::test {
 
 inline constexpr std::string_view today = "2026-11-21";
 inline constexpr std::string_view expectedDelivery = "2026-11-25";  ///< by the waiting order
+inline constexpr std::string_view deliveryPlace = "9520002001016";
 
 /// A supplier's machine: the local folder, and a way to start the editor there. The clock stands at
 /// 21 November 2026, 10:15. When it goes, every despatch advice that was posted or saved there must
@@ -63,8 +64,10 @@ void completeHeader(Conversation& editor, std::string_view number = "ТН/1");
 /// Adds a top package, or one within the package at that row of the list of parents.
 void addPackage(Conversation& editor, std::string_view description, std::string_view serial,
                 int parent = -1);
-/// Opens the line and puts so much of it into the package of that description.
-void packLine(Conversation& editor, int row, std::string_view package, std::string_view quantity);
+/// Opens the line and puts so much of it into the package of that description; without a quantity,
+/// what the small dialog offers.
+void packLine(Conversation& editor, int row, std::string_view package,
+              std::string_view quantity = "");
 
 /// The file dialog is open for saving a document that has a header and no line.
 void openSaving(Conversation& editor);

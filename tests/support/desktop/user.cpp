@@ -1,4 +1,4 @@
-#include "user.h"
+#include "support/desktop/user.h"
 
 #include <QApplication>
 #include <QClipboard>
