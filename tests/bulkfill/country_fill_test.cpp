@@ -1,4 +1,4 @@
-#include "support/control/desk.h"
+#include "filling_desk.h"
 
 namespace awizo::test {
 namespace {
@@ -14,10 +14,10 @@ constexpr const char* allQuestion =
     "производителя'?\\rВ этом случае текущие значения будут изменены.";
 constexpr const char* refusal = "VIRD|exclamation|OK|The value of ISO code is not allowed";
 
-class FillingTheCountry : public ::testing::Test, public Desk {
+class FillingTheCountry : public ::testing::Test, public FillingDesk {
  protected:
   FillingTheCountry() {
-    putLines(4);
+    putLines(editor, 4);
     const std::vector<std::string> countries{"", "-1", "0", "RU"};
     for (int i = 0; i < 4; ++i) {
       lines.setCell(i + 1, GRD_POZ_COUNTRY, countries[static_cast<std::size_t>(i)]);
@@ -137,7 +137,7 @@ TEST_F(FillingTheCountry, AfterNoTheTextIsTheBareCodeAndTheListHasGrown) {
 }
 
 TEST_F(FillingTheCountry, WithoutLinesNothingIsAskedAndTheListGrows) {
-  putLines(0);
+  putLines(editor, 0);
   list.userType("jp");
   form.btnUzupelnij2.userClick();
   EXPECT_THAT(takeBoxes(), IsEmpty());
@@ -160,7 +160,7 @@ TEST_F(FillingTheCountry, LinesAreNotCountedAnew) {
 }
 
 TEST_F(FillingTheCountry, PastTheLimitWhatWasWrittenStays) {
-  putLines(1425);
+  putLines(editor, 1425);
   list.userType("pl");
   overwrite();
   EXPECT_THAT(takeBoxes(), ElementsAre(allQuestion, "Ошибка в FillLines2()|critical|OK|Overflow"));

@@ -1,4 +1,4 @@
-#include "support/control/desk.h"
+#include "filling_desk.h"
 
 namespace awizo::test {
 namespace {
@@ -10,10 +10,9 @@ using ::testing::Not;
 constexpr const char* australia = "(AU)Австралия";
 
 /// The picture beside the main form's list of countries.
-class CountryPicker : public ::testing::Test, public Desk {
+class CountryPicker : public ::testing::Test, public FillingDesk {
  protected:
   DropDownList& countries = form.comboCountry;
-  DlgIsoCodes& isoCodes = control.dlgIsoCodes;
 
   void pickRow(int row) {
     face.onModal([this, row] {

@@ -1,5 +1,4 @@
-#include "bulkfill/bulk_fill.h"
-#include "support/control/desk.h"
+#include "filling_desk.h"
 
 namespace awizo::test {
 namespace {
@@ -14,16 +13,10 @@ constexpr const char* allRatesQuestion =
     "VIRD|question|YesNo|Вы уверены, что хотите заполнить все поля для НДС выбранной ставкой?\\r"
     "В этом случае текущие значения будут изменены.";
 
-/// The rate's fields are hidden at the start and work all the same.
-class FillingTheRate : public ::testing::Test, public Desk {
+class FillingTheRate : public ::testing::Test, public FillingDesk {
  protected:
   FillingTheRate() {
-    for (Control* part : std::initializer_list<Control*>{&form.comboStawkaVAT, &form.btnUzupelnij,
-                                                         &form.btnNadpisz}) {
-      EXPECT_FALSE(part->visible());
-      part->setVisible(true);
-    }
-    putLines(4);
+    putLines(editor, 4);
     const std::vector<std::string> rates{"", "-1", "0", "10"};
     for (int i = 0; i < 4; ++i) {
       lines.setCell(i + 1, GRD_POZ_TAX_RATE, rates[static_cast<std::size_t>(i)]);
@@ -79,7 +72,7 @@ TEST_F(FillingTheRate, NoMeansThatNothingHappens) {
 }
 
 TEST_F(FillingTheRate, WithoutLinesNothingIsAsked) {
-  putLines(0);
+  putLines(editor, 0);
   form.btnUzupelnij.userClick();
   form.btnNadpisz.userClick();
   EXPECT_THAT(takeBoxes(), IsEmpty());
@@ -91,11 +84,11 @@ TEST_F(FillingTheRate, LinesAreCountedAnew) {
   face.answer(Answer::yes);
   form.btnUzupelnij.userClick();
   EXPECT_EQ(form.ValidLineCount, 3);
-  EXPECT_EQ(totals.cell(1, GRD_SUMA_LINE_COUNT), "4");
+  EXPECT_EQ(form.grdSuma.cell(1, GRD_SUMA_LINE_COUNT), "4");
 }
 
 TEST_F(FillingTheRate, PastTheLimitWhatWasWrittenStays) {
-  putLines(1425);
+  putLines(editor, 1425);
   form.comboStawkaVAT.userChoose(3);
   face.answer(Answer::yes);
   form.btnNadpisz.userClick();

@@ -11,7 +11,7 @@ namespace {
 using desktop::fromText;
 
 constexpr const char* number = "ТН/1";
-constexpr const char* package = "Паллета 1";
+constexpr const char* packageName = "Паллета 1";
 
 class KeyboardRoadTest : public ProgramTest {
  protected:
@@ -28,7 +28,7 @@ class KeyboardRoadTest : public ProgramTest {
       DlgSzczegoly& dialog = control().dlgSzczegoly;
       tabTo(dialog.txtPackageDesc);
       press(Qt::Key_A, Qt::ControlModifier);
-      type(package);
+      type(packageName);
       tabTo(dialog.txtSerialNumberN);
       type(fromText(serials[0]));
       tabTo(dialog.cboxILNLokalizacji);
@@ -67,8 +67,8 @@ class KeyboardRoadTest : public ProgramTest {
     Conversation editor = other.startOnLine(service);
     editor.show();
     completeHeader(editor, number);
-    test::addPackage(editor, package, serials[0]);
-    packLine(editor, 1, package);
+    test::addPackage(editor, packageName, serials[0]);
+    packLine(editor, 1, packageName);
     editor.click("btnPrzeslij");
     editor.answerAll();
     EXPECT_EQ(editor.finish(), 0);

@@ -1,5 +1,4 @@
 #include "in_table_editing.h"
-#include "support/control/desk.h"
 #include "tables/editing/in_table_editing.h"
 
 namespace awizo::test {

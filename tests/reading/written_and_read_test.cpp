@@ -146,9 +146,9 @@ TEST(SavedByAnotherProgram, AFileInTheLocalEncodingComesBackToo) {
   SavedDocument desk("ru_RU");
   desk.readBytes("<?xml version=\"1.0\" encoding=\"windows-1251\"?>" +
                  desk.locale.toSingleByte(desk.saved));
-  EXPECT_THAT(Desk::column(desk.lines, GRD_POZ_NAME), ElementsAre("Чай", "Кофе"));
+  EXPECT_THAT(column(desk.lines, GRD_POZ_NAME), ElementsAre("Чай", "Кофе"));
   desk.readBytes(desk.locale.toSingleByte(desk.saved));
-  EXPECT_THAT(Desk::column(desk.lines, GRD_POZ_NAME), ElementsAre("Чай", "Кофе"));
+  EXPECT_THAT(column(desk.lines, GRD_POZ_NAME), ElementsAre("Чай", "Кофе"));
 }
 
 }  // namespace

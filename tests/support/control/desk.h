@@ -7,7 +7,7 @@
 
 #include "platform/forms/keys.h"
 #include "support/control/test_control.h"
-#include "tables/columns/columns.h"
+#include "support/documents.h"
 
 namespace awizo::test {
 
@@ -107,44 +107,9 @@ struct Desk : TestControl {
 
   // Documents of a size that nobody would type.
 
-  /// So many lines with plain values; none of them lies in a package.
-  void putLines(int count) {
-    lines.setRows(count == 0 ? 2 : count + 1);
-    session.LineCount = static_cast<std::int16_t>(count);
-    for (int row = 1; row <= count; ++row) {
-      lines.setCell(row, GRD_POZ_LP, std::to_string(row));
-      lines.setCell(row, GRD_POZ_EAN, "4607000000116");
-      lines.setCell(row, GRD_POZ_QTY_ORDERED, "5,000");
-      lines.setCell(row, GRD_POZ_QTY_DESPATCHED, "1,000");
-      lines.setCell(row, GRD_POZ_NET_AMOUNT, "2,00");
-      lines.setCell(row, GRD_POZ_PRODUCTION_DATE, "2026-11-21");
-      lines.setCell(row, GRD_POZ_PACKED_QTY, "0,000");
-    }
-    lines.setRow(1);
-  }
-  /// So many packages; row i has serial i + 1. `parentRow` gives the row of a row's parent, 0 for a
-  /// top package.
+  void putLines(int count) { test::putLines(editor, count); }
   void putPackages(int count, const std::function<int(int row)>& parentRow) {
-    packages.setRows(count == 0 ? 2 : count + 1);
-    session.IloscPozycjiOpak = static_cast<std::int16_t>(count);
-    form.LastPackageSerial = static_cast<std::int16_t>(count + 1);
-    for (int row = 1; row <= count; ++row) {
-      const int parent = parentRow(row);
-      packages.setCell(row, GRD_OPAK_LP, std::to_string(row));
-      packages.setCell(row, GRD_OPAK_ID_LOW, std::to_string(row));
-      packages.setCell(row, GRD_OPAK_DESC, "П" + std::to_string(row));
-      packages.setCell(row, GRD_OPAK_LEVEL, "1");
-      packages.setCell(row, GRD_OPAK_PARENT_SERIAL, std::to_string(parent + 1));
-      packages.setCell(row, GRD_OPAK_SERIAL, std::to_string(row + 1));
-    }
-    packages.setRow(1);
-  }
-
-  /// Texts of one column, from row 1 to the last.
-  static std::vector<std::string> column(const Table& table, int column) {
-    std::vector<std::string> texts;
-    for (int row = 1; row < table.rows(); ++row) texts.push_back(table.cell(row, column));
-    return texts;
+    test::putPackages(editor, count, parentRow);
   }
 };
 
