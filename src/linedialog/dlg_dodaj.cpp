@@ -143,11 +143,11 @@ void DlgDodaj::Form_Load() {
   DebugLog& log = work_.session.log;
   work_.session.IsoCheckOk = true;
   choice_.ProductChangeSource = 0;
-  log.WriteDebugLine("Form_Load start");
+  log.trace("Form_Load start");
   const Cursor earlier = screen().setCursor(work_.session.WaitCursor);
   reportErrors(screen(), formLoadTitle, [&] { fillFixedLists(); });
   reportErrors(screen(), formLoadTitle, [&] { packages_.setUpTable(); });
-  log.WriteDebugLine("Form_Load utworzono obiekty MSXML2 ");
+  log.trace("Form_Load utworzono obiekty MSXML2 ");
   if (work_.session.ProductCatalogLoaded) {
     reportErrors(screen(), formLoadTitle, [&] { readCatalogue(); });
   } else {
@@ -156,7 +156,7 @@ void DlgDodaj::Form_Load() {
     }
   }
   screen().setCursor(earlier);
-  log.WriteDebugLine("Form_Load zmiana kursora na poczatkowy");
+  log.trace("Form_Load zmiana kursora na poczatkowy");
 }
 
 void DlgDodaj::fillFixedLists() {
@@ -168,7 +168,7 @@ void DlgDodaj::fillFixedLists() {
 
 void DlgDodaj::readCatalogue() {
   DebugLog& log = work_.session.log;
-  log.WriteDebugLine("Form_Load start przetwarzania slownika produktow");
+  log.trace("Form_Load start przetwarzania slownika produktow");
   const XmlNode catalogue =
       work_.session.ProductCatalogDom->node().selectSingle("Document-ProductCatalogue");
   if (catalogue) {
@@ -178,7 +178,7 @@ void DlgDodaj::readCatalogue() {
     cboxKodSprzed.setRows(products_.rowsBySupplierCode());
     cboxKodAPP.setRows(products_.rowsByBuyerCode());
   }
-  log.WriteDebugLine("Form_Load przetworzono slownik produktow");
+  log.trace("Form_Load przetworzono slownik produktow");
 }
 
 std::string DlgDodaj::symbolJednostkiMiary(std::int16_t index) const {

@@ -58,7 +58,7 @@ void DlgdodajPule::txtQuantity_Change() {
     txtQuantity.setFocus();
     return;
   }
-  const double value = conversions_.toDouble(conversions_.NormalizeDecimal(std::string(text), 2));
+  const double value = conversions_.toDouble(conversions_.NormalizeDecimal(text, 2));
   if (value < UpDown1.min() || value > UpDown1.max()) {
     txtQuantity.setText(std::to_string(UpDown1.max()));
     showRange();

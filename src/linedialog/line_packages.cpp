@@ -37,19 +37,18 @@ void LinePackages::setUpTable() {
 
 double LinePackages::GetMaxQuantity() {
   DebugLog& log = work_.session.log;
-  log.WriteDebugLine("GetMaxQuantity lblPackedQuantityValue = " +
-                     dialog_.lblPackedQuantityValue.caption());
-  log.WriteDebugLine("GetMaxQuantity txtIloscPotw = " + dialog_.txtIloscPotw.text());
+  log.trace("GetMaxQuantity lblPackedQuantityValue = ", dialog_.lblPackedQuantityValue.caption());
+  log.trace("GetMaxQuantity txtIloscPotw = ", dialog_.txtIloscPotw.text());
   const Conversions& conversions = work_.conversions;
-  return conversions.MyDouble(std::string(trimmed(dialog_.txtIloscPotw.text()))) -
-         conversions.MyDouble(std::string(dialog_.lblPackedQuantityValue.caption()));
+  return conversions.MyDouble(trimmed(dialog_.txtIloscPotw.text())) -
+         conversions.MyDouble(dialog_.lblPackedQuantityValue.caption());
 }
 
 void LinePackages::UpdatePackedQuantity() {
   const Conversions& conversions = work_.conversions;
   double sum = 0;
   for (int row = 1; row < dialog_.grdPozycje.rows(); ++row) {
-    sum += conversions.MyDouble(std::string(dialog_.grdPozycje.cell(row, 4)));
+    sum += conversions.MyDouble(dialog_.grdPozycje.cell(row, 4));
   }
   dialog_.lblPackedQuantityValue.setCaption(
       conversions.NormalizeDecimal(conversions.plainNumber(sum), 3));
@@ -70,12 +69,12 @@ void LinePackages::SetButtons() {
   const bool canAdd = hasPackages && k > 0;
   dialog_.Command1.setEnabled(canAdd);
   dialog_.Command3.setEnabled(canAdd);
-  log.WriteDebugLine("SetButtons k = " + conversions.plainNumber(k));
-  const double x = conversions.MyDouble(std::string(trimmed(dialog_.txtIloscPotw.text())));
+  log.trace("SetButtons k = ", conversions.plainNumber(k));
+  const double x = conversions.MyDouble(trimmed(dialog_.txtIloscPotw.text()));
   const bool canChange = hasPackages && x != k;
   dialog_.Command2.setEnabled(canChange);
   dialog_.Command3.setEnabled(canChange);
-  log.WriteDebugLine("SetButtons x = " + conversions.plainNumber(x));
+  log.trace("SetButtons x = ", conversions.plainNumber(x));
 }
 
 void LinePackages::Command1_Click() {
@@ -125,8 +124,7 @@ void LinePackages::writeAssignment(int row) {
   write(1, session.ParentSerials[package]);
   write(2, session.ParentDescriptions[package]);
   write(3, std::to_string(session.ParentLevels[package]));
-  write(4, work_.conversions.NormalizeDecimal(
-               std::string(trimmed(quantityDialog_.txtQuantity.text())), 3));
+  write(4, work_.conversions.NormalizeDecimal(trimmed(quantityDialog_.txtQuantity.text()), 3));
 }
 
 void LinePackages::Command2_Click() {
@@ -176,7 +174,7 @@ void LinePackages::tellWhatIsUnpacked() {
     if (cell.empty()) continue;
     packed += conversions.toDouble(conversions.NormalizeDecimal(Conversions::CommaToDot(cell), 2));
   }
-  if (conversions.MyDouble(std::string(dialog_.txtIloscPotw.text())) > packed) {
+  if (conversions.MyDouble(dialog_.txtIloscPotw.text()) > packed) {
     work_.screen().messageBox({"Отгруженный товар упакован не полностью", ""});
   }
 }

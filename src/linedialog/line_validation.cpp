@@ -32,8 +32,8 @@ bool checkProductAndQuantities(Work& work, DlgDodaj& dialog) {
                   &dialog.txtIloscPotw);
   }
   if (dialog.txtIloscZam.text().empty()) return true;
-  const double ordered = conversions.MyDouble(std::string(trimmed(dialog.txtIloscZam.text())));
-  const double despatched = conversions.MyDouble(std::string(trimmed(dialog.txtIloscPotw.text())));
+  const double ordered = conversions.MyDouble(trimmed(dialog.txtIloscZam.text()));
+  const double despatched = conversions.MyDouble(trimmed(dialog.txtIloscPotw.text()));
   if (despatched <= ordered) return true;
   for (const std::string_view buyer : buyersTakingMore) {
     if (work.platform.locale.sameIgnoringCase(work.session.BuyerILN, buyer)) return true;

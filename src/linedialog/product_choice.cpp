@@ -38,12 +38,12 @@ void ProductChoice::followList(DropDownList& list, std::int16_t mark, TextField&
   reportErrors(work_.screen(), "VIRDПроизошла ошибка в  " + event, [&] {
     try {
       DebugLog& log = work_.session.log;
-      log.WriteDebugLine(event + " start");
+      log.trace(event, " start");
       if (ProductChangeSource == 0) ProductChangeSource = mark;
       field.setText(list.text());
       onward();
       if (ProductChangeSource == mark) ProductChangeSource = 0;
-      log.WriteDebugLine(event + " koniec");
+      log.trace(event, " koniec");
     } catch (const RunTimeError& error) {
       chainIsEndless_ = !begins && error.number() == errors::outOfStackSpace().number();
       if (!chainIsEndless_) throw;
@@ -115,8 +115,7 @@ void ProductChoice::takeProduct(std::size_t line) {
   } else {
     dialog_.cboxJednostkaMiary.setIndex(unit);
   }
-  dialog_.txtCenaNetto.setText(
-      work_.conversions.NormalizeDecimal(std::string(p.ProdPrice[line]), 2));
+  dialog_.txtCenaNetto.setText(work_.conversions.NormalizeDecimal(p.ProdPrice[line], 2));
   dialog_.txtAmount.setText(dialog_.MyCalculateAmount());
   dialog_.cboxStawkaVAT.setIndex(dialog_.indexStawkaVAT(p.ProdTaxRate[line]));
   dialog_.cboxKodVAT.setIndex(dialog_.indexKodVAT(p.ProdTaxCategory[line]));

@@ -5,7 +5,7 @@
 namespace awizo {
 
 void tidyNumber(const Conversions& conversions, TextField& field, int decimals) {
-  field.setText(conversions.NormalizeDecimal(std::string(trimmed(field.text())), decimals));
+  field.setText(conversions.NormalizeDecimal(trimmed(field.text()), decimals));
 }
 
 }  // namespace awizo

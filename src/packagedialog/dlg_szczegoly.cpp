@@ -68,15 +68,15 @@ void DlgSzczegoly::LoadLocalizationDictionary() {
     const SessionState& session = work_.session;
     DebugLog& log = work_.session.log;
     cboxLokalizacja.setStyle(ListStyle::freeTyping);
-    log.WriteDebugLine(std::string("LoadLocalizationDictionary: xml_loc_loaded = ") +
-                       (session.LocalizationsLoaded ? "True" : "False"));
+    log.trace("LoadLocalizationDictionary: xml_loc_loaded = ",
+              session.LocalizationsLoaded ? "True" : "False");
     if (!session.LocalizationsLoaded) return;
-    log.WriteDebugLine("Form_Load start przetwarzania slownika lokalizacji");
+    log.trace("Form_Load start przetwarzania slownika lokalizacji");
     const XmlNode root = session.LocalizationsDom->root();
     const XmlNode catalogue =
         root ? root.selectSingle("document-content/Document-LocalizationsCatalog") : XmlNode{};
     if (catalogue) offerLocalizations(catalogue.selectSingle("localizations").children());
-    log.WriteDebugLine("Form_Load przetworzono slownik lokalizacji");
+    log.trace("Form_Load przetworzono slownik lokalizacji");
   });
 }
 
@@ -90,14 +90,14 @@ void DlgSzczegoly::offerLocalizations(const std::vector<XmlNode>& entries) {
 
 void DlgSzczegoly::PreparePackages(bool editMode) {
   DebugLog& log = work_.session.log;
-  log.WriteDebugLine("P1");
-  log.WriteDebugLine("cboxParentPackage.ListCount = " + std::to_string(cboxParentPackage.count()));
+  log.trace("P1");
+  log.trace("cboxParentPackage.ListCount = ", cboxParentPackage.count());
   const std::vector<std::string>& descriptions = work_.session.ParentDescriptions;
   cboxParentPackage.clear();
   for (std::size_t i = 0; i + 1 < descriptions.size(); ++i) {
     cboxParentPackage.addRow(descriptions[i]);
   }
-  log.WriteDebugLine("P2");
+  log.trace("P2");
   cboxParentPackage.clearSelection();
   if (editMode) {
     cboxParentPackage.setEnabled(false);
@@ -108,12 +108,12 @@ void DlgSzczegoly::PreparePackages(bool editMode) {
     cboxParentPackage.setEnabled(true);
     lblLevelValue.setCaption("");
   }
-  log.WriteDebugLine("P3");
+  log.trace("P3");
 }
 
 void DlgSzczegoly::cboxParentPackage_Click() {
   const int index = cboxParentPackage.index();
-  work_.session.log.WriteDebugLine("cboxParentPackage_Click: index = " + std::to_string(index));
+  work_.session.log.trace("cboxParentPackage_Click: index = ", index);
   const auto place = static_cast<std::size_t>(index);
   if (index < 0 || place >= work_.session.ParentLevels.size()) {
     throw errors::subscriptOutOfRange();
@@ -145,9 +145,9 @@ void DlgSzczegoly::cboxILNLokalizacji_Change() {
 }
 
 void DlgSzczegoly::cboxLokalizacja_Change() {
-  work_.session.log.WriteDebugLine("cboxLokalizacja_Change start");
+  work_.session.log.trace("cboxLokalizacja_Change start");
   cboxILNLokalizacji.setIndex(cboxLokalizacja.index());
-  work_.session.log.WriteDebugLine("cboxLokalizacja_Change koniec");
+  work_.session.log.trace("cboxLokalizacja_Change koniec");
 }
 
 void DlgSzczegoly::btnDodaj_Click() {
