@@ -86,8 +86,12 @@ void Waiting::begin() {
 }
 
 void Waiting::end() {
-  // Clicks and keys that still wait were meant for the window as it was.
-  if (spans_ == 1 && applied_) QCoreApplication::processEvents();
+  if (spans_ == 1 && applied_) {
+    // What the work changed is laid out before it is painted.
+    QCoreApplication::sendPostedEvents();
+    // Clicks and keys that still wait were meant for the window as it was.
+    QCoreApplication::processEvents();
+  }
   --spans_;
   apply();
 }
