@@ -244,7 +244,7 @@ TEST_F(ChoosingAProduct, AmongEqualEANsTheFirstRowWinsAndIsntFilledAgain) {
   });
 }
 
-TEST_F(ProductChoice, TheSecondRowOfAnEANLeadsToTheFieldsOfTheFirst) {
+TEST_F(ChoosingAProduct, TheSecondRowOfAnEANLeadsToTheFieldsOfTheFirst) {
   test.loadProducts({{"4601", "Кофе", "s1", "b1", "<UnitNetPrice>1</UnitNetPrice>"},
                      {"4601", "Чай", "s2", "b2", "<UnitNetPrice>2</UnitNetPrice>"}});
   ASSERT_THAT(dialog.dictionary().IdxEAN, ElementsAre(1, 0));
@@ -254,7 +254,7 @@ TEST_F(ProductChoice, TheSecondRowOfAnEANLeadsToTheFieldsOfTheFirst) {
   EXPECT_THAT(lists(), ElementsAre("4601", "Кофе", "b1", "s1"));
   EXPECT_THAT(fields(), ElementsAre("4601", "Кофе", "b2", "s2"));
   EXPECT_EQ(dialog.txtCenaNetto.text(), "2,00");
-  EXPECT_EQ(dialog.ProductChangeSource, 0);
+  EXPECT_EQ(dialog.productChoice().ProductChangeSource, 0);
   EXPECT_THAT(test.takeBoxes(), IsEmpty());
 }
 

@@ -6,7 +6,7 @@
 #include <set>
 
 #include "platform/text.h"
-#include "test_control.h"
+#include "support/control/test_control.h"
 
 namespace awizo::test {
 namespace {
