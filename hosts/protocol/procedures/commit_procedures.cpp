@@ -12,7 +12,6 @@ namespace awizo::protocol {
 
 // The outside gets no answer of those that answer to their buttons alone.
 void addCommitProcedures(Procedures& procedures, AwizoWysylki& control) {
-  using Text = const std::string&;
   Editor& editor = control.editor;
   procedures.add("ZatwierdzPozycje", [&](std::int16_t row) {
     std::ignore = ZatwierdzPozycje(editor, control.dlgDodaj.touch(), row);

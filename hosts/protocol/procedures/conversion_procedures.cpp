@@ -4,7 +4,6 @@
 namespace awizo::protocol {
 
 void addConversionProcedures(Procedures& procedures, Editor& editor) {
-  using Text = const std::string&;
   const Conversions& conversions = editor.conversions;
   procedures.add("GetDecimalSeparator", [&] { return conversions.GetDecimalSeparator(); });
   procedures.add("CommaToDot", [](Text text) { return Conversions::CommaToDot(text); });

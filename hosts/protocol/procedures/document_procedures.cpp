@@ -14,8 +14,6 @@ namespace awizo::protocol {
 
 namespace {
 
-using Text = const std::string&;
-
 void addCustomsNumber(Procedures& procedures, Editor& editor) {
   procedures.add("SplitCDN", [&](Text cdn) { return SplitCDN(editor, cdn); });
   procedures.add("JoinCDN", [](Text field1, Text field2, Text field3, Text field4) {

@@ -16,7 +16,6 @@ constexpr std::int16_t traceLevel = 4;
 
 void addHostProcedures(Procedures& procedures, AwizoWysylki& control) {
   Editor& editor = control.editor;
-  using Text = const std::string&;
   procedures.add("OpenDebugLog", [&](Text path, std::int16_t level) {
     editor.session.log.OpenDebugLog(path, level);
   });

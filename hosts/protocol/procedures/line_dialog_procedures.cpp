@@ -6,8 +6,6 @@ namespace awizo::protocol {
 
 namespace {
 
-using Text = const std::string&;
-
 void addCodes(Procedures& procedures, DlgDodaj& dialog) {
   procedures.add("DlgDodaj.symbolJednostkiMiary",
                  [&](std::int16_t index) { return dialog.touch().symbolJednostkiMiary(index); });

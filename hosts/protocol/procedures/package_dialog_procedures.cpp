@@ -4,7 +4,6 @@
 namespace awizo::protocol {
 
 void addPackageDialogProcedures(Procedures& procedures, AwizoWysylki& control) {
-  using Text = const std::string&;
   DlgSzczegoly& dialog = control.dlgSzczegoly;
   const Locale& locale = control.editor.platform.locale;
   procedures.add("DlgSzczegoly.symbolPackageType", [&](std::int16_t index) {

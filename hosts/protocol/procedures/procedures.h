@@ -14,6 +14,9 @@
 
 namespace awizo::protocol {
 
+/// A text that a line gives to a procedure.
+using Text = const std::string&;
+
 /// The procedures that a line can call, by name. A procedure is registered as a function; its
 /// parameters say what the line has to give: values, or references to what the procedure changes.
 /// A trailing std::optional parameter may be left out.
