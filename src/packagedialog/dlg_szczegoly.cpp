@@ -98,7 +98,6 @@ void DlgSzczegoly::PreparePackages(bool editMode) {
     cboxParentPackage.addRow(descriptions[i]);
   }
   log.trace("P2");
-  cboxParentPackage.clearSelection();
   if (editMode) {
     cboxParentPackage.setEnabled(false);
   } else if (cboxParentPackage.count() == 0) {
@@ -135,7 +134,7 @@ bool DlgSzczegoly::isKnown(const std::vector<std::string>& entries, std::string_
   const Locale& locale = work_.platform.locale;
   const std::string upper = locale.upper(text);
   for (std::size_t i = 0; i + 1 < entries.size(); ++i) {
-    if (entries[i] == text || locale.upper(entries[i]) == upper) return true;
+    if (locale.upper(entries[i]) == upper) return true;
   }
   return false;
 }

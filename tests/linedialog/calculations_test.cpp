@@ -158,6 +158,15 @@ TEST_P(LeavingAField, GivesQuantitiesThreeDecimals) {
   EXPECT_EQ(left(dialog.txtIloscPotw, "2"), local("2,000"));
 }
 
+TEST_P(LeavingAField, TheTrimmedDespatchedQuantityIsAChangeOfItsOwn) {
+  std::vector<std::string> seen;
+  dialog.txtIloscPotw.onChange = [&] { seen.push_back(dialog.txtIloscPotw.text()); };
+  left(dialog.txtIloscPotw, " 4 ");
+  ASSERT_GE(seen.size(), 2U);
+  EXPECT_EQ(seen[seen.size() - 2], "4");
+  EXPECT_EQ(seen.back(), local("4,000"));
+}
+
 TEST_P(LeavingAField, GivesPriceAndAmountTwoDecimals) {
   EXPECT_EQ(left(dialog.txtCenaNetto, " 1,235 "), local("1,24"));
   EXPECT_EQ(left(dialog.txtAmount, " 7 "), local("7,00"));

@@ -188,6 +188,17 @@ TEST_F(IsoList, ARangeMarkedByTheShiftKeyFallsBackToo) {
   });
 }
 
+TEST_F(IsoList, TheShiftKeyItselfIsHeldWhateverTheMarksOfItsEvent) {
+  show([&] {
+    table.onKeyDown(keys::shift, false);
+    EXPECT_TRUE(list.ShiftHeld);
+    table.onKeyUp(keys::shift, false);
+    EXPECT_FALSE(list.ShiftHeld);
+    table.onKeyDown(keys::down, false);
+    EXPECT_FALSE(list.ShiftHeld);
+  });
+}
+
 TEST_F(IsoList, TheTableIsntPaintedWhileShiftOrTheMouseIsHeld) {
   std::vector<bool> painting;
   show([&] {

@@ -52,6 +52,29 @@ TEST_F(LinePackagesAlone, AddsChangesAndTakesOut) {
   EXPECT_EQ(dialog.lblPackedQuantityValue.caption(), "0,000");
 }
 
+TEST_F(LinePackagesAlone, WithoutAPackageOffersAnEmptyList) {
+  test.offer({});
+  dialog.txtIloscPotw.setText("7");
+  test.face.onModal([this] {
+    EXPECT_EQ(small.cboxPackages.count(), 0);
+    small.btnZamknij.userClick();
+  });
+  packages.Command1_Click();
+  EXPECT_TRUE(test.face.boxes().empty());
+}
+
+TEST_F(LinePackagesAlone, TheLimitIsAWholeNumberOfThirtyTwoBits) {
+  const auto limitOf = [this](const std::string& despatched, const std::string& packed) {
+    dialog.txtIloscPotw.setText(despatched);
+    dialog.lblPackedQuantityValue.setCaption(packed);
+    test.face.onModal([this] { small.btnZamknij.userClick(); });
+    packages.Command1_Click();
+    return std::int64_t{small.UpDown1.max()};
+  };
+  EXPECT_EQ(limitOf("1", "-2147483646"), 2147483647);
+  EXPECT_EQ(limitOf("0", "2147483648"), -2147483648);
+}
+
 TEST_F(LinePackagesAlone, TellsWhatIsUnpacked) {
   dialog.txtIloscPotw.setText("7");
   dialog.grdPozycje.setCell(1, 4, "7,000");

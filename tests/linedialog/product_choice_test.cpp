@@ -282,6 +282,17 @@ TEST_F(ChoosingAProduct, LinesThatLeadToEachOtherWithoutEndAreToldOnce) {
   EXPECT_THAT(test.takeBoxes(), IsEmpty());
 }
 
+// Before the chain goes round and round, the event of one list has come to its end within it.
+TEST_F(ChoosingAProduct, AnEventThatEndsWithinAnEndlessChainDoesntBeginAnother) {
+  test.loadProducts({{"2", "б", "s0", "b0"}, {"1", "а", "s2", "b2"}, {"1", "а", "s2", "b0"}});
+  test.show([&] {
+    dialog.cboxKodSprzed.userChoose(0);
+    EXPECT_THAT(test.takeBoxes(),
+                ElementsAre("VIRDПроизошла ошибка в  cboxKodSprzed_Change|critical|OK|Out of "
+                            "stack space"));
+  });
+}
+
 // Lines without codes.
 
 TEST_F(ChoosingAProduct, ALineWithoutACodeEmptiesTheListAndSelectsNoOtherSuchLine) {

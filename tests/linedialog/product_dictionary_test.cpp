@@ -108,9 +108,10 @@ TEST_P(Dictionary, OfSeveralItemsTheFirstThatHasAValueGivesIt) {
                   "</Line-Item><Line-Item><EAN>4601</EAN><ItemDescription>Сок</ItemDescription>"
                   "</Line-Item></Line>"
                   "<Line><Line-Item><EAN>4602</EAN><EAN>4603</EAN></Line-Item><Other/></Line>"
+                  "<Line><Line-Item/><Line-Item><EAN>4605</EAN></Line-Item></Line>"
                   "<Line><Item><EAN>4604</EAN></Item></Line>"));
-  EXPECT_THAT(products.ProdEAN, ElementsAre("4601", "4602", "-1"));
-  EXPECT_THAT(products.ProdName, ElementsAre("Чай", "-1", "-1"));
+  EXPECT_THAT(products.ProdEAN, ElementsAre("4601", "4602", "4605", "-1"));
+  EXPECT_THAT(products.ProdName, ElementsAre("Чай", "-1", "-1", "-1"));
 }
 
 TEST_P(Dictionary, OnlyTheFirstListOfLinesIsRead) {

@@ -284,6 +284,21 @@ TEST_P(LineValidation, TidiesTheFieldsThatItReads) {
   EXPECT_EQ(dialog.txtAmount.text(), local("3,53"));
 }
 
+// Code may have filled a field that the user never left.
+TEST_P(LineValidation, TidiesWhatNobodyHasLeft) {
+  test.show([&] {
+    typeGoodLine();
+    dialog.txtIloscPotw.setText(local("5,000"));
+    dialog.txtAmount.setText(" 7 ");
+    dialog.txtCDN1.setText("12");
+    dialog.txtCDN3.setText("7");
+    EXPECT_TRUE(dialog.Walidacja());
+  });
+  EXPECT_EQ(dialog.txtAmount.text(), local("7,00"));
+  EXPECT_EQ(dialog.txtCDN1.text(), "00000012");
+  EXPECT_EQ(dialog.txtCDN3.text(), "0000007");
+}
+
 TEST_P(LineValidation, AHostileTextInEveryFieldOnlyRefuses) {
   const std::string hostile = std::string(100000, '9') + "$@<&>\x01";
   test.show([&] {
