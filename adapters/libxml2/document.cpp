@@ -85,12 +85,16 @@ XmlNode Document::createElement(std::string_view name) {
 
 void Document::keepOnly(const XmlNode& element) {
   if (!element) throw errors::objectNotSet();
-  if (FlatTree* flat = content_.flat(); flat && flat->holds(element.handle())) {
+  // A node that was appended here is still known by the document it came from.
+  auto* const from = dynamic_cast<Document*>(element.document());
+  if (!from) throw errors::invalidProcedureCall();
+  if (FlatTree* flat = from == this ? content_.flat() : nullptr;
+      flat && flat->holds(element.handle())) {
     const FlatNode* kept = content_.flatNodeOf(element.handle());
     if (!kept->name) throw errors::invalidProcedureCall();
     flat->keepOnly(kept);
   } else {
-    keepOnlyNode(content_.nodeOf(element.handle()));
+    keepOnlyNode(from->content_.nodeOf(element.handle()));
   }
   content_.bareDocument()->standalone = -1;
   declaration_ = {};

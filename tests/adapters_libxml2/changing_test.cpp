@@ -239,6 +239,15 @@ TEST(Keeping, AnElementKeepsItsNamespaces) {
   EXPECT_TRUE(Libxml2().createDocument()->loadText(document->root().xml()));
 }
 
+TEST(Keeping, AnElementThatCameFromAnotherDocumentDropsAllTheRest) {
+  const auto document = loaded("<a><b/></a>");
+  const auto other = loaded("<c><d/></c>");
+  const XmlNode moved = other->root().firstChild();
+  document->root().append(moved);
+  document->keepOnly(moved);
+  EXPECT_EQ(document->node().xml(), "<d/>");
+}
+
 TEST(Keeping, ANodeThatCantBeTheDocumentElementIsAnError) {
   const auto document = loaded("<a>text</a>");
   EXPECT_EQ(errorNumberOf([&] { document->keepOnly(XmlNode()); }), 91);
