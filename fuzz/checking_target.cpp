@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "formats/checking/document_check.h"
+#include "formats/upper/checking/document_check.h"
 #include "fuzz/fuzzed_control.h"
 #include "fuzz/targets.h"
 #include "platform/run_time_error.h"

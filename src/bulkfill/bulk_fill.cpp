@@ -7,8 +7,8 @@
 #include "platform/text.h"
 #include "session/record/countries.h"
 #include "tables/columns/columns.h"
-#include "tables/editing/country_lists.h"
 #include "tables/row.h"
+#include "tables/upper/editing/country_lists.h"
 
 namespace awizo {
 namespace {

@@ -1,6 +1,6 @@
 #include "bulkfill/country_picker.h"
 
-#include "tables/editing/country_lists.h"
+#include "tables/upper/editing/country_lists.h"
 
 namespace awizo {
 

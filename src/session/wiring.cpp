@@ -1,13 +1,13 @@
 #include "bulkfill/bulk_fill.h"
 #include "bulkfill/country_picker.h"
-#include "formats/reading/despatch_advice_reader.h"
 #include "formats/saving.h"
-#include "service/sending/sending.h"
+#include "formats/upper/reading/despatch_advice_reader.h"
+#include "service/upper/sending/sending.h"
 #include "session/awizo_wysylki.h"
-#include "tables/editing/in_table_editing.h"
-#include "tables/editing/line_commit.h"
-#include "tables/editing/package_commit.h"
-#include "tables/editing/removal.h"
+#include "tables/upper/editing/in_table_editing.h"
+#include "tables/upper/editing/line_commit.h"
+#include "tables/upper/editing/package_commit.h"
+#include "tables/upper/editing/removal.h"
 
 namespace awizo {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "formats/checking/document_check.h"
+#include "formats/upper/checking/document_check.h"
 #include "support/test_editor.h"
 
 namespace awizo::test {

@@ -1,4 +1,4 @@
-#include "tables/editing/clear_form.h"
+#include "tables/upper/editing/clear_form.h"
 
 #include "support/cells.h"
 #include "support/control/desk.h"

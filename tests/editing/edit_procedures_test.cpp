@@ -1,5 +1,5 @@
 #include "in_table_editing.h"
-#include "tables/editing/in_table_editing.h"
+#include "tables/upper/editing/in_table_editing.h"
 
 namespace awizo::test {
 namespace {

@@ -1,5 +1,5 @@
 #include "support/control/desk.h"
-#include "tables/editing/line_commit.h"
+#include "tables/upper/editing/line_commit.h"
 
 namespace awizo::test {
 namespace {

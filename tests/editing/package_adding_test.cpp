@@ -1,5 +1,5 @@
 #include "support/control/desk.h"
-#include "tables/editing/package_commit.h"
+#include "tables/upper/editing/package_commit.h"
 
 namespace awizo::test {
 namespace {

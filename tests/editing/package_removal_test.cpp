@@ -1,5 +1,5 @@
 #include "support/control/desk.h"
-#include "tables/editing/package_subtree.h"
+#include "tables/upper/editing/package_subtree.h"
 
 namespace awizo::test {
 namespace {

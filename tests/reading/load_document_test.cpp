@@ -1,4 +1,4 @@
-#include "formats/reading/despatch_advice_reader.h"
+#include "formats/upper/reading/despatch_advice_reader.h"
 #include "reading_desk.h"
 
 namespace awizo::test {

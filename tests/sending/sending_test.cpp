@@ -1,4 +1,4 @@
-#include "service/sending/sending.h"
+#include "service/upper/sending/sending.h"
 
 #include "support/test_editor.h"
 #include "tables/columns/columns.h"

@@ -4,9 +4,9 @@
 
 #include "bulkfill/bulk_fill.h"
 #include "hosts/protocol/procedures/control_procedures.h"
-#include "tables/editing/line_commit.h"
-#include "tables/editing/package_commit.h"
-#include "tables/editing/package_subtree.h"
+#include "tables/upper/editing/line_commit.h"
+#include "tables/upper/editing/package_commit.h"
+#include "tables/upper/editing/package_subtree.h"
 
 namespace awizo::protocol {
 

@@ -3,11 +3,11 @@
 #include "hosts/protocol/procedures/control_procedures.h"
 #include "session/array_remove_item.h"
 #include "tables/clear_tables.h"
-#include "tables/editing/clear_form.h"
-#include "tables/editing/in_table_editing.h"
 #include "tables/flat_index.h"
 #include "tables/package_references.h"
 #include "tables/totals.h"
+#include "tables/upper/editing/clear_form.h"
+#include "tables/upper/editing/in_table_editing.h"
 
 namespace awizo::protocol {
 
