@@ -2,10 +2,10 @@
 
 #include <QVBoxLayout>
 
+#include "desk/layout_words.h"
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/layouts/dialog_layouts.h"
 #include "hosts/desktop/layouts/fields.h"
-#include "session/layout_words.h"
 
 namespace awizo::desktop {
 namespace {

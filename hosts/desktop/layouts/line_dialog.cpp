@@ -1,12 +1,12 @@
 #include <QAbstractButton>
 #include <QVBoxLayout>
 
+#include "desk/layout_words.h"
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/table_face.h"
 #include "hosts/desktop/layouts/dialog_layouts.h"
 #include "hosts/desktop/layouts/fields.h"
 #include "linedialog/dlg_dodaj.h"
-#include "session/layout_words.h"
 
 namespace awizo::desktop {
 namespace {

@@ -1,9 +1,9 @@
 #include <QVBoxLayout>
 
+#include "desk/layout_words.h"
 #include "hosts/desktop/layouts/dialog_layouts.h"
 #include "hosts/desktop/layouts/fields.h"
 #include "packagedialog/dlg_szczegoly.h"
-#include "session/layout_words.h"
 
 namespace awizo::desktop {
 namespace {

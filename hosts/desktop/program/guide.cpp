@@ -6,8 +6,8 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include "desk/layout_words.h"
 #include "hosts/desktop/faces/text.h"
-#include "session/layout_words.h"
 
 namespace awizo::desktop {
 

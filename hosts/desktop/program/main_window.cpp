@@ -6,13 +6,13 @@
 #include <QScrollArea>
 #include <QTimer>
 
+#include "desk/host_boxes.h"
+#include "desk/layout_words.h"
 #include "hosts/desktop/faces/icons.h"
 #include "hosts/desktop/program/addresses.h"
 #include "hosts/desktop/program/guide.h"
 #include "hosts/desktop/window/commands.h"
 #include "session/awizo_wysylki.h"
-#include "session/host_boxes.h"
-#include "session/layout_words.h"
 #include "session/record/off_line_path.h"
 
 namespace awizo::desktop {

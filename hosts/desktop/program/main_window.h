@@ -4,11 +4,11 @@
 #include <QMenu>
 #include <memory>
 
+#include "desk/commands.h"
 #include "hosts/common/given_host.h"
 #include "hosts/common/options.h"
 #include "hosts/common/program/machine.h"
 #include "hosts/desktop/window/awizo_wysylki_widget.h"
-#include "session/commands.h"
 
 namespace awizo::desktop {
 

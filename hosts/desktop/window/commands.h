@@ -4,8 +4,8 @@
 #include <map>
 #include <vector>
 
+#include "desk/commands.h"
 #include "hosts/desktop/faces/form_face.h"
-#include "session/commands.h"
 
 namespace awizo::desktop {
 

@@ -4,9 +4,9 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "desk/layout_words.h"
 #include "hosts/desktop/layouts/fields.h"
 #include "hosts/desktop/window/main_layout.h"
-#include "session/layout_words.h"
 
 namespace awizo::desktop {
 namespace {

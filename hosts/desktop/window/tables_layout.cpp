@@ -6,13 +6,13 @@
 #include <initializer_list>
 #include <vector>
 
+#include "desk/commands.h"
+#include "desk/layout_words.h"
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/table_face.h"
 #include "hosts/desktop/layouts/fields.h"
 #include "hosts/desktop/window/column_fill.h"
 #include "hosts/desktop/window/main_layout.h"
-#include "session/commands.h"
-#include "session/layout_words.h"
 #include "tables/columns/columns.h"
 
 namespace awizo::desktop {

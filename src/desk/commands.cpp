@@ -1,4 +1,4 @@
-#include "session/commands.h"
+#include "desk/commands.h"
 
 #include "platform/forms/keys.h"
 #include "platform/text.h"

@@ -1,4 +1,4 @@
-#include "session/commands.h"
+#include "desk/commands.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "session/host_boxes.h"
+#include "desk/host_boxes.h"
 
 #include "platform/text.h"
 
