@@ -15,7 +15,7 @@ namespace awizo::demo {
 
 namespace {
 
-// The library forgets headers without a value; an empty cookie is to be told from none.
+/// The library forgets headers without a value; an empty cookie is to be told from none.
 void addEmptyHeaders(const std::string& head, httplib::Request& request) {
   std::istringstream lines(head);
   for (std::string line; std::getline(lines, line);) {
@@ -26,7 +26,7 @@ void addEmptyHeaders(const std::string& head, httplib::Request& request) {
   }
 }
 
-// A request that announces no body has none. The library would wait for the connection's end.
+/// A request that announces no body has none. The library would wait for the connection's end.
 void announceNoBody(httplib::Request& request) {
   if (request.has_header("Content-Length") || request.has_header("Transfer-Encoding")) return;
   request.headers.emplace("Content-Length", "0");

@@ -9,10 +9,10 @@
 
 namespace awizo::demo {
 
-// A reply of this status isn't sent: the connection is closed without a word.
+/// A reply of this status isn't sent: the connection is closed without a word.
 inline constexpr int statusOfNoReply = 444;
 
-// The server's side of one TCP connection, with a reply that can be left out.
+/// The server's side of one TCP connection, with a reply that can be left out.
 class Connection : public httplib::Stream {
  public:
   explicit Connection(socket_t socket) : socket_(socket) {}
@@ -25,8 +25,8 @@ class Connection : public httplib::Stream {
   void get_local_ip_and_port(std::string& address, int& port) const override;
   socket_t socket() const override { return socket_; }
 
-  // What was read so far: called when the head of a request has come, the head as it stood.
-  // Nothing is kept of what is read after it.
+  /// What was read so far: called when the head of a request has come, the head as it stood.
+  /// Nothing is kept of what is read after it.
   std::string takeHead();
 
  private:
@@ -40,11 +40,11 @@ class Connection : public httplib::Stream {
   bool silent_ = false;
 };
 
-// An HTTP server that answers one request per connection, can leave out a reply, and ends at once
-// even while clients are connected.
+/// An HTTP server that answers one request per connection, can leave out a reply, and ends at once
+/// even while clients are connected.
 class OneShotServer : public httplib::Server {
  public:
-  // Closes the server's and all clients' connections.
+  /// Closes the server's and all clients' connections.
   void endAll();
 
  private:

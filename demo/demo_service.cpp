@@ -21,7 +21,7 @@ std::optional<std::string> header(const httplib::Request& request, const char* n
   return request.get_header_value(name);
 }
 
-// Bytes of which no XML parser and no character set makes sense.
+/// Bytes of which no XML parser and no character set makes sense.
 std::string garbage() {
   std::string bytes = "<<\xFF\xFE not XML &\x01";
   bytes.push_back('\0');
@@ -49,7 +49,7 @@ void fillFaulty(FaultKind kind, httplib::Response& response) {
   }
 }
 
-// Announces the whole reply and breaks the connection in its middle.
+/// Announces the whole reply and breaks the connection in its middle.
 void fillCut(std::string reply, httplib::Response& response) {
   const std::size_t size = reply.size();
   response.set_content_provider(
@@ -64,7 +64,7 @@ bool replacesReply(FaultKind kind) {
          kind == FaultKind::Status500;
 }
 
-// Gives the lines of `text` as settings; nothing if one of them isn't a setting.
+/// Gives the lines of `text` as settings; nothing if one of them isn't a setting.
 std::optional<std::vector<FaultSetting>> faultSettings(const std::string& text) {
   std::vector<FaultSetting> settings;
   std::istringstream lines(text);

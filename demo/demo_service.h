@@ -11,18 +11,18 @@
 
 namespace awizo::demo {
 
-// The service on the loopback address, from its construction to its destruction. Beside the five
-// exchanges and the host page it takes these commands, which no page of the service collides with:
-//   POST   /_faults    lines EXCHANGE=KIND: sets faults; status 400 for what isn't one
-//   DELETE /_faults    no exchange fails any more
-//   GET    /_held      waits until a reply is being held back; gives the number of such replies
-//   POST   /_release   lets go the replies that are being held back
-//   GET    /_requests  the requests since the start or the last reset, as JSON
-//   POST   /_reset     the order waits again, no faults, no requests; posted documents stay
+/// The service on the loopback address, from its construction to its destruction. Beside the five
+/// exchanges and the host page it takes these commands, which no page of the service collides with:
+///   POST   /_faults    lines EXCHANGE=KIND: sets faults; status 400 for what isn't one
+///   DELETE /_faults    no exchange fails any more
+///   GET    /_held      waits until a reply is being held back; gives the number of such replies
+///   POST   /_release   lets go the replies that are being held back
+///   GET    /_requests  the requests since the start or the last reset, as JSON
+///   POST   /_reset     the order waits again, no faults, no requests; posted documents stay
 class DemoService {
  public:
-  // Starts to listen. Raises std::runtime_error if the port can't be taken or the data folder is
-  // missing.
+  /// Starts to listen. Raises std::runtime_error if the port can't be taken or the data folder is
+  /// missing.
   explicit DemoService(const Options& options);
   // Ends all connections and stops.
   ~DemoService();
@@ -30,7 +30,7 @@ class DemoService {
   DemoService& operator=(const DemoService&) = delete;
 
   int port() const { return port_; }
-  // The address of the host page, two levels under the root of the service.
+  /// The address of the host page, two levels under the root of the service.
   std::string pageUrl() const;
 
  private:

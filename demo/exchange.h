@@ -6,7 +6,7 @@
 
 namespace awizo::demo {
 
-// The five exchanges that the service offers. Each is one POST of an XML document.
+/// The five exchanges that the service offers. Each is one POST of an XML document.
 enum class Exchange { PartnerInfo, ProductCatalogue, DeliveryPlaces, Order, Upload };
 
 inline constexpr std::array allExchanges{Exchange::PartnerInfo, Exchange::ProductCatalogue,
@@ -18,9 +18,9 @@ inline constexpr std::array allExchanges{Exchange::PartnerInfo, Exchange::Produc
 std::string_view exchangeName(Exchange exchange);
 std::optional<Exchange> exchangeNamed(std::string_view name);
 
-// The exchange that the page at the end of `path` serves. The folders before it don't matter: the
-// service stands at the root of the address as well as in any folder, and doubled slashes count as
-// one. No page of the service: nothing.
+/// The exchange that the page at the end of `path` serves. The folders before it don't matter: the
+/// service stands at the root of the address as well as in any folder, and doubled slashes count as
+/// one. No page of the service: nothing.
 std::optional<Exchange> exchangeAt(std::string_view path);
 
 }  // namespace awizo::demo

@@ -12,22 +12,22 @@
 
 namespace awizo::demo {
 
-// What goes wrong with an exchange. Drop, Garbage, Empty and Status500 come instead of the
-// exchange: no order is handed out, no document is stored. Cut and Slow only spoil the way of a
-// reply that was given in earnest.
+/// What goes wrong with an exchange. Drop, Garbage, Empty and Status500 come instead of the
+/// exchange: no order is handed out, no document is stored. Cut and Slow only spoil the way of a
+/// reply that was given in earnest.
 enum class FaultKind {
   None,
-  Drop,       // the connection is closed without a byte of reply
-  Cut,        // the reply's second half never comes
-  Garbage,    // bytes that are neither XML nor text
-  Empty,      // a reply of no bytes
-  Status500,  // status 500 with a page that isn't XML
-  Slow,       // the reply is held back
+  Drop,       ///< the connection is closed without a byte of reply
+  Cut,        ///< the reply's second half never comes
+  Garbage,    ///< bytes that are neither XML nor text
+  Empty,      ///< a reply of no bytes
+  Status500,  ///< status 500 with a page that isn't XML
+  Slow,       ///< the reply is held back
 };
 
 struct Fault {
   FaultKind kind = FaultKind::None;
-  // Only for Slow: how long the reply is held back; without it, until it is released.
+  /// Only for Slow: how long the reply is held back; without it, until it is released.
   std::optional<std::chrono::milliseconds> delay;
 };
 
@@ -36,24 +36,24 @@ struct FaultSetting {
   Fault fault;
 };
 
-// Reads "EXCHANGE=KIND", where KIND is "none", "drop", "cut", "garbage", "empty", "status500",
-// "slow" or "slow:MILLISECONDS". Nothing for any other text.
+/// Reads "EXCHANGE=KIND", where KIND is "none", "drop", "cut", "garbage", "empty", "status500",
+/// "slow" or "slow:MILLISECONDS". Nothing for any other text.
 std::optional<FaultSetting> parseFaultSetting(std::string_view text);
 
-// The faults in force, and the replies that are being held back. Safe for use from any thread.
+/// The faults in force, and the replies that are being held back. Safe for use from any thread.
 class Faults {
  public:
   void set(const FaultSetting& setting);
   void clear();
   Fault at(Exchange exchange) const;
 
-  // Holds the caller back: for the fault's delay, or until release().
+  /// Holds the caller back: for the fault's delay, or until release().
   void hold(const Fault& fault);
-  // Lets go all that is being held back at this moment.
+  /// Lets go all that is being held back at this moment.
   void release();
-  // Lets go all, and holds back nothing any more: the service ends.
+  /// Lets go all, and holds back nothing any more: the service ends.
   void releaseForGood();
-  // Waits until something is being held back, and tells how many replies are; 0 after `timeout`.
+  /// Waits until something is being held back, and tells how many replies are; 0 after `timeout`.
   int waitUntilHeld(std::chrono::milliseconds timeout);
 
  private:

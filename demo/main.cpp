@@ -11,7 +11,7 @@ namespace {
 
 constexpr int exitBadArguments = 2;
 
-// Blocks the signals that end the program, for this thread and those it will start.
+/// Blocks the signals that end the program, for this thread and those it will start.
 sigset_t blockEndSignals() {
   sigset_t signals;
   sigemptyset(&signals);

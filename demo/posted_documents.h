@@ -7,13 +7,13 @@
 
 namespace awizo::demo {
 
-// The folder in which posted documents are kept, byte for byte as they came, under the names
-// despatch-advice-0001.xml, despatch-advice-0002.xml and so on. No file is ever overwritten.
+/// The folder in which posted documents are kept, byte for byte as they came, under the names
+/// despatch-advice-0001.xml, despatch-advice-0002.xml and so on. No file is ever overwritten.
 class PostedDocuments {
  public:
   explicit PostedDocuments(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
-  // Stores a document if it is well-formed XML. Gives "OK", or tells in Russian what is wrong.
+  /// Stores a document if it is well-formed XML. Gives "OK", or tells in Russian what is wrong.
   std::string accept(std::string_view document);
 
  private:

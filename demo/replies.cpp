@@ -25,10 +25,10 @@ std::string reply(std::string_view root, std::string_view content) {
   return std::string(declaration) + element(root, content);
 }
 
-// A path in a request and the text that must stand there.
+/// A path in a request and the text that must stand there.
 using Expectation = std::pair<const char*, std::string>;
 
-// What is wrong with a request, or the empty text.
+/// What is wrong with a request, or the empty text.
 std::string complaintAbout(std::string_view request, const std::vector<Expectation>& expectations) {
   try {
     const XmlDocument document(request);

@@ -8,13 +8,13 @@
 
 namespace awizo::demo {
 
-// The reply documents of the service, made from the files of one folder, all UTF-8:
-//   partner-info.xml      the whole reply about the one buyer that the service knows
-//   catalogue.xml         Document-ProductCatalogue
-//   delivery-places.xml   Document-LocalizationsCatalog
-//   order.xml             Document-Order, the one order that is waiting
-// The files are read anew for each reply. A file that is missing means that the service hasn't
-// that document. Every procedure takes the text of the request and gives the text of the reply.
+/// The reply documents of the service, made from the files of one folder, all UTF-8:
+///   partner-info.xml      the whole reply about the one buyer that the service knows
+///   catalogue.xml         Document-ProductCatalogue
+///   delivery-places.xml   Document-LocalizationsCatalog
+///   order.xml             Document-Order, the one order that is waiting
+/// The files are read anew for each reply. A file that is missing means that the service hasn't
+/// that document. Every procedure takes the text of the request and gives the text of the reply.
 class Replies {
  public:
   explicit Replies(std::filesystem::path dataFolder) : dataFolder_(std::move(dataFolder)) {}
@@ -36,7 +36,7 @@ class Replies {
   bool orderHandedOut_ = false;
 };
 
-// The reply to a document that was posted: `status` is "OK" or the text of the error.
+/// The reply to a document that was posted: `status` is "OK" or the text of the error.
 std::string submissionReply(std::string_view status);
 
 }  // namespace awizo::demo

@@ -9,13 +9,13 @@ struct _xmlDoc;
 
 namespace awizo::demo {
 
-// A text that isn't well-formed XML.
+/// A text that isn't well-formed XML.
 struct XmlError {
-  int line = 0;  // counted from 1; 0 if unknown
+  int line = 0;  ///< counted from 1; 0 if unknown
 };
 
-// An XML document that came in, for reading single values. Nothing is loaded from elsewhere for
-// it, and libxml2's limits on depth and on the growth of entities hold.
+/// An XML document that came in, for reading single values. Nothing is loaded from elsewhere for
+/// it, and libxml2's limits on depth and on the growth of entities hold.
 class XmlDocument {
  public:
   // Raises XmlError if the text isn't well-formed.
@@ -24,7 +24,7 @@ class XmlDocument {
   XmlDocument(const XmlDocument&) = delete;
   XmlDocument& operator=(const XmlDocument&) = delete;
 
-  // The text of the first node at `path` (XPath), outer white space cut; nothing if there is none.
+  /// The text of the first node at `path` (XPath), outer white space cut; nothing if there is none.
   std::optional<std::string> textAt(const char* path) const;
 
  private:
@@ -34,10 +34,11 @@ class XmlDocument {
   std::unique_ptr<_xmlDoc, Free> document_;
 };
 
-// `text` with the characters that mean something in XML escaped.
+/// `text` with the characters that mean something in XML escaped.
 std::string escapedForXml(std::string_view text);
 
-// `text` without a byte order mark and without an XML declaration, to be put into another document.
+/// `text` without a byte order mark and without an XML declaration, to be put into another
+/// document.
 std::string_view withoutDeclaration(std::string_view text);
 
 }  // namespace awizo::demo

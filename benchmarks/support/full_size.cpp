@@ -31,7 +31,7 @@ int characters(std::string_view text) {
       std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; }));
 }
 
-// 20 to 60 characters; the number at the end keeps names apart.
+/// 20 to 60 characters; the number at the end keeps names apart.
 std::string productName(int number, std::mt19937& random) {
   const int wanted = 20 + static_cast<int>(random() % 34);
   std::string name(words[random() % words.size()]);

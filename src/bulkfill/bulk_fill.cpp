@@ -15,7 +15,7 @@ namespace {
 
 bool isBlank(std::string_view cell) { return cell.empty() || cell == "-1"; }
 
-// Runs `fill` for every line whose cell is to be written.
+/// Runs `fill` for every line whose cell is to be written.
 template <class Fill>
 void forLinesToFill(Editor& editor, int column, bool overwrite, Fill fill) {
   for (int row = 1; row <= editor.session.LineCount; ++row) {
@@ -24,7 +24,7 @@ void forLinesToFill(Editor& editor, int column, bool overwrite, Fill fill) {
   }
 }
 
-// "(PL)Польша" of a two-letter code; the bare code where the table doesn't know it.
+/// "(PL)Польша" of a two-letter code; the bare code where the table doesn't know it.
 std::string listRow(DlgIsoCodes& isoCodes, const std::string& code) {
   const std::optional<int> index =
       isoCodes.findCode([&](const std::string& cell) { return cell == code; });

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-// Words that stand on a form beside what its models say. Where they stand is the host's.
+/// Words that stand on a form beside what its models say. Where they stand is the host's.
 namespace awizo::words {
 
 inline constexpr std::string_view windowTitle = "Подтверждение отгрузки";

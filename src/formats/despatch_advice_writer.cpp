@@ -76,7 +76,7 @@ class AdviceWriter {
   std::unique_ptr<XmlDocument> document_;
 };
 
-// A row that can't be read fails in its turn: after all that comes before it has been written.
+/// A row that can't be read fails in its turn: after all that comes before it has been written.
 std::unique_ptr<XmlDocument> make(const Editor& editor, std::string& step) {
   DespatchAdvice advice;
   std::exception_ptr failure;

@@ -56,7 +56,7 @@ void CheckAllPacked(Editor& editor) {
   if (session.IloscPozycjiOpak == 0) session.AllPacked = false;
 }
 
-// The words speak of sending when a document is saved too: it is meant to be sent.
+/// The words speak of sending when a document is saved too: it is meant to be sent.
 bool wantsPartlyPacked(Work& work) {
   const Answer answer =
       work.screen().messageBox({"Отгруженный товар упакован не полностью.\r\n"

@@ -2,7 +2,7 @@
 
 namespace awizo {
 
-// The text changes first, and stays changed when the number of decimals raises an error.
+/// The text changes first, and stays changed when the number of decimals raises an error.
 std::string NormalizeDecimal(const Conversions& conversions, std::string& text, int decimals) {
   text = conversions.withLocalSeparator(text);
   return conversions.FormatFixed(text, decimals);

@@ -138,7 +138,7 @@ DlgDodaj& DlgDodaj::touch() {
   return *this;
 }
 
-// A failure in one part is told to the user and doesn't stop the rest.
+/// A failure in one part is told to the user and doesn't stop the rest.
 void DlgDodaj::Form_Load() {
   DebugLog& log = work_.session.log;
   work_.session.IsoCheckOk = true;
@@ -243,7 +243,7 @@ void DlgDodaj::btnDodaj_Click() {
   hide();
 }
 
-// Nothing that was typed is undone: the main form just doesn't read it.
+/// Nothing that was typed is undone: the main form just doesn't read it.
 void DlgDodaj::btnZamknij_Click() {
   DlgResult = 0;
   if (cboxNazwaProd.visible()) cboxNazwaProd.setFocus();

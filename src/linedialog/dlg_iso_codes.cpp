@@ -91,7 +91,7 @@ void DlgIsoCodes::release(bool& mark) {
   mark = false;
 }
 
-// A range marked over several rows falls back to the whole of the current one.
+/// A range marked over several rows falls back to the whole of the current one.
 void DlgIsoCodes::keepOneRow() {
   if (!ShiftHeld && !MouseHeld) return;
   grdISO.setColumn(0);

@@ -48,7 +48,7 @@ bool DlgdodajPule::Walidacja() {
   return true;
 }
 
-// The quantity is checked as it is typed: a wrong one becomes the largest that is allowed.
+/// The quantity is checked as it is typed: a wrong one becomes the largest that is allowed.
 void DlgdodajPule::txtQuantity_Change() {
   const std::string text = txtQuantity.text();
   if (text.empty()) return;

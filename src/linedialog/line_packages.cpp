@@ -14,7 +14,7 @@ namespace {
 
 constexpr CellLook boldHeading{white, Alignment::centre, true, false};
 
-// Half goes to the even neighbour, as the floating unit rounds.
+/// Half goes to the even neighbour, as the floating unit rounds.
 std::int32_t wholeNumber(double value) {
   const double rounded = std::nearbyint(value);
   if (!(rounded >= -2147483648.0 && rounded <= 2147483647.0)) throw errors::overflow();
@@ -54,13 +54,13 @@ void LinePackages::UpdatePackedQuantity() {
       conversions.NormalizeDecimal(conversions.plainNumber(sum), 3));
 }
 
-// The highest index of the offered packages' lists; the packages are the elements below it.
+/// The highest index of the offered packages' lists; the packages are the elements below it.
 int LinePackages::packageBound() const {
   return static_cast<int>(work_.session.ParentSerials.size()) - 1;
 }
 
-// A line that lies in packages entirely can't get another one, but its assignments can change: so
-// the last rule overrules the first for Command3.
+/// A line that lies in packages entirely can't get another one, but its assignments can change: so
+/// the last rule overrules the first for Command3.
 void LinePackages::SetButtons() {
   DebugLog& log = work_.session.log;
   const Conversions& conversions = work_.conversions;
@@ -143,8 +143,8 @@ void LinePackages::Command2_Click() {
   SetButtons();
 }
 
-// The list of packages is the one that the last Command1 left, and the row's package is found in it
-// by its description.
+/// The list of packages is the one that the last Command1 left, and the row's package is found in
+/// it by its description.
 void LinePackages::Command3_Click() {
   Table& table = dialog_.grdPozycje;
   const int row = table.rows() == 2 ? 1 : table.row();

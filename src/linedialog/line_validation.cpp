@@ -10,7 +10,7 @@
 namespace awizo {
 namespace {
 
-// Buyers to whom more may be despatched than they ordered.
+/// Buyers to whom more may be despatched than they ordered.
 constexpr std::array<std::string_view, 2> buyersTakingMore{"4607173499998", "4607070199991"};
 
 bool checkProductAndQuantities(Work& work, DlgDodaj& dialog) {
@@ -82,7 +82,7 @@ bool checkCustomsNumber(Work& work, DlgDodaj& dialog) {
   return true;
 }
 
-// "(RU)Россия" leaves the dialog as "RU".
+/// "(RU)Россия" leaves the dialog as "RU".
 bool checkCountry(Work& work, DlgDodaj& dialog, DlgIsoCodes& isoCodes) {
   std::string country = dialog.comboCountry.text();
   CheckIsoCountry(work.session, isoCodes, work.platform.locale, country);
@@ -103,7 +103,7 @@ void txtIloscZam_Validate(const Conversions& conversions, DlgDodaj& dialog) {
   tidyNumber(conversions, dialog.txtIloscZam, 3);
 }
 
-// The trimmed text is a change of its own, which the calculations see.
+/// The trimmed text is a change of its own, which the calculations see.
 void txtIloscPotw_Validate(const Conversions& conversions, DlgDodaj& dialog) {
   dialog.txtIloscPotw.setText(std::string(trimmed(dialog.txtIloscPotw.text())));
   tidyNumber(conversions, dialog.txtIloscPotw, 3);

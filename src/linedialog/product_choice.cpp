@@ -28,9 +28,9 @@ std::size_t lineOf(int index, const std::vector<std::int32_t>& order) {
 
 }  // namespace
 
-// A change event that fails keeps its mark: its last step is skipped. Lines that share names and
-// codes can lead to each other without end. Such a chain ends as a whole, and the event with which
-// it began tells so: would each event on the way report and go on, there were no end of boxes.
+/// A change event that fails keeps its mark: its last step is skipped. Lines that share names and
+/// codes can lead to each other without end. Such a chain ends as a whole, and the event with which
+/// it began tells so: would each event on the way report and go on, there were no end of boxes.
 void ProductChoice::followList(DropDownList& list, std::int16_t mark, TextField& field,
                                const std::function<void()>& onward) {
   const std::string event = list.name() + "_Change";
@@ -70,7 +70,7 @@ void ProductChoice::cboxEANProd_Change() {
   });
 }
 
-// The other lists lead to the name, and the name to the EAN, from which the fields are filled.
+/// The other lists lead to the name, and the name to the EAN, from which the fields are filled.
 void ProductChoice::cboxKodAPP_Change() {
   followList(dialog_.cboxKodAPP, fromBuyerCode, dialog_.txtKodKup, [&] {
     const std::vector<std::int32_t>& order = products_.IdxBuyerCode;

@@ -93,8 +93,8 @@ std::int32_t Sorter::Partition(const Keys& keys, Index& index, std::int32_t left
   return pivot;
 }
 
-// Makes each text's key once, and numbers the texts of the segment by their order: equal texts
-// get equal ranks. A segment that isn't there is left to Partition to report.
+/// Makes each text's key once, and numbers the texts of the segment by their order: equal texts
+/// get equal ranks. A segment that isn't there is left to Partition to report.
 void Sorter::prepare(const Keys& keys, const Index& index, std::int32_t left, std::int32_t right) {
   ranked_ = false;
   if (left >= right) return;
@@ -118,7 +118,7 @@ void Sorter::prepare(const Keys& keys, const Index& index, std::int32_t left, st
   ranked_ = true;
 }
 
-// Where no two keys are equal only one order is right, and a stack of full size can't fail.
+/// Where no two keys are equal only one order is right, and a stack of full size can't fail.
 bool Sorter::placesAreKnown(std::int32_t left, std::int32_t right) const {
   const auto count = static_cast<std::size_t>(std::max(right - left, 0)) + 1;
   return ranked_ && lastPlace_.size() == count &&
@@ -133,11 +133,11 @@ void Sorter::putInPlaces(Index& index, std::int32_t left, std::int32_t right) co
   }
 }
 
-// The walk swaps each key above the pivot, met from the left, with a key not above it, met from the
-// right; the pivot then goes behind its equals. A segment always holds the very elements whose
-// sorted places it covers, so the pivot's place is known beforehand. Hence only the shorter side is
-// searched for keys that stand wrong, and the other side just as far as their partners: a sorted, a
-// reversed and an all-equal list take one step per element.
+/// The walk swaps each key above the pivot, met from the left, with a key not above it, met from
+/// the right; the pivot then goes behind its equals. A segment always holds the very elements whose
+/// sorted places it covers, so the pivot's place is known beforehand. Hence only the shorter side
+/// is searched for keys that stand wrong, and the other side just as far as their partners: a
+/// sorted, a reversed and an all-equal list take one step per element.
 std::int32_t Sorter::partitionRanked(Index& index, std::int32_t left, std::int32_t right) {
   const auto rank = [&](std::int32_t place) -> std::int32_t& {
     return ranks_[static_cast<std::size_t>(place)];

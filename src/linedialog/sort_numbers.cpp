@@ -49,8 +49,8 @@ void Sorter::IQuickSortNumbers(const Keys& keys, Index& index, std::int32_t left
   });
 }
 
-// The tests are the inverse of the text walk's: the order is descending, and keys equal to the
-// pivot go to its right.
+/// The tests are the inverse of the text walk's: the order is descending, and keys equal to the
+/// pivot go to its right.
 std::int32_t Sorter::PartitionNumbers(const Keys& keys, Index& index, std::int32_t left,
                                       std::int32_t right) {
   std::int32_t pivot = -1;

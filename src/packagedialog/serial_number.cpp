@@ -5,7 +5,7 @@
 namespace awizo {
 namespace {
 
-// A character counts as a digit when it is "0" or its numeric value isn't 0.
+/// A character counts as a digit when it is "0" or its numeric value isn't 0.
 bool isDigitText(std::string_view text) {
   for (const char character : text) {
     if (character < '0' || character > '9') return false;

@@ -47,7 +47,7 @@ class Observers {
     Observer observer;
   };
 
-  // A procedure that runs must stay where it is, so nothing is erased before all have returned.
+  /// A procedure that runs must stay where it is, so nothing is erased before all have returned.
   void dropRemoved() {
     std::erase_if(entries_, [](const Entry& entry) { return entry.number == removed; });
   }

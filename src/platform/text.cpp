@@ -7,7 +7,7 @@ namespace {
 
 bool startsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
 
-// Control characters of ASCII and of Latin-1 (C2 80 to C2 9F), line and paragraph separator.
+/// Control characters of ASCII and of Latin-1 (C2 80 to C2 9F), line and paragraph separator.
 bool isControlCharacter(std::string_view character) {
   const auto first = static_cast<unsigned char>(character.front());
   if (character.size() == 1) return first < 0x20 || first == 0x7F;

@@ -13,7 +13,7 @@ struct UnitName {
   std::string_view symbol;
 };
 
-// Russian words for the first, Polish ones for the rest.
+/// Russian words for the first, Polish ones for the rest.
 constexpr std::array<UnitName, 9> unitNames{{{"штука", "PCE"},
                                              {"килограмм", "KGM"},
                                              {"метр", "MTR"},

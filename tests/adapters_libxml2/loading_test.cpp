@@ -29,7 +29,7 @@ TEST(Loading, AnElementKnowsItsLine) {
   EXPECT_EQ(document->createElement("d").line(), 0);
 }
 
-// Elements hold their lines in 16 bits.
+/// Elements hold their lines in 16 bits.
 TEST(Loading, TheLastLineThatIsToldStandsForAllBehindIt) {
   const auto document = loaded("<a>" + std::string(70000, '\n') + "<b/></a>");
   EXPECT_EQ(document->root().firstChild().line(), 65535);

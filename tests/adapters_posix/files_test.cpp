@@ -171,7 +171,7 @@ TEST_F(Replacing, AReadOnlyFileIsDeniedAndStays) {
   EXPECT_EQ(folder.bytes("a.xml"), "old");
 }
 
-// A limit on the size of files stops the writing in the middle, as a disk that fills up does.
+/// A limit on the size of files stops the writing in the middle, as a disk that fills up does.
 TEST_F(Replacing, ADiskThatFillsUpLeavesTheOldFileAndNothingElse) {
   folder.put("a.xml", "old");
   const auto fillUp = [&] {

@@ -94,7 +94,7 @@ TEST_F(FillingTheCountry, ARowInAnotherCaseIsAnotherRow) {
   EXPECT_EQ(lineDialog.comboCountry.rows().back(), "(JP)Япония");
 }
 
-// The short list calls the country by another name than the table of all countries.
+/// The short list calls the country by another name than the table of all countries.
 TEST_F(FillingTheCountry, BelarusJoinsTheListASecondTime) {
   list.userType("BY");
   overwrite();
@@ -144,7 +144,7 @@ TEST_F(FillingTheCountry, WithoutLinesNothingIsAskedAndTheListGrows) {
   EXPECT_EQ(list.rows().back(), "(JP)Япония");
 }
 
-// A bare code that became a row of the list stands past the ten, which have codes.
+/// A bare code that became a row of the list stands past the ten, which have codes.
 TEST_F(FillingTheCountry, ABareCodeAmongTheRowsBlanksTheCells) {
   list.addRow("PL");
   list.userType("pl");

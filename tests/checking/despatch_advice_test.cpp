@@ -36,7 +36,7 @@ TEST_P(CheckingADespatchAdvice, WhatIsNoXmlIsToldWhereItBreaks) {
               ElementsAre("11" + std::string(text)));
 }
 
-// The second try puts a declaration before a file that has one of its own.
+/// The second try puts a declaration before a file that has one of its own.
 TEST_P(CheckingADespatchAdvice, TheFirstTryTellsWhereAFileBreaks) {
   EXPECT_THAT(check("<?xml version=\"1.0\"?>\n\n<a>\n</b>"),
               ElementsAre("4|"
@@ -247,7 +247,7 @@ TEST_P(CheckingADespatchAdvice, ElementsWithinAValueBelongToIt) {
   EXPECT_THAT(checkWith("4607000000116", "<a>4607000000116</a>"), IsEmpty());
 }
 
-// Row 1,424 of the lines and row 2,185 of the packages lie beyond the cells of a table.
+/// Row 1,424 of the lines and row 2,185 of the packages lie beyond the cells of a table.
 TEST_P(CheckingADespatchAdvice, WhereATableIsFullIsTold) {
   const std::string full = "|больше таблица не вмещает, чтение за этим местом прервётся";
   const std::string line =
@@ -274,7 +274,7 @@ TEST_P(CheckingADespatchAdvice, WhereATableIsFullIsTold) {
   EXPECT_THAT(checkWith("<Line>", lines + "<Line>"), ElementsAre("10|DespatchAdvice-Lines" + full));
 }
 
-// As on a machine of that encoding; elsewhere the letters are others.
+/// As on a machine of that encoding; elsewhere the letters are others.
 TEST_P(CheckingADespatchAdvice, AnUndeclaredSingleByteFileIsChecked) {
   EXPECT_THAT(checkWith("WZ-7", "\xD7\xE0\xE9"), IsEmpty());
 }

@@ -24,7 +24,7 @@ using testing::SizeIs;
 constexpr const char* sellerIln = "9520001000010";
 constexpr const char* buyerIln = "9520002000019";
 
-// Whether a number ends in the right GS1 check digit: weights 3 and 1 in turn, from the right.
+/// Whether a number ends in the right GS1 check digit: weights 3 and 1 in turn, from the right.
 bool hasCheckDigit(const std::string& number) {
   int sum = 0;
   int weight = 1;

@@ -20,7 +20,7 @@ struct ExchangeCall {
   std::string request;
 };
 
-// One call of each exchange.
+/// One call of each exchange.
 std::vector<ExchangeCall> calls() {
   return {{"partner-info", partnerInfoPath, partnerInfoRequest},
           {"catalogue", cataloguePath, catalogueRequest},

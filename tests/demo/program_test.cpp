@@ -15,7 +15,7 @@ extern char** environ;
 namespace awizo::demo {
 namespace {
 
-// The service as a process of its own, with its output on a pipe.
+/// The service as a process of its own, with its output on a pipe.
 class Program {
  public:
   explicit Program(std::vector<std::string> arguments) {
@@ -44,7 +44,7 @@ class Program {
     return fgets(line.data(), line.size(), output_) == nullptr ? "" : line.data();
   }
   void send(int signal) const { kill(process_, signal); }
-  // Exit status, or -1 if a signal ended the program.
+  /// Exit status, or -1 if a signal ended the program.
   int wait() const {
     int status = 0;
     waitpid(process_, &status, 0);

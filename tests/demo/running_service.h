@@ -29,10 +29,10 @@ inline constexpr const char* placesRequest =
 inline constexpr const char* orderRequest =
     "<order-request><deleteafter>true</deleteafter></order-request>";
 
-// A service on a free port, and a client of it.
+/// A service on a free port, and a client of it.
 class RunningService {
  public:
-  // Serves the project's own data, or that of `dataFolder`.
+  /// Serves the project's own data, or that of `dataFolder`.
   explicit RunningService(const std::vector<std::string>& arguments = {});
 
   int port() const { return service_.port(); }
@@ -50,9 +50,9 @@ class RunningService {
              const httplib::Headers& headers = {}) const;
   Reply get(const std::string& path) const;
   void clearFaults() const;
-  // All bytes that come back for a POST, up to the end of the connection.
+  /// All bytes that come back for a POST, up to the end of the connection.
   std::string wireReply(const std::string& path, const std::string& body) const;
-  // The same for a request that is given byte for byte.
+  /// The same for a request that is given byte for byte.
   std::string wireReply(const std::string& request) const;
 
  private:

@@ -198,7 +198,7 @@ TEST_F(TableOnDesktop, KeepsWhatItShowsWhileRedrawingIsOff) {
   EXPECT_EQ(shown(1, 0), "new");
 }
 
-// An error half-way leaves a table so, and its rows may go before it is painted again.
+/// An error half-way leaves a table so, and its rows may go before it is painted again.
 TEST_F(TableOnDesktop, ARowThatIsShownButGoneCantBeClicked) {
   table.setRedraw(false);
   table.setRows(2);

@@ -95,7 +95,7 @@ TEST_F(EditProcedures, TheTotalsEditorIsClosedByTheLinesFocusAndByItsOwnCell) {
   EXPECT_FALSE(form.txtEdycjaSuma.visible());
 }
 
-// The lines' focus closes the totals' editor first, then that of the lines.
+/// The lines' focus closes the totals' editor first, then that of the lines.
 TEST_F(EditProcedures, TheTotalsEditorIsClosedBeforeThatOfTheLines) {
   std::vector<std::string> closed;
   for (TextField* editField : {&form.txtEdycja, &form.txtEdycjaSuma}) {

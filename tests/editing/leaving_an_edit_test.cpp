@@ -41,7 +41,7 @@ TEST_F(InTableEditing, AFieldLeftForTheHeaderStaysOpenWithItsTidiedText) {
   EXPECT_FALSE(field.visible());
 }
 
-// A focus call by code skips the check of the text, but the text is tidied all the same.
+/// A focus call by code skips the check of the text, but the text is tidied all the same.
 TEST_F(InTableEditing, AFocusCallByCodeTidiesTheText) {
   openEditor(2);
   field.userType("7");
@@ -91,7 +91,7 @@ TEST_F(InTableEditing, EveryButtonThatOpensADialogClosesTheEdit) {
   }
 }
 
-// A picture takes no focus, so nothing tidies the text before it gets into the cell.
+/// A picture takes no focus, so nothing tidies the text before it gets into the cell.
 TEST_F(InTableEditing, APictureClosesTheEditWithTheTextAsTyped) {
   openEditor(2);
   field.userType("4.25");

@@ -305,7 +305,7 @@ TEST_F(AddingALine, TheLastReachableRowIsWrittenWhole) {
   EXPECT_THAT(takeBoxes(), IsEmpty());
 }
 
-// The flat index of row 1424 leaves 16 bits at column 16.
+/// The flat index of row 1424 leaves 16 bits at column 16.
 TEST_F(AddingALine, TheRowPastTheLimitIsWrittenHalfWay) {
   putLines(1423);
   face.onModal([&] {

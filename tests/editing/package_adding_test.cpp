@@ -211,8 +211,8 @@ TEST_F(AddingAPackage, ADescriptionInUseIsRefused) {
   EXPECT_EQ(session.IloscPozycjiOpak, 1);
 }
 
-// A file brings rows that nobody counts: the new row is cut off with them, and the row behind the
-// last counted one takes its place.
+/// A file brings rows that nobody counts: the new row is cut off with them, and the row behind the
+/// last counted one takes its place.
 TEST_F(AddingAPackage, RowsBeyondThePackagesAreDropped) {
   addPackage({.description = "Поддон"});
   packages.setRows(6);
@@ -251,7 +251,7 @@ TEST_F(AddingAPackage, TheLastReachableRowIsWrittenWhole) {
   EXPECT_THAT(takeBoxes(), IsEmpty());
 }
 
-// The flat index of row 2184 leaves 16 bits at column 8, which is written first.
+/// The flat index of row 2184 leaves 16 bits at column 8, which is written first.
 TEST_F(AddingAPackage, TheRowPastTheLimitStaysEmpty) {
   putPackages(2183, [](int) { return 0; });
   addPackage({.description = "лишняя"});

@@ -37,7 +37,7 @@ TEST_P(RemovingAPackage, WithoutPackagesNothingHappens) {
   EXPECT_THAT(face.cursors(), IsEmpty());
 }
 
-// 2 holds 3 and 5, 3 holds 6; 4 stands beside.
+/// 2 holds 3 and 5, 3 holds 6; 4 stands beside.
 TEST_P(RemovingAPackage, ASubtreeIsFoundDepthFirstInTableOrder) {
   const std::vector<int> parents{0, 1, 0, 1, 2};
   putPackages(5, [&](int row) { return parents[static_cast<std::size_t>(row - 1)]; });
@@ -91,7 +91,7 @@ TEST_P(RemovingAPackage, TheLastOneLeavesAnEmptyRow) {
   EXPECT_TRUE(packages.redraw());
 }
 
-// The row that is emptied at the end is that of the last package found, with its look.
+/// The row that is emptied at the end is that of the last package found, with its look.
 TEST_P(RemovingAPackage, AWholeTreeLeavesAnEmptyRow) {
   const std::vector<int> parents{0, 1, 1};
   putPackages(3, [&](int row) { return parents[static_cast<std::size_t>(row - 1)]; });
@@ -175,7 +175,7 @@ TEST_P(RemovingAPackage, ARowPastTheLimitStopsTheSearch) {
   EXPECT_EQ(screen.cursor(), Cursor::wait);
 }
 
-// The packages are gone by then, and the lines still refer to them.
+/// The packages are gone by then, and the lines still refer to them.
 TEST_P(RemovingAPackage, ALinePastTheLimitStopsTheCounting) {
   putPackages(2, [](int) { return 0; });
   putLines(1424);
@@ -202,7 +202,7 @@ TEST_P(RemovingAPackage, AHalfWrittenLinePastTheLimitStopsTheRewriting) {
   EXPECT_EQ(screen.cursor(), Cursor::wait);
 }
 
-// A file brings rows without counting them; it may bring one serial several times.
+/// A file brings rows without counting them; it may bring one serial several times.
 TEST_P(RemovingAPackage, OfTwoRowsWithTheSameSerialTheFirstGoes) {
   putPackages(4, [](int row) { return row == 4 ? 1 : 0; });
   packages.setCell(3, GRD_OPAK_SERIAL, "2");
@@ -212,7 +212,7 @@ TEST_P(RemovingAPackage, OfTwoRowsWithTheSameSerialTheFirstGoes) {
   EXPECT_THAT(takeBoxes(), IsEmpty());
 }
 
-// The second and the third row bear one serial, so that the fourth lies in both of them.
+/// The second and the third row bear one serial, so that the fourth lies in both of them.
 TEST_P(RemovingAPackage, APackageThatLiesInTwoIsRemovedOnce) {
   const std::vector<int> parents{0, 1, 1, 2};
   putPackages(4, [&](int row) { return parents[static_cast<std::size_t>(row - 1)]; });
@@ -240,7 +240,7 @@ TEST_P(RemovingAPackage, WithoutPackagesTheSearchFindsTheRowAlone) {
   EXPECT_THAT(subtree(1), ElementsAre(""));
 }
 
-// A file brings rows without counting them.
+/// A file brings rows without counting them.
 TEST_P(RemovingAPackage, MoreCountedThanThereAreRowsIsAnError) {
   putPackages(3, [](int) { return 0; });
   packages.setRows(3);
@@ -298,7 +298,7 @@ TEST(RemovingAPackageWithALog, EveryStepIsTold) {
   EXPECT_THAT(told, ::testing::EndsWith(expected));
 }
 
-// Both ways give the same table, whatever the tree.
+/// Both ways give the same table, whatever the tree.
 TEST(RemovingAPackageEitherWay, GivesTheSameTable) {
   unsigned random = 20261121;
   const auto next = [&random](int below) {

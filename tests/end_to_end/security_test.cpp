@@ -161,7 +161,7 @@ TEST_F(Security, ADocumentsNumberDoesNotLeadOutOfTheChosenFolder) {
                                                "documents/Подтверждение_отгрузки__etc_passwd.xml"));
 }
 
-// A user who types a path means it: it is his own choice, wherever it leads.
+/// A user who types a path means it: it is his own choice, wherever it leads.
 TEST_F(Security, AFileIsWrittenWhereTheUserSaysAndNothingIsLeftBeside) {
   Conversation editor = supplier.startOffLine();
   openSaving(editor);

@@ -87,8 +87,8 @@ std::string foundBy(const Find& find) {
   return error == 0 ? number : "error";
 }
 
-// Three roads: the index, the path, and the path in brackets, which the XML library evaluates
-// itself. That one knows exponents, so it gets none to see.
+/// Three roads: the index, the path, and the path in brackets, which the XML library evaluates
+/// itself. That one knows exponents, so it gets none to see.
 TEST(CatalogueIndex, FindsWhatThePathSelects) {
   Eans eans;
   const TestSurroundings around;

@@ -19,7 +19,7 @@ using test::projectFolder;
 
 class Corpus : public testing::TestWithParam<NamedTarget> {
  protected:
-  // A message that only chance has shown isn't shown by a test of its own.
+  /// A message that only chance has shown isn't shown by a test of its own.
   static void SetUpTestSuite() { unsetenv("AWIZO_SEEN_BOXES"); }
 
   /// Gives each file of the folder to the target; answers how many there were.

@@ -130,7 +130,7 @@ TEST_P(AssignedLinePackages, ChangingFindsThePackageByItsDescription) {
   EXPECT_EQ(table.cell(1, 1), "2") << "two packages of one description are the same";
 }
 
-// The list of packages is an earlier line's; those of the document have become fewer since.
+/// The list of packages is an earlier line's; those of the document have become fewer since.
 TEST_P(AssignedLinePackages, APackageThatIsNoLongerThereCantBeAssigned) {
   test.offer({{"2", "Поддон"}, {"5", "Коробка"}, {"6", "Ящик"}});
   despatch("6");

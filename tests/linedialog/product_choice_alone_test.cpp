@@ -67,7 +67,7 @@ TEST_F(ProductChoiceAlone, ARowPastTheIndexIsLikeATypedText) {
   EXPECT_EQ(choice.ProductChangeSource, 0);
 }
 
-// A program may fill the fields where the lists' own clicks do nothing.
+/// A program may fill the fields where the lists' own clicks do nothing.
 TEST_F(ProductChoiceAlone, KeepsCategoryEAndARateApartWithoutAClick) {
   dialog.cboxKodVAT.onClick = nullptr;
   products.ProdTaxRate[0] = "18";

@@ -258,7 +258,7 @@ TEST_F(ChoosingAProduct, TheSecondRowOfAnEANLeadsToTheFieldsOfTheFirst) {
   EXPECT_THAT(test.takeBoxes(), IsEmpty());
 }
 
-// Setting the buyer's code leads over the name to another EAN, and from there round and round.
+/// Setting the buyer's code leads over the name to another EAN, and from there round and round.
 TEST_F(ChoosingAProduct, LinesThatLeadToEachOtherWithoutEndAreToldOnce) {
   test.loadProducts({{"1", "в", "s1", "b2"},
                      {"2", "б", "s1", "b1"},
@@ -282,7 +282,7 @@ TEST_F(ChoosingAProduct, LinesThatLeadToEachOtherWithoutEndAreToldOnce) {
   EXPECT_THAT(test.takeBoxes(), IsEmpty());
 }
 
-// Before the chain goes round and round, the event of one list has come to its end within it.
+/// Before the chain goes round and round, the event of one list has come to its end within it.
 TEST_F(ChoosingAProduct, AnEventThatEndsWithinAnEndlessChainDoesntBeginAnother) {
   test.loadProducts({{"2", "б", "s0", "b0"}, {"1", "а", "s2", "b2"}, {"1", "а", "s2", "b0"}});
   test.show([&] {

@@ -130,7 +130,7 @@ TEST_P(QuantityDialog, AWrongQuantityThatWasNotTypedTakesTheFocus) {
   EXPECT_THAT(boxes(), ElementsAre(noNumber, outOfRange));
 }
 
-// Grouped thousands are a number, of which a comma becomes a second point.
+/// Grouped thousands are a number, of which a comma becomes a second point.
 TEST_P(QuantityDialog, GroupedThousandsAreAnErrorWhereACommaGroupsThem) {
   dialog.UpDown1.setMax(2000);
   const bool comma = test.session.DecimalSeparator == ",";

@@ -284,7 +284,7 @@ TEST_P(LineValidation, TidiesTheFieldsThatItReads) {
   EXPECT_EQ(dialog.txtAmount.text(), local("3,53"));
 }
 
-// Code may have filled a field that the user never left.
+/// Code may have filled a field that the user never left.
 TEST_P(LineValidation, TidiesWhatNobodyHasLeft) {
   test.show([&] {
     typeGoodLine();

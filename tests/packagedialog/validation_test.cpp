@@ -228,7 +228,7 @@ TEST_F(PackageValidation, RightCheckDigitsPass) {
   }
 }
 
-// Every field is wrong at first; as the user mends one fault after the other, the next is told.
+/// Every field is wrong at first; as the user mends one fault after the other, the next is told.
 TEST_F(PackageValidation, TellsOneFaultAtATimeInAFixedOrder) {
   dialog.cboxPackageType.setIndex(-1);
   dialog.txtPackageDesc.setText("");

@@ -28,7 +28,7 @@ class Inspection {
     if (!holds) broken_.push_back(rule);
   }
 
-  // A table without data has one empty row.
+  /// A table without data has one empty row.
   void checkSizes(const std::string& name, const Table& table, int count) {
     require(table.rows() == (count == 0 ? 2 : count + 1), name + ": rows");
     if (count == 0 && table.rows() == 2) {
@@ -84,7 +84,7 @@ class Inspection {
     if (trust_.references) checkReferences(levels);
   }
 
-  // A package lies one level below its parent, which is there.
+  /// A package lies one level below its parent, which is there.
   void checkTree(const std::map<std::string, int>& levels) {
     const Table& packages = desk_.form.grdOpakowania;
     for (int row = 1; row <= desk_.session.IloscPozycjiOpak; ++row) {
@@ -99,9 +99,9 @@ class Inspection {
     }
   }
 
-  // Removing a package takes its references, so a line refers only to packages that are there. The
-  // list from which an assignment is changed may be older than that: its last row can have become
-  // one without a serial.
+  /// Removing a package takes its references, so a line refers only to packages that are there. The
+  /// list from which an assignment is changed may be older than that: its last row can have become
+  /// one without a serial.
   void checkReferences(const std::map<std::string, int>& levels) {
     const Table& lines = desk_.form.grdPozycje;
     for (int row = 1; row <= desk_.session.LineCount; ++row) {

@@ -44,7 +44,7 @@ bool play(Dice& dice, const Beginning& beginning, Tally& tally) {
 
 class RandomUserTest : public ::testing::TestWithParam<const char*> {
  protected:
-  // A message that only chance has shown isn't shown by a test of its own.
+  /// A message that only chance has shown isn't shown by a test of its own.
   static void SetUpTestSuite() { unsetenv("AWIZO_SEEN_BOXES"); }
 
   enum class WithOutages { no, yes };

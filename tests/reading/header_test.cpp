@@ -188,7 +188,7 @@ TEST_F(ReadingTheHeader, EveryOtherDateAndTimeEndsTheReadingToo) {
   }
 }
 
-// The values are taken in their order, so those behind the wrong one are missing.
+/// The values are taken in their order, so those behind the wrong one are missing.
 TEST(ReadingAWrongHeader, EndsAtTheValueThatIsWrong) {
   const std::vector<std::string> order{
       "CodeByBuyer",   "DespatchAdviceNumber",  "DespatchAdviceDate",    "BuyerOrderNumber",
@@ -211,7 +211,7 @@ TEST(ReadingAWrongHeader, EndsAtTheValueThatIsWrong) {
   }
 }
 
-// Nothing that follows the reading is done for a document that ended it.
+/// Nothing that follows the reading is done for a document that ended it.
 class ReadingOverAnAnswer : public ReadingTheHeader {
  protected:
   ReadingOverAnAnswer() {

@@ -242,7 +242,7 @@ TEST_F(ReadingLines, TheLimitIsReachedHalfWayThroughARow) {
   EXPECT_TRUE(form.enabled());
 }
 
-// A file of some megabytes can hold millions of them: none gets a row.
+/// A file of some megabytes can hold millions of them: none gets a row.
 TEST_F(ReadingLines, MoreLinesThanSixteenBitsCountAreNotRead) {
   std::string all;
   for (int i = 0; i < 32768; ++i) all += "<Line/>";

@@ -124,7 +124,7 @@ TEST_F(ReadingPackages, RemovingAfterAFileOfFewerPackagesIsAnError) {
       ElementsAre("Произошла ошибка в btnUsunOpak_Click()|critical|OK|Subscript out of range"));
 }
 
-// Rows that a file brought have neither serial nor parent, so each lies in itself.
+/// Rows that a file brought have neither serial nor parent, so each lies in itself.
 TEST_F(ReadingPackages, RemovingARowThatAFileBroughtEndsWithoutAHang) {
   addPackage({.description = "А"});
   addPackage({.description = "Б"});
@@ -145,7 +145,7 @@ TEST_F(ReadingPackages, TheLastReachableRowIsRead) {
   EXPECT_EQ(takeBoxes().back(), plainBox("2183"));
 }
 
-// Only the columns 0 and 2 are written, which the index reaches one row longer.
+/// Only the columns 0 and 2 are written, which the index reaches one row longer.
 TEST_F(ReadingPackages, BehindTheLimitTheReadingEnds) {
   std::string all;
   for (int i = 1; i <= 2185; ++i) all += package(std::to_string(i));

@@ -115,7 +115,7 @@ TEST_P(WrittenAndRead, WhatWasReadCanBeEditedAndWrittenAgain) {
   EXPECT_NE(again->fileBytes().find("Чай зелёный"), std::string::npos);
 }
 
-// The picture that saves takes no focus, so the editor stays open, and its text isn't in the cell.
+/// The picture that saves takes no focus, so the editor stays open, and its text isn't in the cell.
 TEST_P(WrittenAndRead, AnEditThatIsStillOpenIsNotSavedYet) {
   lines.userCell(1, GRD_POZ_QTY_DESPATCHED);
   lines.userDoubleClick();

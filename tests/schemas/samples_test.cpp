@@ -144,7 +144,7 @@ TEST_P(BrokenSampleTest, FailsWhereItIsBroken) {
   EXPECT_THAT(problems.front(), HasSubstr(breach.complaint));
 }
 
-// A reference that names no package.
+/// A reference that names no package.
 TEST(WrittenDocument, RefersToPackagesThatItHas) {
   std::string text = projectFile(advice);
   const std::size_t reference = text.find("<Package-Reference>");

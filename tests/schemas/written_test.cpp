@@ -111,7 +111,7 @@ TEST_P(WrittenDocument, FitsAtTheLimitsOfTheTables) {
   expectFits();
 }
 
-// The reader wants lines, so that such a document isn't read back whole.
+/// The reader wants lines, so that such a document isn't read back whole.
 TEST_P(WrittenDocument, FitsWithoutLines) {
   schemas = {"despatch-advice-written", "despatch-advice-sound"};
   expectFits();

@@ -1,6 +1,6 @@
 """The checks by name, the quick ones first. A check takes the project and gives a list of problems."""
 
-from checks import compiled, formatting, includes, levels, scripts, tidy, words
+from checks import comments, compiled, formatting, includes, levels, scripts, tidy, words
 
 CHECKS = {
     "levels": levels.check_levels,
@@ -8,6 +8,7 @@ CHECKS = {
     "standard-only": includes.check_standard_only,
     "include-circle": includes.check_no_circle,
     "words": words.check,
+    "comments": comments.check,
     "scripts": scripts.check,
     "formatting": formatting.check,
     "warnings": compiled.check,

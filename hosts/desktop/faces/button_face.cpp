@@ -73,7 +73,7 @@ void ButtonFace::showContent() {
   }
 }
 
-// Where a double click is an event of its own, a click must wait until it can't become one.
+/// Where a double click is an event of its own, a click must wait until it can't become one.
 void ButtonFace::click() {
   if (button_.doubleClickAlone) {
     firstClick_.start(QApplication::doubleClickInterval());
@@ -90,14 +90,14 @@ bool ButtonFace::pressMouse(QMouseEvent& mouse) {
   return true;
 }
 
-// All keys are the model's: Qt would press the button later, or move its own focus by the arrows.
+/// All keys are the model's: Qt would press the button later, or move its own focus by the arrows.
 bool ButtonFace::pressKey(QKeyEvent& key) {
   if (keyCodeOf(key) == 0) return false;
   sendKey(key);
   return true;
 }
 
-// A mnemonic clicks at once; by itself Qt would show the button pressed for a while first.
+/// A mnemonic clicks at once; by itself Qt would show the button pressed for a while first.
 bool ButtonFace::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Shortcut && watched == widget_) {
     if (static_cast<QShortcutEvent*>(event)->isAmbiguous()) return false;

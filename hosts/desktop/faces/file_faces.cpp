@@ -71,7 +71,7 @@ void FolderFace::addFolder(const QString& name, const QString& path, int depth) 
   item->setData(pathRole, path);
 }
 
-// What is marked stays until another folder is the present one.
+/// What is marked stays until another folder is the present one.
 void FolderFace::showContent() {
   if (shownPath_ != fromText(folders_.path())) readFolder();
 }
@@ -81,7 +81,7 @@ void FolderFace::showChange(const Change& change) {
   Face::showChange(change);
 }
 
-// Folders may have come and gone since the list was last seen.
+/// Folders may have come and gone since the list was last seen.
 bool FolderFace::eventFilter(QObject* watched, QEvent* event) {
   if (watched == list_ && event->type() == QEvent::Show) readFolder();
   return Face::eventFilter(watched, event);

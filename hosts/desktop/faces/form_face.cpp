@@ -127,8 +127,8 @@ void FormFace::focusCame(Face& face, Qt::FocusReason reason) {
   followFocus();
 }
 
-// A form without a focus, since its control was hidden or disabled, still has its buttons, and Tab
-// leads back to its fields.
+/// A form without a focus, since its control was hidden or disabled, still has its buttons, and Tab
+/// leads back to its fields.
 bool FormFace::pressKeyWithoutFocus(QKeyEvent& key) {
   const std::int16_t code = keyCodeOf(key);
   if (code == keys::enter || code == keys::escape) {

@@ -88,7 +88,7 @@ bool PickerFace::pressKey(QKeyEvent& key) {
   return Face::pressKey(key);
 }
 
-// A click marks the day, month or year that it hits, so that the next key replaces it.
+/// A click marks the day, month or year that it hits, so that the next key replaces it.
 bool PickerFace::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseButtonRelease && watched == edit_->findChild<QLineEdit*>()) {
     edit_->setSelectedSection(edit_->currentSection());

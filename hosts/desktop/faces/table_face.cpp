@@ -127,8 +127,8 @@ void TableFace::showChange(const Change& change) {
   }
 }
 
-// Rows come and go by the thousand in one event; the view is told once. While the model's
-// redrawing is off it keeps what it shows.
+/// Rows come and go by the thousand in one event; the view is told once. While the model's
+/// redrawing is off it keeps what it shows.
 void TableFace::showLater() {
   if (table_.redraw()) {
     QMetaObject::invokeMethod(
@@ -270,7 +270,7 @@ TableFace::Cell TableFace::cellAt(const QPoint& point) const {
   return cell.isValid() ? Cell{rows_->tableRow(cell.row()), cell.column()} : Cell{};
 }
 
-// The focus has come with the button's going down; the rest of a click is the model's in one.
+/// The focus has come with the button's going down; the rest of a click is the model's in one.
 bool TableFace::pressMouse(QMouseEvent& mouse) {
   showNow();
   pressed_ = {};

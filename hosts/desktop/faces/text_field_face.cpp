@@ -37,7 +37,7 @@ void TextFieldFace::showChange(const Change& change) {
   if (change.aspect == Aspect::content && !typing_) showCaret();
 }
 
-// Up, Down and the page keys mean nothing to a one-line field; the form around it may scroll.
+/// Up, Down and the page keys mean nothing to a one-line field; the form around it may scroll.
 bool TextFieldFace::pressKey(QKeyEvent& key) {
   const std::int16_t code = keyCodeOf(key);
   const bool ofField = code == keys::left || code == keys::right || code == keys::home ||

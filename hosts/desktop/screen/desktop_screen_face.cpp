@@ -36,7 +36,7 @@ QWidget* DesktopScreenFace::topWindow() const {
   return top == opened_.rend() ? mainWindow_.data() : *top;
 }
 
-// Not every platform activates the window below by itself.
+/// Not every platform activates the window below by itself.
 void DesktopScreenFace::activateTop() {
   if (QWidget* top = topWindow()) top->activateWindow();
 }

@@ -134,7 +134,7 @@ void Waiting::place() {
                       size.width(), size.height());
 }
 
-// The events that a painted, living window needs; the user's go nowhere, as the filter sees to.
+/// The events that a painted, living window needs; the user's go nowhere, as the filter sees to.
 void Waiting::paintNow() {
   sinceMove_.start();
   QCoreApplication::processEvents();

@@ -10,7 +10,7 @@
 
 namespace awizo::protocol {
 
-// The outside gets no answer of those that answer to their buttons alone.
+/// The outside gets no answer of those that answer to their buttons alone.
 void addCommitProcedures(Procedures& procedures, AwizoWysylki& control) {
   Editor& editor = control.editor;
   procedures.add("ZatwierdzPozycje", [&](std::int16_t row) {

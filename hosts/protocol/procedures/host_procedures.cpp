@@ -9,7 +9,7 @@ namespace awizo::protocol {
 
 namespace {
 
-// The level of a line whose level isn't told.
+/// The level of a line whose level isn't told.
 constexpr std::int16_t traceLevel = 4;
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-// Words that a face shows or says beside what its model holds.
+/// Words that a face shows or says beside what its model holds.
 namespace awizo::words {
 
 // Buttons of a message box.

@@ -63,7 +63,7 @@ class AwizoForm : public Form {
   Table grdSuma;
   TextField txtEdycjaSuma;
 
-  // The document's ways in and out.
+  /// The document's ways in and out.
   PictureButton btnPrzeslij, btnZapisz, btnWczytaj;
 
   // Members of the control.
@@ -85,7 +85,7 @@ class AwizoForm : public Form {
     if (onDocumentKept) onDocumentKept();
   }
 
-  // The host's properties as they came; empty for one that the host doesn't have.
+  /// The host's properties as they came; empty for one that the host doesn't have.
   std::string OnLine, DebugLevel, PartnerName, PartnerILN, PartnerURL;
 };
 

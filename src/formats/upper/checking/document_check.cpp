@@ -11,7 +11,7 @@
 namespace awizo {
 namespace {
 
-// Only a despatch advice is read a second time, as text of the machine's encoding.
+/// Only a despatch advice is read a second time, as text of the machine's encoding.
 constexpr const char* otherEncoding =
     "кодировка не та, что объявлена (без объявления — UTF-8): буквы заказа будут искажены или он "
     "будет отвергнут";

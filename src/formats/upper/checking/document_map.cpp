@@ -24,7 +24,7 @@ DocumentMap::DocumentMap(XmlDocument& document) {
   if (const XmlNode root = document.root()) add(root, root.name(), 0, 0);
 }
 
-// A loaded document is at most some hundred levels deep.
+/// A loaded document is at most some hundred levels deep.
 void DocumentMap::add(const XmlNode& element, const std::string& kind, std::size_t parent,
                       int ofName) {
   const std::size_t number = places_.size();

@@ -36,7 +36,7 @@ int packageDescriptionIndex(std::string_view code) {
   return -1;
 }
 
-// A file that can't be read is a document that can't be loaded.
+/// A file that can't be read is a document that can't be loaded.
 bool loadFile(Files& files, XmlDocument& document, std::string_view path) {
   try {
     return document.loadBytes(files.readAll(path));
@@ -45,7 +45,7 @@ bool loadFile(Files& files, XmlDocument& document, std::string_view path) {
   }
 }
 
-// Reads one document into the form, part by part.
+/// Reads one document into the form, part by part.
 class DocumentReader {
  public:
   DocumentReader(Editor& editor, XmlDocument& document)
@@ -122,9 +122,9 @@ class DocumentReader {
     form_.txtGoodsIdentity.setText(value(below + "GoodsIdentity", true));
   }
 
-  // The heading and a row for each element; an empty table has a row too.
+  /// The heading and a row for each element; an empty table has a row too.
   static int rowsFor(std::int16_t elements) { return elements == 0 ? 2 : elements + 1; }
-  // Elements that can't be counted get no rows, which would take memory without bounds.
+  /// Elements that can't be counted get no rows, which would take memory without bounds.
   static std::int16_t requireCount(const std::vector<XmlNode>& elements) {
     return narrow16(static_cast<std::int64_t>(elements.size()));
   }
@@ -136,7 +136,7 @@ class DocumentReader {
     row.set(GRD_OPAK_ID_LOW, id);
   }
 
-  // The rows appear, but the count of packages stays what it was.
+  /// The rows appear, but the count of packages stays what it was.
   void readPackages() {
     const XmlNode consignment = document_.node().selectSingle(consignmentPath);
     if (!consignment) {
@@ -185,14 +185,14 @@ class DocumentReader {
   std::vector<std::string> missing_;
 };
 
-// An error while the document is read counts as a document that isn't complete.
+/// An error while the document is read counts as a document that isn't complete.
 ReadingResult readInto(Editor& editor, XmlDocument& document) {
   ReadingResult result;
   const auto error = caughtError([&] { result = DocumentReader(editor, document).read(); });
   return error ? ReadingResult{ReadingOutcome::failed, {}, error} : result;
 }
 
-// The document's own totals stand over the computed ones, where it has them.
+/// The document's own totals stand over the computed ones, where it has them.
 void takeTotals(Editor& editor, XmlDocument& document) {
   Table& totals = editor.form.grdSuma;
   totals.setRedraw(false);
@@ -206,7 +206,7 @@ void takeTotals(Editor& editor, XmlDocument& document) {
   totals.setRedraw(true);
 }
 
-// A document from a file never answers an order, whatever it refers to.
+/// A document from a file never answers an order, whatever it refers to.
 void finish(Editor& editor, XmlDocument& document) {
   PoprawGrdSuma(editor);
   takeTotals(editor, document);
@@ -218,7 +218,7 @@ void finish(Editor& editor, XmlDocument& document) {
 
 }  // namespace
 
-// The form is emptied before the file is looked at, and stays so when the file is refused.
+/// The form is emptied before the file is looked at, and stays so when the file is refused.
 ReadingResult readDespatchAdvice(Editor& editor, XmlDocument& document, std::string_view path) {
   using enum ReadingOutcome;
   closeOpenEdits(editor);

@@ -19,8 +19,8 @@ void placeOverCell(Table& grid, TextField& edit) {
   edit.move({table.x + left, table.y + top, grid.cellWidth() - 4, grid.cellHeight() - 4});
 }
 
-// A valid text keeps the field visible, so that the table's focus event takes it into the cell;
-// an invalid one hides it, and the cell keeps its value.
+/// A valid text keeps the field visible, so that the table's focus event takes it into the cell;
+/// an invalid one hides it, and the cell keeps its value.
 void commit(Editor& editor, Table& grid, TextField& edit) {
   edit.setText(ClampQuantity(editor, edit.text()));
   edit.setVisible(CheckNumber(editor, edit.text()));
@@ -114,7 +114,7 @@ void grdSuma_LeaveCell(Editor& editor) {
   edit.setVisible(false);
 }
 
-// The packages have no in-table editing.
+/// The packages have no in-table editing.
 void grdOpakowania_LeaveCell(Editor&) {}
 
 void closeOpenEdits(Editor& editor) {
@@ -164,14 +164,14 @@ void txtEdycja_KeyDown(Editor& editor, std::int16_t KeyCode, bool Shift) {
   EditKeyCode(editor, editor.form.grdPozycje, editor.form.txtEdycja, KeyCode, Shift);
 }
 
-// Enter would beep in a one-line field.
+/// Enter would beep in a one-line field.
 void txtEdycja_KeyPress(std::int16_t& keyAscii) {
   if (keyAscii == keys::enter) keyAscii = 0;
 }
 
 void txtEdycja_LostFocus(Editor& editor) { tidyQuantity(editor); }
 
-// The focus always moves on; a text that is no number closes the field and leaves the cell alone.
+/// The focus always moves on; a text that is no number closes the field and leaves the cell alone.
 void txtEdycja_Validate(Editor& editor) {
   tidyQuantity(editor);
   editor.form.txtEdycja.setVisible(CheckNumber(editor, editor.form.txtEdycja.text()));

@@ -14,15 +14,15 @@
 namespace awizo {
 namespace {
 
-// The longest chain of packages that lie in one another without running in a circle. It may begin
-// with one package more than are counted: a file brings rows that nobody counts.
+/// The longest chain of packages that lie in one another without running in a circle. It may begin
+/// with one package more than are counted: a file brings rows that nobody counts.
 std::size_t longestChain(const Editor& editor, std::int16_t firstRow) {
   const std::int16_t count = editor.session.IloscPozycjiOpak;
   const bool isCounted = firstRow >= 1 && firstRow <= count;
   return static_cast<std::size_t>(count) + (isCounted ? 0 : 1);
 }
 
-// Every scan goes into the log, row by row. `room`: how many packages the chain may still take.
+/// Every scan goes into the log, row by row. `room`: how many packages the chain may still take.
 void scanAllRows(Editor& editor, std::int16_t row, std::vector<std::string>& delSerials,
                  std::size_t room) {
   if (room == 0) throw errors::outOfStackSpace();
@@ -38,7 +38,7 @@ void scanAllRows(Editor& editor, std::int16_t row, std::vector<std::string>& del
   }
 }
 
-// Rows of the packages by their parent's serial, in table order.
+/// Rows of the packages by their parent's serial, in table order.
 using ChildRows = std::unordered_map<std::string, std::vector<std::int16_t>>;
 
 ChildRows childRows(const Editor& editor) {
@@ -49,7 +49,7 @@ ChildRows childRows(const Editor& editor) {
   return rows;
 }
 
-// Finds what scanAllRows finds, without its scans. An error leaves the same row current.
+/// Finds what scanAllRows finds, without its scans. An error leaves the same row current.
 void followChildren(Editor& editor, const ChildRows& children, std::int16_t row,
                     std::vector<std::string>& delSerials, std::size_t room) {
   if (room == 0) {
@@ -65,13 +65,13 @@ void followChildren(Editor& editor, const ChildRows& children, std::int16_t row,
   }
 }
 
-// The last row whose every used cell the 16-bit index reaches.
+/// The last row whose every used cell the 16-bit index reaches.
 constexpr int lastWholeRow =
     (std::numeric_limits<std::int16_t>::max() - GRD_OPAK_SERIAL) / packageColumnCount;
 
-// Whether the table holds as many packages as are counted, and each can be read: not so after a
-// file was read, which brings rows without counting them, or past the limit of the index. Then an
-// error may end the work half-way, so every step is taken in its turn.
+/// Whether the table holds as many packages as are counted, and each can be read: not so after a
+/// file was read, which brings rows without counting them, or past the limit of the index. Then an
+/// error may end the work half-way, so every step is taken in its turn.
 bool holdsWhatIsCounted(const Editor& editor) {
   const int count = editor.session.IloscPozycjiOpak;
   return count <= lastWholeRow && editor.form.grdOpakowania.rows() == count + 1;
@@ -98,8 +98,8 @@ void removeFirstRowOf(Editor& editor, const std::string& serial) {
   }
 }
 
-// The rows that go, in their turn: each serial takes the first row that bears it and is still
-// there. A file may have brought several rows of one serial.
+/// The rows that go, in their turn: each serial takes the first row that bears it and is still
+/// there. A file may have brought several rows of one serial.
 std::vector<int> rowsInTurn(const Editor& editor, const std::vector<std::string>& delSerials) {
   std::unordered_map<std::string_view, std::deque<int>> rowsBySerial;
   for (std::int16_t row = 1; row <= editor.session.IloscPozycjiOpak; ++row) {
@@ -115,8 +115,8 @@ std::vector<int> rowsInTurn(const Editor& editor, const std::vector<std::string>
   return rows;
 }
 
-// One pass over the table instead of one for each serial. The last row's turn comes by itself:
-// where no other package is left, it is emptied instead of removed.
+/// One pass over the table instead of one for each serial. The last row's turn comes by itself:
+/// where no other package is left, it is emptied instead of removed.
 void removeInOnePass(Editor& editor, const std::vector<std::string>& delSerials) {
   std::vector<int> rows = rowsInTurn(editor, delSerials);
   if (rows.empty()) return;

@@ -24,7 +24,7 @@ void removePackagesOfCurrentRow(Editor& editor, std::vector<std::string>& delSer
   grid.setColumn(1);
 }
 
-// Every line is rewritten, whether it held one of the packages or not.
+/// Every line is rewritten, whether it held one of the packages or not.
 void removeReferences(Editor& editor, const SerialSet& delSerials) {
   DebugLog& log = editor.session.log;
   for (std::int16_t m = 1; m <= editor.session.LineCount; ++m) {
