@@ -7,9 +7,9 @@
 namespace awizo {
 
 /// Writes the rate of comboStawkaVAT and its category into all lines, or into those whose rate is
-/// blank (empty or "-1"), after a question.
+/// missing (empty or "-1"), after a question.
 void FillLines(Editor& editor, bool overwrite);
-/// The same with the country of comboCountry; the lines aren't counted anew.
+/// The same with the country of comboCountry; the lines aren't counted again.
 void FillLines2(Editor& editor, bool overwrite);
 
 void btnUzupelnij_Click(Editor& editor);

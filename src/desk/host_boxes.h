@@ -6,11 +6,11 @@
 
 namespace awizo {
 
-// What a host asks or tells the user beside what the control does.
+// Questions and messages of a host, in addition to the control's.
 
 /// Asked before a changed document is lost; Yes lets it go.
 MessageBox lossQuestion();
-/// Told where there is no local folder yet; the choice of one follows.
+/// Shown where there is no local folder yet; the choice of one follows.
 MessageBox folderRequest();
 /// Asked before the first exchange with this place; Yes trusts it.
 MessageBox newAddressQuestion(std::string_view origin);

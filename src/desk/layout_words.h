@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-/// Words that stand on a form beside what its models say. Where they stand is the host's.
+/// Words on a form in addition to its models'. The host decides where they are.
 namespace awizo::words {
 
 inline constexpr std::string_view windowTitle = "Подтверждение отгрузки";

@@ -7,7 +7,7 @@
 namespace awizo {
 namespace {
 
-/// Takes the values that stand below the element by paths.
+/// Takes the values below the element by their paths.
 template <class Part, class Elements>
 void takePaths(const XmlNode& node, const Elements& elements, Part& part) {
   for (const auto& element : elements) {
@@ -52,7 +52,7 @@ AdviceLine lineOf(const XmlNode& node) {
   return line;
 }
 
-/// Whether it stands for the whole consignment and tells nothing else.
+/// Whether it stands for the whole consignment and has no other value.
 bool isConsignment(const AdvicePackage& package) {
   AdvicePackage consignment;
   consignment.id = consignmentId;

@@ -32,7 +32,7 @@ constexpr std::string_view placePath =
     "/dictionary-response/document-content/Document-LocalizationsCatalog/localizations/"
     "localization[iln =";
 
-/// The XML value that stands for a missing one.
+/// The XML value for a missing one.
 constexpr std::string_view missingMark = "-1";
 
 void completeOrder(XmlDocument& catalogue, XmlDocument& order) {

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view listPath = "/Document-ProductCatalogue/ProductCatalogue-Lines";
 
-/// Whole numbers of so many digits are exact as floating numbers, so that comparing them as
+/// Whole numbers of up to this many digits are exact as floating numbers, so that comparing them as
 /// integers is comparing them as XPath does.
 constexpr std::size_t mostExactDigits = 15;
 constexpr double exactLimit = 1e15;
@@ -52,7 +52,7 @@ CatalogueIndex::CatalogueIndex(XmlDocument& catalogue, const std::vector<std::st
   }
 }
 
-/// Any EAN of a line finds it, in whichever of its items it stands.
+/// Any EAN of a line finds it, whichever of its items has it.
 void CatalogueIndex::readLine(const XmlNode& line) {
   for (XmlNode item = line.firstChild(); item; item = item.nextSibling()) {
     if (!item.isElement("Line-Item")) continue;

@@ -8,7 +8,7 @@
 namespace awizo {
 namespace {
 
-/// Stands for the first digit of a number that was given on paper.
+/// Stands for the first digit of a number of a paper declaration.
 constexpr std::string_view paperLetter = "П";
 
 std::string twoDigits(unsigned value) {

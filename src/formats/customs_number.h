@@ -15,11 +15,11 @@ namespace awizo {
 
 using CustomsNumberFields = std::array<std::string, 4>;
 
-/// The four fields of a composite. One without field 4 has it empty; a text that isn't three or
-/// four pieces gives empty fields and today as field 2.
+/// The four fields of a composite. One without field 4 has it empty; for a text that isn't three or
+/// four pieces the fields are empty and field 2 is today.
 CustomsNumberFields SplitCDN(Work& work, std::string_view cdn);
 
-/// The composite of the four fields; the empty text where fields 1 and 3 are both empty. A blank
+/// The composite of the four fields; the empty text where fields 1 and 3 are both empty. An empty
 /// field 4 is left out. Tests nothing.
 std::string JoinCDN(std::string_view field1, std::string_view field2, std::string_view field3,
                     std::string_view field4);
@@ -30,7 +30,7 @@ std::string FormatCDNDate(Work& work, Date date);
 /// The numeric test of fields 1 and 3. The letter "П" is tolerated anywhere.
 bool IsCDNPartNumeric(const Conversions& conversions, std::string_view text);
 
-/// The field filled up with zeros on the left, behind a leading "П". The width counts characters,
+/// The field filled up with zeros on the left, after a leading "П". The width counts characters,
 /// that letter included, and is at least 1. A text that is no number gets no zeros.
 std::string PadCDNPart(const Conversions& conversions, std::string_view text, int width);
 

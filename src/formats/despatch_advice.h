@@ -8,7 +8,7 @@
 namespace awizo {
 
 // A despatch advice as a document has it: numbers with a point, dates "yyyy-mm-dd", times "hh:mm".
-// The empty text stands for a value that isn't there.
+// The empty text is a missing value.
 
 struct AdviceHeader {
   std::string number;

@@ -10,7 +10,7 @@
 namespace awizo {
 
 // Which element of the document holds which value, in the order of the document. Writing, reading
-// back and the check of a file all go by these lists.
+// back and the check of a file all use these lists.
 
 enum class Presence {
   always,
@@ -32,7 +32,7 @@ struct HeaderElement {
   std::string_view path;
   std::string AdviceHeader::*value;
   Presence presence = Presence::unlessEmpty;
-  std::string_view before = "";  ///< what stands in it until then
+  std::string_view before = "";  ///< what it holds until then
 };
 
 inline constexpr std::array headerElements{
@@ -104,7 +104,7 @@ static_assert(sizeof(AdviceLine) ==
               lineElements.size() * sizeof(std::string) + sizeof(AdviceLine::packages));
 static_assert(sizeof(AdviceTotals) == totalElements.size() * sizeof(std::string));
 
-/// Whether the element of the value stands in a document.
+/// Whether a document has the value's element.
 constexpr bool stands(Presence presence, const std::string& value) {
   return presence != Presence::unlessEmpty || !value.empty();
 }

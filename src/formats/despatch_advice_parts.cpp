@@ -29,7 +29,7 @@ class ElementWriter {
     close(name);
   }
 
-  /// A text in which these values stand, which decide whether it is plain.
+  /// A text made of these values, which decide whether it is plain.
   template <class... Values>
   void insert(std::string_view text, const Values&... values) {
     element_.text += text;

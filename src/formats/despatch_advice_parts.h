@@ -8,7 +8,7 @@
 
 namespace awizo {
 
-/// An element as XML text. Its values stand in it as they are, so that markup in a value is markup.
+/// An element as XML text. Its values aren't escaped, so that markup in a value is markup.
 struct ElementText {
   std::string text;
   /// Whether no value can hold markup; the text then can't but be one element.

@@ -33,7 +33,7 @@ void appendLines(const Xml& xml, XmlDocument& document, std::span<const AdviceLi
   appendParts(xml, document, despatchLinesPath, lines, lineText);
 }
 
-/// Writes one document, part by part. The step tells, in a failure's title, how far it came.
+/// Writes one document, part by part. The step, shown in a failure's title, says how far it came.
 class AdviceWriter {
  public:
   AdviceWriter(const Xml& xml, const DespatchAdvice& advice, std::string& step)
@@ -76,7 +76,7 @@ class AdviceWriter {
   std::unique_ptr<XmlDocument> document_;
 };
 
-/// A row that can't be read fails in its turn: after all that comes before it has been written.
+/// A row that can't be read fails only after all that comes before it has been written.
 std::unique_ptr<XmlDocument> make(const Editor& editor, std::string& step) {
   DespatchAdvice advice;
   std::exception_ptr failure;

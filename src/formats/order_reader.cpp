@@ -15,7 +15,7 @@ std::string headerValue(const XmlNode& order, std::string_view path, Missing mis
   return orderValue(order, std::string("/Document-Order/").append(path), missing);
 }
 
-/// The day when the buyer expects the goods; today where the order doesn't tell.
+/// The day when the buyer expects the goods; today where the order doesn't say.
 Date deliveryDate(const Work& work, const std::string& text) {
   const Conversions& conversions = work.conversions;
   const bool isMissing =
@@ -48,7 +48,7 @@ void readHeader(Editor& editor, const XmlNode& order) {
   form.lblCurrencyWart.setCaption(currency.empty() ? "RUR" : currency);
 }
 
-/// Gives each child a row. Answers false where there is none.
+/// Makes a row for each child. Returns false where there are no children.
 bool readLines(Editor& editor, const XmlNode& order) {
   Table& table = editor.form.grdPozycje;
   const std::vector<XmlNode> lines = order.selectSingle(orderLinesPath).children();

@@ -18,8 +18,8 @@ struct RowFault {
 /// index reaches.
 std::optional<RowFault> firstFault(Editor& editor, std::int16_t row);
 
-/// Whether the line in this row of grdPozycje can leave in a document. The first cell that fails
-/// gives its name to BadColumnName. Error 6 as firstFault.
+/// Whether the line in this row of grdPozycje can leave in a document. BadColumnName becomes the
+/// name of the first cell that fails. Error 6 as firstFault.
 bool CheckGridRow(Editor& editor, std::int16_t row);
 
 /// Paints every line that passes white. Failing lines keep their colours; the current cell stays.

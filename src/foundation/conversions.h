@@ -25,7 +25,7 @@ class Conversions {
   static std::string DotToComma(std::string_view text);
 
   /// The number in the text with this many decimals, rounded half away from zero on its decimal
-  /// digits. The empty text and a text that is no number come back as they are. Error 5 for fewer
+  /// digits. The empty text and a text that is no number are returned unchanged. Error 5 for fewer
   /// than no decimals.
   std::string FormatFixed(std::string_view text, int decimals) const;
   /// The text with every comma and point replaced by the locale's separator.
@@ -34,7 +34,7 @@ class Conversions {
   std::string NormalizeDecimal(std::string_view text, int decimals) const;
   /// FormatFixed with a point for the separator; "-1" where that is empty.
   std::string FormatForXml(std::string_view text, int decimals) const;
-  /// The number rounded to three decimals, with either separator; 0 where the text is none.
+  /// The number rounded to three decimals, with either separator; 0 where the text is no number.
   double MyDouble(std::string_view text) const;
   /// Quantity (rounded to 3 decimals) times price (rounded to 2), as XML number with 2 decimals;
   /// the empty text where either is no number.
@@ -44,9 +44,9 @@ class Conversions {
   static std::string FormatDateIso(Date date);
   /// "hh:mm", 24-hour clock.
   static std::string FormatTimeHm(TimeOfDay time);
-  /// The date plus so many months ("802"), weeks ("803") or days ("804"), any other code plus
-  /// nothing, as "yyyy-mm-dd"; the empty text where the count is no whole number or the result
-  /// can't be reached.
+  /// The date plus the count in months ("802"), weeks ("803") or days ("804"), with any other code
+  /// the date itself, as "yyyy-mm-dd"; the empty text where the count is no whole number or the
+  /// result can't be reached.
   std::string AddPeriodToDate(Date date, std::string_view count, std::string_view code) const;
 
   // The platform's own conversions, by the locale.

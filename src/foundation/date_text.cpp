@@ -13,7 +13,7 @@ namespace {
 
 using Figures = std::array<int, 3>;
 
-/// Where day, month and year stand among the three figures.
+/// The places of day, month and year among the three figures.
 struct Order {
   std::size_t day;
   std::size_t month;
@@ -98,7 +98,7 @@ class DateReader {
     return true;
   }
 
-  /// One separator, blanks around it or not; a blank alone is one too.
+  /// One separator, with or without white space around it; white space alone is one too.
   bool takeSeparator() {
     const std::size_t blanks = leadingBlanks(rest_);
     rest_.remove_prefix(blanks);

@@ -56,7 +56,7 @@ class NumberReader {
     return true;
   }
 
-  /// Parentheses are a sign of their own, so that no other may stand with them.
+  /// Parentheses are a sign of their own, so no other is allowed with them.
   bool takeParenthesis(Side side) {
     if (side == Side::trailing) {
       if (!open_ || !take(")")) return false;
@@ -126,7 +126,7 @@ class NumberReader {
 
   DecimalNumber number() {
     digits_.erase(0, std::min(digits_.find_first_not_of('0'), digits_.size()));
-    // Zero times any power of ten is zero, not a row of noughts as long as the power says.
+    // Zero times any power of ten is zero, not as many zeros as the power says.
     const int exponent = digits_.empty() ? 0 : exponent_ - decimals_;
     return {negative_, std::move(digits_), exponent};
   }
@@ -143,8 +143,8 @@ class NumberReader {
   bool open_ = false;
 };
 
-/// The digits that stand for `number` in units of ten to the power of -decimals, rounded half away
-/// from zero; at least one more than the decimals.
+/// The digits of `number` in units of ten to the power of -decimals, rounded half away from zero;
+/// at least one more than the decimals.
 std::string roundedDigits(const DecimalNumber& number, int decimals) {
   const int kept = static_cast<int>(number.digits.size()) + number.exponent + decimals;
   std::string digits;

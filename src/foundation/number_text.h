@@ -8,22 +8,22 @@
 
 namespace awizo {
 
-/// A decimal number exactly as a text gives it: digits times ten to the power of the exponent.
+/// A decimal number exactly as a text has it: digits times ten to the power of the exponent.
 struct DecimalNumber {
   bool negative = false;
   std::string digits;  ///< without leading zeros; empty for zero
   int exponent = 0;    ///< power of ten of the last digit
 };
 
-/// The blank characters at the start of the text, in bytes: space, no-break space, tab, line ends.
+/// The white space at the start of the text, in bytes: space, no-break space, tab, line ends.
 std::size_t leadingBlanks(std::string_view text);
 
-/// Reads a text as the locale writes numbers: blanks, one sign in front or behind, parentheses for
-/// a negative, a currency sign, group separators after the first digit, an exponent, "&H" and "&O".
-/// None for a text that is no number, and none for one beyond the range of a floating number.
+/// Reads a text as the locale writes numbers: white space, one sign before or after, parentheses
+/// for a negative, a currency sign, group separators after the first digit, an exponent, "&H" and
+/// "&O". Nothing for a text that is no number, and for one beyond the range of a floating number.
 std::optional<DecimalNumber> readNumber(std::string_view text, const LocaleFacts& facts);
 
-/// The same without regard to the range; `fitsFloating` tells it.
+/// The same, whatever the range; `fitsFloating` says whether it is inside.
 std::optional<DecimalNumber> readNumberOfAnySize(std::string_view text, const LocaleFacts& facts);
 bool fitsFloating(const DecimalNumber& number);
 

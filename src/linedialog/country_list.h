@@ -11,9 +11,9 @@ namespace awizo {
 /// same but for case. A code that no country has adds nothing.
 void addCountryOfCode(DropDownList& list, DlgIsoCodes& isoCodes, const Locale& locale);
 
-/// Lets the user pick from all countries. The list's text becomes what was picked, which gets a row
-/// unless one is the same but for case. After a cancelled choice an earlier one comes back, and
-/// where there was none the text is emptied.
+/// Lets the user pick from all countries. The list's text becomes what was picked, for which a row
+/// is added unless one is the same but for case. After a cancelled choice an earlier one is set
+/// again, and without an earlier one the text is emptied.
 void pickCountry(DropDownList& list, DlgIsoCodes& isoCodes, const SessionState& session,
                  const Locale& locale);
 

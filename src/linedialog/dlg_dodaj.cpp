@@ -138,7 +138,7 @@ DlgDodaj& DlgDodaj::touch() {
   return *this;
 }
 
-/// A failure in one part is told to the user and doesn't stop the rest.
+/// A failure in one part is shown to the user and doesn't stop the rest.
 void DlgDodaj::Form_Load() {
   DebugLog& log = work_.session.log;
   work_.session.IsoCheckOk = true;

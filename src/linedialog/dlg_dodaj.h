@@ -77,7 +77,7 @@ class DlgDodaj : public Form {
   Label Label4;
   Label lblPackedQuantity, lblPackedQuantityValue;
   Table grdPozycje;
-  Table grdPozycjeN;  ///< stands on the form; nothing reads or writes it
+  Table grdPozycjeN;  ///< on the form; nothing reads or writes it
   Button Command1, Command2, Command3;
 
   Button btnDodaj, btnZamknij;
@@ -96,19 +96,19 @@ class DlgDodaj : public Form {
   void allowLoading() { mayLoad_ = true; }
   bool loaded() const { return loaded_; }
 
-  // Rows of the fixed lists and their codes. Index -1 stands for the list's own text.
+  // Rows of the fixed lists and their codes. Index -1 means the list's own text.
   std::string symbolJednostkiMiary(std::int16_t index) const;
   std::int16_t indexJednostkiMiary(std::string_view code) const;
-  /// Any unknown index of a category gives "E".
+  /// For any unknown index of a category "E".
   std::string symbolKodVAT(std::int16_t index) const;
   std::int16_t indexKodVAT(std::string_view code) const;
   std::string symbolStawkaVAT(std::int16_t index) const;
   std::int16_t indexStawkaVAT(std::string_view rate) const;
 
-  /// Whether the line may be accepted; tells the user the first fault.
+  /// Whether the line may be accepted; shows the user the first fault.
   bool Walidacja();
-  /// Keeps category "E" and a rate above 0 from standing together: 0 after the category changed, 1
-  /// after the rate changed.
+  /// Keeps category "E" and a rate above 0 apart: 0 after the category changed, 1 after the rate
+  /// changed.
   void CheckVAT(std::int16_t which) { awizo::CheckVAT(which, cboxKodVAT, cboxStawkaVAT); }
   /// Net amount, screen number with 2 decimals; empty where quantity or price is no number.
   std::string MyCalculateAmount() const;

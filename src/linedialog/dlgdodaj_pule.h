@@ -26,7 +26,7 @@ class DlgdodajPule : public Form {
 
   std::int16_t DlgResult = 0;  ///< 1 accepted, 0 closed
 
-  /// Whether a package and a quantity are given; tells the user what is missing.
+  /// Whether a package and a quantity are given; shows the user what is missing.
   bool Walidacja();
 
  private:

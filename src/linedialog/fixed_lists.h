@@ -9,8 +9,8 @@
 
 namespace awizo {
 
-// The line dialog's fixed lists: their rows, and the codes that stand for the rows in a line. A
-// code that no row has gives index -1.
+// The line dialog's fixed lists: their rows, and the codes that lines have for the rows. The index
+// of a code that no row has is -1.
 
 /// Units of measure by their Russian names.
 std::vector<std::string> unitRows();

@@ -9,8 +9,8 @@
 
 namespace awizo {
 
-/// Keeps tax category "E" and a rate above 0 from standing together. `which`: 0 after the category
-/// changed, 1 after the rate changed.
+/// Keeps tax category "E" and a rate above 0 apart. `which`: 0 after the category changed, 1 after
+/// the rate changed.
 void CheckVAT(std::int16_t which, DropDownList& category, DropDownList& rate);
 
 /// Net amount of a line, screen number with 2 decimals, from a screen number each; empty where one

@@ -4,7 +4,7 @@
 
 namespace awizo {
 
-/// Whether the line may be accepted; tells the user the first fault. Leaves the fields tidied as
+/// Whether the line may be accepted; shows the user the first fault. Leaves the fields tidied as
 /// far as it came, and an accepted country as its bare code.
 bool Walidacja(Work& work, DlgDodaj& dialog, DlgIsoCodes& isoCodes);
 

@@ -29,8 +29,9 @@ std::size_t lineOf(int index, const std::vector<std::int32_t>& order) {
 }  // namespace
 
 /// A change event that fails keeps its mark: its last step is skipped. Lines that share names and
-/// codes can lead to each other without end. Such a chain ends as a whole, and the event with which
-/// it began tells so: would each event on the way report and go on, there were no end of boxes.
+/// codes can lead to each other without end. Such a chain ends as a whole, and only the event with
+/// which it began reports it: if each event on the way reported and went on, there would be no end
+/// of boxes.
 void ProductChoice::followList(DropDownList& list, std::int16_t mark, TextField& field,
                                const std::function<void()>& onward) {
   const std::string event = list.name() + "_Change";

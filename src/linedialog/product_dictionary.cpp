@@ -29,7 +29,7 @@ class LineReader {
 
   std::string value(std::string_view path, bool blankOnMissing) const {
     if (onlyItem_) return GetNodeValue(onlyItem_, path, blankOnMissing);
-    // Of several items the first that has the value gives it.
+    // Of several items the first that has the value counts.
     return GetNodeValue(line_, std::string("Line-Item/").append(path), blankOnMissing);
   }
 

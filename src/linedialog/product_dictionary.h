@@ -13,7 +13,7 @@
 namespace awizo {
 
 /// The product catalogue as the line dialog keeps it: element i belongs to the i-th catalogue line.
-/// The texts never move; the index vectors give each list's order. There is always one element,
+/// The texts never move; the index vectors hold each list's order. There is always one element,
 /// also for a catalogue without lines.
 struct ProductDictionary {
   std::vector<std::string> ProdEAN, ProdName, ProdSupplierCode, ProdBuyerCode, ProdUnit,

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t wordSize = sizeof(std::uint64_t);
 
-/// The first byte weighs most; zeros stand behind the end of the text.
+/// The first byte weighs most; zeros follow the end of the text.
 std::uint64_t wordOf(std::string_view bytes) {
   std::uint64_t word = 0;
   for (std::size_t i = 0; i < wordSize; ++i) {
@@ -25,7 +25,7 @@ bool endsKey(std::uint64_t word) { return (word & 0xFF) == 0; }
 /// Entries whose keys are equal in the words before `depth`.
 struct KeyStore::Run {
   std::size_t first;
-  std::size_t last;  ///< behind the last entry
+  std::size_t last;  ///< after the last entry
   std::size_t depth;
 };
 

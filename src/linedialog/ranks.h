@@ -15,7 +15,7 @@ struct Ranks {
 /// Many keys, held as numbers of eight bytes each, so that whole words are compared at a time.
 class KeyStore {
  public:
-  /// Makes room for so many keys.
+  /// Makes room for this many keys.
   void reserve(std::size_t count) { starts_.reserve(count); }
   /// A key holds no byte 0.
   void add(std::string_view key);
@@ -30,8 +30,7 @@ class KeyStore {
   struct Run;
 
   void sortRun(std::vector<Entry>& entries, const Run& run) const;
-  /// The keys in their order; `equalsItsFormer` tells of each place whether the key before is
-  /// equal.
+  /// The keys in their order; `equalsItsFormer` says of each place whether the key before is equal.
   std::vector<Entry> sorted(std::vector<bool>& equalsItsFormer) const;
 
   std::vector<std::uint64_t> words_;  ///< the last word of each key ends in zeros, at least one

@@ -134,10 +134,10 @@ void Sorter::putInPlaces(Index& index, std::int32_t left, std::int32_t right) co
 }
 
 /// The walk swaps each key above the pivot, met from the left, with a key not above it, met from
-/// the right; the pivot then goes behind its equals. A segment always holds the very elements whose
+/// the right; the pivot then goes after its equals. A segment always holds the very elements whose
 /// sorted places it covers, so the pivot's place is known beforehand. Hence only the shorter side
-/// is searched for keys that stand wrong, and the other side just as far as their partners: a
-/// sorted, a reversed and an all-equal list take one step per element.
+/// is searched for misplaced keys, and the other side just as far as their partners: a sorted, a
+/// reversed and an all-equal list take one step per element.
 std::int32_t Sorter::partitionRanked(Index& index, std::int32_t left, std::int32_t right) {
   const auto rank = [&](std::int32_t place) -> std::int32_t& {
     return ranks_[static_cast<std::size_t>(place)];

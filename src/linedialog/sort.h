@@ -13,7 +13,7 @@ namespace awizo {
 /// Sorts an index array over a key array that stays where it is: key[index[0]], key[index[1]], ...
 /// come out in order. The quicksort walks with the first element of a segment as its pivot and an
 /// explicit stack; among equal keys the walk decides. Every procedure reports its errors in a box
-/// and leaves, so a wrong call gives a partly sorted index that is still a permutation.
+/// and returns, so a wrong call leaves a partly sorted index that is still a permutation.
 class Sorter {
  public:
   Sorter(Screen& screen, const Conversions& conversions)
@@ -24,12 +24,12 @@ class Sorter {
 
   /// Sorts the segment from left to right, both included, ascending and blind to case.
   void QuickSort(const Keys& keys, Index& index, std::int32_t left, std::int32_t right);
-  /// Gives the stack room for `size` elements first.
+  /// Makes room in the stack for `size` elements first.
   void QuickSortU(const Keys& keys, Index& index, std::int32_t left, std::int32_t right,
                   std::int32_t size);
   /// The same walk, descending by number; texts that are no numbers end up last.
   void QuickSortNumbers(const Keys& keys, Index& index, std::int32_t left, std::int32_t right);
-  /// Gives the stack the bounds 0 to n.
+  /// Sets the stack's bounds to 0 to n.
   void ReDimSplitArrays(std::int32_t n);
 
   /// -1, 0 or 1; a text that can't be read counts as the number -1.

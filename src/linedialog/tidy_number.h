@@ -5,8 +5,8 @@
 
 namespace awizo {
 
-/// What leaving a number field does: the text loses its outer blanks and, where it is a number,
-/// becomes a screen number with so many decimals. Never refuses.
+/// What leaving a number field does: the text loses its outer spaces and, where it is a number,
+/// becomes a screen number with that many decimals. Never refuses.
 void tidyNumber(const Conversions& conversions, TextField& field, int decimals);
 
 }  // namespace awizo

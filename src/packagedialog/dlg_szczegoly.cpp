@@ -129,7 +129,7 @@ bool DlgSzczegoly::IsKnownDescription(std::string_view text) const {
   return isKnown(work_.session.ParentDescriptions, text);
 }
 
-/// The last element stands for no package.
+/// The last element belongs to no package.
 bool DlgSzczegoly::isKnown(const std::vector<std::string>& entries, std::string_view text) const {
   const Locale& locale = work_.platform.locale;
   const std::string upper = locale.upper(text);

@@ -47,7 +47,7 @@ class DlgSzczegoly : public Form {
   /// Case is ignored.
   bool IsKnownSerial(std::string_view text) const;
   bool IsKnownDescription(std::string_view text) const;
-  /// Whether the package may be accepted; tells the user the first fault.
+  /// Whether the package may be accepted; shows the user the first fault.
   bool Walidacja();
   /// Fills the two delivery lists from the session's catalogue.
   void LoadLocalizationDictionary();

@@ -26,7 +26,7 @@ bool checkTypeAndDescription(Work& work, DlgSzczegoly& dialog) {
   return true;
 }
 
-/// The length is a lower bound only. A text of blanks passes: the second rule doesn't trim.
+/// The length is a lower bound only. A text of spaces passes: the second rule doesn't trim.
 bool checkDeliveryPlace(Work& work, DlgSzczegoly& dialog) {
   const std::string_view iln = trimmed(dialog.cboxILNLokalizacji.text());
   if (!iln.empty() && (countCharacters(iln) < 13 || !work.conversions.isNumeric(iln))) {

@@ -4,7 +4,7 @@
 
 namespace awizo {
 
-/// Whether the package may be accepted; tells the user the first fault. The measures are tidied as
+/// Whether the package may be accepted; shows the user the first fault. The measures are tidied as
 /// far as it came.
 bool Walidacja(Work& work, DlgSzczegoly& dialog);
 

@@ -4,7 +4,7 @@
 
 namespace awizo {
 
-/// Tells the local date and time.
+/// Reads the local date and time.
 class Clock {
  public:
   virtual ~Clock() = default;

@@ -9,7 +9,7 @@ namespace awizo {
 /// A day of the Gregorian calendar. Dates of the system run from year 100 to 9999.
 using Date = std::chrono::year_month_day;
 
-/// The day, or one that isn't ok() where there is none.
+/// The day; one that isn't ok() if there is no such day.
 inline Date makeDate(int year, unsigned month, unsigned day) {
   // The calendar's types keep one byte, in which 257 would become 1.
   constexpr unsigned most = 255;

@@ -22,7 +22,7 @@ class Files {
   virtual ~Files() = default;
 
   virtual std::string readAll(std::string_view path) = 0;
-  /// Puts the bytes in the file's place, wholly or not at all: a failure or the program's end
+  /// Replaces the file by the bytes, completely or not at all: a failure or the program's end
   /// leaves the old file as it was.
   virtual void replace(std::string_view path, std::string_view bytes) = 0;
   /// A new or emptied file that only its owner can read.

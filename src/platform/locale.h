@@ -14,7 +14,7 @@ enum class DateOrder { dayMonthYear, monthDayYear, yearMonthDay };
 /// The plain facts of a locale, from which numbers and dates are read and written.
 struct LocaleFacts {
   std::string decimalSeparator;              ///< one character: "," or "."
-  std::vector<std::string> groupSeparators;  ///< every one that may stand in a number: " ", U+00A0
+  std::vector<std::string> groupSeparators;  ///< every one accepted in a number: " ", U+00A0
   std::string currencySign;                  ///< may be empty
   DateOrder dateOrder = DateOrder::dayMonthYear;
   bool dotSeparatesDates = false;  ///< "." is a date separator, as in Russian
@@ -40,7 +40,8 @@ class Locale {
 
   /// Bytes whose order is the locale's case-blind order of texts, and which are equal for texts
   /// that differ only in case. Punctuation counts. Forms of one character (full width, raised,
-  /// ligatures) have equal keys, so keys order texts but don't tell whether they are the same.
+  /// ligatures) have equal keys, so keys order texts but can't be used to compare them for
+  /// equality.
   virtual std::string collationKey(std::string_view text) const = 0;
 
   /// The machine's single-byte encoding (windows-1251 for Cyrillic locales, windows-1252 for

@@ -8,8 +8,9 @@
 
 namespace awizo {
 
-/// Who hears of something, in the order in which they were added. While it hears, an observer may
-/// remove itself or others, who then hear nothing more; one added meanwhile hears the next time.
+/// Observers, notified in the order in which they were added. While it is notified, an observer may
+/// remove itself or others, which then aren't notified any more; one added meanwhile is notified
+/// from the next time on.
 template <class News>
 class Observers {
  public:

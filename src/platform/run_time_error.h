@@ -81,8 +81,8 @@ inline RunTimeError replyNotAvailable() {
 
 }  // namespace errors
 
-/// Runs the work and returns the run-time error that ended it, want of memory included; none where
-/// it came to its end.
+/// Runs the work and returns the run-time error that ended it, lack of memory included; nothing if
+/// it ran to its end.
 template <class Work>
 std::optional<RunTimeError> caughtError(Work&& work) {
   try {

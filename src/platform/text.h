@@ -20,7 +20,7 @@ std::string_view firstCharacters(std::string_view text, std::size_t count);
 /// The last `count` characters; the whole text when it has no more.
 std::string_view lastCharacters(std::string_view text, std::size_t count);
 
-/// The text without the blanks (U+0020 and nothing else) at both ends.
+/// The text without the spaces (U+0020 and nothing else) at both ends.
 std::string_view trimmed(std::string_view text);
 
 /// The pieces between the separators, empty ones included. The empty text has no pieces. The

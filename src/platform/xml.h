@@ -12,11 +12,12 @@ namespace awizo {
 
 class XmlDocument;
 
-/// One node of a document, or none. Cheap to copy; valid while its document lives and it is in it.
+/// One node of a document, or an empty one. Cheap to copy; valid while its document lives and it is
+/// part of it.
 class XmlNode {
  public:
   XmlNode() = default;
-  /// For the maker of the document: `handle` is what that maker knows the node by.
+  /// For the maker of the document: `handle` identifies the node to that maker.
   XmlNode(XmlDocument& document, void* handle) : document_(&document), handle_(handle) {}
 
   explicit operator bool() const { return handle_ != nullptr; }
@@ -24,14 +25,14 @@ class XmlNode {
   XmlDocument* document() const { return document_; }
   void* handle() const { return handle_; }
 
-  // All of these raise error 91 on a node that is none.
+  // All of these raise error 91 on an empty node.
 
   /// Name of an element, "#text", "#comment", ... of others.
   std::string name() const;
-  /// Whether it is an element of this name, in no namespace: what a name stands for in a path.
+  /// Whether it is an element of this name, in no namespace: what a name means in a path.
   bool isElement(std::string_view name) const;
-  /// The line of the loaded text on which an element's start tag ends, from 1; 65535 stands for all
-  /// behind it, 0 for none known.
+  /// The line of the loaded text on which an element's start tag ends, from 1; 65535 for all later
+  /// lines, 0 if unknown.
   std::int64_t line() const;
   /// Text of the node and all below it, outer white space cut, inner kept.
   std::string text() const;
@@ -48,8 +49,8 @@ class XmlNode {
   /// nothing does. An invalid path raises error -2147467259.
   XmlNode selectSingle(std::string_view path) const;
   std::vector<XmlNode> selectAll(std::string_view path) const;
-  /// Puts `child` behind the last child; it is taken out of where it stood, another document
-  /// included. Appending none raises error 5.
+  /// Puts `child` after the last child; it is taken from where it was, another document included.
+  /// Appending an empty node raises error 5.
   void append(const XmlNode& child) const;
 
  private:
@@ -62,7 +63,7 @@ class XmlDocument {
  public:
   virtual ~XmlDocument() = default;
 
-  // A load that fails empties the document and answers false; it raises nothing.
+  // A load that fails empties the document and returns false; it raises nothing.
 
   /// From text that is UTF-8 whatever its declaration says.
   virtual bool loadText(std::string_view text) = 0;

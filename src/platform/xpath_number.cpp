@@ -17,7 +17,7 @@ std::string_view withoutXmlBlanks(std::string_view text) {
   return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-/// Digits, or digits with one point before, among or behind them.
+/// Digits, or digits with one point before, among or after them.
 bool isUnsignedNumber(std::string_view text) {
   if (text.find_first_not_of("0123456789.") != text.npos) return false;
   return std::count(text.begin(), text.end(), '.') <= 1 && text.find_first_of(digits) != text.npos;

@@ -12,23 +12,23 @@ namespace awizo {
 /// text for an address with fewer than two.
 std::string GetBaseUrl(std::string_view url);
 
-// Addresses of the exchanges. The doubled slash that some of them get behind a base address is
-// what the service expects; the partner's piece brings its own path form.
+// Addresses of the exchanges. The doubled slash that some of them get after a base address is what
+// the service expects; the partner's piece has a path form of its own.
 std::string partnersUrl(std::string_view baseUrl);
 std::string uploadUrl(std::string_view baseUrl, std::string_view partnerUrl);
 std::string orderDataUrl(std::string_view baseUrl, std::string_view partnerUrl);
 std::string productCatalogueUrl(std::string_view baseUrl);
 std::string localizationCatalogueUrl(std::string_view baseUrl);
 
-// Request documents. They are built as text without escaping, so that an ILN with a character
-// that is special in XML gives an empty document.
+// Request documents. They are built as text without escaping, so that an ILN with a character that
+// is special in XML makes an empty document.
 std::unique_ptr<XmlDocument> partnerInfoRequest(const Xml& xml, std::string_view buyerIln);
 std::unique_ptr<XmlDocument> productCatalogueRequest(const Xml& xml, std::string_view buyerIln);
 std::unique_ptr<XmlDocument> localizationCatalogueRequest(const Xml& xml,
                                                           std::string_view buyerIln);
 std::unique_ptr<XmlDocument> orderRequest(const Xml& xml);
 
-// What stands where in the replies.
+// Where the values are in the replies.
 inline constexpr std::string_view partnerInfoPath = "/partner-info-response/partner-info/info";
 inline constexpr std::string_view catalogueStatusPath = "/document-response/status";
 inline constexpr std::string_view cataloguePath =

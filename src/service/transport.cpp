@@ -17,7 +17,7 @@ void reportStep(Work& work, const RunTimeError& error) {
   work.screen().showCritical(error.description(), errorTitle);
 }
 
-/// Runs one step. An error in it is told to the user, and the exchange goes on with the next step.
+/// Runs one step. An error in it is shown to the user, and the exchange goes on with the next step.
 template <class Step>
 void resumeNext(Work& work, Step&& step) {
   try {
@@ -79,7 +79,7 @@ std::unique_ptr<XmlDocument> SendXMLDOMRequest(Work& work, std::string_view url,
       response->loadText(reply);
     });
   }
-  // The log drops its own errors, so one of a document that isn't there is told to nobody.
+  // The log drops its own errors, so one of a document that isn't there is shown to nobody.
   log.WriteDebugXml("ResponseParsed: ", response ? response->node() : XmlNode(), 4);
   return response;
 }

@@ -10,8 +10,8 @@
 namespace awizo {
 
 /// The text of the first node that the path selects from `node`. Where there is none, or anything
-/// fails (a node that is none, an invalid path), the answer is the empty text if `blankOnMissing`,
-/// else "-1". A node that is there and empty gives the empty text either way. Raises nothing.
+/// fails (an empty `node`, an invalid path), returns the empty text if `blankOnMissing`, else "-1".
+/// For a node without text returns the empty text either way. Raises nothing.
 std::string GetNodeValue(const XmlNode& node, std::string_view xpath, bool blankOnMissing);
 
 /// Posts the document to the service under the session's cookie and returns the reply, parsed. An
@@ -23,10 +23,10 @@ std::unique_ptr<XmlDocument> SendXMLDOMRequest(Work& work, std::string_view url,
 /// What the control and the service exchange.
 enum class Exchange { partnerInfo, productCatalogue, deliveryPlaces, order, sending };
 
-/// What the user is told while it runs.
+/// What the user is shown while it runs.
 std::string_view wordsOf(Exchange exchange);
 
-/// SendXMLDOMRequest for one exchange, of which the user is told while it runs.
+/// SendXMLDOMRequest for one exchange, which is shown to the user while it runs.
 std::unique_ptr<XmlDocument> runExchange(Work& work, Exchange exchange, std::string_view url,
                                          XmlDocument& request);
 

@@ -71,9 +71,9 @@ class AwizoWysylki {
   std::string MyCalculateWeight();
   /// Weight of one line in kilograms, rounded to 3 decimals: its quantity times the kilograms of
   /// one unit. Commas and points in both texts become the locale's separator. A text that is no
-  /// number and a unit's weight not above 0 give 0.
+  /// number and a unit's weight not above 0 count as 0.
   double MyCalculatePartWeight(std::string& quantity, std::string& weight);
-  /// Symbol of a unit by its name, case ignored ("PCE"); an unknown name comes back as it is.
+  /// Symbol of a unit by its name, case ignored ("PCE"); an unknown name is returned unchanged.
   std::string JednostkiMiaryNazwaToSymbol(std::string_view name) const;
   /// Takes the element at `index` out of the array. Error 13 for a value that is no array, error 9
   /// outside its bounds and for the last element left; an array that can't shrink raises its own.
@@ -81,15 +81,15 @@ class AwizoWysylki {
 
   // A package reference string is "serial@description@level@quantity" for each package of a line,
   // joined by "$"; the quantity is a screen number with 3 decimals.
-  /// The assignments in the line dialog's table, as such a string; empty where there are none.
+  /// The assignments in the line dialog's table, as such a string; empty if there are none.
   std::string GridToString();
-  /// Fills the line dialog's table anew. At a reference without a serial it stops without a word.
+  /// Refills the line dialog's table. At a reference without a serial it stops without a message.
   void StringToGrid(std::string_view text);
-  /// The string without the references of these serials. An error is shown and gives the empty
+  /// The string without the references of these serials. After an error, which is shown, the empty
   /// text.
   std::string RemoveOldPackRef(std::string_view text, const std::vector<std::string>& delSerials);
-  /// Sum of its quantities, with 3 decimals. An error, such as a quantity that is no number, is
-  /// shown and gives the empty text.
+  /// Sum of its quantities, with 3 decimals. After an error, such as a quantity that is no number,
+  /// which is shown, the empty text.
   std::string GetPackedQuantity(std::string_view text);
 
   // Flat index of a cell, row x columns + column, both counted from 0: of the lines, the packages,

@@ -5,7 +5,7 @@
 namespace awizo {
 namespace {
 
-/// No text of the user's holds it.
+/// No text that a user enters contains it.
 constexpr char separator = '\0';
 
 void add(std::string& content, std::string_view text) {

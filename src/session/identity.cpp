@@ -29,7 +29,7 @@ void readSeller(SessionState& session) {
   session.SellerAccount = GetNodeValue(info, "account", true);
 }
 
-/// Whether the partner's file tells who the partner is.
+/// Whether the partner's file says who the partner is.
 bool readPartner(Work& work) {
   SessionState& session = work.session;
   const std::string path =
@@ -56,7 +56,7 @@ std::string_view readIdentity(Editor& editor) {
       loadFile(editor.platform.files, *session.UserInfoDom, userInfoFile(session.OffLinePathValue));
   if (!session.UserInfoLoaded) return "Нет или неправильный формат файла XML о пользователе.";
   readSeller(session);
-  // On line the service will tell who the partner is.
+  // On line the service will say who the partner is.
   if (!readPartner(editor) && editor.form.OnLine == "Off") {
     return "Нет или неправильный формат файла XML о партнёре.";
   }

@@ -6,8 +6,8 @@
 
 namespace awizo {
 
-/// Reads who the user's firm and the partner are from the two files of the local folder. The
-/// answer is the text that tells the user why the editor can't work; empty where it can.
+/// Reads who the user's firm and the partner are from the two files of the local folder. Returns
+/// the refusal to show, or the empty text.
 std::string_view readIdentity(Editor& editor);
 
 /// Takes the buyer's tax number, name and account from the partner's `info` element, wherever that

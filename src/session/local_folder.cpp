@@ -5,8 +5,8 @@
 namespace awizo {
 namespace {
 
-/// What stands in a file's name comes from documents and from the host's page; it must not lead out
-/// of the folder.
+/// The parts of a file's name come from documents and from the host's page; it must not lead out of
+/// the folder.
 std::string nameOnly(std::string_view text) {
   return replaceAll(replaceAll(text, "\\", "_"), "/", "_");
 }

@@ -20,7 +20,7 @@ XmlNode nodeOf(const std::unique_ptr<XmlDocument>& reply) {
   return reply ? reply->node() : XmlNode();
 }
 
-/// Finds out where the service is and as whom to talk to it. The answer is the base address.
+/// Finds out where the service is and with which identity to call it. Returns the base address.
 std::string readPage(Editor& editor) {
   AwizoForm& form = editor.form;
   const std::string base = GetBaseUrl(editor.platform.page.url());
@@ -56,7 +56,7 @@ void keepParties(const SessionState& session, AwizoForm& form) {
   form.HeaderSellerName = session.SellerName;
 }
 
-/// Without a catalogue the dialogs work all the same, so nothing here is told to the user.
+/// Without a catalogue the dialogs work all the same, so nothing here is shown to the user.
 void fetchProductCatalogue(Editor& editor, std::string_view base) {
   SessionState& session = editor.session;
   const auto request = productCatalogueRequest(editor.platform.xml, session.BuyerILN);

@@ -10,8 +10,8 @@ namespace awizo {
 bool HasHostDocument(HostPage& page);
 
 /// Fetches partner info, both catalogues and a waiting order from the service, and fills the form
-/// from the order. The answer is the text that tells the user why the editor can't work; empty
-/// where it can. A page whose address or cookie can't be read raises that error.
+/// from the order. Returns the refusal to show, or the empty text. A page whose address or cookie
+/// can't be read raises that error.
 std::string_view startOnLine(Editor& editor);
 
 }  // namespace awizo

@@ -44,7 +44,7 @@ void openLog(Editor& editor) {
   session.log.OpenDebugLog(debugLogFile(session.OffLinePathValue, editor.form.PartnerName), *level);
 }
 
-/// The answer is the text that tells the user why the editor can't work; empty where it can.
+/// Returns the refusal to show, or the empty text.
 std::string_view start(Editor& editor) {
   SessionState& session = editor.session;
   session.OffLinePathValue = keptOffLinePath(editor.platform.settings);

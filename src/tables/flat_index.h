@@ -7,7 +7,7 @@
 namespace awizo {
 
 /// Flat index of a cell, row x columns + column, in 16 bits: error 6 beyond 32767. That overflow,
-/// and no bound of the table, is the capacity of the tables, so every access goes through here.
+/// not a bound of the table, limits the tables, so every access goes through here.
 std::int16_t flatIndex(const Table& table, int row, int column);
 
 // The same for the three tables of the document.

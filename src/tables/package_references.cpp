@@ -64,8 +64,8 @@ void fillGrid(Table& table, std::string_view text) {
   }
 }
 
-/// The kept references. The separator before one is decided by its place in the old string, so
-/// that one stands in front when the first reference went and a later one stayed.
+/// The kept references. The separator before one is decided by its place in the old string, so the
+/// text begins with one when the first reference was removed and a later one was kept.
 template <class Contains>
 std::string keptReferences(std::string_view text, const Contains& isDeleted) {
   std::string kept;
@@ -121,7 +121,7 @@ std::string textOfElements(const Xml& xml, std::string_view elements) {
   return text;
 }
 
-/// For procedures that end at an error without a word and give the empty text.
+/// For procedures that end at an error without showing it and return the empty text.
 template <class Body>
 std::string emptyOnError(Body&& body) {
   try {

@@ -23,8 +23,8 @@ void writePackageHeadings(Table& table, const CellLook& look);
 /// table whose one row has no serial, and where the table is too large for the flat index.
 std::string GridToString(const Table& table);
 
-/// Fills a line dialog's table anew from the string, headings included. A table that can't be
-/// filled to the end stays partly filled.
+/// Refills a line dialog's table from the string, headings included. A table that can't be filled
+/// to the end stays partly filled.
 void StringToGrid(Table& table, std::string_view text);
 
 /// Serials of packages, looked up in a time that doesn't grow with their number.
@@ -38,24 +38,26 @@ class SerialSet {
   std::unordered_set<std::string> serials_;
 };
 
-/// The string without the references of these serials. An error is shown and gives the empty text.
+/// The string without the references of these serials. After an error, which is shown, returns the
+/// empty text.
 std::string RemoveOldPackRef(Work& work, std::string_view text,
                              const std::vector<std::string>& delSerials);
 /// The same, for a caller that goes over many lines.
 std::string RemoveOldPackRef(Work& work, std::string_view text, const SerialSet& delSerials);
 
 /// Sum of the quantities as a screen number with 3 decimals; a reference of less than four fields
-/// has none. An error, such as a quantity that is no number, is shown and gives the empty text.
+/// has none. After an error, such as a quantity that is no number, which is shown, returns the
+/// empty text.
 std::string GetPackedQuantity(Work& work, std::string_view text);
 
 /// The references as a document has them: without description and level, and with a quantity where
 /// there are four fields. None at all where a reference has no field.
 std::vector<PackageReference> packageReferences(std::string_view text);
 
-/// Its element, in which the values stand as they are.
+/// Its element; the values are written unescaped.
 std::string packageReferenceXml(const PackageReference& reference);
 
-/// The elements of the references of the string, one behind the other.
+/// The elements of the references of the string, one after another.
 std::string PackageRefsToXml(std::string_view text);
 
 /// The string of the Package-Reference elements in this XML text of siblings, each as

@@ -4,7 +4,8 @@
 
 namespace awizo {
 
-/// Gives the cells from column 1 on a background; the row's number in column 0 keeps its own.
+/// Sets the background of the cells from column 1 on; the row's number in column 0 keeps its
+/// colour.
 inline void paintRow(Table& table, int row, int lastColumn, Colour colour) {
   for (int column = 1; column <= lastColumn; ++column) table.setBackground(row, column, colour);
 }

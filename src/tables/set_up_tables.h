@@ -4,7 +4,7 @@
 
 namespace awizo {
 
-/// Gives the columns of the three tables their widths and alignments.
+/// Sets widths and alignments of the columns of the three tables.
 void setUpTables(AwizoForm& form);
 
 /// Writes the headings of the three tables. An error is shown and the rest is left out.

@@ -8,8 +8,8 @@ namespace awizo {
 
 // Boxes of a procedure that checks what the user wants, under the title "VIRD".
 
-/// Tells in a critical box what is wrong and leads the focus to `focus`, or leaves it where it is.
-/// Answers false: what was to be done isn't.
+/// Shows in a critical box what is wrong and moves the focus to `focus`, or leaves it where it is.
+/// Returns false for the caller to return.
 bool refuse(Screen& screen, std::string_view message, Control* focus);
 
 /// The same in a box that warns.

@@ -24,9 +24,9 @@ class Button : public Control {
   void userClick();
   /// Raises Click without moving the focus, as Enter, Escape and menu keys do.
   void userPress();
-  /// Click first, then the double click, unless the latter stands alone.
+  /// Click first, then the double click, unless `doubleClickAlone`.
   void userDoubleClick();
-  /// Enter and the blank press the button that has the focus.
+  /// Enter and the space bar press the button that has the focus.
   void userKey(std::int16_t code, bool shift = false) override;
 
  protected:
@@ -34,7 +34,7 @@ class Button : public Control {
       : Control(form, std::move(name), kind), caption_(caption) {}
 
  private:
-  /// Answers whether the click goes on.
+  /// Returns whether the click goes on.
   bool takeClick();
 
   std::string caption_;

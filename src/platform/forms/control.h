@@ -12,7 +12,7 @@ namespace awizo {
 
 class Form;
 
-/// What a user can't do now: the control is hidden or disabled, its form lies behind another or
+/// What a user can't do now: the control is hidden or disabled, its form is covered by another or
 /// isn't shown, a box is open, the list has no such row. Nothing has changed.
 class Refused : public std::runtime_error {
  public:
@@ -103,7 +103,7 @@ class Control {
   /// The user moves the focus here, by Tab or a click: Validate and LostFocus of the left control
   /// first, then GotFocus. Refused where the user can't act on the control.
   void userFocus();
-  /// The user presses a key in the control; it takes the focus if it hasn't it. Tab moves the
+  /// The user presses a key in the control; it takes the focus if it doesn't have it. Tab moves the
   /// focus on, Enter and Escape press the form's accepting and closing button; what is left is the
   /// control's own. `code` numbers keys as the platform does: see keys.h.
   virtual void userKey(std::int16_t code, bool shift = false);
@@ -115,7 +115,7 @@ class Control {
   const Control* cover = nullptr;
   bool covered() const { return cover != nullptr && cover->visible(); }
 
-  /// Told after every change of the model.
+  /// Notified after every change of the model.
   Observers<const Change&> observers;
 
   void raise(const Event& event);
@@ -127,11 +127,11 @@ class Control {
 
  protected:
   /// Begins what a user does to a control that takes the focus: refuses, or moves the focus here
-  /// with all its events. Answers whether the action goes on: an event procedure may have hidden
-  /// or disabled the control, opened a form or sent the focus elsewhere.
+  /// with all its events. Returns whether the action goes on: an event procedure may have hidden or
+  /// disabled the control, opened a form or sent the focus elsewhere.
   bool takeUserFocus();
-  /// Begins a key: takes the focus and does what the key means to the form. Answers whether the
-  /// key is left for the control.
+  /// Begins a key: takes the focus and does what the key means to the form. Returns whether the key
+  /// is left for the control.
   bool takeUserKey(std::int16_t code, bool shift);
 
   void changed(Aspect aspect, int row = -1, int column = -1) {

@@ -57,7 +57,7 @@ void DropDownList::userType(std::string_view text) {
   if (style_ == ListStyle::listOnly) throw Refused(name() + " takes only its rows");
   if (!takeUserFocus()) return;
   const std::string typed = withoutControlCharacters(text);
-  // Typing what stands there keeps its row, which among equal rows needn't be the first.
+  // Typing the present text keeps its row, which among equal rows needn't be the first.
   if (index_ >= 0 && typed == text_ && !typed.empty()) return;
   become(typed.empty() ? -1 : find(typed), typed);
 }

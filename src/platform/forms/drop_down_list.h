@@ -40,15 +40,15 @@ class DropDownList : public Control {
 
   const std::string& text() const { return text_; }
   int index() const { return index_; }
-  /// By code. The first row of exactly this text becomes the index, also where the text stood there
-  /// before and the index was another; without one the index is -1 and the text stays, where the
-  /// list allows typing; else error 380 (the empty text is never refused). Raises Change if the
+  /// By code. The first row of exactly this text becomes the index, also where the text was the
+  /// same before and the index was another; without one the index is -1 and the text stays, where
+  /// the list allows typing; else error 380 (the empty text is never refused). Raises Change if the
   /// text differs.
   void setText(std::string_view text);
   /// By code. Out of range is error 380. An index of 0 or more takes the row's text, raises Change
   /// if the text differs, then Click. -1 empties the text unless the index was -1 already.
   void setIndex(int index);
-  /// No row and no text, whatever stood there; raises Change if the text differs.
+  /// No row and no text, whatever the list held; raises Change if the text differs.
   void clearSelection();
 
   Event onChange;

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-/// Words that a face shows or says beside what its model holds.
+/// Words that a face shows or says in addition to its model's.
 namespace awizo::words {
 
 // Buttons of a message box.
@@ -17,7 +17,7 @@ inline constexpr std::string_view drives = "Диск";
 inline constexpr std::string_view folders = "Папки";
 inline constexpr std::string_view files = "Файлы";
 
-/// Tip of the mark that tells whether a picker holds a value.
+/// Tip of the mark that shows whether a picker holds a value.
 inline constexpr std::string_view hasValue = "Указано или нет; то же делает пробел";
 
 }  // namespace awizo::words

@@ -16,10 +16,10 @@ class DriveList : public Control {
       : Control(form, std::move(name), ControlKind::driveList), files_(files) {}
 
   std::vector<std::string> rows() const { return files_.drives(); }
-  /// "c:" as it stands among the rows; empty until one is set.
+  /// "c:" as written in its row; empty until one is set.
   const std::string& drive() const { return drive_; }
-  /// By code; what stands behind the colon doesn't matter. A drive that isn't there is error 68.
-  /// Raises Change if it differs.
+  /// By code; what follows the colon doesn't matter. A drive that isn't there is error 68. Raises
+  /// Change if it differs.
   void setDrive(std::string_view drive);
 
   Event onChange;
@@ -47,7 +47,7 @@ class FolderList : public Control {
   /// its root, "/" is as good as "\"; a path without a drive is on that of the present one, a
   /// name alone lies in the present one. Raises Change if it differs.
   void setPath(std::string_view path);
-  /// Names of the folders in it; read anew at each call.
+  /// Names of the folders in it; read again at each call.
   std::vector<std::string> rows() const;
 
   Event onChange;
@@ -69,14 +69,14 @@ class FileList : public Control {
       : Control(form, std::move(name), ControlKind::fileList), files_(files), ending_(ending) {}
 
   const std::string& path() const { return path_; }
-  /// By code; the errors and forms of a path are those of a folder list. Reads the folder anew and
+  /// By code; the errors and forms of a path are those of a folder list. Reads the folder again and
   /// selects nothing.
   void setPath(std::string_view path);
   const std::vector<std::string>& rows() const { return rows_; }
   int index() const { return index_; }
   /// The selected file's name without a path, empty when nothing is selected.
   std::string fileName() const;
-  /// Reads the folder anew; the selected name stays selected if it is still there.
+  /// Reads the folder again; the selected name stays selected if it is still there.
   void refresh();
 
   Event onClick;

@@ -84,7 +84,7 @@ void Form::activate() {
 bool Form::validateFocus() {
   Control& left = *focus_;
   if (!left.mayBeLeft()) {
-    // The platform's own box: it bears no title of the procedure's but the program's name.
+    // The platform's own box: its title is the program's name, not that of the procedure.
     screen_.showExclamation("Invalid property value.", "");
     return false;
   }

@@ -47,7 +47,7 @@ class Form {
 
   Control* focus() const { return focus_; }
 
-  /// Raised at every showing, after the form stands on the screen.
+  /// Raised at every showing, after the form is on the screen.
   Event onActivate;
   /// What the window frame's close does; without it, the closing button is pressed.
   Event onClose;
@@ -62,7 +62,7 @@ class Form {
   Button* acceptButton = nullptr;
   Button* closeButton = nullptr;
 
-  /// Told when caption (content), enabled, shown (visible) or focus change.
+  /// Notified when caption (content), enabled, shown (visible) or focus change.
   Observers<const Change&> observers;
 
   /// Runs an event procedure, if there is one, as Screen::runEvent does.
@@ -78,7 +78,7 @@ class Form {
   /// What the user must pass before the focus leaves its control.
   bool validateFocus();
   void leave(Control& control);
-  /// Does what a key means to the whole form; answers whether it meant something.
+  /// Does what a key means to the whole form; returns whether it meant something.
   bool pressKey(const Control& control, std::int16_t code, bool shift);
   void tabFrom(const Control& control, bool backwards);
   void activate();

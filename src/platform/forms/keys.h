@@ -28,9 +28,9 @@ inline constexpr std::int16_t f1 = 112;
 inline constexpr std::int16_t f2 = 113;
 inline constexpr std::int16_t f9 = 120;
 
-/// The character code that KeyPress gets for a key, 0 for a key that stands for none. Enter, Escape
-/// and Backspace stand for one. Codes of 256 and more are no keys of a keyboard but characters
-/// typed in another way, and stand for themselves.
+/// The character code that KeyPress gets for a key, 0 for a key that has none. Enter, Escape and
+/// Backspace have one. Codes of 256 and more are no keys of a keyboard but characters typed in
+/// another way, and are their own character code.
 std::int16_t characterOf(std::int16_t code, bool shifted);
 
 }  // namespace keys

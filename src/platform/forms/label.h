@@ -9,7 +9,7 @@ namespace awizo {
 /// A text that the user can't change. Value labels are set by code, others keep their caption.
 class Label : public Control {
  public:
-  /// `heading`: the fixed words that stand before a value label.
+  /// `heading`: the fixed words before a value label.
   Label(Form& form, std::string name, std::string_view caption = "", std::string_view heading = "")
       : Control(form, std::move(name), ControlKind::label), caption_(caption), heading_(heading) {}
 

@@ -14,7 +14,7 @@ enum class DateForm { shortDate, longDate };
 /// A date picker. Change is raised for what the user does, not for an assignment by code.
 class DatePicker : public Control {
  public:
-  /// A picker that nothing has set stands at `today`.
+  /// A picker that nothing has set shows `today`.
   DatePicker(Form& form, std::string name, Date today, NoValue noValue,
              std::string_view caption = "", DateForm shownForm = DateForm::shortDate)
       : Control(form, std::move(name), ControlKind::datePicker),

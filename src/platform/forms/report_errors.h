@@ -11,9 +11,8 @@
 namespace awizo {
 
 /// Runs the body of a procedure that has an error handler of its own: a run-time error ends the
-/// body and shows a critical box with the error's description. The title is made when the error
-/// has happened, so that it can tell how far the body came. Answers whether the body ran to its
-/// end.
+/// body and shows a critical box with the error's description. The title is made when the error has
+/// happened, so that it can say how far the body came. Returns whether the body ran to its end.
 template <std::invocable Title, class Body>
 bool reportErrors(Screen& screen, Title&& title, Body&& body) {
   const std::optional<RunTimeError> error = caughtError(std::forward<Body>(body));

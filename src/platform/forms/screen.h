@@ -29,9 +29,10 @@ class Screen {
   /// Drops a form that ends its life.
   void forget(const Form& form);
 
-  /// Runs an event procedure. A run-time error that leaves it, want of memory included, shows a
+  /// Runs an event procedure. A run-time error that leaves it, lack of memory included, shows a
   /// critical box with its description under the title "VIRD" and ends this event alone. An event
-  /// that would be nested too deep isn't run: error 28 (Out of stack space) goes to its cause.
+  /// that would be nested too deep isn't run: error 28 (Out of stack space) is raised in what
+  /// caused it.
   void runEvent(const std::function<void()>& procedure);
 
   /// Shows a cursor and returns the earlier one.
@@ -51,7 +52,7 @@ class Screen {
   bool takesInput(const Form& form) const { return top() == &form && openBox() == nullptr; }
 
  private:
-  /// Far more than honest work nests, few enough for the stack.
+  /// Far more than real work nests, few enough for the stack.
   static constexpr int mostNestedEvents = 250;
 
   ScreenFace& face_;

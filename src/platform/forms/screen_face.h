@@ -9,7 +9,7 @@ class Form;
 
 enum class BoxIcon { none, critical, question, exclamation, information };
 
-/// An icon's name as logs and scripts tell it: that of its value.
+/// An icon's name in logs and scripts: that of its value.
 constexpr std::string_view nameOf(BoxIcon icon) {
   switch (icon) {
     case BoxIcon::critical:
@@ -46,14 +46,14 @@ class ScreenFace {
  public:
   virtual ~ScreenFace() = default;
   virtual Answer ask(const MessageBox& box) = 0;
-  /// A form, the main form included, now stands on the screen; told before the form's first events
+  /// A form, the main form included, is now on the screen; called before the form's first events
   /// and before runModal.
   virtual void formOpened(Form& form) { static_cast<void>(form); }
   /// Lets the user act on the form, over all others, and returns when it has hidden.
   virtual void runModal(Form& form) = 0;
   virtual void cursorChanged(Cursor cursor) = 0;
-  /// Work begins during which the user can do nothing: `what` tells him what is done, empty where
-  /// that isn't worth a word. Such works nest; each ends, boxes and forms within it come and go.
+  /// Work begins during which the user can do nothing: `what` says what is done; empty where that
+  /// needn't be shown. Such works nest, and each ends; boxes and forms may be shown within one.
   virtual void workBegins(std::string_view what) { static_cast<void>(what); }
   virtual void workEnds() {}
   /// Lets events that wait run, without waiting for new ones.

@@ -8,8 +8,8 @@
 namespace awizo {
 namespace {
 
-/// The whole number with which the text begins, blanks before it skipped; `otherwise` if none.
-/// Digits beyond a 32-bit number are as good as none.
+/// The whole number with which the text begins, white space before it skipped; `otherwise` if there
+/// is none. Digits beyond a 32-bit number count as none.
 int leadingNumber(std::string_view text, int otherwise) {
   const std::string_view digits = trimmed(text);
   int number = 0;

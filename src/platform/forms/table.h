@@ -94,7 +94,7 @@ class Table : public Control {
 
   bool redraw() const { return redraw_; }
   void setRedraw(bool redraw);
-  /// Paints anew; no state changes.
+  /// Paints again; no state changes.
   void refresh();
 
   /// The other corner of the marked range.

@@ -20,7 +20,7 @@ class TextField : public Control {
         limit_(limit),
         alignment_(alignment) {}
 
-  /// The caption that stands beside the field.
+  /// The caption beside the field.
   const std::string& caption() const { return caption_; }
   const std::string& text() const { return text_; }
   /// By code: a longer text is cut to the limit; raises Change if the text differs, and then puts
@@ -43,8 +43,8 @@ class TextField : public Control {
   /// The user puts the focus here and replaces the whole text: one change. Line breaks and other
   /// control characters don't enter the one-line field.
   void userType(std::string_view text);
-  /// The user presses a key in the field (it takes the focus if it hasn't it): KeyDown, then, for
-  /// a key that stands for a character (Enter included), KeyPress.
+  /// The user presses a key in the field (it takes the focus if it doesn't have it): KeyDown, then,
+  /// for a key that stands for a character (Enter included), KeyPress.
   void userKey(std::int16_t code, bool shift = false) override;
 
  private:

@@ -78,8 +78,8 @@ class AwizoForm : public Form {
   std::string BadColumnName;  ///< column that the line check rejected last
   bool WeightComplete = false;
 
-  /// Told when the document has been saved, sent or read from a file: as it stands now, it would
-  /// not be lost.
+  /// Called when the document has been saved, sent or read from a file: as it is now, it would not
+  /// be lost.
   Event onDocumentKept;
   void documentKept() const {
     if (onDocumentKept) onDocumentKept();

@@ -30,7 +30,7 @@ inline constexpr int GRD_POZ_PERIOD_FORMAT = 19;
 inline constexpr int GRD_POZ_PACK_REFS = 20;
 inline constexpr int GRD_POZ_PACKED_QTY = 21;
 
-// The hidden columns bear the table's own field names.
+// The hidden columns' headings are the table's own field names.
 inline constexpr std::array lineColumns{
     Column{GRD_POZ_LP, "№ п.п", 525},
     Column{GRD_POZ_EAN, "EAN продукта", 1850, Alignment::centre},
@@ -73,8 +73,8 @@ inline constexpr int GRD_OPAK_LOCATION_ILN = 11;
 inline constexpr int GRD_OPAK_LENGTH = 12;
 inline constexpr int GRD_OPAK_SERIAL = 13;
 
-// The package's serial bears the same heading as the number that is made of it; only the latter is
-// ever visible.
+// The column of the package's serial has the same heading as the number that is made of it; only
+// the latter is ever visible.
 inline constexpr std::array packageColumns{
     Column{GRD_OPAK_LP, "№ п.п", 525},
     Column{GRD_OPAK_PARENT_DESC, ""},

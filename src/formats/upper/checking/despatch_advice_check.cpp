@@ -28,7 +28,7 @@ XmlNode nearest(XmlDocument& document, std::string path) {
   }
 }
 
-/// One reading of the document, and what it tells.
+/// One reading of the document, and what it finds.
 class DespatchAdviceCheck {
  public:
   explicit DespatchAdviceCheck(const Platform& platform)
@@ -83,7 +83,7 @@ class DespatchAdviceCheck {
         lines.add(line, ++row);
       }
     } catch (const RunTimeError&) {
-      // The reading stopped at this row, which is told already.
+      // The reading stopped at this row, which is reported already.
     }
     return lines.found();
   }
@@ -106,13 +106,13 @@ ReaderIdentity intendedReader(XmlDocument& document) {
 std::vector<Finding> checkDespatchAdvice(const Platform& platform, std::string_view path,
                                          const ReaderIdentity& intended,
                                          const ReaderIdentity& reader) {
-  // A party's number in the document stands for one that isn't known, so that it is accepted.
+  // A party's number in the document is taken for one that isn't known, so that it is accepted.
   ReaderIdentity expected{knownOr(reader.sellerILN, intended.sellerILN),
                           knownOr(reader.buyerILN, intended.buyerILN)};
   const bool namesSeller = !expected.sellerILN.empty();
   const bool namesBuyer = !expected.buyerILN.empty();
   std::vector<Finding> findings;
-  // Behind a refusal the rest is told as if it were none.
+  // After a refusal the rest is reported as if there had been none.
   while (true) {
     DespatchAdviceCheck check(platform);
     const ReadingResult result = check.read(path, expected);

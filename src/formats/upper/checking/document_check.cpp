@@ -29,7 +29,7 @@ std::vector<Finding> unordered(const Platform& platform, std::string_view path,
   }
   if (IsDespatchAdvice(*document)) {
     const ReaderIdentity intended = intendedReader(document->within());
-    // The document is read anew; two large ones needn't be in memory together.
+    // The document is parsed again; two large ones needn't be in memory together.
     document.reset();
     return checkDespatchAdvice(platform, path, intended, reader);
   }

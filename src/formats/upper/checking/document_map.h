@@ -11,8 +11,7 @@
 
 namespace awizo {
 
-/// Where each element of a document stands. A document can have millions, so that a place holds
-/// little.
+/// Where each element of a document is. A document can have millions, so a place holds little.
 class DocumentMap {
  public:
   struct Place {
@@ -46,7 +45,7 @@ class DocumentMap {
   std::unordered_map<const void*, std::size_t> numbers_;
 };
 
-/// An absolute path as findings tell it: without the document element.
+/// An absolute path as findings show it: without the document element.
 std::string belowRoot(std::string_view path);
 
 }  // namespace awizo

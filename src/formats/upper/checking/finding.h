@@ -8,7 +8,7 @@ namespace awizo {
 
 /// One thing that will be refused, ignored or changed when a document is read.
 struct Finding {
-  std::int64_t line = 0;  ///< in the file, from 1; 0 where it can't be told
+  std::int64_t line = 0;  ///< in the file, from 1; 0 if unknown
   std::string element;    ///< path below the document element; empty for the whole file
   std::string text;       ///< in Russian
 };

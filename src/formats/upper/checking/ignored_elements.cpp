@@ -12,7 +12,7 @@ class Attention {
  public:
   Attention(const DocumentMap& map, const TracedDocument& document)
       : map_(map), looked_(map.places().size()), covered_(map.places().size()) {
-    // Parents stand before their children.
+    // Parents come before their children.
     for (std::size_t i = 0; i < looked_.size(); ++i) {
       const DocumentMap::Place& place = map.places()[i];
       looked_[i] = document.wasFound(place.node);

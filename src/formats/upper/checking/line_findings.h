@@ -10,8 +10,8 @@
 
 namespace awizo {
 
-/// Tells what stands otherwise in grdPozycje than in the lines from which it was filled, and which
-/// of its rows fail the line check.
+/// Reports what differs between grdPozycje and the lines from which it was filled, and which of its
+/// rows fail the line check.
 class LineFindings {
  public:
   /// `sources`: from where the reader filled the columns.
@@ -25,7 +25,7 @@ class LineFindings {
 
  private:
   void addFailure(const XmlNode& line, std::int16_t row, int column);
-  /// `failing`: the column that is told of already, if there is one.
+  /// `failing`: the column that is reported already, if there is one.
   void addNumbers(const XmlNode& line, std::int16_t row, std::optional<int> failing);
   XmlNode valueOf(const XmlNode& line, int column) const;
 

@@ -66,7 +66,7 @@ class OrderCheck {
         addLine(found, line);
       }
     } catch (const RunTimeError&) {
-      // The reading stopped at this row, which is told already.
+      // The reading stopped at this row, which is reported already.
     }
     found.insert(found.end(), rows.found().begin(), rows.found().end());
     return found;
@@ -110,7 +110,7 @@ std::vector<Finding> checkOrder(const Platform& platform, std::unique_ptr<Traced
   const std::optional<RunTimeError> failure = readOrder(check.editor(), document);
 
   std::vector<Finding> findings = check.header();
-  // An order without the element of its lines is told by itself.
+  // An order without the element of its lines is a finding of its own.
   std::size_t end = check.map().places().size();
   if (failure && failure->number() != errors::objectNotSet().number()) {
     findings.push_back(stoppedReading(check.map(), traced, *failure));

@@ -6,7 +6,7 @@
 
 namespace awizo {
 
-/// What is wrong among the packages of a despatch advice: serials that stand twice, references that
+/// What is wrong among the packages of a despatch advice: serials that occur twice, references that
 /// name no package, serial numbers that the package dialog would refuse.
 std::vector<Finding> packageFindings(const DocumentMap& map);
 

@@ -5,7 +5,7 @@
 
 namespace awizo {
 
-/// A screen with nobody in front of it: boxes are answered at once with what goes on.
+/// A screen with nobody in front of it: boxes are answered at once with the button that continues.
 class SilentFace : public ScreenFace {
  public:
   Answer ask(const MessageBox& box) override;

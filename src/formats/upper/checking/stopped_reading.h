@@ -6,7 +6,7 @@
 
 namespace awizo {
 
-/// Tells of the error that ended the reading, at the place where it did.
+/// Reports the error that ended the reading, at the place where it did.
 Finding stoppedReading(const DocumentMap& map, TracedDocument& document, const RunTimeError& error);
 
 }  // namespace awizo

@@ -7,8 +7,8 @@
 
 namespace awizo {
 
-/// A document that remembers what of it was looked at, so that a reader itself tells what it takes
-/// and where it stopped.
+/// A document that remembers which of its nodes were looked at: it shows what a reader takes and
+/// where it stopped.
 class TracedDocument : public XmlDocument {
  public:
   explicit TracedDocument(std::unique_ptr<XmlDocument> within) : within_(std::move(within)) {}

@@ -192,7 +192,7 @@ ReadingResult readInto(Editor& editor, XmlDocument& document) {
   return error ? ReadingResult{ReadingOutcome::failed, {}, error} : result;
 }
 
-/// The document's own totals stand over the computed ones, where it has them.
+/// The document's own totals, where it has them, replace the computed ones.
 void takeTotals(Editor& editor, XmlDocument& document) {
   Table& totals = editor.form.grdSuma;
   totals.setRedraw(false);

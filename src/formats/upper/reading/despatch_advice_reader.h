@@ -32,7 +32,7 @@ struct ReadingResult {
 };
 
 /// Empties the form, loads the file by its classic path into `document` and puts it into the form,
-/// as far as it goes. Tells the user what was wrong.
+/// as far as it goes. Shows the user what was wrong.
 ReadingResult readDespatchAdvice(Editor& editor, XmlDocument& document, std::string_view path);
 
 /// Loads a file by its classic path; one that doesn't parse is read again as text in the machine's

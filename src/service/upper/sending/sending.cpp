@@ -71,7 +71,7 @@ void btnPrzeslij_Click(Editor& editor) {
     earlier = editor.screen().setCursor(editor.session.WaitCursor);
     editor.form.setEnabled(false);
     const std::unique_ptr<XmlDocument> document = MakeDesAdv(editor);
-    // A writer that refused the content has told the user.
+    // A writer that refused the content has shown the user why.
     if (editor.form.OnLine != "Off" && document && maySend(editor)) post(editor, *document);
   });
   editor.form.setEnabled(true);

@@ -71,7 +71,7 @@ void btnDodaj_Click(Editor& editor, DlgDodaj& dialog) {
     fillDialogForNewLine(editor, dialog);
     dialog.showModal();
     editor.form.setEnabled(true);
-    // Countries that were added in the dialog come over, also after a cancelled dialog.
+    // Countries that were added in the dialog are copied even when the dialog was cancelled.
     copyCountries(editor, dialog);
     Table& grid = editor.form.grdPozycje;
     if (dialog.DlgResult == 1) {

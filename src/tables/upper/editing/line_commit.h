@@ -11,9 +11,9 @@ namespace awizo {
 void btnDodaj_Click(Editor& editor, DlgDodaj& dialog);
 /// Changes the line in the current row.
 void btnEdytuj_Click(Editor& editor, DlgDodaj& dialog);
-/// Writes the dialog's fields into a row of grdPozycje. Answers whether it came to its end: an
-/// error is told and leaves what was written, and a button that gets that answer ends where it
-/// stands, with the table unpainted and the control as it then is.
+/// Writes the dialog's fields into a row of grdPozycje. Returns whether it was completed: an error
+/// is shown and leaves what was written, and the button's procedure then ends at once, without
+/// painting the table or resetting the control.
 [[nodiscard]] bool ZatwierdzPozycje(Editor& editor, DlgDodaj& dialog, std::int16_t row);
 
 }  // namespace awizo

@@ -42,7 +42,7 @@ void emptyMembersAndDates(Editor& editor, DlgDodaj& dialog) {
   dialog.lblPackedQuantityValue.setCaption(editor.conversions.NormalizeDecimal("0", 3));
 }
 
-/// Every row that is equal is selected in turn.
+/// Each row that is equal is selected, one after another.
 void selectEAN(DropDownList& list, const std::string& ean) {
   for (int i = 0; i < list.count(); ++i) {
     if (list.rows()[static_cast<std::size_t>(i)] == ean) list.setIndex(i);

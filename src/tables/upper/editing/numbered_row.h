@@ -4,8 +4,8 @@
 
 namespace awizo {
 
-/// Adds a row behind those that are counted, writes its number into column 0 and gives it. The
-/// first row takes the place of the empty table's blank one. Raises error 6 beyond 16 bits.
+/// Appends a row after the counted ones, numbers it in column 0 and returns the number. The first
+/// row replaces the empty row of an empty table. Raises error 6 beyond 16 bits.
 std::int16_t addNumberedRow(Table& grid, std::int16_t& count);
 
 }  // namespace awizo

@@ -31,8 +31,8 @@ void prepareForNew(Editor& editor, DlgSzczegoly& dialog) {
   dialog.cboxParentPackage.addRow("");
 }
 
-/// Every row of the parent's description is selected in turn, so the last of equal ones stays; the
-/// list's own event takes the parent's serial and level from it.
+/// Each row with the parent's description is selected, one after another, so the last of equal ones
+/// stays selected; the list's own event takes the parent's serial and level from it.
 void selectParent(DlgSzczegoly& dialog, const std::string& description) {
   DropDownList& parents = dialog.cboxParentPackage;
   for (int i = 0; i < parents.count(); ++i) {

@@ -15,9 +15,9 @@ void btnEdytujOpak_Click(Editor& editor, DlgSzczegoly& dialog);
 /// Rebuilds the lists of packages that the dialogs offer. A level that is no whole number raises
 /// error 13. The text isn't used.
 void PreparePackageArrays(Editor& editor, std::string_view text = "");
-/// Writes the dialog's values into a row; a new package spends the next serial. Answers whether it
-/// came to its end: an error is told and leaves what was written, and a button that gets that
-/// answer ends where it stands, with the table unpainted and the control as it then is.
+/// Writes the dialog's values into a row; a new package takes the next serial. Returns whether it
+/// was completed: an error is shown and leaves what was written, and the button's procedure then
+/// ends at once, without painting the table or resetting the control.
 [[nodiscard]] bool ZatwierdzPozycjeOpak(Editor& editor, DlgSzczegoly& dialog, std::int16_t row,
                                         bool isNew);
 /// A public procedure of the control that does nothing.

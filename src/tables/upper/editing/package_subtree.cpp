@@ -71,7 +71,7 @@ constexpr int lastWholeRow =
 
 /// Whether the table holds as many packages as are counted, and each can be read: not so after a
 /// file was read, which brings rows without counting them, or past the limit of the index. Then an
-/// error may end the work half-way, so every step is taken in its turn.
+/// error may end the work half-way, so every step is done one by one.
 bool holdsWhatIsCounted(const Editor& editor) {
   const int count = editor.session.IloscPozycjiOpak;
   return count <= lastWholeRow && editor.form.grdOpakowania.rows() == count + 1;
@@ -98,8 +98,8 @@ void removeFirstRowOf(Editor& editor, const std::string& serial) {
   }
 }
 
-/// The rows that go, in their turn: each serial takes the first row that bears it and is still
-/// there. A file may have brought several rows of one serial.
+/// The rows to remove, in order: for each serial the first row that has it and isn't removed yet. A
+/// file may have brought several rows of one serial.
 std::vector<int> rowsInTurn(const Editor& editor, const std::vector<std::string>& delSerials) {
   std::unordered_map<std::string_view, std::deque<int>> rowsBySerial;
   for (std::int16_t row = 1; row <= editor.session.IloscPozycjiOpak; ++row) {
@@ -115,8 +115,8 @@ std::vector<int> rowsInTurn(const Editor& editor, const std::vector<std::string>
   return rows;
 }
 
-/// One pass over the table instead of one for each serial. The last row's turn comes by itself:
-/// where no other package is left, it is emptied instead of removed.
+/// One pass over the table instead of one for each serial. The last row is removed by itself: if no
+/// other package is left, it is emptied instead.
 void removeInOnePass(Editor& editor, const std::vector<std::string>& delSerials) {
   std::vector<int> rows = rowsInTurn(editor, delSerials);
   if (rows.empty()) return;
