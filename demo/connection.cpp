@@ -15,7 +15,7 @@ namespace awizo::demo {
 
 namespace {
 
-/// The library forgets headers without a value; an empty cookie is to be told from none.
+/// The library forgets headers without a value; an empty cookie must be distinguished from none.
 void addEmptyHeaders(const std::string& head, httplib::Request& request) {
   std::istringstream lines(head);
   for (std::string line; std::getline(lines, line);) {

@@ -25,8 +25,8 @@ class Connection : public httplib::Stream {
   void get_local_ip_and_port(std::string& address, int& port) const override;
   socket_t socket() const override { return socket_; }
 
-  /// What was read so far: called when the head of a request has come, the head as it stood.
-  /// Nothing is kept of what is read after it.
+  /// What was read so far: called when the head of a request has come, the head as it was. Nothing
+  /// is kept of what is read after it.
   std::string takeHead();
 
  private:

@@ -64,7 +64,7 @@ bool replacesReply(FaultKind kind) {
          kind == FaultKind::Status500;
 }
 
-/// Gives the lines of `text` as settings; nothing if one of them isn't a setting.
+/// Returns the lines of `text` as settings; nothing if one of them isn't a setting.
 std::optional<std::vector<FaultSetting>> faultSettings(const std::string& text) {
   std::vector<FaultSetting> settings;
   std::istringstream lines(text);

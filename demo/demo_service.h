@@ -11,12 +11,12 @@
 
 namespace awizo::demo {
 
-/// The service on the loopback address, from its construction to its destruction. Beside the five
+/// The service on the loopback address, from its construction to its destruction. Besides the five
 /// exchanges and the host page it takes these commands, which no page of the service collides with:
 ///   POST   /_faults    lines EXCHANGE=KIND: sets faults; status 400 for what isn't one
 ///   DELETE /_faults    no exchange fails any more
-///   GET    /_held      waits until a reply is being held back; gives the number of such replies
-///   POST   /_release   lets go the replies that are being held back
+///   GET    /_held      waits until a reply is being held back; returns the number of such replies
+///   POST   /_release   releases the replies that are being held back
 ///   GET    /_requests  the requests since the start or the last reset, as JSON
 ///   POST   /_reset     the order waits again, no faults, no requests; posted documents stay
 class DemoService {

@@ -19,8 +19,8 @@ std::string_view exchangeName(Exchange exchange);
 std::optional<Exchange> exchangeNamed(std::string_view name);
 
 /// The exchange that the page at the end of `path` serves. The folders before it don't matter: the
-/// service stands at the root of the address as well as in any folder, and doubled slashes count as
-/// one. No page of the service: nothing.
+/// service is at the root of the address as well as in any folder, and doubled slashes count as
+/// one. Nothing for what is no page of the service.
 std::optional<Exchange> exchangeAt(std::string_view path);
 
 }  // namespace awizo::demo

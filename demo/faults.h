@@ -13,8 +13,8 @@
 namespace awizo::demo {
 
 /// What goes wrong with an exchange. Drop, Garbage, Empty and Status500 come instead of the
-/// exchange: no order is handed out, no document is stored. Cut and Slow only spoil the way of a
-/// reply that was given in earnest.
+/// exchange: no order is handed out, no document is stored. Cut and Slow only disturb the sending
+/// of a real reply.
 enum class FaultKind {
   None,
   Drop,       ///< the connection is closed without a byte of reply
@@ -53,7 +53,7 @@ class Faults {
   void release();
   /// Lets go all, and holds back nothing any more: the service ends.
   void releaseForGood();
-  /// Waits until something is being held back, and tells how many replies are; 0 after `timeout`.
+  /// Waits until something is being held back, and returns how many replies are; 0 after `timeout`.
   int waitUntilHeld(std::chrono::milliseconds timeout);
 
  private:

@@ -13,7 +13,7 @@ class PostedDocuments {
  public:
   explicit PostedDocuments(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
-  /// Stores a document if it is well-formed XML. Gives "OK", or tells in Russian what is wrong.
+  /// Stores a document if it is well-formed XML. Returns "OK", or in Russian what is wrong.
   std::string accept(std::string_view document);
 
  private:

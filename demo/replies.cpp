@@ -25,7 +25,7 @@ std::string reply(std::string_view root, std::string_view content) {
   return std::string(declaration) + element(root, content);
 }
 
-/// A path in a request and the text that must stand there.
+/// A path in a request and the text that must be there.
 using Expectation = std::pair<const char*, std::string>;
 
 /// What is wrong with a request, or the empty text.

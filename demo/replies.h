@@ -13,8 +13,8 @@ namespace awizo::demo {
 ///   catalogue.xml         Document-ProductCatalogue
 ///   delivery-places.xml   Document-LocalizationsCatalog
 ///   order.xml             Document-Order, the one order that is waiting
-/// The files are read anew for each reply. A file that is missing means that the service hasn't
-/// that document. Every procedure takes the text of the request and gives the text of the reply.
+/// The files are read again for each reply. If one is missing, the service doesn't have that
+/// document. Every procedure takes the text of the request and returns the text of the reply.
 class Replies {
  public:
   explicit Replies(std::filesystem::path dataFolder) : dataFolder_(std::move(dataFolder)) {}

@@ -10,7 +10,7 @@ namespace awizo::demo {
 /// One request as it came in.
 struct SeenRequest {
   std::string exchange;                    ///< its name
-  std::string target;                      ///< path and query as they stood in the request
+  std::string target;                      ///< path and query as they were in the request
   std::optional<std::string> cookie;       ///< the Cookie header, if there was one
   std::optional<std::string> contentType;  ///< the Content-Type header, if there was one
   std::string body;

@@ -47,8 +47,8 @@ std::string partOf(CURLU* url, CURLUPart part) {
   return text;
 }
 
-/// The address, with what can't stand in one as it is put into percent signs. A name and a password
-/// in it fall away: the cookie alone says who the user is, and libcurl would add a header for them.
+/// The address, with what isn't allowed in one written with percent signs. A name and a password in
+/// it are removed: the cookie alone says who the user is, and libcurl would add a header for them.
 Url parsed(const std::string& text) {
   Url url = made(Url(curl_url()));
   const bool isWhole = text.find('\0') == text.npos &&
@@ -118,7 +118,7 @@ RunTimeError errorFor(CURLcode code) {
     case CURLE_COULDNT_RESOLVE_HOST:
     case CURLE_COULDNT_RESOLVE_PROXY:
     case CURLE_COULDNT_CONNECT:
-    case CURLE_OPERATION_TIMEDOUT:  // there is none but for connecting
+    case CURLE_OPERATION_TIMEDOUT:  // no limit but for connecting
       return errors::hostNotFound();
     case CURLE_PEER_FAILED_VERIFICATION:
     case CURLE_SSL_ISSUER_ERROR:

@@ -16,7 +16,7 @@ struct Outgoing {
 
 struct Reply {
   std::string bytes;
-  std::string contentType;  ///< the header's value; empty if there is none
+  std::string contentType;  ///< the header's value; empty if missing
 };
 
 /// Sends the request and takes the whole reply, whatever its status. Raises the error of a host

@@ -23,7 +23,7 @@ bool startsIgnoringCase(std::string_view text, std::string_view start) {
   return true;
 }
 
-/// "windows-1251" of "text/xml; charset=windows-1251"; the value may stand in quotes.
+/// "windows-1251" of "text/xml; charset=windows-1251"; the value may be in quotes.
 std::string charsetOf(std::string_view contentType) {
   for (const std::string& parameter : split(contentType, ";")) {
     const std::string_view bare = trimmed(parameter);

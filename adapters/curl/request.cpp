@@ -6,7 +6,7 @@
 namespace awizo::curl {
 namespace {
 
-/// Whether the text can stand in a header without ending it.
+/// Whether the text can be part of a header without ending it.
 bool staysOnItsLine(std::string_view text) {
   return text.find_first_of(std::string_view("\r\n\0", 3)) == text.npos;
 }
@@ -25,8 +25,8 @@ void Request::open(std::string_view method, std::string_view url) {
 
 void Request::setHeader(std::string_view name, std::string_view value) {
   if (!isToken(name) || !staysOnItsLine(value)) throw errors::invalidProcedureCall();
-  // libcurl leaves out a header that has nothing but blanks behind its colon; a semicolon in the
-  // colon's place stands for a header without a value.
+  // libcurl leaves out a header that has nothing but white space after its colon; a semicolon in
+  // the colon's place means a header without a value.
   const bool isBlank = value.find_first_not_of(" \t") == value.npos;
   std::string line(name);
   outgoing_.headers.push_back(isBlank ? line + ";" : line + ": " + std::string(value));

@@ -37,8 +37,9 @@ bool isPatternLetter(char16_t unit) {
   return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
 }
 
-/// The pattern's fields and what stands between them: words in quotes, as for "year", marks of
-/// the writing direction and what follows the last field fall away, so that the text reads back.
+/// The pattern's fields and what is between them. Words in quotes, as for "year", marks of the
+/// writing direction and what follows the last field are left out, so that the text can be read
+/// back.
 icu::UnicodeString bareFields(const icu::UnicodeString& pattern) {
   icu::UnicodeString bare;
   bool quoted = false;
@@ -138,7 +139,7 @@ void readNumberFacts(const icu::Locale& locale, LocaleFacts& facts) {
   const std::string noBreak = "\u00A0";
   const std::string narrow = "\u202F";
   if (group == blank || group == noBreak) {
-    // Whoever types a number types the ordinary blank.
+    // Whoever types a number types the ordinary space.
     facts.groupSeparators = {noBreak, blank};
   } else if (group == narrow) {
     facts.groupSeparators = {narrow, noBreak, blank};

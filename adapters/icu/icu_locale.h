@@ -11,8 +11,8 @@ namespace awizo {
 /// A locale as ICU knows it, with the Gregorian calendar and the digits 0 to 9.
 class IcuLocale final : public Locale {
  public:
-  /// By a name such as "ru_RU" or "en_US.UTF-8". A name that names no locale ("", "C", "POSIX",
-  /// an unknown language) stands for ru_RU.
+  /// By a name such as "ru_RU" or "en_US.UTF-8". A name that names no locale ("", "C", "POSIX", an
+  /// unknown language) means ru_RU.
   explicit IcuLocale(std::string_view name);
   ~IcuLocale() override;
 

@@ -116,7 +116,7 @@ std::optional<std::string> PlainLetters::key(std::string_view text) const {
   if (text.size() > longestText) return std::nullopt;
   KeyWriter key;
   int letters = 0;
-  char group = 0;  // the first byte that the letters behind it leave out
+  char group = 0;  // the first byte that the letters after it leave out
   while (!text.empty()) {
     const Weight* weight = nextWeight(text);
     if (!weight) return std::nullopt;

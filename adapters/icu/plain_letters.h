@@ -10,10 +10,10 @@
 
 namespace awizo::icu_locale {
 
-/// Makes the collation keys of texts whose characters all are plain ones, many times as fast as
-/// the collator and byte for byte the same. A plain character has one weight, of letter and
-/// nothing else, wherever it stands; in a locale these are most Latin and Cyrillic letters, digits
-/// and marks, without accents.
+/// Makes the collation keys of texts whose characters all are plain ones, many times as fast as the
+/// collator and byte for byte the same. A plain character has one weight, of letter and nothing
+/// else, in every place; in a locale these are most Latin and Cyrillic letters, digits and marks,
+/// without accents.
 class PlainLetters {
  public:
   /// Learns the weights from the collator, which orders at secondary strength.
@@ -29,7 +29,7 @@ class PlainLetters {
   struct Weight {
     std::array<char, 4> bytes{};
     std::uint8_t length = 0;  ///< 0 for a character that isn't plain
-    /// Whether the first byte is left out behind a character with the same one.
+    /// Whether the first byte is left out after a character with the same one.
     bool sharesFirstByte = false;
   };
 

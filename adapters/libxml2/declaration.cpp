@@ -3,8 +3,8 @@
 namespace awizo::libxml2 {
 namespace {
 
-/// The ASCII characters of the first line: in every encoding in use here these are their own
-/// bytes, with zeros beside them in the wide ones.
+/// The ASCII characters of the first line: in every encoding in use here these are their own bytes,
+/// with zero bytes between them in the wide ones.
 std::string asciiStart(std::string_view bytes) {
   constexpr std::size_t longEnough = 1000;
   std::string start;

@@ -39,7 +39,7 @@ bool Document::loadText(std::string_view text) { return load(text, Decoding::utf
 bool Document::loadBytes(std::string_view bytes) { return load(bytes, Decoding::byDeclaration); }
 
 bool Document::load(std::string_view bytes, Decoding decoding) {
-  // The old content goes first, so that two documents never stand in memory together.
+  // The old content is freed first, so that two documents are never in memory together.
   take({});
   take(parse(bytes, decoding));
   return isLoaded_;

@@ -43,7 +43,7 @@ class Document final : public XmlDocument {
 
  private:
   bool load(std::string_view bytes, Decoding decoding);
-  /// Takes the place of what there was; no document stands for an empty one.
+  /// Replaces the content; null makes the document empty.
   void take(Parsed parsed);
   void keepOnlyNode(xmlNode* kept);
   const FlatNode* walkStart(const FlatTree& flat, void* node, const WalkedPath& path) const;

@@ -15,8 +15,8 @@ struct FlatLoad : Load {
   FlatTree tree;
   std::vector<std::size_t> open;  ///< the document and the elements that have not ended
   std::size_t lastChild = 0;      ///< of the innermost of them; 0 for none
-  /// Blanks at the start of a text, held back until it is known whether more text follows: between
-  /// two elements they are dropped.
+  /// White space at the start of a text, held back until it is known whether more text follows:
+  /// between two elements it is dropped.
   std::string heldBlanks;
   bool isFlat = true;
 };

@@ -13,7 +13,7 @@ namespace awizo::libxml2 {
 struct FlatNode {
   const xmlChar* name = nullptr;  ///< an element's, from the document's dictionary
   std::uint32_t size = 1;         ///< this node and all below it
-  std::uint32_t textStart = 0;    ///< where the texts below it stand among all texts
+  std::uint32_t textStart = 0;    ///< where the texts below it are among all texts
   std::uint32_t textEnd = 0;
   std::uint16_t line = 0;
   bool isText = false;

@@ -17,10 +17,11 @@ namespace {
 struct TreeLoad : Load {
   /// libxml2 doesn't count what parameter entities cost that are made of one another.
   static constexpr int mostParameterEntities = 1000;
-  /// Blanks at the start of a text, held back until it is known whether more text follows. Blanks
-  /// that turn out to stand between two nodes are thus never made into a node.
+  /// White space at the start of a text, held back until it is known whether more text follows.
+  /// White space that turns out to be between two nodes is thus never made into a node.
   std::string heldBlanks;
-  /// Where that can't be known, blanks become nodes and the finished tree is swept as a whole.
+  /// Where that can't be known, white space becomes nodes, which are removed from the finished
+  /// tree.
   bool sweeps = false;
   int parameterEntities = 0;
 };
@@ -88,7 +89,7 @@ void onCData(void* context, const xmlChar* text, int length) {
   const xmlNode* node = contextOf(context)->node;
   const bool parts = node && node->last && node->last->type == XML_CDATA_SECTION_NODE &&
                      !loadingOf(context).heldBlanks.empty();
-  // Without the blanks between them the two sections would become one.
+  // Without the white space between them the two sections would become one.
   if (parts) sweepLater(context);
   loadingOf(context).heldBlanks.clear();
   countNodes(context, 1);

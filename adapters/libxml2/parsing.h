@@ -24,7 +24,7 @@ inline Load& loadOf(void* context) { return *static_cast<Load*>(contextOf(contex
 void stop(void* context);
 /// Ends the parsing since the document is one that nobody should load.
 void refuse(void* context);
-/// Refuses a document that has more nodes than any honest one.
+/// Refuses a document that has more nodes than any real one.
 void countNodes(void* context, std::size_t more);
 
 Owned<xmlParserCtxt> newContext(Load& load);

@@ -5,7 +5,7 @@
 
 namespace awizo::libxml2 {
 
-// What can be told of an XPath expression by its text alone. The views point into that text.
+// What the text of an XPath expression alone shows of it. The views point into that text.
 
 /// A path that has child steps only, each by a name in the letters A to Z, and perhaps one
 /// comparison with a number: "/L/Line[Line-Item/EAN = -5.0]/Price".
@@ -20,8 +20,8 @@ struct WalkedPath {
 /// None for a path of any other kind.
 std::optional<WalkedPath> walkedPath(std::string_view path);
 
-/// Whether a number with an exponent ("1e5") stands in it, outside of names and literals. XPath 1.0
-/// has no such numbers.
+/// Whether a number with an exponent ("1e5") is in it, outside of names and literals. XPath 1.0 has
+/// no such numbers.
 bool hasExponent(std::string_view expression);
 
 }  // namespace awizo::libxml2

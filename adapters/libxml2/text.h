@@ -11,7 +11,7 @@ namespace awizo::libxml2 {
 /// "#cdata-section", "#comment", "#document".
 std::string nameOf(const xmlNode* node);
 
-/// The text without the blanks of XML at both ends.
+/// The text without XML's white space at both ends.
 std::string_view trimmed(std::string_view text);
 
 /// The text of the node and all texts below it in one, outer white space cut.

@@ -9,9 +9,9 @@
 namespace awizo::libxml2 {
 
 // Walks along child steps, each by a name ("Line/Line-Item/EAN"), in any tree that has
-// `firstChild`, `next`, `isElementNamed` and `trimmedText`. They give nodes in document order.
+// `firstChild`, `next`, `isElementNamed` and `trimmedText`. The nodes come in document order.
 
-/// The first name of the path; `rest` is what follows it, empty behind the last.
+/// The first name of the path; `rest` is what follows it, empty after the last.
 inline std::string_view firstName(std::string_view names, std::string_view& rest) {
   const std::size_t end = names.find('/');
   rest = end == names.npos ? std::string_view() : names.substr(end + 1);

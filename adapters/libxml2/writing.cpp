@@ -19,8 +19,8 @@ int appendTo(void* target, const char* bytes, int count) {
 
 int doNothing(void*) { return 0; }
 
-/// libxml2 writes attributes by the encoding that stands in the document; it is lent for the time
-/// of writing.
+/// libxml2 writes attributes in the encoding named in the document; it is set for the time of
+/// writing.
 class LentEncoding {
  public:
   LentEncoding(xmlDoc* document, const char* encoding)

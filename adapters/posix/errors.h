@@ -7,7 +7,7 @@
 namespace awizo::posix {
 
 /// The run-time error for a failed system call on a file, by its `errno` value. For a file that
-/// isn't there the path tells whether it's the file alone or its folder that is missing.
+/// isn't there the path shows whether the file alone or its folder is missing.
 RunTimeError fileError(int number, const std::string& path);
 
 /// The same for a folder.

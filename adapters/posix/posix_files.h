@@ -5,8 +5,8 @@
 namespace awizo {
 
 /// The machine's files. The one drive "c:" is the root; a name in a folder that isn't text, or that
-/// holds a backslash, can't be said in classic paths and is not listed; nor are hidden ones.
-/// Lists go by name, the letters A to Z case-blind.
+/// holds a backslash, can't be written as a classic path and is not listed; nor are hidden ones.
+/// Lists are ordered by name, A to Z without regard to case.
 class PosixFiles final : public Files {
  public:
   std::string readAll(std::string_view path) override;

@@ -17,7 +17,7 @@ namespace {
 
 constexpr unsigned allPermissions = 07777;
 
-/// The file that a link stands for; the path itself where there is none yet.
+/// The file that a link leads to; the path itself if there is no file yet.
 std::string behindLinks(const std::string& path) {
   const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr),
                                                          &std::free);
@@ -29,7 +29,7 @@ std::string folderOf(const std::string& path) {
   return slash == path.npos ? "./" : path.substr(0, slash + 1);
 }
 
-/// A file with a name of its own beside the target, removed unless it has taken the target's place.
+/// A file with another name in the target's folder, removed unless it has replaced the target.
 class NewFile {
  public:
   explicit NewFile(const std::string& target) : target_(target) {

@@ -18,7 +18,7 @@ namespace {
 
 using Values = std::map<std::string, std::string>;
 
-/// A text as it stands in the file: on one line, without the bytes that part its pieces.
+/// A text as it is written in the file: on one line, without the bytes that separate its pieces.
 std::string escaped(std::string_view text) {
   std::string result;
   for (const char byte : text) {

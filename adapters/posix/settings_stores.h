@@ -7,9 +7,9 @@
 
 namespace awizo {
 
-/// Settings in a file of lines "application/section/key=value". Names and values may be any text.
-/// A file that isn't there or can't be read gives the default values; a line that is none is
-/// passed over, and lost at the next writing.
+/// Settings in a file of lines "application/section/key=value". Names and values may be any text. A
+/// file that isn't there or can't be read leaves the default values; a line of another form is
+/// skipped, and lost at the next writing.
 class SettingsFile final : public SettingsStore {
  public:
   /// `path` as the system knows it ("/home/anna/.config/awizo/settings"). Missing folders are

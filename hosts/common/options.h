@@ -32,9 +32,9 @@ class BadArguments : public std::runtime_error {
 inline constexpr std::array<std::string_view, 5> propertyNames{
     "OnLine", "DebugLevel", "PartnerName", "PartnerILN", "PartnerURL"};
 
-/// Reads the arguments behind the program's name: "--name value" or "--name=value". An argument
-/// that is no option goes to `others`; without a place for it, it is a bad argument as any other.
-/// Throws BadArguments.
+/// Reads the arguments after the program's name: "--name value" or "--name=value". An argument that
+/// is no option goes to `others`; without such a place it is a bad argument like any other. Throws
+/// BadArguments.
 Options parseOptions(const std::vector<std::string>& arguments,
                      std::vector<std::string>* others = nullptr);
 

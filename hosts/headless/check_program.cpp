@@ -19,7 +19,7 @@ namespace awizo::headless {
 
 namespace {
 
-/// The last line that an element's number can tell; it stands for all behind it, too.
+/// The last line that an element's number can name; it also means all later ones.
 constexpr std::int64_t lastCountedLine = 65535;
 
 /// What a check asks of the machine, and what it never asks.

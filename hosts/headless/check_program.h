@@ -11,7 +11,7 @@ inline constexpr int exitNothingFound = 0;
 inline constexpr int exitFound = 1;
 
 /// Writes what of the options' file will be refused, ignored or changed when it is read, a line for
-/// each finding. Gives the exit status. Throws std::runtime_error, naming the file, for one that
+/// each finding. Returns the exit status. Throws std::runtime_error, naming the file, for one that
 /// can't be read.
 int runCheck(const Options& options, std::ostream& out);
 

@@ -17,23 +17,24 @@ struct InputEnded {};
 /// The system ended the whole program.
 struct ProgramEnded {};
 
-/// The talk with the user's program: takes line by line, gives each to `act` and answers it. It is
+/// The talk with the user's program: takes line by line, passes each to `act` and answers it. It is
 /// also the screen: a box or a modal form reads further lines until it is answered or has hidden.
 class Conversation : public ScreenFace {
  public:
   Conversation(std::istream& in, std::ostream& out) : lines_(in, out) {}
 
-  /// Does what a line asks that is no answer to a box. What it returns stands in the closing line
+  /// Does what a line asks that is no answer to a box. What it returns is part of the closing line
   /// ("value", "args"). Throws protocol::BadLine, Refused or RunTimeError; nothing has changed then
   /// but what a procedure did before its error. While a box is open only lines that get something
   /// come here.
   std::function<protocol::Json(const protocol::Json& line)> act;
 
-  /// Tells from now on when the form is shown modally and when it hides.
+  /// Reports from now on when the form is shown modally and when it hides.
   void watch(Form& dialog);
   /// Serves lines until the end of input.
   void run();
-  /// Writes an event; nothing is told any more once the input has ended under an open box or form.
+  /// Writes an event; nothing is written any more once the input has ended under an open box or
+  /// form.
   void emit(const protocol::Json& event);
 
   Answer ask(const MessageBox& box) override;

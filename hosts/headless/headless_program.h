@@ -14,11 +14,11 @@ inline constexpr int exitEndedBySystem = 1;  ///< the control couldn't be set up
 inline constexpr int exitBadArguments = 2;
 inline constexpr int exitInputEndedEarly = 3;  ///< under an open box or modal form
 
-/// Creates the control, serves the lines of `in` and takes the control down at their end. Gives
+/// Creates the control, serves the lines of `in` and takes the control down at their end. Returns
 /// the exit status. Throws RunTimeError where the settings asked for can't be kept.
 int runHeadless(const Options& options, std::istream& in, std::ostream& out);
 
-/// What the program reaches beside its lines.
+/// What the program reaches besides its lines.
 struct Outside {
   Http& http;
   Files& files;

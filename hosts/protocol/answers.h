@@ -12,7 +12,7 @@
 
 namespace awizo::protocol {
 
-// What a client is told: how a line of its own ended, and what happens meanwhile.
+// What is sent to a client: how a line of its own ended, and what happens meanwhile.
 
 /// The closing line of a line that was done, with the line's own id.
 Json success(const Json& line, const Json& result);

@@ -17,11 +17,11 @@ class ControlAccess {
   ControlAccess(const ControlAccess&) = delete;
   ControlAccess& operator=(const ControlAccess&) = delete;
 
-  /// Does what a line asks. What it returns stands in the closing line ("value", "args"). Throws
+  /// Does what a line asks. What it returns is part of the closing line ("value", "args"). Throws
   /// BadLine, Refused or RunTimeError.
   Json act(const Json& line) { return dispatcher_.act(line); }
   const FormDirectory& forms() const { return forms_; }
-  /// For what lines may ask of the host beside.
+  /// For what else lines may ask of the host.
   Dispatcher& dispatcher() { return dispatcher_; }
   /// The dialogs, all hidden at the start.
   std::vector<Form*> dialogs() const;

@@ -20,13 +20,13 @@ class Dispatcher {
 
   /// What the host itself does ("show", "terminate"): by the name of its "do".
   std::map<std::string, std::function<void(const Json& line)>, std::less<>> hostActions;
-  /// What "get" answers beside the forms and their controls ("session", "settings").
+  /// What "get" answers besides the forms and their controls ("session", "settings").
   std::map<std::string, std::function<Json()>, std::less<>> records;
   Procedures procedures;
   /// After the control's end nothing but a "get" is allowed.
   bool ended = false;
 
-  /// The line's result, as ControlAccess::act gives it.
+  /// The line's result, as ControlAccess::act returns it.
   Json act(const Json& line);
 
  private:

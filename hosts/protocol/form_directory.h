@@ -28,7 +28,7 @@ class FormDirectory {
   /// The form of that name, or null.
   Form* findForm(std::string_view name) const;
   Form& form(std::string_view name) const;
-  /// Throws BadLine for a name that is none.
+  /// Throws BadLine for an unknown name.
   Control& control(std::string_view name) const;
   /// The name by which lines call the control; empty for null.
   std::string nameOf(const Control* control) const;

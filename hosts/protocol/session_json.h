@@ -6,7 +6,7 @@
 namespace awizo::protocol {
 
 /// The session's record by its field names. A document is its text, "" for none; of the log's
-/// stream and files only whether there are any is told; a cursor is "wait" or "default".
+/// stream and files only whether there are any; a cursor is "wait" or "default".
 Json sessionJson(const SessionState& session);
 
 /// "wait" or "default".

@@ -7,7 +7,7 @@
 
 namespace awizo::protocol {
 
-/// Sizes, current cell and marked range, texts and looks of all cells. Looks are told only of
+/// Sizes, current cell and marked range, texts and looks of all cells. Looks are given only of
 /// cells that differ from the plain white, left-aligned one.
 Json tableState(const Table& table);
 

@@ -41,7 +41,7 @@ std::int16_t keyCode(const Json& line) {
   return static_cast<std::int16_t>(code);
 }
 
-/// The member read by `parse`; null is none.
+/// The member read by `parse`; null counts as missing.
 template <class Value>
 std::optional<Value> valueMember(const Json& line, std::optional<Value> (*parse)(std::string_view),
                                  std::string_view form) {

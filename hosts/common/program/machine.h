@@ -8,7 +8,7 @@
 
 namespace awizo {
 
-/// The machine's clock, or one that stands still where the options say so.
+/// The machine's clock, or a fixed time where the options say so.
 std::unique_ptr<Clock> makeClock(const Options& options);
 
 /// The file that the options name, else the user's own; with nothing but a folder of off-line work

@@ -17,7 +17,7 @@ class ButtonFace : public Face {
   /// doesn't say it.
   void setIcon(const QString& icon, const QString& tip = {});
   void setTip(const QString& tip);
-  /// Words beside a picture button's picture; its tip stays.
+  /// Shows words next to a picture button's picture; its tip stays.
   void setWords(const QString& words);
 
  protected:

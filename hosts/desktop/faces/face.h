@@ -15,16 +15,15 @@ namespace awizo::desktop {
 
 class FormFace;
 
-/// What stands on the screen for one control of a form. It shows what the model holds and hands
-/// the user's actions on; it keeps nothing of its own and decides nothing. It belongs to its
-/// widget.
+/// What is on the screen for one control of a form. It shows what the model holds and hands the
+/// user's actions on; it keeps nothing of its own and decides nothing. It belongs to its widget.
 class Face : public QObject {
  public:
   Face(FormFace& form, Control& control, QWidget* widget);
   ~Face() override;
 
   Control& control() const { return control_; }
-  /// The widget that stands in the layout.
+  /// The widget that is put into the layout.
   QWidget* widget() const { return widget_; }
   /// The widget that takes the keys; mostly the same.
   virtual QWidget* focusWidget() const { return widget_; }
@@ -33,7 +32,7 @@ class Face : public QObject {
 
   /// Shows the model whole.
   void showAll();
-  /// The control's life ends: the face hears of it no more.
+  /// The control's life ends: the face is notified no more.
   void release();
 
  protected:
@@ -57,7 +56,7 @@ class Face : public QObject {
   void watch(QWidget* part) { part->installEventFilter(this); }
   /// The mouse goes down and the focus is here; answers whether the press is no more the widget's.
   virtual bool pressMouse(QMouseEvent&) { return false; }
-  /// Whether the wheel is the widget's; a field that it would change unseen lets it go by.
+  /// Whether the wheel is the widget's; a field that it would change unseen ignores it.
   virtual bool takesWheel() const { return true; }
   bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -14,7 +14,7 @@ namespace awizo::desktop {
 namespace {
 
 constexpr int pathRole = Qt::UserRole;
-constexpr int depthIndent = 3;  ///< blanks before a name for each folder above it
+constexpr int depthIndent = 3;  ///< spaces before a name for each folder above it
 constexpr int iconSize = 16;
 
 QString joined(const QString& folder, const QString& name) {

@@ -119,7 +119,7 @@ void FormFace::stateShown(Face& face) {
 
 void FormFace::focusCame(Face& face, Qt::FocusReason reason) {
   if (following_ > 0 || !alive_ || focusedFace() == &face) return;
-  // The window or a pop-up has come or gone: the focus is still the model's to tell.
+  // The window or a pop-up has come or gone: the focus is still the model's.
   const bool byUser = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
                       reason == Qt::MouseFocusReason || reason == Qt::ShortcutFocusReason ||
                       reason == Qt::OtherFocusReason;

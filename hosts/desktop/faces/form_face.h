@@ -47,7 +47,7 @@ class FormFace : public QObject {
   void followFocus();
   /// Called when the model's form changes caption or is shown or hidden.
   std::function<void(const Change&)> onChange;
-  /// Told after a control came, went, or was enabled or disabled.
+  /// Called after a control was shown, hidden, enabled or disabled.
   Observers<Face&> onStateShown;
 
   // What faces use.
@@ -63,13 +63,14 @@ class FormFace : public QObject {
   void focusCame(Face& face, Qt::FocusReason reason);
   void stateShown(Face& face);
 
-  /// While what this gives lives, what happens to Qt's widgets is the models' doing, not the
-  /// user's.
+  /// While the returned object lives, what happens to Qt's widgets comes from the models, not from
+  /// the user.
   auto following() {
     ++following_;
     return AtExit([this] { --following_; });
   }
-  /// While what this gives lives, the focus is moved by the keyboard: a field's text is selected.
+  /// While the returned object lives, the focus is moved by the keyboard: a field's text is
+  /// selected.
   auto byKeyboard() {
     reason_ = Qt::TabFocusReason;
     return AtExit([this] { reason_ = Qt::OtherFocusReason; });

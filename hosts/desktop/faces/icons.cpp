@@ -10,8 +10,8 @@
 namespace awizo::desktop {
 namespace {
 
-/// Draws an icon anew at every size and in the present colours: what the file draws in black
-/// takes the colour of texts.
+/// Draws an icon again at every size and in the present colours: what the file draws in black takes
+/// the colour of texts.
 class IconEngine : public QIconEngine {
  public:
   explicit IconEngine(QByteArray drawing) : drawing_(std::move(drawing)) {}

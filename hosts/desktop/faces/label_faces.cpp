@@ -17,7 +17,7 @@ FrameFace::FrameFace(FormFace& form, Frame& frame, QWidget* parent)
       frame_(frame),
       box_(static_cast<QGroupBox*>(widget())) {}
 
-/// Blanks at the ends only placed the heading on the frame's line.
+/// Spaces at the ends only placed the heading on the frame's line.
 void FrameFace::showContent() { box_->setTitle(fromText(frame_.caption()).trimmed()); }
 
 }  // namespace awizo::desktop

@@ -22,7 +22,7 @@ class ListRows : public QAbstractListModel {
 
  private:
   const DropDownList& list_;
-  int count_;  ///< as last told to the views, which must not see it change untold
+  int count_;  ///< as last reported to the views, which must not see an unreported change
 };
 
 /// The widget of a drop-down list: a pop-up wide enough for its rows, and Tab left to the face.

@@ -10,7 +10,7 @@
 namespace awizo::desktop {
 
 /// What date and time pickers share: a field with sections, and where the picker may be empty a box
-/// that is checked while it isn't. The blank checks and clears it too.
+/// that is checked while it isn't. The space bar checks and clears it too.
 class PickerFace : public Face {
  public:
   PickerFace(FormFace& form, Control& picker, QDateTimeEdit* edit, bool allowsNone,

@@ -127,7 +127,7 @@ void TableFace::showChange(const Change& change) {
   }
 }
 
-/// Rows come and go by the thousand in one event; the view is told once. While the model's
+/// Rows come and go by the thousand in one event; the view is notified once. While the model's
 /// redrawing is off it keeps what it shows.
 void TableFace::showLater() {
   if (table_.redraw()) {

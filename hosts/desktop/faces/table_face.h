@@ -10,10 +10,10 @@
 
 namespace awizo::desktop {
 
-/// A table. Its heading stands still, columns of no width are hidden, the current cell, the marked
-/// range and the first row shown follow the model, and clicks and keys go to it. A row of normal
-/// height has room for a line of the font in use; columns begin at their widths in twips, grown
-/// with the font, and the user can resize them.
+/// A table. Its heading doesn't scroll, columns of no width are hidden, the current cell, the
+/// marked range and the first row shown follow the model, and clicks and keys go to it. A row of
+/// normal height has room for a line of the font in use; columns begin at their widths in twips,
+/// grown with the font, and the user can resize them.
 class TableFace : public Face {
  public:
   TableFace(FormFace& form, Table& table, QWidget* parent);
@@ -24,7 +24,7 @@ class TableFace : public Face {
   void layOverCell(Face& editor);
   /// Shows what has changed and waits to be shown; the painting of the view does the same.
   void showNow();
-  /// The column takes what room is left beside the others.
+  /// The column takes the room that the others leave.
   void stretchColumn(int column);
 
  protected:

@@ -6,7 +6,7 @@
 
 namespace awizo::desktop {
 
-/// The data rows of a table, read from the model as they are asked for. The fixed rows stand in the
+/// The data rows of a table, read from the model as they are asked for. The fixed rows are in the
 /// header of the view: view row 0 is the table's first row below them.
 class TableRows : public QAbstractTableModel {
  public:
@@ -25,7 +25,7 @@ class TableRows : public QAbstractTableModel {
 
  private:
   const Table& table_;
-  int count_;  ///< as last told to the view, which must not see it change untold
+  int count_;  ///< as last reported to the view, which must not see an unreported change
 };
 
 }  // namespace awizo::desktop

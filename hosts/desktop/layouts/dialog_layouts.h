@@ -12,7 +12,7 @@ class DlgWczytajZapisz;
 
 namespace awizo::desktop {
 
-// One layout for each dialog: gives every face its place in the window.
+// One layout for each dialog: puts every face into the window.
 void layOut(DlgDodaj& form, FormDialog& dialog);
 void layOut(DlgdodajPule& form, FormDialog& dialog);
 void layOut(DlgIsoCodes& form, FormDialog& dialog);

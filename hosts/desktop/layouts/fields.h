@@ -16,7 +16,7 @@ class Fields {
   QGridLayout* grid() const { return grid_; }
 
   /// A caption that is a control of the form, and the field beside it, in a pair of columns: pair 0
-  /// is the first. `pairs`: how many pairs the field reaches over.
+  /// is the first. `pairs`: how many pairs the field extends over.
   void add(int row, int pair, const Control& caption, QLayout* field, int pairs = 1);
   void add(int row, int pair, const Control& caption, const Control& field, int pairs = 1);
   /// The same with a caption in words, which comes and goes with the field.
@@ -36,7 +36,7 @@ class Fields {
 /// A box with a heading.
 QGroupBox* makeGroup(std::string_view heading);
 
-/// Between a frame's edge and what stands in it.
+/// Between a frame's edge and its content.
 inline constexpr QMargins insideFrame(8, 4, 8, 6);
 
 void makeBold(QWidget& words);

@@ -17,7 +17,7 @@ class FormDialog : public QDialog {
   FormFace& faces() { return faces_; }
   Form& form() const { return faces_.form(); }
 
-  /// Stands up over all other windows, with the focus where the model's is.
+  /// Shows itself over all other windows, with the focus where the model's is.
   void open() override;
   /// Lets the user act until the form has hidden, or the program is asked to end.
   void runUntilHidden();

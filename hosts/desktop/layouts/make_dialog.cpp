@@ -32,7 +32,7 @@ FormDialog* makeDialog(Form& form, QWidget* parent) {
                      layOutAs<DlgSzczegoly>(form, *dialog) ||
                      layOutAs<DlgWczytajZapisz>(form, *dialog);
   if (!known) layOut(form, *dialog);
-  // A widget that has gone into a new parent is shown anew.
+  // A widget with a new parent must be shown again.
   dialog->faces().showAll();
   return dialog;
 }

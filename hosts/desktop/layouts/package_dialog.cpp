@@ -41,7 +41,7 @@ QGroupBox* makeDelivery(DlgSzczegoly& form, FormFace& faces) {
   return group;
 }
 
-/// Gives the captions of several groups one width, so that all fields begin at one line.
+/// Makes the captions of several groups equally wide, so that all fields are aligned.
 void alignCaptions(std::initializer_list<QGroupBox*> groups) {
   int width = 0;
   for (QGroupBox* group : groups) {

@@ -8,7 +8,7 @@
 
 namespace awizo::desktop {
 
-/// A launch file that can't be used; what() tells the user why, in Russian.
+/// A launch file that can't be used; what() says why, in Russian, for the user.
 class BadLaunchFile : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;

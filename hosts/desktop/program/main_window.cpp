@@ -137,7 +137,7 @@ bool MainWindow::mayLoseDocument() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (!mayClose_) {
-    // A second close while the question stands leaves it to the question.
+    // A second close while the question is open leaves it to the question.
     if (asking_) return event->ignore();
     asking_ = true;
     mayClose_ = mayLoseDocument();
@@ -145,7 +145,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   }
   if (!mayClose_) return event->ignore();
   if (!widget_->isWorking()) return event->accept();
-  // What goes on comes to its end first; each step of it runs in a call of its own.
+  // What is under way ends first; each step of it runs in a call of its own.
   event->ignore();
   widget_->endWork();
   QTimer::singleShot(0, this, &MainWindow::close);

@@ -51,7 +51,7 @@ void DesktopScreenFace::formOpened(Form& form) {
   if (&form == mainForm_) return;
   FormDialog& window = dialog(form);
   std::erase(opened_, &window);
-  // A dialog stands over what was on top when it opened, which isn't the same window each time.
+  // A dialog is over what was on top when it opened, which isn't the same window each time.
   QWidget* below = topWindow();
   if (window.parentWidget() != below) window.setParent(below, window.windowFlags());
   opened_.push_back(&window);

@@ -69,7 +69,7 @@ class DemoFolder {
   QTemporaryDir root_{QDir::tempPath() + "/Отгрузки-XXXXXX"};
 };
 
-/// Gives the program's exit status.
+/// Returns the program's exit status.
 int draw(const fs::path& pictures, const QSize& size) {
   const DemoFolder folder;
   Options options = demoOptions();

@@ -38,7 +38,7 @@ class AwizoWysylkiWidget : public QWidget {
   Q_PROPERTY(QString DebugLevel READ debugLevel WRITE setDebugLevel NOTIFY debugLevelChanged)
 
  public:
-  /// What the host gives the control. All of it outlives the widget.
+  /// What the host hands to the control. All of it outlives the widget.
   struct Host {
     PropertyBag& bag;
     HostPage& page;
@@ -67,9 +67,9 @@ class AwizoWysylkiWidget : public QWidget {
   bool isDocumentChanged() const;
   /// Whether an exchange runs or the user is asked something, so that the widget can't go yet.
   bool isWorking() const;
-  /// Brings all work that goes on to its end: exchanges are cut off, boxes and dialogs go.
+  /// Ends all work under way: exchanges are cut off, boxes and dialogs close.
   void endWork();
-  /// Couldn't be set up; the user was told.
+  /// Couldn't be set up; the user was shown why.
   bool hasFailed() const;
 
   /// Asks the user a question of the host's own, over whatever is on top.

@@ -4,8 +4,8 @@
 
 namespace awizo::desktop {
 
-/// Gives one column of a table what room is left beside the others, and never less than the width
-/// that it was given or the user chose.
+/// Widens one column of a table to the room that the others leave, but keeps it at least as wide as
+/// it was set or the user chose.
 class ColumnFill : public QObject {
  public:
   ColumnFill(QTableView& view, int column);

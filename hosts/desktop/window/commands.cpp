@@ -63,7 +63,7 @@ void Commands::giveKeys(const Command& command, QAction& action, QWidget& window
   action.setShortcutContext(command.place == nullptr ? Qt::WidgetWithChildrenShortcut
                                                      : Qt::WidgetShortcut);
   (command.place == nullptr ? window : *faces_.widget(*command.place)).addAction(&action);
-  // The button tells its key.
+  // The button's tip shows its key.
   const QString tip =
       fromText(command.plainWords()) + " (" + all.front().toString(QKeySequence::NativeText) + ")";
   faces_.button(*command.button).setTip(tip);

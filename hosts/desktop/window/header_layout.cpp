@@ -89,7 +89,7 @@ QLabel* caption(const std::string& text) {
   auto* label = new QLabel(fromText(text));
   label->setTextFormat(Qt::PlainText);
   label->setForegroundRole(QPalette::PlaceholderText);
-  // Qt has no paler colour of this role for a disabled form: it would stand out there.
+  // Qt has no paler colour of this role for a disabled form: it would be too prominent there.
   QPalette colours;
   colours.setColor(QPalette::Disabled, QPalette::PlaceholderText,
                    label->palette().color(QPalette::Disabled, QPalette::WindowText));
@@ -109,7 +109,7 @@ class WrappedTexts : public QWidget {
 
  protected:
   bool event(QEvent* event) override {
-    // A layout that is at work doesn't hear of a height that changes under its hands.
+    // A layout doesn't notice a height that changes while it is laying out.
     if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) {
       QMetaObject::invokeMethod(
           this, [this] { takeHeight(); }, Qt::QueuedConnection);

@@ -8,8 +8,8 @@
 
 namespace awizo::desktop {
 
-/// Gives every face of the main form its place in the form's window. Returns the label for the
-/// address that documents are sent to, which is no control of the form.
+/// Puts every face of the main form into the form's window. Returns the label for the address that
+/// documents are sent to, which is no control of the form.
 QLabel* layOutMain(AwizoForm& form, FormFace& faces);
 
 // Its parts, each one widget.

@@ -4,14 +4,14 @@
 
 namespace awizo::desktop {
 
-/// Shows that work goes on, however long: a mark that runs along a line and comes back. It moves
-/// by advance() alone, so that it stands still when the work does.
+/// Shows that work goes on, however long: a mark that moves along a line and back. Only advance()
+/// moves it, so it stops when the work stops.
 class MovingBar : public QWidget {
  public:
   explicit MovingBar(QWidget* parent = nullptr);
 
   void advance();
-  /// Where the mark stands, in steps from the left.
+  /// Where the mark is, in steps from the left.
   int position() const;
 
  protected:

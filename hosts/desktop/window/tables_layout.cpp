@@ -18,7 +18,7 @@
 namespace awizo::desktop {
 namespace {
 
-/// The commands of a table's rows, one below the other beside the table.
+/// The commands of a table's rows, one below the other at the table's side.
 QLayout* makeRowButtons(FormFace& faces, const std::vector<Command>& commands) {
   auto* column = new QVBoxLayout;
   column->setSpacing(4);

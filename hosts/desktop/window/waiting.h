@@ -9,19 +9,19 @@
 
 namespace awizo::desktop {
 
-/// While the control works, the wait cursor stands and the user's input goes nowhere and isn't kept
-/// for later. Where the work can last, a panel over the window tells what is being done, with a bar
-/// that moves. A box that must be answered sets the waiting aside.
+/// While the control works, the wait cursor shows and the user's input is dropped, not kept for
+/// later. Where the work can last, a panel over the window shows what is being done, with a moving
+/// bar. A box that must be answered suspends the waiting.
 class Waiting : public QObject {
  public:
-  /// The panel stands in the middle of `window`.
+  /// The panel is in the middle of `window`.
   explicit Waiting(QWidget& window);
   ~Waiting() override;
 
   // The wait lasts from the first beginning to the last end.
   void begin();
   void end();
-  /// While what this gives lives, the user answers something.
+  /// While the returned object lives, the user answers something.
   auto aside() {
     setAside();
     return AtExit([this] { takeUp(); });
@@ -31,7 +31,7 @@ class Waiting : public QObject {
   QString text() const { return text_->text(); }
   const MovingBar& bar() const { return *bar_; }
 
-  /// Tells the user what is being done, until the wait ends.
+  /// Shows the user what is being done, until the wait ends.
   void show(const QString& what);
   /// Called often during the work: moves the bar and paints, at most some thirty times a second.
   void goOn();

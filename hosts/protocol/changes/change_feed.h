@@ -11,7 +11,7 @@
 
 namespace awizo::protocol {
 
-/// Tells a client that mirrors forms what has changed of them. Nothing is told before flush(),
+/// Sends a client that mirrors forms what has changed of them. Nothing is sent before flush(),
 /// which the host calls whenever the client may look: after an act, before it waits for a box's
 /// answer.
 ///
@@ -21,7 +21,7 @@ namespace awizo::protocol {
 ///    {"event":"changes","forms":{"DlgDodaj":{"shown":true}},
 ///     "controls":{"txtNrAwiza":{"text":"1"},
 ///                 "grdPozycje":{"row":1,"lines":[{"row":1,"height":240,"cells":["1", ...]}]}}}
-///    A member that isn't told stays as it was. Of a list or table the client is told the number of
+///    A member that isn't sent stays as it was. Of a list or table the client is sent the number of
 ///    rows ("count") and those rows that it shows ("lines"); it drops rows from "count" on.
 class ChangeFeed {
  public:
@@ -33,8 +33,8 @@ class ChangeFeed {
   ChangeFeed(const ChangeFeed&) = delete;
   ChangeFeed& operator=(const ChangeFeed&) = delete;
 
-  /// With the next flush the client is told all of the form, and then what changes. Once more for a
-  /// form that it has: it is told all anew.
+  /// The next flush sends the client all of the form, later ones what changes. Called again for a
+  /// form that it has: all is sent again.
   void subscribe(Form& form);
   void unsubscribe(const Form& form);
   /// The rows that the client shows of this list or table. Refused for a form that isn't subscribed

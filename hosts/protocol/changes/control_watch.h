@@ -6,7 +6,7 @@
 
 namespace awizo::protocol {
 
-/// What a client that mirrors a control holds of it, and what it has to be told.
+/// What a client that mirrors a control holds of it, and what must be sent to it.
 class ControlWatch {
  public:
   explicit ControlWatch(const Control& control) : control_(control) {}
@@ -18,7 +18,7 @@ class ControlWatch {
   Json takeChanges();
 
  private:
-  /// Lists that read the disk each time hear of no change there.
+  /// Lists that read the disk each time aren't notified of a change there.
   bool readsAnew() const;
 
   const Control& control_;

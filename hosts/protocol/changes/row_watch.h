@@ -13,8 +13,8 @@ struct RowRange {
   bool holds(int row) const { return row >= first && row - first < count; }
 };
 
-/// Which rows a client has to be told: those that it shows and doesn't hold as they are now. Rows
-/// that it shows no more it may forget, so they are told anew when it shows them again.
+/// Which rows must be sent to a client: those that it shows and doesn't hold as they are now. Rows
+/// that it no longer shows it may forget, so they are sent again when it shows them again.
 class RowWatch {
  public:
   /// One row has changed.
@@ -22,7 +22,7 @@ class RowWatch {
   /// Rows came, went or changed; any of them may be another now.
   void allChanged() { held_.clear(); }
   void show(RowRange range);
-  /// The rows to tell, ascending; from then on the client holds them. The first `fixed` of the
+  /// The rows to send, ascending; from then on the client holds them. The first `fixed` of the
   /// `count` rows are shown always.
   std::vector<int> take(int count, int fixed);
 

@@ -9,7 +9,7 @@ namespace awizo::protocol {
 
 namespace {
 
-/// The level of a line whose level isn't told.
+/// The level of a line that names none.
 constexpr std::int16_t traceLevel = 4;
 
 }  // namespace
@@ -24,7 +24,7 @@ void addHostProcedures(Procedures& procedures, AwizoWysylki& control) {
   });
   procedures.add("GetBaseUrl", [](Text url) { return GetBaseUrl(url); });
   procedures.add("HasHostDocument", [&] { return HasHostDocument(editor.platform.page); });
-  // null stands for no interface.
+  // null means no interface.
   using Interface = const std::optional<std::string>&;
   procedures.add("IObjectSafety_GetInterfaceSafetyOptions",
                  [](Interface iid, std::int32_t& supported, std::int32_t& enabled) {

@@ -14,12 +14,12 @@
 
 namespace awizo::protocol {
 
-/// A text that a line gives to a procedure.
+/// A text that a line passes to a procedure.
 using Text = const std::string&;
 
 /// The procedures that a line can call, by name. A procedure is registered as a function; its
-/// parameters say what the line has to give: values, or references to what the procedure changes.
-/// A trailing std::optional parameter may be left out.
+/// parameters say what the line has to pass: values, or references to what the procedure changes. A
+/// trailing std::optional parameter may be left out.
 class Procedures {
  public:
   template <class Function>

@@ -1,4 +1,4 @@
-// The line dialog's sort routines. They go by their own names and by the dialog's.
+// The line dialog's sort routines. They can be called by their own names and by the dialog's.
 
 #include "hosts/protocol/procedures/control_procedures.h"
 #include "platform/run_time_error.h"
@@ -10,7 +10,7 @@ namespace {
 using Keys = const std::vector<std::string>&;
 using Index = std::vector<std::int32_t>&;
 
-/// The stack's bound as a caller gives it; a line must not take the machine's memory with it.
+/// The stack's bound as a caller passes it; a line must not use up the machine's memory with it.
 std::int32_t bound(std::int32_t size) {
   constexpr std::int32_t most = 10'000'000;
   if (size > most) throw errors::outOfMemory();

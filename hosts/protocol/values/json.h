@@ -17,7 +17,7 @@ class BadLine : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Deepest nesting of a line; what is deeper is no honest line.
+/// Deepest nesting of a line; anything deeper is an attack or a mistake.
 inline constexpr int deepestNesting = 64;
 
 /// The line as a JSON object. Throws BadLine.
@@ -33,7 +33,7 @@ std::string textMember(const Json& line, std::string_view name);
 int integerMember(const Json& line, std::string_view name);
 bool booleanMember(const Json& line, std::string_view name, bool missing);
 
-/// A text that a user or host could give: a JSON string without the character U+0000.
+/// A text that a user or host could enter: a JSON string without the character U+0000.
 std::string textOf(const Json& value, std::string_view what);
 /// A whole number within `int`.
 int integerOf(const Json& value, std::string_view what);
