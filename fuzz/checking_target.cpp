@@ -1,4 +1,4 @@
-// What is told of a document before it is read, against its reading.
+// What checking finds in a document, against reading it.
 
 #include <algorithm>
 
@@ -33,7 +33,7 @@ void requireReading(std::string_view bytes) {
           "a despatch advice without findings is read without a word");
 }
 
-/// Whether the bytes can stand within the service's reply as they are.
+/// Whether the bytes can be part of the service's reply as they are.
 bool fitsIntoAReply(std::string_view bytes) {
   return bytes.starts_with('<') && !bytes.starts_with("<?") && isUtf8(bytes) &&
          bytes.find("<!DOCTYPE") == bytes.npos;
@@ -64,7 +64,7 @@ void checking(std::string_view bytes) {
   }
   std::ranges::for_each(findings, requirePlainWords);
   if (!findings.empty()) return;
-  // What is no XML as it stands can only be a despatch advice, which is read as text then.
+  // What isn't XML can only be a despatch advice, which is read as text then.
   const std::unique_ptr<XmlDocument> document = desk.xml.createDocument();
   const bool isOrder =
       document->loadBytes(bytes) && document->root().name() != "Document-DespatchAdvice";

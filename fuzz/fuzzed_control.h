@@ -33,7 +33,7 @@ class FuzzedControl : public test::TestControl {
   static constexpr std::string_view documentFolder = "c:\\docs";
 };
 
-/// The text behind an XML declaration.
+/// The text after an XML declaration.
 std::string_view withoutDeclaration(std::string_view text);
 
 }  // namespace awizo::fuzz

@@ -6,8 +6,8 @@
 namespace awizo::fuzz {
 
 // What takes bytes from outside. Each target hands arbitrary bytes to one reader and demands what
-// the reader promises of any of them; a broken promise ends the program with a word to its error
-// output. A target starts afresh at each call.
+// the reader promises of any of them; a broken promise ends the program with a message on its error
+// output. A target starts from scratch at each call.
 
 /// A waiting order: read on line, then written as a despatch advice.
 void order(std::string_view bytes);

@@ -89,7 +89,7 @@ void checkDate(const Conversions& conversions, std::string_view text) {
 }  // namespace
 
 void packageReferences(std::string_view bytes) {
-  // Texts come from fields and from XML, and both give UTF-8.
+  // Texts come from fields and from XML, and both are UTF-8.
   if (!isUtf8(bytes)) return;
   for (test::TestEditor& desk : editors()) {
     checkTableOfReferences(desk, bytes);

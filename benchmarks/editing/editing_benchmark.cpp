@@ -17,7 +17,7 @@ void measure(benchmark::State& state, Prepare&& prepare, Work&& work) {
   state.SetComplexityN(state.range(0));
 }
 
-/// So many thousandths of the largest document.
+/// This many thousandths of the largest document.
 int partOf(const benchmark::State& state, int most) {
   return most * static_cast<int>(state.range(0)) / 1000;
 }

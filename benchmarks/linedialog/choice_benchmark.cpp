@@ -7,7 +7,8 @@
 namespace awizo::benchmarks {
 namespace {
 
-/// A user before a document of 100 lines, and a dialog that has read so many lines of a catalogue.
+/// A user before a document of 100 lines, and a dialog that has read this many lines of a
+/// catalogue.
 struct Choice : test::Desk {
   explicit Choice(int catalogueLines) {
     session.ProductCatalogLoaded = session.ProductCatalogDom->loadText(catalogue(catalogueLines));

@@ -22,7 +22,8 @@ namespace {
 namespace fs = std::filesystem;
 
 const std::string self = fs::read_symlink("/proc/self/exe").string();
-// What the full-size start may take: so many windows, and so often bare parsing of the same bytes.
+// What the full-size start may take, as a multiple of a bare window and of bare parsing of the same
+// bytes.
 constexpr double windowsAllowed = 2.0;
 constexpr double parsesAllowed = 1.3;
 
@@ -47,7 +48,7 @@ class LargeService {
     put(place_.folder() / "order-reply.xml", orderReply(waiting));
   }
 
-  /// Starts a program on line; the order waits for each one anew.
+  /// Starts a program on line; the order waits again for each one.
   Cost start(std::vector<std::string> command, const std::string& input = "") {
     const test::DemoService service(place_.posted(), {"--data", data_.string()});
     agreeTo(service.pageUrl());

@@ -19,7 +19,7 @@ double secondsOf(Work&& work) {
   return now() - start;
 }
 
-/// Runs our work and the bare work by turns; tells the time of ours and its ratio to the bare.
+/// Runs our work and the bare work by turns; reports the time of ours and its ratio to the bare.
 /// `prepare` runs before each turn, untimed.
 template <class Prepare, class Ours, class Bare>
 void compare(benchmark::State& state, Prepare&& prepare, Ours&& ours, Bare&& bare) {

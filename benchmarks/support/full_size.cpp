@@ -60,7 +60,7 @@ std::vector<Line> makeLines(int count, LineOrder order, Repeats repeats) {
     std::shuffle(lines.begin(), lines.end(), random);
     return lines;
   }
-  // EANs and codes ascend already; the names are handed out anew in their order.
+  // EANs and codes ascend already; the names are handed out again in their order.
   std::vector<std::string> names;
   for (const Line& line : lines) names.push_back(line.name);
   std::sort(names.begin(), names.end());

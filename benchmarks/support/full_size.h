@@ -17,20 +17,20 @@ enum class LineOrder { random, sorted, reversed };
 enum class Repeats {
   few,           ///< one in twenty names or EANs
   noBuyerCodes,  ///< no line has a buyer's code
-  namesTwice,    ///< every name stands twice
+  namesTwice,    ///< every name occurs twice
 };
 
 /// A `Document-ProductCatalogue` with all twelve values in every line and Cyrillic names of 20 to
 /// 60 characters; about 17 MB at full size. Sorted means that each of the four keys ascends.
 std::string catalogue(int lines, LineOrder order = LineOrder::random,
                       Repeats repeats = Repeats::few);
-/// A `Document-Order` whose products are spread over a catalogue of so many lines.
+/// A `Document-Order` whose products are spread over a catalogue of this many lines.
 std::string order(int lines, int catalogueLines);
 
-/// How a document is laid out. Reading drops blanks between elements, so that one kind alone would
-/// flatter.
+/// How a document is laid out. Reading drops white space between elements, so that one kind alone
+/// would flatter.
 enum class Layout {
-  compact,   ///< a product or an order's line is one line of text, without blanks
+  compact,   ///< a product or an order's line is one line of text, without white space
   indented,  ///< every element on a line of its own
 };
 /// A document of the above, which are compact.

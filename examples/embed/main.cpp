@@ -16,7 +16,7 @@ int main(int argumentCount, char** arguments) {
   QApplication application(argumentCount, arguments);
   QLocale::setDefault(awizo::desktop::localeNamed("ru_RU"));
 
-  // What the host tells the control: its properties, the page that it lives in, its settings.
+  // What the host hands to the control: its properties, the page that it lives in, its settings.
   awizo::Options options;
   options.properties = {{"OnLine", "Off"}, {"PartnerILN", "9520002000019"}};
   awizo::OptionsBag bag(options);

@@ -10,7 +10,7 @@ using test::loaded;
 // A document of elements and texts alone is kept in a flat form until more is asked of it than
 // reading. Nobody may see a difference.
 
-/// All that reading tells of a node and of what is below it.
+/// All that can be read of a node and of what is below it.
 std::string outline(const XmlNode& node) {
   std::string told = node.name() + "'" + node.text() + "'" + std::to_string(node.line()) + "(";
   for (XmlNode child = node.firstChild(); child; child = child.nextSibling()) {
@@ -32,7 +32,7 @@ std::string selected(XmlDocument& document) {
   return told;
 }
 
-/// A document of three names, with blanks and texts in all places.
+/// A document of three names, with white space and texts in all places.
 std::string randomDocument(std::mt19937& random) {
   const std::vector<std::string> texts{"",      " ",      "\n  ",     "x", " x ",  "Ёж ё", "&amp;",
                                        "&#32;", "\r\n\t", "1 <b/> 2", "1", " 01.", "-1",   "1e0"};

@@ -92,7 +92,7 @@ double secondsOf(const timeval& time) {
   return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
 }
 
-/// Loads in a process of its own that may take only so much memory and time and that says nothing
+/// Loads in a process of its own that may take only this much memory and time and that says nothing
 /// on its error output, and prints what it took.
 void expectOutcomeWithinBounds(const std::string& text, bool (*isExpected)(int status)) {
   const std::unique_ptr<std::FILE, int (*)(std::FILE*)> said(std::tmpfile(), &std::fclose);

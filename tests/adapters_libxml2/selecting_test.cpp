@@ -177,7 +177,7 @@ TEST(Selecting, ATextWithAnExponentIsNoNumber) {
               ElementsAre("1E50100000.023", "100000"));
 }
 
-/// The walk must give what the full evaluation gives, whose brackets it doesn't take.
+/// The walk must find what the full evaluation finds, whose brackets it doesn't take.
 TEST(Selecting, TheWalkComparesNumbersAsTheEvaluationDoes) {
   const auto document = loaded(
       "<R><A><B>1</B><C>a</C></A><A><B>x</B><B> 01.0 </B><C>b</C><C>c</C></A><A><B>-1</B></A>"
@@ -209,7 +209,7 @@ TEST(Selecting, TheWalkComparesNumbersAsTheEvaluationDoes) {
   }
 }
 
-/// The walk by names must give what the full evaluation gives, whose brackets it doesn't take.
+/// The walk by names must find what the full evaluation finds, whose brackets it doesn't take.
 TEST(Selecting, TheWalkByNamesSelectsWhatTheEvaluationSelects) {
   const auto document = loaded(
       "<a><b><c>1</c><!-- c --><c>2</c></b>text<b "

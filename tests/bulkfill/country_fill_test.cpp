@@ -144,7 +144,7 @@ TEST_F(FillingTheCountry, WithoutLinesNothingIsAskedAndTheListGrows) {
   EXPECT_EQ(list.rows().back(), "(JP)Япония");
 }
 
-/// A bare code that became a row of the list stands past the ten, which have codes.
+/// A bare code that became a row of the list comes after the ten, which have codes.
 TEST_F(FillingTheCountry, ABareCodeAmongTheRowsBlanksTheCells) {
   list.addRow("PL");
   list.userType("pl");

@@ -12,8 +12,8 @@
 
 namespace awizo::test {
 
-/// A despatch advice of one line in one package; line breaks stand before the elements that tests
-/// break, so that findings tell their lines.
+/// A despatch advice of one line in one package; line breaks precede the elements that tests break,
+/// so that findings have different lines.
 inline const std::string soundAdvice =
     "<Document-DespatchAdvice><DespatchAdvice-Header>\n"                       // 1
     "<DespatchAdviceNumber>WZ-7</DespatchAdviceNumber>\n"                      // 2

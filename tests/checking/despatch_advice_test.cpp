@@ -134,7 +134,7 @@ TEST_P(CheckingADespatchAdvice, NumbersThatAreNoneStayAndMostFailTheLineCheck) {
               ElementsAre("11|" + item +
                           "NetAmount|строка не пройдёт проверку: сумма «даром» не "
                           "число"));
-  // The line check tells one column; the others are told as they stand.
+  // The line check reports one column; the others are reported as they are.
   EXPECT_THAT(
       checkWith("<EAN>", "<UnitNetPrice>дорого</UnitNetPrice><TaxRate>нет</TaxRate>\n<EAN>"),
       ElementsAre("11|" + item +

@@ -1,4 +1,4 @@
-// The demo's documents are what the editor is tried and tested with: they must stay as told here.
+// The demo's documents are what the editor is tried and tested with: they must stay as shown here.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -28,7 +28,7 @@ class CommandsTest : public ::testing::Test, public TestControl {
   const std::vector<CommandMenu> menus = commandMenus(form);
 };
 
-/// The letter that the mark stands before, in UTF-8.
+/// The letter after the mark, in UTF-8.
 std::string mnemonicOf(std::string_view words) {
   const std::size_t mark = words.find('&');
   return mark == words.npos ? "" : std::string(firstCharacters(words.substr(mark + 1), 1));

@@ -31,7 +31,7 @@ TEST_F(CompletenessOnDesktop, EveryKindOfControlHasAFace) {
   for (const Form* one : forms) {
     for (const Control* shown : one->controls()) kinds.insert(shown->kind());
   }
-  // All kinds there are stand on the control's forms, and each has made a face.
+  // The control's forms have controls of all kinds, and each has made a face.
   EXPECT_EQ(kinds.size(), static_cast<std::size_t>(ControlKind::frame) + 1);
   for (const Form* one : forms) {
     for (const Control* shown : one->controls()) {

@@ -16,7 +16,7 @@
 
 namespace awizo::test {
 
-/// The program's window at a supplier's desk. The clock stands at 21 November 2026, 10:15.
+/// The program's window on a supplier's machine. The clock is fixed at 21 November 2026, 10:15.
 class ProgramTest : public testing::Test {
  protected:
   ~ProgramTest() override;
@@ -43,7 +43,7 @@ class ProgramTest : public testing::Test {
   desktop::Commands& commands() { return widget().commands(); }
   desktop::Face& face(const Control& control) { return widget().faces().face(control); }
 
-  /// Answers every box that comes while the act runs with the Enter key; gives what was seen.
+  /// Answers every box that comes while the act runs with the Enter key; returns what was seen.
   static std::vector<std::string> answerWithEnter(const std::function<void()>& act);
 
   /// A layout that moves another asks for one more turn of the event loop.

@@ -14,7 +14,7 @@ TEST_F(InTableEditing, ADoubleClickOpensTheFieldOverTheCellWithItsText) {
   EXPECT_EQ(field.text(), "1,000");
   EXPECT_EQ(field.caret(), 5);
   EXPECT_EQ(session.EditRow, 2);
-  // Behind the columns of 525, 1850 and 4625 twips, below the heading and the first line.
+  // After the columns of 525, 1850 and 4625 twips, below the heading and the first line.
   EXPECT_EQ(field.place(), (Place{100 + 525 + 1850 + 4625, 200 + 2 * 240, 2200 - 4, 240 - 4}));
 }
 

@@ -141,7 +141,7 @@ TEST_F(EditingALine, AnEmptyCodeIsThatOfTheFirstProductWithoutOne) {
   });
 }
 
-/// Equal rows are all selected in turn; the text changes with the first alone.
+/// Equal rows are all selected, one after another; the text changes with the first alone.
 TEST_F(EditingALine, OfEqualRowsOfTheCodeTheLastIsSelected) {
   DropDownList& list = lineDialog.touch().cboxEANProd;
   list.setRows({"4607000000116", "1", "4607000000116", "46070000001160"});

@@ -193,7 +193,7 @@ TEST_F(AddingAPackage, ASerialIsNeverIssuedTwice) {
   form.btnUsunOpak.userClick();
   addPackage({.description = "Г"});
   EXPECT_THAT(column(packages, GRD_OPAK_SERIAL), ElementsAre("4", "5"));
-  // The row's number is the count, which here stands in the table already.
+  // The row's number is the count, which the table has already here.
   EXPECT_THAT(column(packages, GRD_OPAK_LP), ElementsAre("2", "2"));
 }
 
@@ -211,8 +211,8 @@ TEST_F(AddingAPackage, ADescriptionInUseIsRefused) {
   EXPECT_EQ(session.IloscPozycjiOpak, 1);
 }
 
-/// A file brings rows that nobody counts: the new row is cut off with them, and the row behind the
-/// last counted one takes its place.
+/// A file brings rows that nobody counts: the new row is cut off with them, and the row after the
+/// last counted one is used instead.
 TEST_F(AddingAPackage, RowsBeyondThePackagesAreDropped) {
   addPackage({.description = "Поддон"});
   packages.setRows(6);

@@ -195,8 +195,8 @@ TEST(EditingAPackageWithALog, ThePackagesAreListedTwiceBeforeTheDialogOpens) {
   EXPECT_NE(before.find(listed, first + 1), std::string::npos);
 }
 
-/// The check of a new description cuts its blanks, the table doesn't: so two packages can come to
-/// bear the same description.
+/// The check of a new description cuts its spaces, the table doesn't: so two packages can end up
+/// with the same description.
 class EqualDescriptions : public EditingAPackage {
  protected:
   EqualDescriptions() {

@@ -37,7 +37,7 @@ TEST_P(RemovingAPackage, WithoutPackagesNothingHappens) {
   EXPECT_THAT(face.cursors(), IsEmpty());
 }
 
-/// 2 holds 3 and 5, 3 holds 6; 4 stands beside.
+/// 2 holds 3 and 5, 3 holds 6; 4 is apart.
 TEST_P(RemovingAPackage, ASubtreeIsFoundDepthFirstInTableOrder) {
   const std::vector<int> parents{0, 1, 0, 1, 2};
   putPackages(5, [&](int row) { return parents[static_cast<std::size_t>(row - 1)]; });
@@ -146,7 +146,7 @@ TEST_P(RemovingAPackage, ACircleOfTwoEndsWithoutAHang) {
   EXPECT_THAT(takeBoxes(),
               ElementsAre("Произошла ошибка в btnUsunOpak_Click()|critical|OK|Out of stack space"));
   EXPECT_EQ(session.IloscPozycjiOpak, 3);
-  // The chain was followed once more than there are packages: 1, 2, 1, 2.
+  // The chain was followed one step further than there are packages: 1, 2, 1, 2.
   EXPECT_EQ(packages.row(), 2);
 }
 
@@ -212,7 +212,7 @@ TEST_P(RemovingAPackage, OfTwoRowsWithTheSameSerialTheFirstGoes) {
   EXPECT_THAT(takeBoxes(), IsEmpty());
 }
 
-/// The second and the third row bear one serial, so that the fourth lies in both of them.
+/// The second and the third row have one serial, so that the fourth lies in both of them.
 TEST_P(RemovingAPackage, APackageThatLiesInTwoIsRemovedOnce) {
   const std::vector<int> parents{0, 1, 1, 2};
   putPackages(4, [&](int row) { return parents[static_cast<std::size_t>(row - 1)]; });
@@ -298,7 +298,7 @@ TEST(RemovingAPackageWithALog, EveryStepIsTold) {
   EXPECT_THAT(told, ::testing::EndsWith(expected));
 }
 
-/// Both ways give the same table, whatever the tree.
+/// Both ways leave the same table, whatever the tree.
 TEST(RemovingAPackageEitherWay, GivesTheSameTable) {
   unsigned random = 20261121;
   const auto next = [&random](int below) {

@@ -9,7 +9,7 @@ using ::testing::SizeIs;
 /// A user who watches when the tables are painted.
 class Painting : public ::testing::Test, public Desk {
  protected:
-  /// What a table tells while the user acts: "off" and "on" when its painting is switched,
+  /// What a table reports while the user acts: "off" and "on" when its painting is switched,
   /// "refresh", and once for any number of changes "written", or "written in sight" where they were
   /// painted one by one.
   static std::vector<std::string> watch(Table& table, const std::function<void()>& act) {

@@ -1,4 +1,4 @@
-// Every procedure that a line can call, by the name and the arguments that it is told to have.
+// Every procedure that a line can call, by the name and the arguments that are documented.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -48,7 +48,7 @@ class DiskFault : public testing::Test {
 };
 
 TEST_F(DiskFault, WithNoRoomForTheFileTellsDiskFull) {
-  // A shell's limit of no block at all stands for a disk that has none left.
+  // A shell's limit of no block at all acts as a disk that has none left.
   Conversation editor =
       supplier.startOffLine({}, {"/bin/sh", "-c", "ulimit -f 0; trap '' XFSZ; exec \"$0\" \"$@\""});
   openSaving(editor);

@@ -1,4 +1,4 @@
-// What docs/integration.md shows: a service that replies as told there gets the requests shown
+// What docs/integration.md shows: a service that replies as described there gets the requests shown
 // there.
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-// What may not get out: the session's cookie, and files beside those that the user named.
+// What may not get out: the session's cookie, and files other than those that the user named.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -51,8 +51,8 @@ class Security : public testing::Test {
     return names;
   }
 
-  /// Works on line from the waiting order to a document that is sent and saved. Gives all that the
-  /// program said by itself meanwhile.
+  /// Works on line from the waiting order to a document that is sent and saved. Returns all that
+  /// the program said by itself meanwhile.
   std::string work(const DemoService& service, const std::string& debugLevel) const {
     Conversation editor = supplier.startOnLine(
         service, {"--cookie", cookie, "--property", "DebugLevel=" + debugLevel});

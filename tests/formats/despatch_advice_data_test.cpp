@@ -15,7 +15,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-/// A document in which every value stands.
+/// A document that has every value.
 struct FullAdvice {
   explicit FullAdvice(const char* localeName) : test(localeName) {
     AwizoForm& form = test.form;

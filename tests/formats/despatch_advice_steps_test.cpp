@@ -48,7 +48,7 @@ class ScarceDocument : public XmlDocument {
   int untilFailure_;
 };
 
-/// Makes one scarce document, the first, which is the one under way.
+/// Makes one scarce document, the first, the present one.
 class ScarceXml : public Xml {
  public:
   explicit ScarceXml(int failing) : failing_(failing) {}

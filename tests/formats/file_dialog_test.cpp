@@ -172,7 +172,7 @@ TEST_F(FileDialog, ADoubleClickOnAFileAcceptsIt) {
   EXPECT_EQ(chosen, "c:\\root.xml");
 }
 
-/// The click comes first, so its name stands over the proposed and over the typed one.
+/// The click comes first, so its name replaces the proposed and the typed one.
 TEST_F(FileDialog, ADoubleClickOnAFileSavesUnderItsName) {
   dialog.setUpForSaving("proposed.xml");
   show([&] {

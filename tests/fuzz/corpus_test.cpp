@@ -22,7 +22,7 @@ class Corpus : public testing::TestWithParam<NamedTarget> {
   /// A message that only chance has shown isn't shown by a test of its own.
   static void SetUpTestSuite() { unsetenv("AWIZO_SEEN_BOXES"); }
 
-  /// Gives each file of the folder to the target; answers how many there were.
+  /// Passes each file of the folder to the target; returns how many there were.
   static int give(const fs::path& folder) {
     int files = 0;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {

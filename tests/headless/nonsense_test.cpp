@@ -1,4 +1,4 @@
-// Lines that say nothing that can be done are refused one by one, and the program goes on.
+// Lines that ask for nothing that can be done are refused one by one, and the program goes on.
 
 #include <gtest/gtest.h>
 

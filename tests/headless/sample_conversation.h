@@ -20,7 +20,7 @@ class SampleConversation {
     conversation.act = [this](const Json& line) { return sample.dispatcher.act(line); };
   }
 
-  /// Shows the main form, plays the lines and gives what came back, each line as JSON.
+  /// Shows the main form, plays the lines and returns what came back, each line as JSON.
   std::vector<Json> play(const std::vector<std::string>& lines) {
     std::string text;
     for (const std::string& line : lines) text += line + "\n";
@@ -43,7 +43,7 @@ class SampleConversation {
     return lines;
   }
 
-  /// What one line gives back last: its closing line.
+  /// The closing line of one line.
   Json closingOf(const std::string& line) { return play({line}).back(); }
 
   bool showFirst = true;

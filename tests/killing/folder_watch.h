@@ -5,7 +5,7 @@
 
 namespace awizo::test {
 
-/// Hears from the system, as it happens, what becomes of the files in a folder.
+/// Is notified by the system, as it happens, of what becomes of the files in a folder.
 class FolderWatch {
  public:
   explicit FolderWatch(const std::filesystem::path& folder);

@@ -122,7 +122,7 @@ TEST_P(AssignedLinePackages, ChangingFindsThePackageByItsDescription) {
   test.show([&] {
     test.assign(1, "4");
     EXPECT_EQ(table.cell(1, 1), "3");
-    // The small dialog still stands on the second of the two.
+    // The small dialog is still on the second of the two.
     small.cboxPackages.setIndex(0);
     test.inQuantityDialog([&] { small.btnDodaj.userClick(); });
     dialog.Command3.userClick();

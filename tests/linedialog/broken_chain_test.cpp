@@ -1,4 +1,4 @@
-// A chain of changes that breaks off tells the event in which it did, and that event's mark stays
+// A chain of changes that breaks off reports the event in which it did, and that event's mark stays
 // until the event of the same mark next runs to its end.
 
 #include "line_dialog.h"

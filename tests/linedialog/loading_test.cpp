@@ -195,7 +195,7 @@ TEST_F(TooManyProducts, AreReportedOneByOne) {
               ElementsAre("Произошла ошибка в Form_Load() (Dodaj)|critical|OK|Overflow",
                           "Произошла ошибка в Form_Load() (Dodaj)|critical|OK|Overflow",
                           "Произошла ошибка в Form_Load() (Dodaj)|critical|OK|Overflow"));
-  // The last line read stands in the last place that the counter reached.
+  // The last line read is in the last place that the counter reached.
   EXPECT_EQ(dialog.dictionary().ProdEAN[most], "1032769");
   // The places never reached stay empty, and empty texts come first.
   EXPECT_EQ(dialog.cboxEANProd.count(), most + 3);

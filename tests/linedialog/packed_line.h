@@ -7,7 +7,7 @@
 
 namespace awizo::test {
 
-/// A line of so much before a document with two packages.
+/// A line of this quantity in a document with two packages.
 struct PackedLine : ::testing::TestWithParam<std::string> {
   LineDialog test{GetParam()};
   DlgDodaj& dialog = test.dialog;

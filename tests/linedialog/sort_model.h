@@ -6,7 +6,7 @@
 
 namespace awizo::test {
 
-/// The walk of the sort, word by word as it is told, with keys as plain numbers.
+/// The walk of the sort in its plainest form, with keys as plain numbers.
 struct SortModel {
   const std::vector<int>& keys;
   std::vector<std::int32_t>& index;

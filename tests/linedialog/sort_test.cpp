@@ -31,7 +31,7 @@ struct Sort : ::testing::Test {
   }
   std::vector<std::string> boxes() { return describe(test.face.takeBoxes()); }
 
-  /// The sorter's order of these numbers, written as texts, beside the model's.
+  /// The sorter's order of these numbers, written as texts, next to the model's.
   void expectTheWalkOf(const std::vector<int>& numbers) {
     std::vector<std::string> keys;
     for (const int number : numbers) keys.push_back(textOf(number));
@@ -64,7 +64,7 @@ TEST_F(Sort, PutsTextsInTheirOrderWithoutMovingThem) {
 TEST_F(Sort, PunctuationCounts) { EXPECT_THAT(sorted({"a-b", "ab", "a b"}), ElementsAre(2, 0, 1)); }
 
 TEST_F(Sort, TextsThatDifferInCaseOnlyAreEqual) {
-  // The walk leaves the pivot behind its equals, whichever of the two it is.
+  // The walk leaves the pivot after its equals, whichever of the two it is.
   EXPECT_THAT(sorted({"чай", "ЧАЙ"}), ElementsAre(1, 0));
   EXPECT_THAT(sorted({"ЧАЙ", "чай"}), ElementsAre(1, 0));
   EXPECT_THAT(sorted({"ёлка", "ЁЛКА"}), ElementsAre(1, 0));
@@ -227,7 +227,7 @@ TEST_F(Sort, ASortedFileKeepsTheStackLow) {
   EXPECT_EQ(index, expected);
 }
 
-// Wrong calls are told, and the index stays a permutation.
+// Wrong calls are reported, and the index stays a permutation.
 
 TEST_F(Sort, AStackThatIsTooSmallIsToldAndTheRestIsSorted) {
   const std::vector<std::string> keys{"д", "г", "в", "б", "а"};

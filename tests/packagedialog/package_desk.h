@@ -22,7 +22,7 @@ struct PackageDesk : TestEditor {
     session.ParentDescriptions = {""};
     session.ParentLevels = {0};
   }
-  /// A pallet at the top and a box on level 3, with the element that stands for no package.
+  /// A pallet at the top and a box on level 3, with the element that belongs to no package.
   void offerParents() {
     session.ParentSerials = {"2", "7", ""};
     session.ParentDescriptions = {"Поддон", "Коробка", ""};

@@ -26,7 +26,7 @@ class PackageValidation : public ::testing::Test, public PackageDesk {
     offerParents();
   }
 
-  /// The user presses the accepting button from the field of parents; answers what was told.
+  /// The user presses the accepting button from the field of parents; returns what was shown.
   std::vector<std::string> accept() {
     dialog.cboxParentPackage.setEnabled(true);
     face.onModal([&] {
@@ -228,7 +228,7 @@ TEST_F(PackageValidation, RightCheckDigitsPass) {
   }
 }
 
-/// Every field is wrong at first; as the user mends one fault after the other, the next is told.
+/// Every field is wrong at first; as the user mends one fault after the other, the next is shown.
 TEST_F(PackageValidation, TellsOneFaultAtATimeInAFixedOrder) {
   dialog.cboxPackageType.setIndex(-1);
   dialog.txtPackageDesc.setText("");

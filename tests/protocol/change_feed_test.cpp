@@ -1,4 +1,4 @@
-// What a client that mirrors forms is told of their changes.
+// What is sent to a client that mirrors forms.
 
 #include "hosts/protocol/changes/change_feed.h"
 
@@ -19,7 +19,7 @@ class ChangeFeedTest : public testing::Test {
     client.form.showMain();
   }
 
-  /// What a flush tells; an empty object for nothing.
+  /// What a flush sends; an empty object for nothing.
   Json flush() {
     told_ = Json::object();
     feed.flush();

@@ -71,7 +71,7 @@ struct SampleForms {
   Dispatcher dispatcher{screen, directory};
 };
 
-/// A client of these forms: what it says, and what it is told. While a dialog is open, its lines
+/// A client of these forms: what it says, and what is sent to it. While a dialog is open, its lines
 /// act on the dialog.
 class SampleClient {
  public:
@@ -82,7 +82,7 @@ class SampleClient {
     };
   }
 
-  /// Says the lines, on the shown main form, and gives all that was told.
+  /// Says the lines, on the shown main form, and returns all that was sent.
   std::vector<Json> play(const std::vector<std::string>& lines) {
     if (showFirst) form.showMain();
     told_.clear();

@@ -1,4 +1,4 @@
-// What a "get" tells of controls of each kind and of forms.
+// What a "get" returns of controls of each kind and of forms.
 
 #include <gtest/gtest.h>
 

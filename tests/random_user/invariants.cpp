@@ -93,7 +93,7 @@ class Inspection {
       require(parent != levels.end(), "parent of package " + serial);
       if (parent == levels.end()) continue;
       require(levels.at(serial) == parent->second + 1, "level of package " + serial);
-      // A user who takes the list's row back keeps the parent that it gave.
+      // A user who takes the list's row back keeps the parent of that row.
       require(parent->first != "1" || packages.cell(row, GRD_OPAK_PARENT_DESC).empty(),
               "parent's description of package " + serial);
     }

@@ -1,4 +1,4 @@
-// A client that is told only changes holds, after whatever a user does, all that it could ask for.
+// A client that is sent only changes holds, after whatever a user does, all that it could ask for.
 
 #include "support/mirror/mirror.h"
 
@@ -16,7 +16,7 @@ namespace {
 
 constexpr protocol::RowRange everyRow{0, std::numeric_limits<int>::max()};
 
-/// A random user's control with a client beside it, compared after all that the user does.
+/// A random user's control with a client mirroring it, compared after all that the user does.
 class MirroredUser {
  public:
   MirroredUser(Dice& dice, const Beginning& beginning) : user_(dice, beginning) {
@@ -46,7 +46,7 @@ class MirroredUser {
         ASSERT_EQ(answer.at(member), value) << form->name() << "." << member << history();
       }
       for (const Control* control : form->controls()) {
-        // A folder that appears behind a hidden dialog is told when the dialog is shown.
+        // A folder that appears while the dialog is hidden is sent when the dialog is shown.
         if (control->kind() == ControlKind::folderList && !form->shown()) continue;
         const std::string name = access_.forms().nameOf(control);
         ASSERT_EQ(mirror_.control(name), answerTo(name)) << name << "\n" << history();

@@ -14,7 +14,7 @@ class Outages {
 
   /// Lets something fail from now on, or all work again.
   void change();
-  /// Whether the text is one that nothing but a failing disk gives.
+  /// Whether the text is one that nothing but a failing disk causes.
   static bool isDiskError(std::string_view text);
   /// Queues a failure for the next request.
   void failRequest();

@@ -48,7 +48,7 @@ class RandomUserTest : public ::testing::TestWithParam<const char*> {
   static void SetUpTestSuite() { unsetenv("AWIZO_SEEN_BOXES"); }
 
   enum class WithOutages { no, yes };
-  /// Plays sessions until so many actions are done, or as many as the environment says.
+  /// Plays sessions until this many actions are done, or as many as the environment says.
   static void playFor(int actions, WithOutages outages);
 };
 

@@ -35,13 +35,13 @@ bool tellsOfFailure(const MessageBox& box) {
 }
 
 /// Whether a procedure that writes the tables may have been ended half-way. Errors of the platform
-/// are told in English, and all that the system itself says in a critical box is Russian.
+/// are in English, and all that the system itself says in a critical box is Russian.
 bool mayHaveBrokenTables(const MessageBox& box) {
   return !tellsOfFailure(box) && box.icon == BoxIcon::critical &&
          std::none_of(box.text.begin(), box.text.end(), [](char c) { return (c & 0x80) != 0; });
 }
 
-/// What a user does on the main form, in proportion to how often it stands here.
+/// What a user does on the main form, in proportion to how often it is listed here.
 const std::vector<std::string> mainForm{
     "btnDodaj",      "btnDodaj",      "btnDodaj",     "btnEdytuj",     "btnEdytuj",
     "btnEdytuj",     "btnUsun",       "btnDodajOpak", "btnDodajOpak",  "btnDodajOpak",

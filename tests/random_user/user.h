@@ -31,7 +31,7 @@ class RandomUser {
   std::vector<std::string> complaints();
 
   AwizoWysylki& control() { return desk_.control; }
-  /// Told after each thing that the user did, in dialogs too.
+  /// Called after each thing that the user did, in dialogs too.
   std::function<void()> onAction;
 
   const Trust& trust() const { return trust_; }
@@ -39,7 +39,7 @@ class RandomUser {
   std::string history() const;
   int actions() const { return actions_; }
   int documents() const { return documents_; }
-  /// Boxes that told of a failed save or request.
+  /// Boxes that reported a failed save or request.
   int failures() const { return failures_; }
   int linesAndPackages() const { return desk_.session.LineCount + desk_.session.IloscPozycjiOpak; }
 

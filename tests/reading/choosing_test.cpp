@@ -11,7 +11,7 @@ constexpr const char* notXml = "VIRD|exclamation|OK|Неправильный ф�
 constexpr const char* notOurs =
     "VIRD|exclamation|OK|Документ не соответствует спецификации подтверждения закза.";
 
-/// A document of one line and one package stands in the form.
+/// The form holds a document of one line and one package.
 class ChoosingAFile : public ::testing::Test, public ReadingDesk {
  protected:
   ChoosingAFile() {

@@ -40,7 +40,7 @@ class ReadingTheHeader : public ::testing::Test, public ReadingDesk {
   }
 };
 
-/// The values of the document that stand in the form, by their elements, in the order in which they
+/// The values of the document that the form holds, by their elements, in the order in which they
 /// are read.
 std::vector<std::string> valuesTaken(const AwizoForm& form) {
   std::vector<std::string> taken;
@@ -90,7 +90,7 @@ TEST_F(ReadingTheHeader, ADocumentFromAFileIsNoAnswerToAnOrder) {
   form.OrderAnswer = true;
   form.lblNiepelnaWagaKom.setCaption("Не для всех позиций указан вес");
   form.btnEdytuj.setVisible(false);
-  // The reset before the reading enables both buttons, the end of the reading once more.
+  // The reset before the reading enables both buttons, the end of the reading enables them again.
   face.whileBoxIsOpen([&](const MessageBox&) {
     EXPECT_TRUE(form.btnUsun.enabled());
     EXPECT_TRUE(form.btnEdytuj.enabled());
@@ -188,7 +188,7 @@ TEST_F(ReadingTheHeader, EveryOtherDateAndTimeEndsTheReadingToo) {
   }
 }
 
-/// The values are taken in their order, so those behind the wrong one are missing.
+/// The values are taken in their order, so those after the wrong one are missing.
 TEST(ReadingAWrongHeader, EndsAtTheValueThatIsWrong) {
   const std::vector<std::string> order{
       "CodeByBuyer",   "DespatchAdviceNumber",  "DespatchAdviceDate",    "BuyerOrderNumber",

@@ -50,7 +50,7 @@ TEST_F(LoadingADocumentInAWesternLocale, AnUndeclaredSingleByteFileIsReadAsTheMa
   EXPECT_EQ(rootText(), "×àé");
 }
 
-/// A declaration can't stand behind the one that is put in front.
+/// A declaration can't follow the one that is put before it.
 TEST_F(LoadingADocument, ASingleByteFileUnderADeclarationWithoutEncodingIsRefused) {
   EXPECT_FALSE(load("<?xml version=\"1.0\"?><a>\xD7\xE0\xE9</a>"));
   EXPECT_THAT(takeBoxes(), IsEmpty());

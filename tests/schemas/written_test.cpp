@@ -20,8 +20,8 @@ using testing::IsEmpty;
 constexpr int mostLines = 1423;
 constexpr int mostPackages = 2183;
 
-/// An editor with a document of so many lines and packages. Packages lie in packages, three levels
-/// and more deep, and each line in two of them.
+/// An editor with a document of this many lines and packages. Packages lie in packages, three
+/// levels and more deep, and each line in two of them.
 class WrittenDocument : public testing::TestWithParam<const char*>, public TestEditor {
  protected:
   WrittenDocument() : TestEditor(GetParam()) {

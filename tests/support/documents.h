@@ -9,7 +9,7 @@
 
 namespace awizo::test {
 
-/// So many lines with plain values; none of them lies in a package.
+/// This many lines with plain values; none of them is in a package.
 inline void putLines(Editor& editor, int count) {
   Table& lines = editor.form.grdPozycje;
   lines.setRows(count == 0 ? 2 : count + 1);
@@ -26,8 +26,8 @@ inline void putLines(Editor& editor, int count) {
   lines.setRow(1);
 }
 
-/// So many packages; row i has serial i + 1. `parentRow` returns the row of a row's parent, 0 for a
-/// top package.
+/// This many packages; row i has serial i + 1. `parentRow` returns the row of a row's parent, 0 for
+/// a top package.
 inline void putPackages(Editor& editor, int count, const std::function<int(int row)>& parentRow) {
   Table& packages = editor.form.grdOpakowania;
   packages.setRows(count == 0 ? 2 : count + 1);

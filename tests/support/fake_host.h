@@ -58,7 +58,7 @@ class FakeBag : public PropertyBag {
 class FakeControlHost : public ControlHost {
  public:
   std::vector<std::string> changedProperties;
-  /// What the host does when it hears of a change.
+  /// What the host does when it is notified of a change.
   std::function<void()> onPropertyChanged;
 
   void propertyChanged(std::string_view name) override {

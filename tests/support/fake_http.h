@@ -19,8 +19,8 @@ struct SentRequest {
   std::string body;
 };
 
-/// A service whose answers a test queues, one for each request in turn. With none left there is
-/// nobody at the other end: the send raises errors::hostNotFound().
+/// A service whose answers a test queues, one for each request. With none left nobody is at the
+/// other end: the send raises errors::hostNotFound().
 class FakeHttp : public Http {
  public:
   // What a test puts in and looks at.

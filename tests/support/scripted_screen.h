@@ -31,7 +31,7 @@ class ScriptedScreen : public ScreenFace {
   /// What the user does on the next modal form. A form that is still shown afterwards fails the
   /// test and is hidden.
   void onModal(std::function<void(Form&)> act) { modalActs_.push_back(std::move(act)); }
-  /// The same, for a test that has the form at hand.
+  /// The same, for a test that has the form.
   void onModal(std::function<void()> act) {
     modalActs_.push_back([act = std::move(act)](Form&) { act(); });
   }

@@ -62,8 +62,8 @@ struct TestEditor : TestSurroundings {
   AwizoForm form;
   Editor editor;
 
-  /// Puts rows of texts into a table from row 1 on, from column 0 on; the table has as many rows
-  /// then (an empty one where there are none). Counters are the test's to set.
+  /// Puts rows of texts into a table from row 1 on, from column 0 on; the table then has as many
+  /// rows (an empty one if there are none). Counters are the test's to set.
   static void fill(Table& table, const std::vector<std::vector<std::string>>& rows);
   /// Texts of one data row.
   static std::vector<std::string> row(const Table& table, int row);

@@ -8,7 +8,7 @@ namespace {
 using testing::ElementsAre;
 using Boxes = std::vector<std::string>;
 
-/// A line dialog's table, as it stands before anything was assigned.
+/// A line dialog's table before anything was assigned.
 struct GridTest : testing::Test {
   TestEditor test;
   Form dialog{test.screen, "DlgDodaj"};

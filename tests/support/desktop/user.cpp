@@ -30,7 +30,7 @@ void leaveHiddenWindows() {
   if (top != nullptr) top->activateWindow();
 }
 
-/// The name of the icon that the box shows, told by its picture.
+/// The name of the icon that the box shows, recognised by its picture.
 std::string iconOf(const QMessageBox& box) {
   const QPixmap shown = box.iconPixmap();
   if (shown.isNull()) return "none";

@@ -30,7 +30,7 @@ void paste(const QString& text);
 void click(QWidget* widget, QPoint at = {});
 void doubleClick(QWidget* widget, QPoint at = {});
 void click(const desktop::Face& face);
-/// Marks all that stands in a field and types over it.
+/// Selects all the text of a field and types over it.
 void typeOver(const desktop::Face& face, const QString& text);
 
 /// Runs the act as soon as an event loop turns again: within the dialog or box that opens next.

@@ -7,7 +7,7 @@
 
 namespace awizo::test {
 
-/// A client that knows of forms only what a feed of changes tells it.
+/// A client that knows of forms only what a feed of changes sends it.
 class Mirror {
  public:
   /// Members of an object in any order.
@@ -18,7 +18,7 @@ class Mirror {
   /// The form and the control as a "get" would answer them, of a form without its public members.
   State form(const std::string& name) const;
   State control(const std::string& name) const;
-  /// All that is held of it, as it was told; rows by number.
+  /// All that is held of it, as it was sent; rows by number.
   const State& held(const std::string& name) const { return controls_.at(name).members; }
   const std::map<int, State>& rows(const std::string& name) const {
     return controls_.at(name).rows;

@@ -10,8 +10,8 @@
 
 namespace awizo::test {
 
-/// A program that runs beside the test; its standard input and output are pipes. What it still does
-/// at the end of this object is ended.
+/// A program that runs next to the test; its standard input and output are pipes. What it still
+/// does at the end of this object is ended.
 class ChildProcess {
  public:
   /// How long a test waits for a line or for the end before it gives the program up.

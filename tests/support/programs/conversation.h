@@ -53,10 +53,10 @@ class Conversation {
   /// Any line; its closing line must be good, now or once its boxes and forms are done with.
   void act(const Json& line);
 
-  /// Any line, as JSON or as it stands; gives its own closing line.
+  /// Any line, as JSON or as text; returns its own closing line.
   Json say(const Json& line);
   Json sayText(std::string_view line);
-  /// Says that this is refused, and gives the error.
+  /// Says that this is refused, and returns the error.
   std::string refused(const Json& line);
 
   Json get(std::string_view name);
@@ -71,12 +71,12 @@ class Conversation {
 
   /// The box that waits for an answer, as "title|icon|text"; fails the test when none does.
   std::string openBox();
-  /// Answers the boxes that come with OK or Yes, and gives them as openBox() does.
+  /// Answers the boxes that come with OK or Yes, and returns them as openBox() does.
   std::vector<std::string> answerAll(std::string_view question = "Yes");
   /// Events other than boxes since the last call, as JSON.
   std::vector<Json> takeEvents();
 
-  /// Ends the input; gives the exit status.
+  /// Ends the input; returns the exit status.
   int finish();
   ChildProcess& program() { return program_; }
 

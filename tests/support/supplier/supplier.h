@@ -16,9 +16,9 @@ inline constexpr std::string_view today = "2026-11-21";
 inline constexpr std::string_view expectedDelivery = "2026-11-25";  ///< by the waiting order
 inline constexpr std::string_view deliveryPlace = "9520002001016";
 
-/// A supplier's machine: the local folder, and a way to start the editor there. The clock stands at
-/// 21 November 2026, 10:15. When it goes, every despatch advice that was posted or saved there must
-/// fit the schema of written documents.
+/// A supplier's machine: the local folder, and a way to start the editor there. The clock is fixed
+/// at 21 November 2026, 10:15. When it goes, every despatch advice that was posted or saved there
+/// must fit the schema of written documents.
 class Supplier {
  public:
   explicit Supplier(std::string locale = "ru_RU") : locale_(std::move(locale)) {}
@@ -59,13 +59,13 @@ class ReadDocument {
 
 // What users do often.
 
-/// Gives the order's header what it lacks for sending.
+/// Fills in what the order's header lacks for sending.
 void completeHeader(Conversation& editor, std::string_view number = "ТН/1");
 /// Adds a top package, or one within the package at that row of the list of parents.
 void addPackage(Conversation& editor, std::string_view description, std::string_view serial,
                 int parent = -1);
-/// Opens the line and puts so much of it into the package of that description; without a quantity,
-/// what the small dialog offers.
+/// Opens the line and puts this much of it into the package of that description; without a
+/// quantity, what the small dialog offers.
 void packLine(Conversation& editor, int row, std::string_view package,
               std::string_view quantity = "");
 
