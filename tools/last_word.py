@@ -20,7 +20,7 @@ def part(*command):
 
 
 def run(main):
-    """Runs a script's main procedure, which gives its exit status, and ends the script."""
+    """Runs a script's main procedure, which returns its exit status, and ends the script."""
     try:
         sys.exit(main())
     except KeyboardInterrupt:

@@ -1,4 +1,4 @@
-"""The checks by name, the quick ones first. A check takes the project and gives a list of problems."""
+"""The checks by name, the quick ones first. A check takes the project and returns a list of problems."""
 
 from checks import comments, compiled, formatting, includes, levels, scripts, tidy, words
 

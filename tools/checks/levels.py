@@ -1,4 +1,4 @@
-"""The modules of src/ stand in the order that src/README.md shows, and use only what is below."""
+"""The modules of src/ are in the order that src/README.md shows, and use only what is below."""
 
 import re
 

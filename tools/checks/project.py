@@ -12,7 +12,7 @@ INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*(<([^>\n]+)>|"([^"\n]+)")', re
 
 
 class Include:
-    """One include line: what it names, in quotes or in angle brackets, and where it stands."""
+    """One include line: what it names, in quotes or in angle brackets, and where it is."""
 
     def __init__(self, match, text):
         self.name = match[2] or match[3]

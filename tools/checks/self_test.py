@@ -1,6 +1,6 @@
 """Shows that every check can fail: plants one breach at a time in a copy of the project.
 
-Each breach must turn its own check from OK to FAIL, and none of the quick ones beside it.
+Each breach must turn its own check from OK to FAIL, and no other of the quick ones.
 """
 
 import pathlib
@@ -16,7 +16,7 @@ QUICK = [name for name in CHECKS if name not in SLOW]
 
 
 def append(name, text):
-    """A breach: this text behind the file's own; a missing file is made."""
+    """A breach: this text after the file's own; a missing file is made."""
     def plant(root):
         path = root / name
         old = path.read_text(encoding="utf-8") if path.exists() else ""
@@ -70,11 +70,11 @@ BREACHES = [
     ("include-circle", "a header includes itself by way of another",
      [append("src/tables/planted.h", '#pragma once\n\n#include "tables/planted_too.h"\n'),
       append("src/tables/planted_too.h", '#pragma once\n\n#include "tables/planted.h"\n')]),
-    ("words", "a comment tells where a rule is written down",
+    ("words", "a comment says where a rule is written down",
      append("src/tables/planted.h", "#pragma once\n\n// See Par" "t 5.1.\n")),
     ("words", "a comment names the paper instead of the rule",
      append("src/tables/planted.h", "#pragma once\n\n// As the spe" "c says.\n")),
-    ("words", "a comment tells when a rule was asked for",
+    ("words", "a comment says when a rule was asked for",
      append("src/tables/planted.h", "#pragma once\n\n// For iss" "ue 5.\n")),
     ("words", "a comment names a folder of one machine",
      append("src/tables/planted.h", "#pragma once\n\n// See /ho" "me/bob/notes.\n")),

@@ -6,7 +6,7 @@ FORBIDDEN = [
     (re.compile(r"\bspec(ification)?s?\b", re.IGNORECASE), "give the rule itself"),
     (re.compile(r"\bParts? [0-9]+\.[0-9]+"), "give the rule itself"),
     (re.compile(r"\bissues? #?[0-9]+", re.IGNORECASE), "give the reason itself"),
-    # The folders of /home/anna stand for anybody's.
+    # The folders of /home/anna are anybody's.
     (re.compile(r"(?<![\w/])/(home/(?!anna\b)|mnt/|srv/|[w]ork/)\w"), "a path of one machine"),
 ]
 

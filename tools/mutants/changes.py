@@ -3,14 +3,14 @@
 import collections
 import re
 
-# `start` and `end`: what `new` takes the place of, in the text as it stands.
+# `start` and `end`: what `new` replaces, in the text as it is.
 Change = collections.namedtuple("Change", "file kind start end new")
 
 # What is no code: comments, texts, characters, lines of the preprocessor.
 NO_CODE = re.compile(r"""//[^\n]*|/\*.*?\*/|R"(\w*)\(.*?\)\1"|"(?:\\.|[^"\\\n])*"|'(?:\\.|[^'\\\n])'|"""
                      r"""^[ \t]*\#[^\n]*""", re.DOTALL | re.MULTILINE)
 
-# Blanks stand around an operator of two sides, and none around a template's or a reference's sign.
+# Spaces are around an operator of two sides, and none around a template's or a reference's sign.
 TOKENS = {
     "relation": {" < ": " <= ", " <= ": " < ", " > ": " >= ", " >= ": " > ", " == ": " != ", " != ": " == "},
     "logic": {" && ": " || ", " || ": " && "},
@@ -26,7 +26,7 @@ STATEMENT = re.compile(r"(?<=[;{}]\n)[ ]+[\w:.>()\[\]-]+(?:\(.*\)| [+*/-]?= .*|\
 
 
 def code_of(text):
-    """The text with blanks for what is no code, so that all keeps its place."""
+    """The text with spaces for what is no code, so that all keeps its place."""
     return NO_CODE.sub(lambda match: re.sub(r"[^\n]", " ", match[0]), text)
 
 
