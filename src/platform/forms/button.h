@@ -26,14 +26,14 @@ class Button : public Control {
   void userPress();
   /// Click first, then the double click, unless `doubleClickAlone`.
   void userDoubleClick();
-  /// Enter and the space bar press the button that has the focus.
-  void userKey(std::int16_t code, bool shift = false) override;
 
  protected:
   Button(Form& form, std::string name, ControlKind kind, std::string_view caption)
       : Control(form, std::move(name), kind), caption_(caption) {}
 
  private:
+  /// Enter and the space bar press the button that has the focus.
+  void pressKey(std::int16_t code, bool shift) override;
   /// Returns whether the click goes on.
   bool takeClick();
 

@@ -57,16 +57,29 @@ void Control::setFocus() {
 
 void Control::userFocus() {
   requireUser();
-  if (!isFocusable()) throw Refused(name_ + " takes no focus");
+  if (!isFocusable()) refuseFocus();
+  const Acting focusing = acting(ActKind::focus);
   form_.moveFocus(*this, Form::FocusCause::user);
 }
 
-void Control::userKey(std::int16_t code, bool shift) { takeUserKey(code, shift); }
+void Control::userKey(std::int16_t code, bool shift) {
+  requireUser();
+  if (!isFocusable()) refuseFocus();
+  const Acting key = acting(ActKind::key, {}, {code, shift ? 1 : 0});
+  pressKey(code, shift);
+}
 
 void Control::requireUser() const {
   form_.requireInput();
   if (!visible_) throw Refused(name_ + " is hidden");
   if (!enabled_) throw Refused(name_ + " is disabled");
+}
+
+void Control::refuseFocus() const { throw Refused(name_ + " takes no focus"); }
+
+Acting Control::acting(ActKind kind, std::string_view text,
+                       const std::array<int, 4>& numbers) const {
+  return {form_.screen(), {kind, text, numbers, &form_, this}};
 }
 
 void Control::raise(const Event& event) { form_.raise(event); }

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
+#include "platform/forms/acting.h"
 #include "platform/observers.h"
 
 namespace awizo {
@@ -106,7 +109,7 @@ class Control {
   /// The user presses a key in the control; it takes the focus if it doesn't have it. Tab moves the
   /// focus on, Enter and Escape press the form's accepting and closing button; what is left is the
   /// control's own. `code` numbers keys as the platform does: see keys.h.
-  virtual void userKey(std::int16_t code, bool shift = false);
+  void userKey(std::int16_t code, bool shift = false);
   /// Throws Refused, with a text for people, when the user can't act on the control now.
   void requireUser() const;
 
@@ -126,6 +129,8 @@ class Control {
   bool takesInput() const;
 
  protected:
+  /// What a key does that the control may take.
+  virtual void pressKey(std::int16_t code, bool shift) { takeUserKey(code, shift); }
   /// Begins what a user does to a control that takes the focus: refuses, or moves the focus here
   /// with all its events. Returns whether the action goes on: an event procedure may have hidden or
   /// disabled the control, opened a form or sent the focus elsewhere.
@@ -133,6 +138,10 @@ class Control {
   /// Begins a key: takes the focus and does what the key means to the form. Returns whether the key
   /// is left for the control.
   bool takeUserKey(std::int16_t code, bool shift);
+
+  /// For the outermost of the user's methods: once nothing refuses the act any more.
+  Acting acting(ActKind kind, std::string_view text = {},
+                const std::array<int, 4>& numbers = {}) const;
 
   void changed(Aspect aspect, int row = -1, int column = -1) {
     observers.tell({aspect, row, column});
@@ -142,6 +151,7 @@ class Control {
   friend class Form;
 
   bool canTakeFocus() const;
+  [[noreturn]] void refuseFocus() const;
 
   Form& form_;
   std::string name_;

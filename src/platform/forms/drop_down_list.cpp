@@ -55,6 +55,7 @@ void DropDownList::clearSelection() { become(-1, ""); }
 void DropDownList::userType(std::string_view text) {
   requireUser();
   if (style_ == ListStyle::listOnly) throw Refused(name() + " takes only its rows");
+  const Acting typing = acting(ActKind::type, text);
   if (!takeUserFocus()) return;
   const std::string typed = withoutControlCharacters(text);
   // Typing the present text keeps its row, which among equal rows needn't be the first.
@@ -65,6 +66,7 @@ void DropDownList::userType(std::string_view text) {
 void DropDownList::userChoose(int row) {
   requireUser();
   if (row < -1 || row >= count()) throw Refused(name() + " has no such row");
+  const Acting choosing = acting(ActKind::chooseRow, {}, {row});
   // An event procedure of the focus may have taken rows away.
   if (!takeUserFocus() || row >= count()) return;
   if (row == -1) return become(-1, "");
@@ -72,7 +74,7 @@ void DropDownList::userChoose(int row) {
   raise(onClick);
 }
 
-void DropDownList::userKey(std::int16_t code, bool shift) {
+void DropDownList::pressKey(std::int16_t code, bool shift) {
   if (!takeUserKey(code, shift)) return;
   std::int16_t character = keys::characterOf(code, shift);
   if (character != 0 && onKeyPress) raise([&] { onKeyPress(character); });

@@ -60,13 +60,14 @@ class DropDownList : public Control {
   /// The user puts the focus here and picks a row: Change if the text differs, then Click. -1
   /// picks none: no row, no text, no Click. Refused: a row that isn't there.
   void userChoose(int row);
-  /// KeyPress for a key that stands for a character.
-  void userKey(std::int16_t code, bool shift = false) override;
 
   /// False when a match is required and the text, unless it is empty, is no row.
   bool mayBeLeft() const override;
 
  private:
+  /// KeyPress for a key that stands for a character.
+  void pressKey(std::int16_t code, bool shift) override;
+
   int find(std::string_view text) const;
   void become(int index, std::string_view text);
 

@@ -77,8 +77,12 @@ void DriveList::setDrive(std::string_view drive) {
 
 void DriveList::userChoose(std::string_view drive) {
   requireUser();
+  Acting choosing = acting(ActKind::chooseDrive, drive);
   std::string row = find(drive);
-  if (row.empty()) throw Refused(name() + " has no such drive");
+  if (row.empty()) {
+    choosing.refuse();
+    throw Refused(name() + " has no such drive");
+  }
   if (takeUserFocus()) assign(std::move(row));
 }
 
@@ -97,10 +101,12 @@ void FolderList::setPath(std::string_view path) { assign(requireFolder(path, pat
 
 void FolderList::userOpen(std::string_view path) {
   requireUser();
+  Acting opening = acting(ActKind::openFolder, path);
   std::string kept;
   try {
     kept = requireFolder(path, path_, files_);
   } catch (const RunTimeError& error) {
+    opening.refuse();
     throw Refused(name() + ": " + error.description());
   }
   if (takeUserFocus()) assign(std::move(kept));
@@ -134,6 +140,7 @@ void FileList::userChoose(int row) {
   requireUser();
   const int count = static_cast<int>(rows_.size());
   if (row < 0 || row >= count) throw Refused(name() + " has no such row");
+  const Acting choosing = acting(ActKind::chooseRow, {}, {row});
   if (!takeUserFocus() || row >= static_cast<int>(rows_.size())) return;
   index_ = row;
   changed(Aspect::selection);
@@ -143,6 +150,7 @@ void FileList::userChoose(int row) {
 void FileList::userDoubleClick() {
   requireUser();
   if (index_ < 0) throw Refused(name() + " has no row selected");
+  const Acting clicking = acting(ActKind::doubleClick);
   if (!takeUserFocus()) return;
   raise(onClick);
   if (takesInput()) raise(onDoubleClick);

@@ -57,8 +57,9 @@ void Form::hide() {
 
 void Form::userClose() {
   requireInput();
+  if (!onClose && closeButton == nullptr) throw Refused(name_ + " can't be closed");
+  const Acting closing(screen_, {ActKind::closeForm, {}, {}, this, nullptr});
   if (onClose) return raise(onClose);
-  if (closeButton == nullptr) throw Refused(name_ + " can't be closed");
   closeButton->userPress();
 }
 

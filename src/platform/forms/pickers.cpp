@@ -14,6 +14,16 @@ bool isTimeOfDay(const TimeOfDay& time) {
          time.second >= 0 && time.second < 60;
 }
 
+std::array<int, 4> numbersOf(const std::optional<Date>& date) {
+  if (!date) return {};
+  return {int(date->year()), int(unsigned(date->month())), int(unsigned(date->day()))};
+}
+
+std::array<int, 4> numbersOf(const std::optional<TimeOfDay>& time) {
+  if (!time) return {-1};
+  return {time->hour, time->minute, time->second};
+}
+
 }  // namespace
 
 void DatePicker::setDate(std::optional<Date> date) {
@@ -29,6 +39,7 @@ void DatePicker::userSet(std::optional<Date> date) {
   requireUser();
   if (!date && !allowsNone()) throw Refused(name() + " always holds a date");
   if (date && !pickerHolds(*date)) throw Refused(name() + " doesn't offer this date");
+  const Acting setting = acting(ActKind::setDate, {}, numbersOf(date));
   if (!takeUserFocus() || date_ == date) return;
   setDate(date);
   raise(onChange);
@@ -44,6 +55,7 @@ void TimePicker::setTime(std::optional<TimeOfDay> time) {
 void TimePicker::userSet(std::optional<TimeOfDay> time) {
   requireUser();
   if (time && !isTimeOfDay(*time)) throw Refused(name() + " doesn't offer this time");
+  const Acting setting = acting(ActKind::setTime, {}, numbersOf(time));
   if (!takeUserFocus() || time_ == time) return;
   setTime(time);
   raise(onChange);

@@ -9,11 +9,18 @@
 
 namespace awizo {
 
+template <class Wait>
+auto Screen::letUserAct(Wait&& wait) {
+  const int running = std::exchange(runningActs_, 0);
+  const AtExit resume([&] { runningActs_ = running; });
+  return wait();
+}
+
 Answer Screen::messageBox(MessageBox box) {
   if (box.title.empty()) box.title = programTitle;
   boxes_.push_back(&box);
   const AtExit close([this] { boxes_.pop_back(); });
-  return face_.ask(box);
+  return letUserAct([&] { return face_.ask(box); });
 }
 
 void Screen::showCritical(std::string_view text, std::string_view title) {
@@ -35,7 +42,11 @@ void Screen::runModal(Form& form) {
   const AtExit close([this, &form] { forget(form); });
   face_.formOpened(form);
   form.activate();
-  if (form.shown()) face_.runModal(form);
+  if (form.shown()) letUserAct([&] { face_.runModal(form); });
+}
+
+void Screen::letEventsRun() {
+  letUserAct([&] { face_.letEventsRun(); });
 }
 
 void Screen::forget(const Form& form) { std::erase(forms_, &form); }

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/forms/act.h"
 #include "platform/forms/screen_face.h"
 
 namespace awizo {
@@ -42,8 +43,13 @@ class Screen {
   /// Does what takes long, and lets the user know what it is.
   void during(std::string_view what, const std::function<void()>& work);
 
-  void letEventsRun() { face_.letEventsRun(); }
+  void letEventsRun();
   void endProgram() { face_.endProgram(); }
+
+  /// Who learns of the user's acts; null for nobody.
+  ActObserver* actObserver = nullptr;
+  /// Whether a user's act runs; none does while a box or form that it opened waits.
+  bool actRuns() const { return runningActs_ > 0; }
 
   /// The form on top, or none.
   Form* top() const { return forms_.empty() ? nullptr : forms_.back(); }
@@ -52,12 +58,19 @@ class Screen {
   bool takesInput(const Form& form) const { return top() == &form && openBox() == nullptr; }
 
  private:
+  friend class Acting;
+
   /// Far more than real work nests, few enough for the stack.
   static constexpr int mostNestedEvents = 250;
+
+  /// Lets the user act anew: what he does meanwhile is no part of what runs.
+  template <class Wait>
+  auto letUserAct(Wait&& wait);
 
   ScreenFace& face_;
   Cursor cursor_ = Cursor::normal;
   int runningEvents_ = 0;
+  int runningActs_ = 0;
   std::vector<Form*> forms_;
   std::vector<const MessageBox*> boxes_;
 };

@@ -33,6 +33,7 @@ void SpinButtons::setMax(int max) {
 
 void SpinButtons::userSpin(int by) {
   requireUser();
+  const Acting spinning = acting(ActKind::spin, {}, {by});
   const long long moved = static_cast<long long>(leadingNumber(field_.text(), value_)) + by;
   // Not std::clamp: limits that fit no value must do no harm, and the lower one wins.
   value_ = static_cast<int>(std::max<long long>(std::min<long long>(moved, max_), min_));

@@ -137,10 +137,6 @@ class Table : public Control {
   void userCell(int row, int column);
   /// The user double-clicks the current cell: what a click raises, then the double click.
   void userDoubleClick();
-  /// A key in the table: KeyDown, then the move of arrows, Home, End and page keys over the shown
-  /// columns, then KeyPress for keys that stand for a character, then KeyUp. With the Shift key
-  /// held the moving keys move the other corner of the marked range instead of the current cell.
-  void userKey(std::int16_t code, bool shift = false) override;
   /// The user marks a range with the mouse held down: mouse down, the first cell becomes current,
   /// the mark reaches out to the second, mouse up.
   void userSelect(int row, int column, int rowSel, int columnSel);
@@ -148,6 +144,11 @@ class Table : public Control {
   void userScroll(int topRow);
 
  private:
+  /// A key in the table: KeyDown, then the move of arrows, Home, End and page keys over the shown
+  /// columns, then KeyPress for keys that stand for a character, then KeyUp. With the Shift key
+  /// held the moving keys move the other corner of the marked range instead of the current cell.
+  void pressKey(std::int16_t code, bool shift) override;
+
   struct Line {
     std::vector<std::string> texts;
     std::vector<CellLook> looks;

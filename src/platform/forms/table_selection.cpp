@@ -60,7 +60,11 @@ void Table::setTopRow(int row) {
   raise(onScroll);
 }
 
-void Table::setViewHeight(int height) { viewHeight_ = height; }
+void Table::setViewHeight(int height) {
+  if (viewHeight_ == height) return;
+  viewHeight_ = height;
+  if (ActObserver* observer = form().screen().actObserver) observer->viewHeightSet(*this, height);
+}
 
 /// The height of the rows from the first to before the second.
 int Table::heightOf(int from, int to) const {
@@ -104,6 +108,7 @@ void Table::press(Corner corner) {
 void Table::userCell(int row, int column) {
   requireUser();
   requireClickable(row, column);
+  const Acting clicking = acting(ActKind::clickCell, {}, {row, column});
   if (!takeUserFocus()) return;
   press({row, column});
   raise(onMouseUp);
@@ -113,6 +118,7 @@ void Table::userCell(int row, int column) {
 void Table::userDoubleClick() {
   requireUser();
   requireClickable(row_, column_);
+  const Acting clicking = acting(ActKind::doubleClick);
   if (!takeUserFocus()) return;
   press({row_, column_});
   raise(onMouseUp);
@@ -124,6 +130,7 @@ void Table::userSelect(int row, int column, int rowSel, int columnSel) {
   requireUser();
   requireClickable(row, column);
   requireClickable(rowSel, columnSel);
+  const Acting marking = acting(ActKind::selectCells, {}, {row, column, rowSel, columnSel});
   if (!takeUserFocus()) return;
   press({row, column});
   if (takesInput() && hasCell({rowSel, columnSel})) {
@@ -136,10 +143,11 @@ void Table::userSelect(int row, int column, int rowSel, int columnSel) {
 void Table::userScroll(int topRow) {
   requireUser();
   if (topRow < fixedRows_ || topRow >= rows()) throw Refused(name() + " has no such row");
+  const Acting scrolling = acting(ActKind::scroll, {}, {topRow});
   setTopRow(topRow);
 }
 
-void Table::userKey(std::int16_t code, bool shift) {
+void Table::pressKey(std::int16_t code, bool shift) {
   if (!takeUserKey(code, shift)) return;
   const auto stillHere = [this] { return hasFocus() && takesInput(); };
   if (onKeyDown) raise([&] { onKeyDown(code, shift); });

@@ -30,13 +30,15 @@ void TextField::setCaret(int caret) {
 }
 
 void TextField::userType(std::string_view text) {
+  requireUser();
+  const Acting typing = acting(ActKind::type, text);
   if (!takeUserFocus()) return;
   const std::string line = withoutControlCharacters(text);
   const std::string_view typed = withinLimit(line);
   assign(typed, static_cast<int>(countCharacters(typed)));
 }
 
-void TextField::userKey(std::int16_t code, bool shift) {
+void TextField::pressKey(std::int16_t code, bool shift) {
   if (!takeUserKey(code, shift)) return;
   if (onKeyDown) raise([&] { onKeyDown(code, shift); });
   std::int16_t character = keys::characterOf(code, shift);

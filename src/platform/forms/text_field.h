@@ -43,11 +43,12 @@ class TextField : public Control {
   /// The user puts the focus here and replaces the whole text: one change. Line breaks and other
   /// control characters don't enter the one-line field.
   void userType(std::string_view text);
-  /// The user presses a key in the field (it takes the focus if it doesn't have it): KeyDown, then,
-  /// for a key that stands for a character (Enter included), KeyPress.
-  void userKey(std::int16_t code, bool shift = false) override;
 
  private:
+  /// The user presses a key in the field (it takes the focus if it hasn't it): KeyDown, then, for
+  /// a key that stands for a character (Enter included), KeyPress.
+  void pressKey(std::int16_t code, bool shift) override;
+
   std::string_view withinLimit(std::string_view text) const;
   void assign(std::string_view text, int caret);
 
