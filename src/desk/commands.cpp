@@ -61,12 +61,14 @@ std::vector<Command> lineCommands(AwizoForm& form) {
            .icon = "edit",
            .button = &form.btnEdytuj,
            .keys = {key(keys::f2)},
-           .place = &form.grdPozycje},
+           .place = &form.grdPozycje,
+           .onCurrentRow = true},
           {.words = "&Удалить строку",
            .icon = "remove",
            .button = &form.btnUsun,
            .keys = {key(keys::remove)},
-           .place = &form.grdPozycje}};
+           .place = &form.grdPozycje,
+           .onCurrentRow = true}};
 }
 
 std::vector<Command> packageCommands(AwizoForm& form) {
@@ -79,12 +81,14 @@ std::vector<Command> packageCommands(AwizoForm& form) {
            .icon = "edit",
            .button = &form.btnEdytujOpak,
            .keys = {key(keys::f2), key(keys::enter)},
-           .place = &form.grdOpakowania},
+           .place = &form.grdOpakowania,
+           .onCurrentRow = true},
           {.words = "Уд&алить упаковку",
            .icon = "remove",
            .button = &form.btnUsunOpak,
            .keys = {key(keys::remove)},
-           .place = &form.grdOpakowania}};
+           .place = &form.grdOpakowania,
+           .onCurrentRow = true}};
 }
 
 std::vector<CommandMenu> commandMenus(AwizoForm& form) {

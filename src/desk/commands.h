@@ -28,6 +28,8 @@ struct Command {
   HostTask task = HostTask::none;
   std::vector<CommandKey> keys = {};
   const Control* place = nullptr;  ///< its keys work while this has the focus; null: anywhere
+  /// It acts on the current row of that table, which must be seen before.
+  bool onCurrentRow = false;
 
   /// The words without the mnemonic's mark and the dots that announce a question: "Открыть".
   std::string plainWords() const;

@@ -14,6 +14,8 @@ inline constexpr std::string_view documentGroup = "Документ";
 inline constexpr std::string_view orderGroup = "Заказ";
 inline constexpr std::string_view deliveryGroup = "Доставка";
 inline constexpr std::string_view country = "Страна:";
+/// Below the table of lines where no line is the current one.
+inline constexpr std::string_view noLine = "Строка не выбрана";
 
 // Line dialog: groups of fields, tips of the buttons beside its packages.
 inline constexpr std::string_view productGroup = "Товар";

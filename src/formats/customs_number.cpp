@@ -1,6 +1,7 @@
 #include "formats/customs_number.h"
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 #include "platform/text.h"
@@ -31,6 +32,29 @@ bool hasDigits(const Conversions& conversions, std::string_view field, std::size
   return IsCDNPartNumeric(conversions, field) && countCharacters(field) == width;
 }
 
+/// The four fields of three or four pieces; nothing for any other number of pieces.
+std::optional<CustomsNumberFields> fieldsOf(const std::vector<std::string>& pieces) {
+  switch (pieces.size()) {
+    case 4:
+      return CustomsNumberFields{pieces[0], pieces[1], pieces[2], pieces[3]};
+    case 3:
+      return CustomsNumberFields{pieces[0], pieces[1], pieces[2], ""};
+    default:
+      return std::nullopt;
+  }
+}
+
+std::string faultyField(const Conversions& conversions, const CustomsNumberFields& fields) {
+  if (fields[0].empty() && fields[2].empty()) return "";
+  if (!hasDigits(conversions, fields[0], 8)) return "CustomsDeclarationNumber_1";
+  if (!conversions.isNumeric(fields[1]) || countCharacters(fields[1]) != 6) {
+    return "CustomsDeclarationNumber_2";
+  }
+  if (!hasDigits(conversions, fields[2], 7)) return "CustomsDeclarationNumber_3";
+  if (countCharacters(fields[3]) >= 4) return "CustomsDeclarationNumber_4";
+  return "";
+}
+
 }  // namespace
 
 CustomsNumberFields SplitCDN(Work& work, std::string_view cdn) {
@@ -39,14 +63,9 @@ CustomsNumberFields SplitCDN(Work& work, std::string_view cdn) {
   DebugLog& log = work.session.log;
   log.trace("SplitCDN: cdn=", cdn);
   log.trace("SplitCDN: count=", pieces.size() - 1);
-  switch (pieces.size()) {
-    case 4:
-      return {pieces[0], pieces[1], pieces[2], pieces[3]};
-    case 3:
-      return {pieces[0], pieces[1], pieces[2], ""};
-    default:
-      return {"", FormatCDNDate(work, work.platform.clock.today()), "", ""};
-  }
+  const std::optional<CustomsNumberFields> fields = fieldsOf(pieces);
+  if (fields) return *fields;
+  return {"", FormatCDNDate(work, work.platform.clock.today()), "", ""};
 }
 
 std::string JoinCDN(std::string_view field1, std::string_view field2, std::string_view field3,
@@ -80,16 +99,11 @@ std::string PadCDNPart(const Conversions& conversions, std::string_view text, in
 }
 
 std::string faultyCustomsNumberField(Work& work, std::string_view cdn) {
-  const CustomsNumberFields fields = SplitCDN(work, cdn);
-  if (fields[0].empty() && fields[2].empty()) return "";
-  const Conversions& conversions = work.conversions;
-  if (!hasDigits(conversions, fields[0], 8)) return "CustomsDeclarationNumber_1";
-  if (!conversions.isNumeric(fields[1]) || countCharacters(fields[1]) != 6) {
-    return "CustomsDeclarationNumber_2";
-  }
-  if (!hasDigits(conversions, fields[2], 7)) return "CustomsDeclarationNumber_3";
-  if (countCharacters(fields[3]) >= 4) return "CustomsDeclarationNumber_4";
-  return "";
+  return faultyField(work.conversions, SplitCDN(work, cdn));
+}
+
+std::string faultyCustomsNumberField(const Conversions& conversions, std::string_view cdn) {
+  return faultyField(conversions, fieldsOf(split(cdn, "/")).value_or(CustomsNumberFields{}));
 }
 
 }  // namespace awizo

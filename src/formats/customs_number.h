@@ -37,5 +37,7 @@ std::string PadCDNPart(const Conversions& conversions, std::string_view text, in
 /// The first field of the composite that has a wrong form, as "CustomsDeclarationNumber_1" to
 /// "CustomsDeclarationNumber_4"; the empty text where all are right or there is no number at all.
 std::string faultyCustomsNumberField(Work& work, std::string_view cdn);
+/// The same without a word in the log.
+std::string faultyCustomsNumberField(const Conversions& conversions, std::string_view cdn);
 
 }  // namespace awizo

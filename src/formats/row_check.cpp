@@ -9,30 +9,40 @@
 namespace awizo {
 namespace {
 
-/// A cell of the table that may stay empty.
-bool isEmptyOrNumber(const Work& work, const std::string& text) {
-  return text.empty() || work.conversions.isNumeric(text);
-}
-
-}  // namespace
-
-std::optional<RowFault> firstFault(Editor& editor, std::int16_t row) {
-  const Row line = lineRow(editor, row);
-  const Conversions& conversions = editor.conversions;
+/// `faultyField` finds the faulty field of a customs number.
+template <class FaultyField>
+std::optional<RowFault> firstFault(const Conversions& conversions, const Row& line,
+                                   const FaultyField& faultyField) {
+  const auto isEmptyOrNumber = [&](int column) {
+    return line.cell(column).empty() || conversions.isNumeric(line.cell(column));
+  };
   if (!conversions.isNumeric(line.cell(GRD_POZ_EAN))) return RowFault{GRD_POZ_EAN, "EAN"};
-  if (!isEmptyOrNumber(editor, line.cell(GRD_POZ_QTY_ORDERED))) {
+  if (!isEmptyOrNumber(GRD_POZ_QTY_ORDERED)) {
     return RowFault{GRD_POZ_QTY_ORDERED, "Zamowiona ilosc"};
   }
   if (!conversions.isNumeric(Conversions::DotToComma(line.cell(GRD_POZ_QTY_DESPATCHED)))) {
     return RowFault{GRD_POZ_QTY_DESPATCHED, "Potwierdzana ilosc"};
   }
-  if (!isEmptyOrNumber(editor, line.cell(GRD_POZ_PRICE)))
-    return RowFault{GRD_POZ_PRICE, "Cena netto"};
-  if (!isEmptyOrNumber(editor, line.cell(GRD_POZ_NET_AMOUNT))) {
+  if (!isEmptyOrNumber(GRD_POZ_PRICE)) return RowFault{GRD_POZ_PRICE, "Cena netto"};
+  if (!isEmptyOrNumber(GRD_POZ_NET_AMOUNT)) {
     return RowFault{GRD_POZ_NET_AMOUNT, "Wartosc netto"};
   }
-  const std::string faulty = faultyCustomsNumberField(editor, line.cell(GRD_POZ_CDN));
+  const std::string faulty = faultyField(line.cell(GRD_POZ_CDN));
   return faulty.empty() ? std::optional<RowFault>() : RowFault{GRD_POZ_CDN, faulty};
+}
+
+}  // namespace
+
+std::optional<RowFault> firstFault(Editor& editor, std::int16_t row) {
+  return firstFault(editor.conversions, lineRow(editor, row),
+                    [&](const std::string& cdn) { return faultyCustomsNumberField(editor, cdn); });
+}
+
+std::optional<RowFault> firstFaultToTell(const Editor& editor, std::int16_t row) {
+  const Conversions& conversions = editor.conversions;
+  return firstFault(conversions, lineRow(editor, row), [&](const std::string& cdn) {
+    return faultyCustomsNumberField(conversions, cdn);
+  });
 }
 
 bool CheckGridRow(Editor& editor, std::int16_t row) {

@@ -17,6 +17,8 @@ struct RowFault {
 /// The first fault of the line in this row of grdPozycje. Error 6 beyond the last row that the cell
 /// index reaches.
 std::optional<RowFault> firstFault(Editor& editor, std::int16_t row);
+/// The same without a word in the log, for who only tells it.
+std::optional<RowFault> firstFaultToTell(const Editor& editor, std::int16_t row);
 
 /// Whether the line in this row of grdPozycje can leave in a document. BadColumnName becomes the
 /// name of the first cell that fails. Error 6 as firstFault.

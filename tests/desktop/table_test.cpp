@@ -55,6 +55,19 @@ class TableOnDesktop : public FormWindow {
     return desktop::toText(view()->model()->index(row - 1, column).data().toString());
   }
   void clickCell(int row, int column) { click(view()->viewport(), at(row, column)); }
+  QImage picture() { return view()->viewport()->grab().toImage(); }
+  /// The background of a cell: what is painted beside its text.
+  QColor colourAt(int row, int column) {
+    const QRect cell = view()->visualRect(view()->model()->index(row - 1, column));
+    return picture().pixelColor(cell.right() - 3, cell.top() + 2);
+  }
+  QColor currentColour(const QColor& background) {
+    return desktop::currentRowColour(view()->palette(), background);
+  }
+  bool isSeen(int row) {
+    return view()->viewport()->rect().contains(
+        view()->visualRect(view()->model()->index(row - 1, 0)));
+  }
   std::pair<int, int> shownCurrent() {
     return {view()->currentIndex().row() + 1, view()->currentIndex().column()};
   }
@@ -73,6 +86,63 @@ TEST_F(TableOnDesktop, HidesColumnsOfNoWidth) {
   EXPECT_FALSE(view()->isColumnHidden(1));
   table.setColumnWidth(2, 960);
   EXPECT_FALSE(view()->isColumnHidden(2));
+}
+
+TEST_F(TableOnDesktop, TheWholeCurrentRowIsMarkedThoughItsCellIsHidden) {
+  table.setRow(3);
+  table.setColumn(2);
+  settle();
+  EXPECT_EQ(colourAt(3, 0), currentColour(Qt::white));
+  EXPECT_EQ(colourAt(3, 3), currentColour(Qt::white));
+  EXPECT_EQ(colourAt(4, 3), QColor(Qt::white));
+  const QPoint edge(1, at(3, 0).y());
+  EXPECT_EQ(picture().pixelColor(edge), view()->palette().color(QPalette::Highlight));
+  table.setRow(4);
+  settle();
+  EXPECT_EQ(colourAt(3, 3), QColor(Qt::white));
+  EXPECT_EQ(colourAt(4, 3), currentColour(Qt::white));
+}
+
+TEST_F(TableOnDesktop, ThePinkOfTheCurrentRowIsSeenThroughTheMark) {
+  table.setBackground(3, 3, pink);
+  table.setRow(3);
+  table.setColumn(2);
+  settle();
+  EXPECT_EQ(colourAt(3, 3), currentColour(QColor(255, 192, 192)));
+  EXPECT_NE(colourAt(3, 3), colourAt(3, 0));
+}
+
+TEST_F(TableOnDesktop, ARowWithoutATextIsNoCurrentRow) {
+  for (int column = 0; column < 4; ++column) table.setCell(3, column, "");
+  table.setRow(3);
+  settle();
+  EXPECT_EQ(colourAt(3, 3), QColor(Qt::white));
+}
+
+TEST_F(TableOnDesktop, BringsTheCurrentRowIntoView) {
+  table.setRow(40);
+  ASSERT_FALSE(isSeen(40));
+  tableFace().bringRowIntoView();
+  EXPECT_TRUE(isSeen(40));
+  table.setRow(1);
+  ASSERT_FALSE(isSeen(1));
+  tableFace().bringRowIntoView();
+  EXPECT_TRUE(isSeen(1));
+}
+
+TEST_F(TableOnDesktop, LeavesARowThatIsSeenWhereItIs) {
+  table.setRow(2);
+  tableFace().bringRowIntoView();
+  EXPECT_EQ(table.topRow(), 1);
+  EXPECT_THAT(takeEvents(), Not(Contains("Scroll")));
+}
+
+TEST_F(TableOnDesktop, WhatARowHasToSayStandsInItsTipsAndIsReadAloud) {
+  tableFace().describeRows([](int row) { return row == 3 ? "цена не число" : ""; });
+  const QModelIndex cell = view()->model()->index(2, 1);
+  EXPECT_EQ(cell.data(Qt::ToolTipRole).toString(), "3/1\nцена не число");
+  EXPECT_EQ(cell.data(Qt::AccessibleDescriptionRole).toString(), "цена не число");
+  EXPECT_EQ(view()->model()->index(3, 1).data(Qt::ToolTipRole).toString(), "4/1");
 }
 
 TEST_F(TableOnDesktop, AClickComesAfterTheFocus) {

@@ -37,7 +37,7 @@ ButtonFace::ButtonFace(FormFace& form, Button& button, QWidget* parent)
       button_(button),
       widget_(static_cast<QAbstractButton*>(widget())) {
   firstClick_.setSingleShot(true);
-  connect(&firstClick_, &QTimer::timeout, this, [this] { act([this] { button_.userClick(); }); });
+  connect(&firstClick_, &QTimer::timeout, this, [this] { press([this] { button_.userClick(); }); });
   connect(widget_, &QAbstractButton::clicked, this, &ButtonFace::click);
 }
 
@@ -73,12 +73,17 @@ void ButtonFace::showContent() {
   }
 }
 
+void ButtonFace::press(const std::function<void()>& press) {
+  if (beforePress) beforePress();
+  act(press);
+}
+
 /// Where a double click is an event of its own, a click must wait until it can't become one.
 void ButtonFace::click() {
   if (button_.doubleClickAlone) {
     firstClick_.start(QApplication::doubleClickInterval());
   } else {
-    act([this] { button_.userClick(); });
+    press([this] { button_.userClick(); });
   }
 }
 
@@ -86,13 +91,15 @@ bool ButtonFace::pressMouse(QMouseEvent& mouse) {
   if (mouse.type() != QEvent::MouseButtonDblClick || !button_.onDoubleClick) return false;
   if (mouse.button() != Qt::LeftButton) return false;
   firstClick_.stop();
-  act([this] { button_.userDoubleClick(); });
+  press([this] { button_.userDoubleClick(); });
   return true;
 }
 
 /// All keys are the model's: Qt would press the button later, or move its own focus by the arrows.
 bool ButtonFace::pressKey(QKeyEvent& key) {
-  if (keyCodeOf(key) == 0) return false;
+  const std::int16_t code = keyCodeOf(key);
+  if (code == 0) return false;
+  if (beforePress && (code == keys::enter || code == keys::blank)) beforePress();
   sendKey(key);
   return true;
 }
@@ -101,7 +108,7 @@ bool ButtonFace::pressKey(QKeyEvent& key) {
 bool ButtonFace::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Shortcut && watched == widget_) {
     if (static_cast<QShortcutEvent*>(event)->isAmbiguous()) return false;
-    act([this] { button_.userClick(); });
+    press([this] { button_.userClick(); });
     return true;
   }
   return Face::eventFilter(watched, event);

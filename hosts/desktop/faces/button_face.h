@@ -19,6 +19,8 @@ class ButtonFace : public Face {
   void setTip(const QString& tip);
   /// Shows words next to a picture button's picture; its tip stays.
   void setWords(const QString& words);
+  /// Runs before the user presses the button in whatever way. May be empty.
+  std::function<void()> beforePress;
 
  protected:
   void showContent() override;
@@ -28,6 +30,7 @@ class ButtonFace : public Face {
 
  private:
   void click();
+  void press(const std::function<void()>& press);
 
   Button& button_;
   QAbstractButton* widget_;

@@ -10,41 +10,12 @@
 #include "hosts/desktop/faces/key_codes.h"
 
 namespace awizo::desktop {
-namespace {
-
-/// A view that moves nothing by itself: keys and the mouse reach it through the model.
-class TableView : public QTableView {
- public:
-  using QTableView::QTableView;
-
- protected:
-  // What is marked in a table that keys don't go to is pale.
-  void initViewItemOption(QStyleOptionViewItem* option) const override {
-    QTableView::initViewItemOption(option);
-    if (hasFocus() || !isEnabled()) return;
-    const QPalette& colours = palette();
-    const QColor base = colours.color(QPalette::Base);
-    const QColor mark = colours.color(QPalette::Highlight);
-    const auto between = [](int one, int other) { return (7 * one + 3 * other) / 10; };
-    option->palette.setColor(QPalette::Highlight, QColor(between(base.red(), mark.red()),
-                                                         between(base.green(), mark.green()),
-                                                         between(base.blue(), mark.blue())));
-    option->palette.setColor(QPalette::HighlightedText, colours.color(QPalette::Text));
-  }
-  void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
-  void mousePressEvent(QMouseEvent*) override {}
-  void mouseMoveEvent(QMouseEvent*) override {}
-  void mouseReleaseEvent(QMouseEvent*) override {}
-  void mouseDoubleClickEvent(QMouseEvent*) override {}
-};
-
-}  // namespace
-
 TableFace::TableFace(FormFace& form, Table& table, QWidget* parent)
     : Face(form, table, new TableView(parent)),
       table_(table),
-      view_(static_cast<QTableView*>(widget())),
+      view_(static_cast<TableView*>(widget())),
       rows_(new TableRows(table, this)) {
+  view_->currentRow = [this] { return markedRow(); };
   setUpView();
   watch(view_->viewport());
   connect(view_->verticalScrollBar(), &QScrollBar::valueChanged, this, &TableFace::takeScroll);
@@ -191,7 +162,27 @@ void TableFace::showHeights() {
   }
 }
 
+/// A row without a text is no row of the document: the table only can't have fewer.
+int TableFace::markedRow() const {
+  const int row = table_.row();
+  if (stale_ || row < table_.fixedRows() || row >= table_.rows()) return -1;
+  for (int column = 0; column < table_.columns(); ++column) {
+    if (!table_.cell(row, column).empty()) return row - table_.fixedRows();
+  }
+  return -1;
+}
+
+void TableFace::bringRowIntoView() {
+  showNow();
+  const int top = table_.topRowShowing(table_.row());
+  if (top == table_.topRow()) return;
+  form().act([&] { table_.userScroll(top); });
+  showNow();
+}
+
 void TableFace::showSelection() {
+  // The mark reaches over the whole row.
+  view_->viewport()->update();
   view_->setSelectionBehavior(table_.selectsRows ? QAbstractItemView::SelectRows
                                                  : QAbstractItemView::SelectItems);
   const QModelIndex current = rows_->indexOf(table_.row(), table_.column());
@@ -228,6 +219,10 @@ void TableFace::showTop() {
   } else if (right > view_->viewport()->width()) {
     bar->setValue(bar->value() + std::min(left, right - view_->viewport()->width()));
   }
+}
+
+void TableFace::describeRows(std::function<std::string(int row)> describe) {
+  rows_->describe = std::move(describe);
 }
 
 void TableFace::stretchColumn(int column) {

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QPointer>
-#include <QTableView>
 #include <vector>
 
 #include "hosts/desktop/faces/face.h"
 #include "hosts/desktop/faces/table_rows.h"
+#include "hosts/desktop/faces/table_view.h"
 #include "platform/forms/table.h"
 
 namespace awizo::desktop {
@@ -24,6 +24,10 @@ class TableFace : public Face {
   void layOverCell(Face& editor);
   /// Shows what has changed and waits to be shown; the painting of the view does the same.
   void showNow();
+  /// Scrolls the current row into view, as its user would.
+  void bringRowIntoView();
+  /// What a row has to say beside its cells: see TableRows.
+  void describeRows(std::function<std::string(int row)> describe);
   /// The column takes the room that the others leave.
   void stretchColumn(int column);
 
@@ -47,6 +51,7 @@ class TableFace : public Face {
   void showWidths();
   void relayColumn(int column);
   void showHeights();
+  int markedRow() const;
   void showSelection();
   void showTop();
   void placeEditor();
@@ -58,7 +63,7 @@ class TableFace : public Face {
   double pointsPerTwip() const;
 
   Table& table_;
-  QTableView* view_;
+  TableView* view_;
   TableRows* rows_;
   QPointer<Face> editor_;
   std::vector<int> shownWidths_;  ///< twips, as the columns were last laid out

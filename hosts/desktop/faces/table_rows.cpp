@@ -42,8 +42,11 @@ QVariant TableRows::data(const QModelIndex& index, int role) const {
   const bool coloured = look.background != white;
   switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
       return fromText(table_.cell(row, index.column()));
+    case Qt::ToolTipRole:
+      return tipOf(row, index.column());
+    case Qt::AccessibleDescriptionRole:
+      return wordsOf(row);
     case Qt::TextAlignmentRole:
       return alignmentOf(look);
     case Qt::FontRole:
@@ -58,6 +61,14 @@ QVariant TableRows::data(const QModelIndex& index, int role) const {
     default:
       return {};
   }
+}
+
+QString TableRows::wordsOf(int row) const { return describe ? fromText(describe(row)) : QString(); }
+
+QString TableRows::tipOf(int row, int column) const {
+  const QString text = fromText(table_.cell(row, column));
+  const QString words = wordsOf(row);
+  return words.isEmpty() ? text : text + "\n" + words;
 }
 
 QVariant TableRows::headerData(int section, Qt::Orientation orientation, int role) const {

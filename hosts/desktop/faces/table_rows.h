@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <functional>
+#include <string>
 
 #include "platform/forms/table.h"
 
@@ -18,12 +20,19 @@ class TableRows : public QAbstractTableModel {
   QVariant data(const QModelIndex& index, int role) const override;
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+  /// What a row has to say beside its cells, empty for nothing: stands in the cells' tips and is
+  /// read to those who don't see the row's colour. May be empty.
+  std::function<std::string(int row)> describe;
+
   void changed();
   void cellChanged(int row, int column);
   QModelIndex indexOf(int row, int column) const;
   int tableRow(int viewRow) const { return viewRow + table_.fixedRows(); }
 
  private:
+  QString wordsOf(int row) const;
+  QString tipOf(int row, int column) const;
+
   const Table& table_;
   int count_;  ///< as last reported to the view, which must not see an unreported change
 };

@@ -69,6 +69,8 @@ struct AwizoWysylkiWidget::Parts {
   ~Parts() {
     face.releaseDialogs();
     delete faces;
+    // What stands beside the faces follows the control too, which goes now.
+    delete content;
   }
   Parts(const Parts&) = delete;
   Parts& operator=(const Parts&) = delete;
@@ -95,7 +97,7 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const Host& host, QWidget* parent)
   Parts& parts = *parts_;
   parts.control.UserControl_Initialize();
   parts.control.UserControl_ReadProperties();
-  parts.address = layOutMain(parts.control.form, *parts.faces);
+  parts.address = layOutMain(parts.control.editor, *parts.faces);
   parts.faces->showAll();
   parts.commands = new Commands(parts.control.form, *parts.faces, *this);
   parts.faces->onStateShown.add([this](Face&) { showStates(); });

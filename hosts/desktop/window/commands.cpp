@@ -2,6 +2,7 @@
 
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/icons.h"
+#include "hosts/desktop/faces/table_face.h"
 #include "platform/forms/keys.h"
 
 namespace awizo::desktop {
@@ -48,8 +49,14 @@ Commands::Commands(AwizoForm& form, FormFace& faces, QWidget& window)
 void Commands::add(const Command& command, QWidget& window) {
   auto* action = new QAction(iconNamed(fromText(command.icon)), fromText(command.words), this);
   entries_[command.button] = {&command, action};
-  connect(action, &QAction::triggered, this, [this, &command] { press(*command.button); });
+  connect(action, &QAction::triggered, this, [this, &command] { press(command); });
+  faces_.button(*command.button).beforePress = [this, &command] { showRow(command); };
   giveKeys(command, *action, window);
+}
+
+void Commands::showRow(const Command& command) {
+  if (!command.onCurrentRow) return;
+  faces_.table(static_cast<const Table&>(*command.place)).bringRowIntoView();
 }
 
 void Commands::giveKeys(const Command& command, QAction& action, QWidget& window) {
@@ -69,9 +76,10 @@ void Commands::giveKeys(const Command& command, QAction& action, QWidget& window
   faces_.button(*command.button).setTip(tip);
 }
 
-void Commands::press(Button& button) {
+void Commands::press(const Command& command) {
   if (Face* face = faces_.focusedFace()) face->finishTyping();
-  faces_.act([&] { button.userPress(); });
+  showRow(command);
+  faces_.act([&] { command.button->userPress(); });
 }
 
 void Commands::follow() {

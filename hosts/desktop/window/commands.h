@@ -31,7 +31,9 @@ class Commands : public QObject {
 
   void add(const Command& command, QWidget& window);
   void giveKeys(const Command& command, QAction& action, QWidget& window);
-  void press(Button& button);
+  void press(const Command& command);
+  /// Scrolls the row that the command acts on into sight.
+  void showRow(const Command& command);
 
   FormFace& faces_;
   std::vector<CommandMenu> menus_;

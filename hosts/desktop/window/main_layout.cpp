@@ -5,7 +5,8 @@
 
 namespace awizo::desktop {
 
-QLabel* layOutMain(AwizoForm& form, FormFace& faces) {
+QLabel* layOutMain(Editor& editor, FormFace& faces) {
+  AwizoForm& form = editor.form;
   auto* below = new QSplitter(Qt::Horizontal);
   below->setChildrenCollapsible(false);
   below->addWidget(makePackages(form, faces));
@@ -14,7 +15,7 @@ QLabel* layOutMain(AwizoForm& form, FormFace& faces) {
   below->setStretchFactor(1, 0);
   auto* tables = new QSplitter(Qt::Vertical);
   tables->setChildrenCollapsible(false);
-  tables->addWidget(makeLines(form, faces));
+  tables->addWidget(makeLines(editor, faces));
   tables->addWidget(below);
   tables->setStretchFactor(0, 3);
   tables->setStretchFactor(1, 1);

@@ -8,10 +8,12 @@
 
 #include "desk/commands.h"
 #include "desk/layout_words.h"
+#include "desk/line_words.h"
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/table_face.h"
 #include "hosts/desktop/layouts/fields.h"
 #include "hosts/desktop/window/column_fill.h"
+#include "hosts/desktop/window/line_strip.h"
 #include "hosts/desktop/window/main_layout.h"
 #include "tables/columns/columns.h"
 
@@ -89,10 +91,12 @@ QLayout* makeWays(AwizoForm& form, FormFace& faces) {
 
 }  // namespace
 
-QWidget* makeLines(AwizoForm& form, FormFace& faces) {
+QWidget* makeLines(Editor& editor, FormFace& faces) {
+  AwizoForm& form = editor.form;
   QWidget* frame = faces.widget(form.frmPozycje);
   TableFace& table = faces.table(form.grdPozycje);
   table.layOverCell(faces.face(form.txtEdycja));
+  table.describeRows([&editor](int row) { return lineFaultWords(editor, row); });
   table.view()->setMinimumHeight(table.view()->fontMetrics().height() * 7);
   auto* grid = new QGridLayout(frame);
   grid->setContentsMargins(insideFrame);
@@ -100,15 +104,16 @@ QWidget* makeLines(AwizoForm& form, FormFace& faces) {
   new ColumnFill(*table.view(), GRD_POZ_NAME);
   grid->addWidget(table.view(), 0, 0);
   grid->addLayout(makeRowButtons(faces, lineCommands(form)), 0, 1);
+  grid->addWidget(new LineStrip(editor), 1, 0, 1, 2);
   grid->addLayout(
       makeFillRow(faces, faces.widget(form.lblStawkaVAT), {faces.widget(form.comboStawkaVAT)},
                   form.btnUzupelnij, form.btnNadpisz),
-      1, 0, 1, 2);
+      2, 0, 1, 2);
   faces.button(form.Image2).setIcon("countries");
   grid->addLayout(makeFillRow(faces, new QLabel(fromText(words::country)),
                               {faces.widget(form.comboCountry), faces.widget(form.Image2)},
                               form.btnUzupelnij2, form.btnNadpisz2),
-                  2, 0, 1, 2);
+                  3, 0, 1, 2);
   return frame;
 }
 

@@ -109,6 +109,8 @@ class Table : public Control {
   int topRow() const { return topRow_; }
   /// Scrolls by code; raises Scroll if it changes. A row that can't be scrolled to is error 30009.
   void setTopRow(int row);
+  /// The first row shown once this row has been scrolled into view, as far as needed.
+  int topRowShowing(int row) const;
   /// How high the part of the table is that a host shows, fixed rows included; decides what is
   /// scrolled into view. Ten rows and the heading where no host says otherwise.
   void setViewHeight(int height);
@@ -185,7 +187,7 @@ class Table : public Control {
   void press(Corner corner);
 
   int heightOf(int from, int to) const;
-  void showCell(Corner corner);
+  void showRow(int row);
   void holdWithin();
   std::unique_ptr<Line> makeLine() const;
 

@@ -48,7 +48,7 @@ void Table::moveTo(Corner corner, Scrolling scrolling) {
   row_ = rowSel_ = corner.row;
   column_ = columnSel_ = corner.column;
   if (moved || marked) changed(Aspect::selection);
-  if (scrolling == Scrolling::intoView) showCell(corner);
+  if (scrolling == Scrolling::intoView) showRow(corner.row);
   if (moved || marked) raise(onSelectionChange);
 }
 
@@ -73,22 +73,25 @@ int Table::heightOf(int from, int to) const {
   return height;
 }
 
-void Table::showCell(Corner corner) {
-  if (corner.row < fixedRows_) return;
-  int top = std::min(topRow_, corner.row);
+int Table::topRowShowing(int row) const {
+  requireRow(row);
+  if (row < fixedRows_) return topRow_;
+  int top = std::min(topRow_, row);
   const int room = viewHeight_ - heightOf(0, fixedRows_);
-  int height = heightOf(top, corner.row + 1);
-  while (top < corner.row && height > room) height -= line(top++).height;
-  setTopRow(top);
+  int height = heightOf(top, row + 1);
+  while (top < row && height > room) height -= line(top++).height;
+  return top;
 }
 
+void Table::showRow(int row) { setTopRow(topRowShowing(row)); }
+
 int Table::cellLeft() {
-  showCell({row_, column_});
+  showRow(row_);
   return std::accumulate(widths_.begin(), widths_.begin() + column_, 0);
 }
 
 int Table::cellTop() {
-  showCell({row_, column_});
+  showRow(row_);
   if (row_ < fixedRows_) return heightOf(0, row_);
   return heightOf(0, fixedRows_) + heightOf(topRow_, row_);
 }
@@ -135,7 +138,7 @@ void Table::userSelect(int row, int column, int rowSel, int columnSel) {
   press({row, column});
   if (takesInput() && hasCell({rowSel, columnSel})) {
     markTo({rowSel, columnSel});
-    showCell({rowSel, columnSel});
+    showRow(rowSel);
   }
   raise(onMouseUp);
 }
@@ -155,7 +158,7 @@ void Table::pressKey(std::int16_t code, bool shift) {
     if (shift) {
       const Corner target = keyTarget({rowSel_, columnSel_}, code);
       markTo(target);
-      showCell(target);
+      showRow(target.row);
     } else {
       moveTo(keyTarget({row_, column_}, code), Scrolling::intoView);
     }

@@ -1,0 +1,51 @@
+#include "hosts/desktop/window/line_strip.h"
+
+#include "desk/layout_words.h"
+#include "desk/line_words.h"
+#include "hosts/desktop/faces/text.h"
+
+namespace awizo::desktop {
+
+LineStrip::LineStrip(const Editor& editor) : editor_(editor) {
+  setObjectName("lineStrip");
+  setTextFormat(Qt::PlainText);
+  setTextInteractionFlags(Qt::TextSelectableByMouse);
+  setFocusPolicy(Qt::NoFocus);
+  // A long line is cut at the window's edge and is whole in its tip.
+  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  observation_ =
+      editor.form.grdPozycje.observers.add([this](const Change& change) { follow(change); });
+  showWords();
+}
+
+LineStrip::~LineStrip() { editor_.form.grdPozycje.observers.remove(observation_); }
+
+void LineStrip::say(const QString& words) {
+  saidAtRow_ = editor_.form.grdPozycje.row();
+  setText(words);
+  setToolTip(words);
+}
+
+/// A document comes and goes by thousands of changes in one event; the words are made once.
+void LineStrip::follow(const Change& change) {
+  const bool matters =
+      change.aspect == Aspect::selection || change.aspect == Aspect::rows ||
+      change.aspect == Aspect::redraw ||
+      (change.aspect == Aspect::cell && change.row == editor_.form.grdPozycje.row());
+  if (!matters || due_) return;
+  due_ = true;
+  QMetaObject::invokeMethod(
+      this, [this] { showWords(); }, Qt::QueuedConnection);
+}
+
+void LineStrip::showWords() {
+  due_ = false;
+  const int row = editor_.form.grdPozycje.row();
+  if (saidAtRow_ == row) return;
+  saidAtRow_ = -1;
+  const QString words = fromText(lineWords(editor_, row));
+  setText(words.isEmpty() ? fromText(words::noLine) : words);
+  setToolTip(words);
+}
+
+}  // namespace awizo::desktop
