@@ -1,6 +1,7 @@
 #include "formats/advice_of_document.h"
 
 #include <string>
+#include <utility>
 
 #include "formats/despatch_advice_elements.h"
 
@@ -37,8 +38,12 @@ AdvicePackage packageOf(const XmlNode& node) {
 PackageReference referenceOf(const XmlNode& node) {
   PackageReference reference;
   for (const XmlNode& child : node.children()) {
-    if (child.isElement("PackageId")) reference.packageId = child.text();
-    if (child.isElement("Quantity")) reference.quantity = child.text();
+    if (reference.packageId.empty() && child.isElement("PackageId")) {
+      reference.packageId = child.text();
+    }
+    if (reference.quantity.value_or("").empty() && child.isElement("Quantity")) {
+      reference.quantity = child.text();
+    }
   }
   return reference;
 }
@@ -62,6 +67,11 @@ bool isConsignment(const AdvicePackage& package) {
 }  // namespace
 
 DespatchAdvice adviceOf(XmlDocument& document) {
+  AdviceNodes nodes;
+  return adviceOf(document, nodes);
+}
+
+DespatchAdvice adviceOf(XmlDocument& document, AdviceNodes& nodes) {
   DespatchAdvice advice;
   const XmlNode root = document.node().selectSingle("/Document-DespatchAdvice");
   if (!root) return advice;
@@ -69,10 +79,15 @@ DespatchAdvice adviceOf(XmlDocument& document) {
   bool isFirst = true;
   for (const XmlNode& node : root.selectAll("DespatchAdvice-Consignment/Packing-Sequence")) {
     AdvicePackage package = packageOf(node);
-    if (!isFirst || !isConsignment(package)) advice.packages.push_back(std::move(package));
-    isFirst = false;
+    if (std::exchange(isFirst, false) && isConsignment(package)) {
+      nodes.consignment = node;
+    } else {
+      nodes.packages.push_back(node);
+      advice.packages.push_back(std::move(package));
+    }
   }
   for (const XmlNode& node : root.selectAll("DespatchAdvice-Lines/Line")) {
+    nodes.lines.push_back(node);
     advice.lines.push_back(lineOf(node));
   }
   takePaths(root, totalElements, advice.totals);

@@ -1,6 +1,5 @@
 #include "session/awizo_wysylki.h"
 
-#include "session/document_content.h"
 #include "session/record/off_line_path.h"
 #include "session/set_up.h"
 #include "session/start_up.h"
@@ -73,13 +72,13 @@ void AwizoWysylki::UserControl_Show() {
   if (!form.OrderAnswer) keepDocument();
 }
 
-void AwizoWysylki::keepDocument() { keptDocument_ = documentContent(editor); }
+void AwizoWysylki::keepDocument() { keptDocument_ = draftOf(editor); }
 
 bool AwizoWysylki::isDocumentChanged() const {
   // A start that failed left nothing to work on.
   if (start_ == Start::none || start_ == Start::failed) return false;
   if (!keptDocument_) return editor.session.LineCount > 0;
-  return documentContent(editor) != *keptDocument_;
+  return draftOf(editor) != *keptDocument_;
 }
 
 void AwizoWysylki::UserControl_WriteProperties() {

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "formats/advice_draft.h"
 #include "formats/file_dialog.h"
 #include "linedialog/dlg_dodaj.h"
 #include "linedialog/dlg_iso_codes.h"
@@ -113,7 +114,7 @@ class AwizoWysylki {
 
   Start start_ = Start::none;
   /// The document as it was last kept; none where it never was and would be lost.
-  std::optional<std::string> keptDocument_;
+  std::optional<AdviceDraft> keptDocument_;
 };
 
 }  // namespace awizo

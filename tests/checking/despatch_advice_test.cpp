@@ -227,6 +227,25 @@ TEST_P(CheckingADespatchAdvice, ReferencesOfLinesNamePackages) {
                   "документе нет"));
 }
 
+TEST_P(CheckingADespatchAdvice, AReferenceThatIsEmptyNamesNoPackage) {
+  EXPECT_THAT(checkWith("</Line-Item>",
+                        "</Line-Item>\n<Package-Reference><PackageId/></Package-Reference>"
+                        "<Package-Reference><Quantity>1.000</Quantity></Package-Reference>"),
+              ::testing::Contains(
+                  "14|DespatchAdvice-Lines/Line/Package-Reference[1]/PackageId|упаковки «» в "
+                  "документе нет"));
+}
+
+TEST_P(CheckingADespatchAdvice, AParentNeedsThePackageOfTheConsignment) {
+  const std::string package = "<Packing-Sequence>\n<PackageId>1</PackageId></Packing-Sequence>";
+  const std::string other =
+      "<Packing-Sequence><PackageId>2</PackageId><ParentId>1</ParentId></Packing-Sequence>";
+  EXPECT_THAT(
+      checkWith(package, other),
+      ::testing::Contains("8|DespatchAdvice-Consignment/Packing-Sequence/ParentId|упаковки «1» в "
+                          "документе нет"));
+}
+
 TEST_P(CheckingADespatchAdvice, ElementsThatArentReadAreToldOnceForEachKind) {
   EXPECT_THAT(
       checkWith("<BuyerOrderNumber>", "<Currency>RUR</Currency>\n<Incoterms/>\n<BuyerOrderNumber>"),

@@ -42,7 +42,7 @@ class DespatchAdviceCheck {
 
   std::vector<Finding> findings(const ReadingResult& result) {
     const DocumentMap map(document_.within());
-    std::vector<Finding> all = packageFindings(map);
+    std::vector<Finding> all = packageFindings(document_.within(), map);
     for (const std::string& path : result.missing) all.push_back(missing(path));
     std::size_t end = map.places().size();
     if (result.error) {

@@ -3,46 +3,75 @@
 #include <string>
 #include <unordered_set>
 
+#include "formats/advice_of_document.h"
 #include "packagedialog/serial_number.h"
 
 namespace awizo {
 namespace {
 
-constexpr std::string_view packageKind =
-    "Document-DespatchAdvice/DespatchAdvice-Consignment/Packing-Sequence";
-constexpr std::string_view referenceKind =
-    "Document-DespatchAdvice/DespatchAdvice-Lines/Line/Package-Reference/PackageId";
+class PackageFindings {
+ public:
+  PackageFindings(XmlDocument& document, const DocumentMap& map)
+      : map_(map), advice_(adviceOf(document, nodes_)) {}
 
-/// Whether the place is this child of a package.
-bool isOfPackage(const DocumentMap::Place& place, std::string_view name) {
-  return place.kind.size() == packageKind.size() + 1 + name.size() &&
-         place.kind.starts_with(packageKind) && place.kind.ends_with(name);
-}
+  std::vector<Finding> found() {
+    takeIds();
+    for (std::size_t i = 0; i < advice_.packages.size(); ++i) {
+      lookAt(advice_.packages[i], nodes_.packages[i]);
+    }
+    for (std::size_t i = 0; i < advice_.lines.size(); ++i) {
+      lookAt(advice_.lines[i].packages, nodes_.lines[i]);
+    }
+    return std::move(found_);
+  }
+
+ private:
+  void takeIds() {
+    if (nodes_.consignment) ids_.insert(consignmentId);
+    for (std::size_t i = 0; i < advice_.packages.size(); ++i) {
+      const std::string& id = advice_.packages[i].id;
+      const XmlNode& node = nodes_.packages[i];
+      if (id.empty() && !node.selectSingle("PackageId")) continue;
+      if (ids_.insert(id).second) continue;
+      add(node, "PackageId", "упаковка " + quoted(id) + " уже есть");
+    }
+  }
+
+  void lookAt(const AdvicePackage& package, const XmlNode& node) {
+    if (!ids_.contains(package.parentId)) add(node, "ParentId", isMissing(package.parentId));
+    const std::string refusal = serialNumberRefusal(package.serialNumber);
+    if (!refusal.empty()) add(node, "SerialNumber", refusal);
+  }
+
+  void lookAt(const std::vector<PackageReference>& references, const XmlNode& line) {
+    std::size_t next = 0;
+    for (const XmlNode& child : line.children()) {
+      if (!child.isElement("Package-Reference")) continue;
+      const std::string& id = references[next++].packageId;
+      if (!ids_.contains(id)) add(child, "PackageId", isMissing(id));
+    }
+  }
+
+  static std::string isMissing(const std::string& id) {
+    return "упаковки " + quoted(id) + " в документе нет";
+  }
+
+  /// What isn't in the document at all is no finding here.
+  void add(const XmlNode& part, std::string_view element, const std::string& text) {
+    if (const XmlNode node = part.selectSingle(element)) found_.push_back(map_.finding(node, text));
+  }
+
+  const DocumentMap& map_;
+  AdviceNodes nodes_;
+  DespatchAdvice advice_;
+  std::unordered_set<std::string> ids_;
+  std::vector<Finding> found_;
+};
 
 }  // namespace
 
-std::vector<Finding> packageFindings(const DocumentMap& map) {
-  std::vector<Finding> findings;
-  std::unordered_set<std::string> serials;
-  for (const DocumentMap::Place& place : map.places()) {
-    if (!isOfPackage(place, "PackageId")) continue;
-    const std::string serial = place.node.text();
-    if (!serials.insert(serial).second) {
-      findings.push_back(map.finding(place.node, "упаковка " + quoted(serial) + " уже есть"));
-    }
-  }
-  for (const DocumentMap::Place& place : map.places()) {
-    if (place.kind == referenceKind || isOfPackage(place, "ParentId")) {
-      const std::string serial = place.node.text();
-      if (serials.contains(serial)) continue;
-      findings.push_back(
-          map.finding(place.node, "упаковки " + quoted(serial) + " в документе нет"));
-    } else if (isOfPackage(place, "SerialNumber")) {
-      const std::string refusal = serialNumberRefusal(place.node.text());
-      if (!refusal.empty()) findings.push_back(map.finding(place.node, refusal));
-    }
-  }
-  return findings;
+std::vector<Finding> packageFindings(XmlDocument& document, const DocumentMap& map) {
+  return PackageFindings(document, map).found();
 }
 
 }  // namespace awizo

@@ -8,6 +8,6 @@ namespace awizo {
 
 /// What is wrong among the packages of a despatch advice: serials that occur twice, references that
 /// name no package, serial numbers that the package dialog would refuse.
-std::vector<Finding> packageFindings(const DocumentMap& map);
+std::vector<Finding> packageFindings(XmlDocument& document, const DocumentMap& map);
 
 }  // namespace awizo
