@@ -5,7 +5,7 @@
 #include <QWheelEvent>
 
 #include "form_window.h"
-#include "hosts/desktop/faces/proposals.h"
+#include "hosts/desktop/faces/proposals_model.h"
 #include "platform/forms/button.h"
 #include "platform/forms/drop_down_list.h"
 
@@ -203,13 +203,13 @@ TEST_F(ListOnDesktop, AListOfAllProductsOpensAndProposesFewRows) {
                           "Товар № 32761", "Товар № 32762", "Товар № 32763", "Товар № 32764",
                           "Товар № 32765", "Товар № 32766"));
   press(Qt::Key_Backspace);
-  EXPECT_EQ(proposed().size(), static_cast<std::size_t>(desktop::Proposals::most));
+  EXPECT_EQ(proposed().size(), static_cast<std::size_t>(Proposals::most));
 }
 
 class ProposalsTest : public FormWindow {
  protected:
   DropDownList list{form, "list"};
-  desktop::Proposals proposals{list, nullptr};
+  desktop::ProposalsModel proposals{list, nullptr};
 
   std::vector<std::string> proposed(const QString& typed) {
     proposals.propose(typed);

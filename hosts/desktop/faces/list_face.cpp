@@ -75,7 +75,7 @@ void ListFace::makeProposals() {
   QObject::disconnect(edit, &QLineEdit::editingFinished, nullptr, nullptr);
   QObject::disconnect(edit, &QLineEdit::returnPressed, nullptr, nullptr);
   box_->setCompleter(nullptr);
-  proposals_ = new Proposals(list_, this);
+  proposals_ = new ProposalsModel(list_, this);
   completer_ = new QCompleter(proposals_, this);
   completer_->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
   completer_->setMaxVisibleItems(12);

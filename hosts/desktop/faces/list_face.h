@@ -5,7 +5,7 @@
 #include <QCompleter>
 
 #include "hosts/desktop/faces/face.h"
-#include "hosts/desktop/faces/proposals.h"
+#include "hosts/desktop/faces/proposals_model.h"
 #include "platform/forms/drop_down_list.h"
 
 namespace awizo::desktop {
@@ -60,7 +60,7 @@ class ListFace : public Face {
   DropDownList& list_;
   ListBox* box_;
   ListRows* rows_;
-  Proposals* proposals_ = nullptr;
+  ProposalsModel* proposals_ = nullptr;
   QCompleter* completer_ = nullptr;
 };
 
