@@ -2,7 +2,7 @@
 #include <QPushButton>
 #include <set>
 
-#include "desk.h"
+#include "control_on_desktop.h"
 #include "hosts/desktop/faces/make_face.h"
 
 namespace awizo::test {
@@ -16,7 +16,7 @@ QSize neededSize(const QWidget& widget) {
   return widget.minimumSizeHint();
 }
 
-class CompletenessOnDesktop : public testing::Test, public Desk {
+class CompletenessOnDesktop : public testing::Test, public ControlOnDesktop {
  protected:
   std::vector<Form*> dialogs() {
     return {&control.dlgIsoCodes.touch(), &control.dlgdodajPule, &control.dlgDodaj.touch(),

@@ -2,14 +2,14 @@
 #include <QComboBox>
 #include <QListWidget>
 
-#include "desk.h"
+#include "control_on_desktop.h"
 
 namespace awizo::test {
 namespace {
 
 using ::testing::ElementsAre;
 
-class FileDialogOnDesktop : public testing::Test, public Desk {
+class FileDialogOnDesktop : public testing::Test, public ControlOnDesktop {
  protected:
   DlgWczytajZapisz& chooser = control.dlgWczytajZapisz;
 

@@ -3,14 +3,14 @@
 #include <QScrollBar>
 #include <QTableView>
 
-#include "desk.h"
+#include "control_on_desktop.h"
 #include "hosts/desktop/faces/table_face.h"
 #include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {
 
-class InTableEditorOnDesktop : public testing::Test, public Desk {
+class InTableEditorOnDesktop : public testing::Test, public ControlOnDesktop {
  protected:
   Table& table = form.grdPozycje;
   TextField& editorField = form.txtEdycja;

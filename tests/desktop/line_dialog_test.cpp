@@ -5,7 +5,7 @@
 #include <QMessageBox>
 #include <QTableView>
 
-#include "desk.h"
+#include "control_on_desktop.h"
 #include "hosts/desktop/faces/table_face.h"
 #include "tables/columns/columns.h"
 
@@ -16,7 +16,7 @@ using ::testing::ElementsAre;
 
 constexpr auto cyrillicD = static_cast<Qt::Key>(0x414);
 
-class LineDialogOnDesktop : public testing::Test, public Desk {
+class LineDialogOnDesktop : public testing::Test, public ControlOnDesktop {
  protected:
   DlgDodaj& line = control.dlgDodaj;
 

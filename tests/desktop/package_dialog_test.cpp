@@ -2,13 +2,13 @@
 #include <QComboBox>
 #include <QLineEdit>
 
-#include "desk.h"
+#include "control_on_desktop.h"
 #include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {
 
-class PackageDialogOnDesktop : public testing::Test, public Desk {
+class PackageDialogOnDesktop : public testing::Test, public ControlOnDesktop {
  protected:
   DlgSzczegoly& package = control.dlgSzczegoly;
 

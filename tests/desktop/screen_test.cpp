@@ -1,7 +1,7 @@
 #include <QApplication>
 #include <QMessageBox>
 
-#include "desk.h"
+#include "control_on_desktop.h"
 #include "hosts/desktop/screen/desktop_screen_face.h"
 #include "hosts/desktop/screen/message_box.h"
 
@@ -10,7 +10,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-class ScreenOnDesktop : public testing::Test, public Desk {
+class ScreenOnDesktop : public testing::Test, public ControlOnDesktop {
  protected:
   Answer ask(MessageBox box) { return control.screen.messageBox(std::move(box)); }
 };

@@ -9,8 +9,8 @@
 namespace awizo {
 namespace {
 
-/// A column that the line check looks at, as the user calls it.
-std::string_view nameOfChecked(int column) {
+/// A column of a number, as the user calls it.
+std::string_view nameOfNumber(int column) {
   switch (column) {
     case GRD_POZ_EAN:
       return "EAN";
@@ -23,7 +23,7 @@ std::string_view nameOfChecked(int column) {
     case GRD_POZ_NET_AMOUNT:
       return "сумма";
     default:
-      return "таможенный номер";
+      return lineColumns[static_cast<std::size_t>(column)].heading;
   }
 }
 
@@ -41,7 +41,7 @@ void LineFindings::add(const XmlNode& line, std::int16_t row) {
 }
 
 void LineFindings::addFailure(const XmlNode& line, std::int16_t row, int column) {
-  const std::string name(nameOfChecked(column));
+  const std::string name(nameOfNumber(column));
   const std::string& value = lineRow(editor_, row).cell(column);
   const std::string text =
       "строка не пройдёт проверку: " +

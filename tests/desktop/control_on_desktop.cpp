@@ -1,4 +1,4 @@
-#include "desk.h"
+#include "control_on_desktop.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -16,11 +16,11 @@ constexpr int patienceMilliseconds = 10000;
 
 }  // namespace
 
-Desk::Desk(std::string_view localeName)
+ControlOnDesktop::ControlOnDesktop(std::string_view localeName)
     : TestSurroundings(localeName),
-      deskPlatform(platformWith({.screenFace = &desktop})),
-      session(deskPlatform),
-      control(deskPlatform, session) {
+      desktopPlatform(platformWith({.screenFace = &desktop})),
+      session(desktopPlatform),
+      control(desktopPlatform, session) {
   settings.values["VIRD\\VirdActiveX\\OffLinePath"] = "c:\\VIRD";
   files.put("c:\\VIRD\\userinfo.xml", projectFile("demo/folder/userinfo.xml"));
   files.put("c:\\VIRD\\9520001000010_9520002000019_partner_INFO.xml",
@@ -55,30 +55,30 @@ Desk::Desk(std::string_view localeName)
   settle();
 }
 
-Desk::~Desk() {
+ControlOnDesktop::~ControlOnDesktop() {
   desktop.releaseDialogs();
   delete mainFaces;
 }
 
-desktop::Face& Desk::face(const Control& shown) {
+desktop::Face& ControlOnDesktop::face(const Control& shown) {
   if (&shown.form() == &form) return mainFaces->face(shown);
   return desktop.dialog(shown.form()).faces().face(shown);
 }
 
-void Desk::tabTo(const Control& wanted) {
+void ControlOnDesktop::tabTo(const Control& wanted) {
   const std::size_t most = wanted.form().controls().size();
   for (std::size_t i = 0; i < most && wanted.form().focus() != &wanted; ++i) press(Qt::Key_Tab);
   EXPECT_EQ(wanted.form().focus(), &wanted) << "Tab doesn't lead to " << wanted.name();
 }
 
-testing::AssertionResult Desk::keysGoTo(const Control& shown) {
+testing::AssertionResult ControlOnDesktop::keysGoTo(const Control& shown) {
   const QWidget* there = keyTarget();
   if (there == face(shown).focusWidget()) return testing::AssertionSuccess();
   return testing::AssertionFailure()
          << "they go to " << (there == nullptr ? "none" : desktop::toText(there->objectName()));
 }
 
-void Desk::loadCatalogues() {
+void ControlOnDesktop::loadCatalogues() {
   ASSERT_TRUE(session.ProductCatalogDom->loadText(projectFile("demo/data/catalogue.xml")));
   session.ProductCatalogLoaded = true;
   std::string places = projectFile("demo/data/delivery-places.xml");
@@ -89,7 +89,7 @@ void Desk::loadCatalogues() {
   session.LocalizationsLoaded = true;
 }
 
-void Desk::fillDocument() {
+void ControlOnDesktop::fillDocument() {
   TestEditor::fill(form.grdPozycje,
                    {{"1", "9520001010026", "Молоко пастеризованное 3,2 %, 0,9 л", "5,000", "5,000"},
                     {"2", "4600000000024", "Кефир 1 % 0,5 л", "12,000", "10,000"}});

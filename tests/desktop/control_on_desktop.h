@@ -13,10 +13,10 @@ namespace awizo::test {
 
 /// A control that has started off line, its main form in a plain window and its dialogs in theirs,
 /// with a user in front of it.
-class Desk : public TestSurroundings {
+class ControlOnDesktop : public TestSurroundings {
  public:
-  explicit Desk(std::string_view localeName = "ru_RU");
-  ~Desk();
+  explicit ControlOnDesktop(std::string_view localeName = "ru_RU");
+  ~ControlOnDesktop();
 
   /// Catalogues of the demo, as a start on line would have read them.
   void loadCatalogues();
@@ -33,7 +33,7 @@ class Desk : public TestSurroundings {
   testing::AssertionResult keysGoTo(const Control& shown);
 
   desktop::DesktopScreenFace desktop;
-  Platform deskPlatform;
+  Platform desktopPlatform;
   SessionState session;
   AwizoWysylki control;
   AwizoForm& form = control.form;
