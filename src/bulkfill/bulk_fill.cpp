@@ -15,13 +15,17 @@ namespace {
 
 bool isBlank(std::string_view cell) { return cell.empty() || cell == "-1"; }
 
-/// Runs `fill` for every line whose cell is to be written.
+/// Runs `fill` for every line whose cell is to be written, and says how many they were.
 template <class Fill>
 void forLinesToFill(Editor& editor, int column, bool overwrite, Fill fill) {
+  Deed deed{Deed::Kind::filled};
   for (int row = 1; row <= editor.session.LineCount; ++row) {
     const Row line = lineRow(editor, row);
-    if (overwrite || isBlank(line.cell(column))) fill(line);
+    if (!overwrite && !isBlank(line.cell(column))) continue;
+    fill(line);
+    ++deed.lines;
   }
+  editor.form.deeds.tell(deed);
 }
 
 /// "(PL)Польша" of a two-letter code; the bare code where the table doesn't know it.

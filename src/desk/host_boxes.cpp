@@ -9,13 +9,6 @@ constexpr const char* title = "VIRD";
 
 }  // namespace
 
-MessageBox lossQuestion() {
-  return {
-      "Документ не отправлен и не сохранён после изменений.\r\n"
-      "Закрыть его без сохранения?",
-      title, BoxIcon::question, BoxButtons::yesNo};
-}
-
 MessageBox folderRequest() {
   return {
       "Для работы нужна папка с файлами вашей фирмы.\r\n\r\n"

@@ -8,8 +8,6 @@ namespace awizo {
 
 // Questions and messages of a host, in addition to the control's.
 
-/// Asked before a changed document is lost; Yes lets it go.
-MessageBox lossQuestion();
 /// Shown where there is no local folder yet; the choice of one follows.
 MessageBox folderRequest();
 /// Asked before the first exchange with this place; Yes trusts it.

@@ -6,6 +6,7 @@
 namespace awizo::words {
 
 inline constexpr std::string_view windowTitle = "Подтверждение отгрузки";
+inline constexpr std::string_view boxTitle = "VIRD";
 inline constexpr std::string_view guideTitle = "Руководство пользователя";
 inline constexpr std::string_view noGuide = "Руководство не установлено.";
 

@@ -35,7 +35,7 @@ void saveDocument(Editor& editor, DlgWczytajZapisz& dialog) {
     const std::unique_ptr<XmlDocument> document = MakeDesAdv(editor);
     if (document) {
       editor.platform.files.replace(path, document->fileBytes());
-      form.documentKept();
+      form.deeds.tell({Deed::Kind::saved, path});
     }
   }
   form.setEnabled(true);

@@ -3,6 +3,7 @@
 #include <exception>
 #include <new>
 
+#include "platform/at_exit.h"
 #include "platform/text.h"
 
 namespace awizo {
@@ -34,6 +35,23 @@ HttpRequest& made(const std::unique_ptr<HttpRequest>& request) {
   return *request;
 }
 
+/// Whether the request never left this machine, or not to where it should go.
+bool reachedNobody(const RunTimeError& error) {
+  return error.number() == errors::hostNotFound().number() ||
+         error.number() == errors::badCertificate().number();
+}
+
+void sendRequest(SessionState& session, HttpRequest& http, XmlDocument& request) {
+  session.RequestMayHaveArrived = false;
+  try {
+    http.send(request.node().xml());
+  } catch (const RunTimeError& error) {
+    session.RequestMayHaveArrived = !reachedNobody(error);
+    throw;
+  }
+  session.RequestMayHaveArrived = true;
+}
+
 /// The reply's text; empty where it can't be read. A reply can be large, so nothing else holds it.
 std::string exchangeTexts(Work& work, std::string_view url, XmlDocument& request) {
   std::unique_ptr<HttpRequest> http;
@@ -41,7 +59,7 @@ std::string exchangeTexts(Work& work, std::string_view url, XmlDocument& request
   resumeNext(work, [&] { http = work.platform.http.createRequest(); });
   resumeNext(work, [&] { made(http).open("POST", url); });
   resumeNext(work, [&] { made(http).setHeader("Cookie", work.session.SessionCookie); });
-  resumeNext(work, [&] { made(http).send(request.node().xml()); });
+  resumeNext(work, [&] { sendRequest(work.session, made(http), request); });
   resumeNext(work, [&] { reply = made(http).responseText(); });
   return reply;
 }
@@ -102,6 +120,8 @@ std::string_view wordsOf(Exchange exchange) {
 
 std::unique_ptr<XmlDocument> runExchange(Work& work, Exchange exchange, std::string_view url,
                                          XmlDocument& request) {
+  work.session.RunningExchange = exchange;
+  const AtExit end([&] { work.session.RunningExchange.reset(); });
   std::unique_ptr<XmlDocument> response;
   work.screen().during(wordsOf(exchange),
                        [&] { response = SendXMLDOMRequest(work, url, request); });

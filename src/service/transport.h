@@ -20,13 +20,11 @@ std::string GetNodeValue(const XmlNode& node, std::string_view xpath, bool blank
 std::unique_ptr<XmlDocument> SendXMLDOMRequest(Work& work, std::string_view url,
                                                XmlDocument& request);
 
-/// What the control and the service exchange.
-enum class Exchange { partnerInfo, productCatalogue, deliveryPlaces, order, sending };
-
 /// What the user is shown while it runs.
 std::string_view wordsOf(Exchange exchange);
 
-/// SendXMLDOMRequest for one exchange, which is shown to the user while it runs.
+/// SendXMLDOMRequest for one exchange, which is the session's RunningExchange while it runs and is
+/// shown to the user.
 std::unique_ptr<XmlDocument> runExchange(Work& work, Exchange exchange, std::string_view url,
                                          XmlDocument& request);
 

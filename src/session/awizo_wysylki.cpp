@@ -29,7 +29,9 @@ AwizoWysylki::AwizoWysylki(const Platform& platform, SessionState& session)
       dlgSzczegoly(editor),
       dlgWczytajZapisz(screen, platform.files, platform.settings, session) {
   connectEvents();
-  form.onDocumentKept = [this] { keepDocument(); };
+  form.deeds.add([this](const Deed& deed) {
+    if (deed.keepsDocument()) keepDocument();
+  });
 }
 
 void AwizoWysylki::setOnLine(std::string_view value) {

@@ -141,6 +141,9 @@ std::string_view startOnLine(Editor& editor) {
   if (auto order = fetchOrder(editor)) {
     Wczytaj_Zamowienie(editor, order);
     checkLinesWaiting(editor);
+    editor.form.deeds.tell({Deed::Kind::ordered});
+  } else {
+    editor.form.deeds.tell({Deed::Kind::noOrder});
   }
   return "";
 }

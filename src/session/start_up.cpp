@@ -66,6 +66,7 @@ void UserControl_Show(Editor& editor, DlgDodaj& lineDialog) {
     if (const std::string_view refusal = start(editor); !refusal.empty()) {
       editor.screen().showCritical(refusal, "VIRD");
       editor.form.setEnabled(false);
+      editor.form.deeds.tell({Deed::Kind::refused, std::string(refusal)});
       return;
     }
     SetHeader(editor);

@@ -1,8 +1,10 @@
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QMessageBox>
 #include <QTimer>
+#include <filesystem>
 
 #include "desktop_program/program_test.h"
 #include "tables/columns/columns.h"
@@ -11,8 +13,17 @@ namespace awizo::test {
 namespace {
 
 constexpr const char* question =
-    "question|VIRD|Документ не отправлен и не сохранён после изменений.\n"
-    "Закрыть его без сохранения?|&Да,&Нет";
+    "question|VIRD|Документ ТН-1 не отправлен и не сохранён после изменений.\n"
+    "В сохранённом файле не остаётся, что в какой упаковке лежит: после открытия товар упаковывают "
+    "заново.|&Сохранить…,&Не сохранять,&Отмена";
+
+/// Answers the box that is open by its button of this caption.
+void answerOpen(const QString& words) {
+  for (QAbstractButton* button : openBox()->buttons()) {
+    if (button->text() == words) return click(button);
+  }
+  ADD_FAILURE() << "no such button: " << words.toStdString();
+}
 
 class ClosingTest : public ProgramTest {
  protected:
@@ -31,13 +42,60 @@ TEST_F(ClosingTest, AChangedDocumentIsAskedAbout) {
   open(offLineOptions());
   type("ТН-1");
   std::string asked;
-  answerNext("&Нет", &asked);
+  answerNext("&Отмена", &asked);
   window().close();
   EXPECT_EQ(asked, question);
   EXPECT_FALSE(isClosed());
   EXPECT_EQ(form().txtNrAwiza.text(), "ТН-1");
-  answerNext("&Да");
+  answerNext("&Не сохранять");
   window().close();
+  EXPECT_TRUE(isClosed());
+}
+
+TEST_F(ClosingTest, NeitherEnterNorEscapeLosesAChangedDocument) {
+  open(offLineOptions());
+  type("ТН-1");
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+    int boxes = 0;
+    then([&] {
+      ++boxes;
+      EXPECT_NE(openBox(), nullptr);
+      press(key);
+    });
+    window().close();
+    EXPECT_EQ(boxes, 1);
+    EXPECT_FALSE(isClosed());
+  }
+  EXPECT_EQ(form().txtNrAwiza.text(), "ТН-1");
+}
+
+TEST_F(ClosingTest, SavesByTheControlsOwnRoadAndThenCloses) {
+  open(offLineOptions());
+  type("ТН-1");
+  form().txtNrZam.userType("ЗК-1");
+  form().txtCodeByBuyer.userType("417");
+  const std::string file = (place.folder() / "kept.xml").string();
+  std::vector<std::string> boxes;
+  const auto nameFile = [&] {
+    DlgWczytajZapisz& dialog = control().dlgWczytajZapisz;
+    dialog.txtAwizoPlik.userType(file);
+    dialog.ImageZapisz.userClick();
+  };
+  const auto sendUnpacked = [&] {
+    boxes.push_back(seen(*openBox()));
+    then(nameFile);
+    press(Qt::Key_Return);
+  };
+  then([&] {
+    boxes.push_back(seen(*openBox()));
+    then(sendUnpacked);
+    answerOpen("&Сохранить…");
+  });
+  const std::vector<std::string> others = answerWithEnter([&] { window().close(); });
+  EXPECT_THAT(others, ::testing::IsEmpty());
+  ASSERT_EQ(boxes.size(), 2U);
+  EXPECT_EQ(boxes.front(), question);
+  EXPECT_TRUE(std::filesystem::exists(place.folder() / "kept.xml"));
   EXPECT_TRUE(isClosed());
 }
 
@@ -53,10 +111,12 @@ TEST_F(ClosingTest, AnOrderThatWasHandedOutForGoodIsAskedAbout) {
   const DemoService service(place.posted());
   agreeTo(service);
   open(onLineOptions(service));
-  answerNext("&Нет");
+  std::string asked;
+  answerNext("&Отмена", &asked);
   window().close();
+  EXPECT_NE(asked.find("Заказ ЗК-2026/1147 служба выдала и второй раз не выдаст."), asked.npos);
   EXPECT_FALSE(isClosed());
-  form().documentKept();
+  form().deeds.tell({Deed::Kind::sent});
   window().close();
   EXPECT_TRUE(isClosed());
 }
@@ -102,33 +162,107 @@ TEST_F(ClosingTest, AnExchangeThatRunsIsCutOffWithoutABox) {
   EXPECT_FALSE(widget().isWorking());
 }
 
-TEST_F(ClosingTest, ASendingIsCutOffWhenTheUserLetsTheDocumentGo) {
+/// While the exchange of these words runs, the user closes the window.
+class ClosingWhileWorking : public ClosingTest {
+ protected:
+  static constexpr const char* fetching = "Получение заказа…";
+  static constexpr const char* sending = "Отправка документа…";
+
+  /// Calls `act` each time the event loop of the exchange turns.
+  void whileWorking(const char* words, const std::function<void()>& act) {
+    QObject::connect(&look_, &QTimer::timeout, [this, words, act] {
+      if (widget().waiting().lasts() && widget().waiting().text() == words) act();
+    });
+    look_.start(10);
+  }
+  static QMessageBox* question() {
+    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  }
+  void stopLooking() { look_.stop(); }
+
+ private:
+  QTimer look_;
+};
+
+TEST_F(ClosingWhileWorking, AnOrderThatComesIsAskedAboutAndASecondClosingCloses) {
+  const DemoService service(place.posted(), {"--fault", "order=slow:20000"});
+  agreeTo(service);
+  show(onLineOptions(service));
+  std::vector<std::string> seenBoxes;
+  whileWorking(fetching, [&] {
+    if (question() != nullptr && seenBoxes.empty()) seenBoxes.push_back(seen(*question()));
+    window().close();
+  });
+  waitForClosing();
+  EXPECT_THAT(seenBoxes,
+              ::testing::ElementsAre("question|VIRD|Служба выдаёт заказ. Если закрыть окно сейчас, "
+                                     "заказ может пропасть: второй раз его не выдадут.|&Подождать,"
+                                     "&Закрыть сейчас"));
+  EXPECT_FALSE(widget().isWorking());
+}
+
+TEST_F(ClosingWhileWorking, TheUserMayCloseAtOnce) {
+  const DemoService service(place.posted(), {"--fault", "order=slow:20000"});
+  agreeTo(service);
+  show(onLineOptions(service));
+  whileWorking(fetching, [&] {
+    if (question() == nullptr) return static_cast<void>(window().close());
+    stopLooking();
+    answerOpen("&Закрыть сейчас");
+  });
+  waitForClosing();
+  EXPECT_FALSE(widget().isWorking());
+}
+
+TEST_F(ClosingWhileWorking, TheUserMayWaitAndTheOrderComes) {
+  const DemoService service(place.posted(), {"--fault", "order=slow:1500"});
+  agreeTo(service);
+  show(onLineOptions(service));
+  bool asked = false;
+  whileWorking(fetching, [&] {
+    if (question() == nullptr) return static_cast<void>(window().close());
+    asked = true;
+    stopLooking();
+    press(Qt::Key_Return);
+  });
+  waitForStart();
+  EXPECT_TRUE(asked);
+  EXPECT_FALSE(isClosed());
+  EXPECT_EQ(form().txtNrZam.text(), "ЗК-2026/1147");
+}
+
+TEST_F(ClosingWhileWorking, AQuestionThatNobodyAnswersGoesWithTheWork) {
+  const DemoService service(place.posted(), {"--fault", "order=slow:1000"});
+  agreeTo(service);
+  show(onLineOptions(service));
+  whileWorking(fetching, [&] {
+    stopLooking();
+    window().close();
+  });
+  waitForStart();
+  EXPECT_EQ(question(), nullptr);
+  EXPECT_FALSE(isClosed());
+  EXPECT_EQ(form().txtNrZam.text(), "ЗК-2026/1147");
+}
+
+TEST_F(ClosingWhileWorking, ASendingIsCutOffWhenTheUserClosesAllTheSame) {
   DemoService service(place.posted());
   agreeTo(service);
   open(onLineOptions(service));
   form().txtNrAwiza.userType("1");
   form().txtCodeByBuyer.userType("417");
   service.setFaults("upload=slow:20000");
-  QTimer look;
-  std::vector<std::string> boxes;
-  const auto acceptNext = [&boxes] {
-    then([&boxes] {
-      boxes.push_back(seen(*openBox()));
-      press(Qt::Key_Return);
-    });
-  };
-  QObject::connect(&look, &QTimer::timeout, [&] {
-    if (!widget().waiting().lasts()) return;
-    look.stop();
-    acceptNext();
-    window().close();
+  std::string asked;
+  whileWorking(sending, [&] {
+    if (question() == nullptr) return static_cast<void>(window().close());
+    asked = seen(*question());
+    stopLooking();
+    answerOpen("&Закрыть сейчас");
   });
-  acceptNext();
-  look.start(10);
+  then([] { press(Qt::Key_Return); });
   press(Qt::Key_F9);
   waitForClosing();
-  ASSERT_EQ(boxes.size(), 2u) << "no box tells of the exchange that was cut off";
-  EXPECT_EQ(boxes.back(), question);
+  EXPECT_NE(asked.find("Документ отправляется."), asked.npos);
   EXPECT_FALSE(widget().isWorking());
 }
 
@@ -158,7 +292,7 @@ TEST_F(ClosingTest, WhatStandsInTheOpenInTableEditorIsAskedAbout) {
   const DemoService service(place.posted());
   agreeTo(service);
   open(onLineOptions(service));
-  form().documentKept();
+  form().deeds.tell({Deed::Kind::sent});
   tabTo(form().grdPozycje);
   form().grdPozycje.userCell(1, GRD_POZ_QTY_DESPATCHED);
   press(Qt::Key_Return);
@@ -166,10 +300,75 @@ TEST_F(ClosingTest, WhatStandsInTheOpenInTableEditorIsAskedAbout) {
   press(Qt::Key_A, Qt::ControlModifier);
   type("5");
   std::string asked;
-  answerNext("&Нет", &asked);
+  answerNext("&Отмена", &asked);
   window().close();
-  EXPECT_EQ(asked, question);
+  EXPECT_NE(asked.find("не отправлен и не сохранён после изменений"), asked.npos);
   EXPECT_FALSE(isClosed());
+}
+
+/// A user at unsent work, by the window's own commands.
+class WaysOutTest : public ProgramTest {
+ protected:
+  void work() {
+    open(offLineOptions());
+    type("ТН-1");
+    control().form.btnWczytaj.onClick = [this] { ++opened_; };
+  }
+  /// The box that the act brings, answered by Enter.
+  std::string boxOf(const std::function<void()>& act) {
+    const std::vector<std::string> boxes = answerWithEnter(act);
+    EXPECT_EQ(boxes.size(), 1U);
+    return boxes.empty() ? "" : boxes.front();
+  }
+  int opened_ = 0;
+};
+
+TEST_F(WaysOutTest, AreAskedAboutByKeyMenuAndButton) {
+  work();
+  const std::vector<std::function<void()>> ways = {
+      [] { press(Qt::Key_O, Qt::ControlModifier); },
+      [this] { commands().action(form().btnWczytaj)->trigger(); },
+      [this] { click(face(form().btnWczytaj)); }, [this] { window().startAgain(); }};
+  for (const auto& way : ways) {
+    EXPECT_NE(boxOf(way).find("Документ ТН-1 не отправлен"), std::string::npos);
+  }
+  EXPECT_EQ(opened_, 0);
+  EXPECT_EQ(form().txtNrAwiza.text(), "ТН-1");
+  answerNext("&Не сохранять");
+  press(Qt::Key_O, Qt::ControlModifier);
+  EXPECT_EQ(opened_, 1);
+}
+
+TEST_F(WaysOutTest, AScriptsActsGoToTheControlUnasked) {
+  work();
+  form().btnWczytaj.userClick();
+  EXPECT_EQ(opened_, 1);
+}
+
+TEST_F(WaysOutTest, TitleAndStatusSayHowTheDocumentStands) {
+  work();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window().windowTitle() == "ТН-1 *"; }));
+  form().deeds.tell({Deed::Kind::saved, "c:\\ТН-1.xml"});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window().windowTitle() == "ТН-1"; }));
+  EXPECT_EQ(shownText(widget().findChild<QWidget*>("lblStanding")),
+            "Сохранено в 10:15: c:\\ТН-1.xml");
+}
+
+TEST_F(WaysOutTest, ADocumentThatMayHaveArrivedIsAskedAboutBeforeItGoesAgain) {
+  const DemoService service(place.posted());
+  agreeTo(service);
+  open(onLineOptions(service));
+  int sendings = 0;
+  form().btnPrzeslij.onClick = [&] { ++sendings; };
+  press(Qt::Key_F9);
+  EXPECT_EQ(sendings, 1);
+  form().deeds.tell({Deed::Kind::unanswered});
+  const std::string asked = boxOf([] { press(Qt::Key_F9); });
+  EXPECT_NE(asked.find("он мог дойти"), asked.npos);
+  EXPECT_EQ(sendings, 1);
+  answerNext("Отправить &ещё раз");
+  click(face(form().btnPrzeslij));
+  EXPECT_EQ(sendings, 2);
 }
 
 }  // namespace

@@ -108,10 +108,12 @@ TEST_F(Saving, WritesTheDocumentToTheFileThatTheUserNames) {
 
 TEST_F(Saving, TellsTheHostWhatIsKeptOnceItIs) {
   int kept = 0;
-  form.onDocumentKept = [&] {
+  form.deeds.add([&](const Deed& deed) {
     ++kept;
+    EXPECT_EQ(deed.kind, Deed::Kind::saved);
+    EXPECT_EQ(deed.text, "c:\\out\\new.xml");
     EXPECT_TRUE(test.files.has("c:\\out\\new.xml"));
-  };
+  });
   save("c:\\nowhere\\new.xml");
   EXPECT_EQ(kept, 0);
   save("c:\\out\\new.xml");

@@ -57,10 +57,8 @@ RandomUser::RandomUser(Dice& dice, const Beginning& beginning)
     : dice_(dice), desk_(beginning.localeName), withOutages_(beginning.outages) {
   prepare(beginning);
   desk_.start();
-  desk_.form.onDocumentKept = [this, kept = desk_.form.onDocumentKept] {
-    kept();
-    documentKept_ = true;
-  };
+  desk_.form.deeds.add(
+      [this](const Deed& deed) { documentKept_ = documentKept_ || deed.keepsDocument(); });
   desk_.files.putFolder("c:\\docs");
   desk_.form.comboStawkaVAT.setVisible(dice.percent(50));
   desk_.form.btnUzupelnij.setVisible(desk_.form.comboStawkaVAT.visible());

@@ -108,10 +108,12 @@ TEST_F(ReadingTheHeader, ADocumentFromAFileIsNoAnswerToAnOrder) {
 
 TEST_F(ReadingTheHeader, TheHostIsToldThatTheDocumentIsKept) {
   int kept = 0;
-  form.onDocumentKept = [&] {
+  form.deeds.add([&](const Deed& deed) {
     ++kept;
+    EXPECT_EQ(deed.kind, Deed::Kind::read);
+    EXPECT_EQ(deed.text, session.LastFilePath);
     EXPECT_EQ(session.LineCount, 1);
-  };
+  });
   closeNextForm();
   form.btnWczytaj.userClick();
   EXPECT_EQ(kept, 0);

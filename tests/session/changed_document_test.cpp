@@ -36,7 +36,7 @@ TEST_F(ChangedDocument, IsOneThatTheUserChangedAndDidNotChangeBack) {
 
 TEST_F(ChangedDocument, IsNoneForWhichCellIsCurrent) {
   startWithOrder();
-  form.documentKept();
+  form.deeds.tell({Deed::Kind::sent});
   form.grdPozycje.userCell(1, GRD_POZ_NAME);
   form.grdPozycje.setColumnWidth(GRD_POZ_NAME, 300);
   EXPECT_FALSE(changed());
@@ -45,7 +45,7 @@ TEST_F(ChangedDocument, IsNoneForWhichCellIsCurrent) {
 TEST_F(ChangedDocument, IsAnOrderThatWasHandedOutForGood) {
   startWithOrder();
   EXPECT_TRUE(changed());
-  form.documentKept();
+  form.deeds.tell({Deed::Kind::sent});
   EXPECT_FALSE(changed());
   form.grdPozycje.setCell(1, GRD_POZ_QTY_DESPATCHED, "3");
   EXPECT_TRUE(changed());
@@ -53,7 +53,7 @@ TEST_F(ChangedDocument, IsAnOrderThatWasHandedOutForGood) {
 
 TEST_F(ChangedDocument, IsOneWithAnotherTextInTheOpenEditor) {
   startWithOrder();
-  form.documentKept();
+  form.deeds.tell({Deed::Kind::sent});
   form.grdPozycje.userCell(1, GRD_POZ_QTY_DESPATCHED);
   form.txtEdycja.setVisible(true);
   form.txtEdycja.setText(form.grdPozycje.text());

@@ -19,6 +19,7 @@ class FakeHttpRequest : public HttpRequest {
   void send(std::string_view body) override {
     request_.body = body;
     http_.sent.push_back(request_);
+    if (http_.whileSending) http_.whileSending();
     if (http_.answers_.empty()) throw errors::hostNotFound();
     FakeHttp::ScriptedAnswer answer = std::move(http_.answers_.front());
     http_.answers_.pop_front();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -33,6 +34,9 @@ class FakeHttp : public Http {
   void failOpening(const RunTimeError& error) { openError_ = error; }
   /// From now on no request can be made at all.
   void failCreating(const RunTimeError& error) { createError_ = error; }
+
+  /// Runs while each request is under way. May be empty.
+  std::function<void()> whileSending;
 
   /// Every request that was sent, the failed ones included.
   std::vector<SentRequest> sent;

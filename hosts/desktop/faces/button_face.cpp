@@ -6,6 +6,7 @@
 #include <QShortcutEvent>
 #include <QToolButton>
 
+#include "hosts/desktop/faces/form_face.h"
 #include "hosts/desktop/faces/icons.h"
 #include "hosts/desktop/faces/key_codes.h"
 
@@ -74,6 +75,7 @@ void ButtonFace::showContent() {
 }
 
 void ButtonFace::press(const std::function<void()>& press) {
+  if (!form().lets(button_)) return;
   if (beforePress) beforePress();
   act(press);
 }

@@ -47,6 +47,8 @@ class FormFace : public QObject {
   void followFocus();
   /// Called when the model's form changes caption or is shown or hidden.
   std::function<void(const Change&)> onChange;
+  /// Asked before the user presses a button; while the answer is no, nothing happens. May be empty.
+  std::function<bool(const Button&)> mayPress;
   /// Called after a control was shown, hidden, enabled or disabled.
   Observers<Face&> onStateShown;
 
@@ -57,6 +59,8 @@ class FormFace : public QObject {
   /// Runs a user's action; answers whether the model took it. Within code that moves Qt's own
   /// state no action begins.
   bool act(const std::function<void()>& action);
+  /// Whether the host lets the user press the button.
+  bool lets(const Button& button) const { return !mayPress || mayPress(button); }
   /// The user moves the focus to the face, which may refuse; answers whether it is there now.
   bool moveFocusTo(Face& face);
   /// Qt's focus has come to the face's widget.

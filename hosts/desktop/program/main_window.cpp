@@ -6,12 +6,15 @@
 #include <QScrollArea>
 #include <QTimer>
 
+#include "desk/document_watch.h"
 #include "desk/host_boxes.h"
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/icons.h"
 #include "hosts/desktop/program/addresses.h"
 #include "hosts/desktop/program/guide.h"
 #include "hosts/desktop/window/commands.h"
+#include "hosts/desktop/window/waiting.h"
+#include "platform/at_exit.h"
 #include "session/awizo_wysylki.h"
 #include "session/record/off_line_path.h"
 
@@ -41,6 +44,9 @@ void MainWindow::makeSession() {
   widget_ =
       new AwizoWysylkiWidget({*bag_, page_, *settings_, options_.locale, clock_.get(), http_});
   widget_->mayStart = [this] { return mayStart(); };
+  widget_->waiting().onEnd = [this] { askedWhileWorking_ = false; };
+  connect(widget_, &AwizoWysylkiWidget::standingChanged, this,
+          [this] { setWindowTitle(fromText(widget_->watch().title())); });
   auto* area = new QScrollArea;
   area->setFrameShape(QFrame::NoFrame);
   area->setWidgetResizable(true);
@@ -51,7 +57,7 @@ void MainWindow::makeSession() {
 }
 
 void MainWindow::startAgain() {
-  if (widget_->isWorking() || !mayLoseDocument()) return;
+  if (widget_->isWorking() || !widget_->watch().mayTake(WayOut::startAgain)) return;
   delete takeCentralWidget();
   makeSession();
 }
@@ -130,19 +136,28 @@ bool MainWindow::agreesToAddresses() {
   return true;
 }
 
-bool MainWindow::mayLoseDocument() {
-  if (!widget_->isDocumentChanged()) return true;
-  return widget_->ask(lossQuestion()) == Answer::yes;
+bool MainWindow::mayCloseNow() {
+  if (const auto question = widget_->watch().questionWhileWorking()) {
+    if (askedWhileWorking_) return true;
+    askWhileWorking(*question);
+    return false;
+  }
+  // A second close while the question stands leaves it to the question.
+  if (asking_) return false;
+  asking_ = true;
+  const AtExit asked([this] { asking_ = false; });
+  return widget_->watch().mayTake(WayOut::close);
+}
+
+void MainWindow::askWhileWorking(const Question& question) {
+  askedWhileWorking_ = true;
+  widget_->askWhileWorking(question, [this](Choice choice) {
+    if (choice == Choice::leave) close();
+  });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  if (!mayClose_) {
-    // A second close while the question is open leaves it to the question.
-    if (asking_) return event->ignore();
-    asking_ = true;
-    mayClose_ = mayLoseDocument();
-    asking_ = false;
-  }
+  mayClose_ = mayClose_ || mayCloseNow();
   if (!mayClose_) return event->ignore();
   if (!widget_->isWorking()) return event->accept();
   // What is under way ends first; each step of it runs in a call of its own.

@@ -41,8 +41,10 @@ class MainWindow : public QMainWindow {
   bool mayStart();
   bool hasFolder();
   bool agreesToAddresses();
-  /// Whether the document may go: it is kept, or the user says so.
-  bool mayLoseDocument();
+  /// Whether the window may close now. While an order comes or a document goes, the user is asked
+  /// beside the work, and a second closing closes.
+  bool mayCloseNow();
+  void askWhileWorking(const Question& question);
 
   const Options options_;
   Http* http_;
@@ -53,6 +55,7 @@ class MainWindow : public QMainWindow {
   AwizoWysylkiWidget* widget_ = nullptr;
   bool mayClose_ = false;
   bool asking_ = false;
+  bool askedWhileWorking_ = false;
 };
 
 }  // namespace awizo::desktop

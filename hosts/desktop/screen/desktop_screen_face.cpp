@@ -47,6 +47,13 @@ Answer DesktopScreenFace::ask(const MessageBox& box) {
   return answer;
 }
 
+Choice DesktopScreenFace::choose(const Question& question) {
+  QuestionBox box(question, topWindow());
+  box.exec();
+  activateTop();
+  return box.choice();
+}
+
 void DesktopScreenFace::formOpened(Form& form) {
   if (&form == mainForm_) return;
   FormDialog& window = dialog(form);

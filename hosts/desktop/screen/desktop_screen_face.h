@@ -4,6 +4,7 @@
 #include <map>
 #include <vector>
 
+#include "desk/question.h"
 #include "hosts/desktop/layouts/form_dialog.h"
 #include "platform/forms/screen_face.h"
 
@@ -26,6 +27,8 @@ class DesktopScreenFace : public ScreenFace {
   QWidget* topWindow() const;
 
   Answer ask(const MessageBox& box) override;
+  /// Asks what the control doesn't.
+  virtual Choice choose(const Question& question);
   void formOpened(Form& form) override;
   void runModal(Form& form) override;
   void cursorChanged(Cursor cursor) override;

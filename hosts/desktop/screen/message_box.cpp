@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <QStyle>
 
+#include "desk/layout_words.h"
 #include "hosts/desktop/faces/icons.h"
 #include "hosts/desktop/faces/text.h"
 #include "platform/forms/face_words.h"
@@ -27,6 +28,27 @@ QString boxText(std::string_view text) {
   lines.replace("\r\n", "\n").replace('\r', '\n');
   if (lines.size() > longestText) lines = lines.left(longestText) + u'…';
   return lines;
+}
+
+QuestionBox::QuestionBox(const awizo::Question& question, QWidget* over)
+    : QMessageBox(QMessageBox::NoIcon, fromText(words::boxTitle), boxText(question.text),
+                  QMessageBox::NoButton, over),
+      harmless_(question.harmless) {
+  showIcon(*this, question.icon);
+  setTextFormat(Qt::PlainText);
+  for (const Choice choice : question.choices) {
+    // Buttons of one role keep the order in which they came.
+    QPushButton* button = addButton(fromText(wordsOf(choice)), QMessageBox::ActionRole);
+    choices_[button] = choice;
+    if (choice != harmless_) continue;
+    setDefaultButton(button);
+    setEscapeButton(button);
+  }
+}
+
+Choice QuestionBox::choice() const {
+  const auto chosen = choices_.find(clickedButton());
+  return chosen == choices_.end() ? harmless_ : chosen->second;
 }
 
 Answer askUser(const MessageBox& box, QWidget* over) {

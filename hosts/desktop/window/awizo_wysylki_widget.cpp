@@ -1,15 +1,19 @@
 #include "hosts/desktop/window/awizo_wysylki_widget.h"
 
 #include <QLabel>
+#include <QTimer>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "adapters/curl/curl_http.h"
 #include "adapters/icu/icu_locale.h"
 #include "adapters/libxml2/libxml2.h"
 #include "adapters/posix/clocks.h"
 #include "adapters/posix/posix_files.h"
+#include "desk/document_watch.h"
 #include "hosts/common/given_host.h"
 #include "hosts/desktop/faces/form_face.h"
+#include "hosts/desktop/screen/message_box.h"
 #include "hosts/desktop/window/commands.h"
 #include "hosts/desktop/window/host_screen_face.h"
 #include "hosts/desktop/window/main_layout.h"
@@ -22,6 +26,11 @@ namespace {
 
 std::string chosenLocale(const std::string& given) {
   return given.empty() ? IcuLocale::environmentName() : given;
+}
+
+void showText(QLabel& label, const QString& text) {
+  label.setText(text);
+  label.setToolTip(text);
 }
 
 }  // namespace
@@ -60,6 +69,7 @@ struct AwizoWysylkiWidget::Parts {
                  .version = programVersion},
         session(platform),
         control(platform, session),
+        watch(control, platform.clock),
         faces(nullptr) {
     // Dates and times are written as the control writes them.
     content->setLocale(localeNamed(given.locale));
@@ -87,8 +97,9 @@ struct AwizoWysylkiWidget::Parts {
   Platform platform;
   SessionState session;
   AwizoWysylki control;
+  DocumentWatch watch;
   FormFace* faces;
-  QLabel* address = nullptr;
+  Status status;
   Commands* commands = nullptr;
 };
 
@@ -97,11 +108,18 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const Host& host, QWidget* parent)
   Parts& parts = *parts_;
   parts.control.UserControl_Initialize();
   parts.control.UserControl_ReadProperties();
-  parts.address = layOutMain(parts.control.editor, *parts.faces);
+  parts.status = layOutMain(parts.control.editor, *parts.faces);
   parts.faces->showAll();
   parts.commands = new Commands(parts.control.form, *parts.faces, *this);
   parts.faces->onStateShown.add([this](Face&) { showStates(); });
   parts.faces->onChange = [this](const Change&) { showStates(); };
+  parts.faces->mayPress = [&parts](const Button& button) { return parts.watch.mayPress(button); };
+  parts.watch.ask = [&parts](const Question& question) { return parts.face.choose(question); };
+  parts.watch.save = [&parts] { parts.commands->pressUnasked(parts.control.form.btnZapisz); };
+  parts.watch.onDeed = [this] { showStandingSoon(); };
+  for (Control* control : parts.control.form.controls()) {
+    control->observers.add([this](const Change&) { showStandingSoon(); });
+  }
 
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, 0);
@@ -170,11 +188,33 @@ void AwizoWysylkiWidget::showStates() {
   const AwizoForm& form = parts_->control.form;
   if (parts_->commands != nullptr) parts_->commands->follow();
   const QString url = form.OnLine == "Off" ? QString() : fromText(form.UploadUrl);
-  parts_->address->setText(url);
-  parts_->address->setToolTip(url);
+  showText(*parts_->status.address, url);
 }
 
-bool AwizoWysylkiWidget::isDocumentChanged() const { return parts_->control.isDocumentChanged(); }
+void AwizoWysylkiWidget::showStandingSoon() {
+  // The whole document is looked at for it, so typing doesn't ask for it at each key.
+  constexpr int milliseconds = 100;
+  if (std::exchange(standingIsDue_, true)) return;
+  QTimer::singleShot(milliseconds, this, &AwizoWysylkiWidget::showStanding);
+}
+
+void AwizoWysylkiWidget::showStanding() {
+  standingIsDue_ = false;
+  showText(*parts_->status.standing, fromText(parts_->watch.status()));
+  emit standingChanged();
+}
+
+DocumentWatch& AwizoWysylkiWidget::watch() { return parts_->watch; }
+
+void AwizoWysylkiWidget::askWhileWorking(const Question& question,
+                                         std::function<void(Choice)> chosen) {
+  auto* box = new QuestionBox(question, window());
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  connect(box, &QDialog::finished, this,
+          [box, chosen = std::move(chosen)] { chosen(box->choice()); });
+  parts_->waiting.letAnswer(box);
+  box->open();
+}
 
 void AwizoWysylkiWidget::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);

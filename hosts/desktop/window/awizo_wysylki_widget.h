@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "desk/question.h"
 #include "platform/clock.h"
 #include "platform/forms/screen_face.h"
 #include "platform/host.h"
@@ -14,7 +15,8 @@
 
 namespace awizo {
 class AwizoWysylki;
-}
+class DocumentWatch;
+}  // namespace awizo
 
 namespace awizo::desktop {
 
@@ -62,9 +64,11 @@ class AwizoWysylkiWidget : public QWidget {
   /// Starts the work, as the first showing does.
   void start();
 
-  /// Whether the document holds what was neither saved nor sent: the user's changes, or an order
-  /// that the service has handed out for good.
-  bool isDocumentChanged() const;
+  /// What becomes of the document, and the questions before it would be lost.
+  DocumentWatch& watch();
+  /// Shows a question while work goes on, and tells what the user has chosen. When the work ends
+  /// first, that is the harmless choice.
+  void askWhileWorking(const Question& question, std::function<void(Choice)> chosen);
   /// Whether an exchange runs or the user is asked something, so that the widget can't go yet.
   bool isWorking() const;
   /// Ends all work under way: exchanges are cut off, boxes and dialogs close.
@@ -83,6 +87,8 @@ class AwizoWysylkiWidget : public QWidget {
   Waiting& waiting();
 
  signals:
+  /// The title of the window that shows the document, and what was done last.
+  void standingChanged();
   void onLineChanged();
   void debugLevelChanged();
   /// The start is over, whatever came of it.
@@ -95,10 +101,14 @@ class AwizoWysylkiWidget : public QWidget {
   struct Parts;
 
   void showStates();
+  /// Shows how the document stands, once whatever changes it now is over.
+  void showStandingSoon();
+  void showStanding();
 
   std::unique_ptr<Parts> parts_;
   bool startAsked_ = false;
   bool started_ = false;
+  bool standingIsDue_ = false;
 };
 
 }  // namespace awizo::desktop

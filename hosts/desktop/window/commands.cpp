@@ -78,8 +78,17 @@ void Commands::giveKeys(const Command& command, QAction& action, QWidget& window
 
 void Commands::press(const Command& command) {
   if (Face* face = faces_.focusedFace()) face->finishTyping();
+  if (faces_.lets(*command.button)) pressUnasked(command);
+}
+
+void Commands::pressUnasked(const Command& command) {
   showRow(command);
   faces_.act([&] { command.button->userPress(); });
+}
+
+void Commands::pressUnasked(const Button& button) {
+  if (Face* face = faces_.focusedFace()) face->finishTyping();
+  pressUnasked(*entries_.at(&button).command);
 }
 
 void Commands::follow() {

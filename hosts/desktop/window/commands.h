@@ -20,6 +20,8 @@ class Commands : public QObject {
   const std::vector<CommandMenu>& menus() const { return menus_; }
   QAction* action(const Button& button) const { return entries_.at(&button).action; }
 
+  /// Presses the button as its command does, without the host's question before it.
+  void pressUnasked(const Button& button);
   /// Shows the buttons' states.
   void follow();
 
@@ -32,6 +34,7 @@ class Commands : public QObject {
   void add(const Command& command, QWidget& window);
   void giveKeys(const Command& command, QAction& action, QWidget& window);
   void press(const Command& command);
+  void pressUnasked(const Command& command);
   /// Scrolls the row that the command acts on into sight.
   void showRow(const Command& command);
 

@@ -17,6 +17,14 @@ Answer HostScreenFace::ask(const MessageBox& box) {
   return DesktopScreenFace::ask(box);
 }
 
+Choice HostScreenFace::choose(const Question& question) {
+  if (ending_) return question.harmless;
+  ++asking_;
+  const AtExit asked([this] { --asking_; });
+  const auto aside = waiting_.aside();
+  return DesktopScreenFace::choose(question);
+}
+
 void HostScreenFace::formOpened(Form& form) {
   if (!ending_) DesktopScreenFace::formOpened(form);
 }

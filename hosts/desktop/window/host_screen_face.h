@@ -8,13 +8,14 @@
 namespace awizo::desktop {
 
 /// The screen of a window that may be closed at any time: once it is told to end, boxes answer
-/// themselves with OK or No and forms hide, so that all work that waits for the user comes to its
-/// end.
+/// themselves with OK or No, questions with their harmless choice, and forms hide, so that all work
+/// that waits for the user comes to its end.
 class HostScreenFace : public DesktopScreenFace {
  public:
   explicit HostScreenFace(Waiting& waiting) : waiting_(waiting) {}
 
   Answer ask(const MessageBox& box) override;
+  Choice choose(const Question& question) override;
   void formOpened(Form& form) override;
   void runModal(Form& form) override;
   void workBegins(std::string_view what) override;

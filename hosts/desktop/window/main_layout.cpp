@@ -5,7 +5,7 @@
 
 namespace awizo::desktop {
 
-QLabel* layOutMain(Editor& editor, FormFace& faces) {
+Status layOutMain(Editor& editor, FormFace& faces) {
   AwizoForm& form = editor.form;
   auto* below = new QSplitter(Qt::Horizontal);
   below->setChildrenCollapsible(false);
@@ -27,7 +27,7 @@ QLabel* layOutMain(Editor& editor, FormFace& faces) {
   rows->addWidget(tables, 1);
   const Status status = makeStatus(form, faces);
   rows->addWidget(status.line);
-  return status.address;
+  return status;
 }
 
 }  // namespace awizo::desktop

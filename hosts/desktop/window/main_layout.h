@@ -8,9 +8,16 @@
 
 namespace awizo::desktop {
 
-/// Puts every face of the main form into the form's window. Returns the label for the address that
-/// documents are sent to, which is no control of the form.
-QLabel* layOutMain(Editor& editor, FormFace& faces);
+/// The bottom line: on-line state, address, what was done last, version. The labels are no controls
+/// of the form.
+struct Status {
+  QWidget* line = nullptr;
+  QLabel* address = nullptr;   ///< where documents are sent to
+  QLabel* standing = nullptr;  ///< what was done last
+};
+
+/// Puts every face of the main form into the form's window.
+Status layOutMain(Editor& editor, FormFace& faces);
 
 // Its parts, each one widget.
 QWidget* makeHeader(AwizoForm& form, FormFace& faces);
@@ -18,11 +25,6 @@ QWidget* makeLines(Editor& editor, FormFace& faces);
 QWidget* makePackages(AwizoForm& form, FormFace& faces);
 /// The totals, and below them the document's ways in and out.
 QWidget* makeTotals(AwizoForm& form, FormFace& faces);
-/// On-line state, address, version.
-struct Status {
-  QWidget* line;
-  QLabel* address;
-};
 Status makeStatus(AwizoForm& form, FormFace& faces);
 
 }  // namespace awizo::desktop

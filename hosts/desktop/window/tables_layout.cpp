@@ -89,6 +89,17 @@ QLayout* makeWays(AwizoForm& form, FormFace& faces) {
   return row;
 }
 
+/// A text that is cut where it is too long, and is whole in its tip.
+QLabel* makeLongText(const char* name) {
+  auto* text = new QLabel;
+  text->setObjectName(name);
+  text->setTextFormat(Qt::PlainText);
+  text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  text->setFocusPolicy(Qt::NoFocus);
+  text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  return text;
+}
+
 }  // namespace
 
 QWidget* makeLines(Editor& editor, FormFace& faces) {
@@ -155,16 +166,12 @@ Status makeStatus(AwizoForm& form, FormFace& faces) {
   QWidget* state = faces.widget(form.lblOnLineStatus);
   makeBold(*state);
   row->addWidget(state);
-  auto* address = new QLabel;
-  address->setObjectName("lblUploadUrl");
-  address->setTextFormat(Qt::PlainText);
-  address->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  address->setFocusPolicy(Qt::NoFocus);
-  // A long address is cut at the window's edge and is whole in its tip.
-  address->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  row->addWidget(address, 1);
+  QLabel* address = makeLongText("lblUploadUrl");
+  row->addWidget(address, 2);
+  QLabel* standing = makeLongText("lblStanding");
+  row->addWidget(standing, 3);
   row->addWidget(faces.widget(form.lblVersion));
-  return {line, address};
+  return {line, address, standing};
 }
 
 }  // namespace awizo::desktop

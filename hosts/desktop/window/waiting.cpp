@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace awizo::desktop {
 namespace {
@@ -94,6 +95,9 @@ void Waiting::end() {
   }
   --spans_;
   apply();
+  if (spans_ > 0) return;
+  if (answered_) answered_->close();
+  if (onEnd) onEnd();
 }
 
 void Waiting::setAside() {
@@ -140,9 +144,16 @@ void Waiting::paintNow() {
   QCoreApplication::processEvents();
 }
 
+// An event comes to the window of the system first, and then to the widget in it.
+bool Waiting::isAnswered(const QObject* watched) const {
+  if (!answered_) return false;
+  const auto* widget = qobject_cast<const QWidget*>(watched);
+  return widget != nullptr ? widget->window() == answered_ : watched == answered_->windowHandle();
+}
+
 bool Waiting::eventFilter(QObject* watched, QEvent* event) {
   if (watched == &window_ && event->type() == QEvent::Resize) place();
-  return applied_ && isInput(event->type());
+  return applied_ && isInput(event->type()) && !isAnswered(watched);
 }
 
 }  // namespace awizo::desktop

@@ -3,6 +3,8 @@
 #include <QElapsedTimer>
 #include <QFrame>
 #include <QLabel>
+#include <QPointer>
+#include <functional>
 
 #include "hosts/desktop/window/moving_bar.h"
 #include "platform/at_exit.h"
@@ -27,6 +29,12 @@ class Waiting : public QObject {
     return AtExit([this] { takeUp(); });
   }
 
+  /// Lets the user answer this window while the work goes on; it is closed when the wait ends.
+  void letAnswer(QWidget* window) { answered_ = window; }
+
+  /// Told when the wait has ended. May be empty.
+  std::function<void()> onEnd;
+
   bool lasts() const { return spans_ > 0; }
   QString text() const { return text_->text(); }
   const MovingBar& bar() const { return *bar_; }
@@ -47,7 +55,10 @@ class Waiting : public QObject {
   void place();
   void paintNow();
 
+  bool isAnswered(const QObject* watched) const;
+
   QWidget& window_;
+  QPointer<QWidget> answered_;
   QFrame* panel_;
   QLabel* text_;
   MovingBar* bar_;

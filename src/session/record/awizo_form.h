@@ -11,6 +11,7 @@
 #include "platform/forms/pickers.h"
 #include "platform/forms/table.h"
 #include "platform/forms/text_field.h"
+#include "session/record/deed.h"
 
 namespace awizo {
 
@@ -78,12 +79,8 @@ class AwizoForm : public Form {
   std::string BadColumnName;  ///< column that the line check rejected last
   bool WeightComplete = false;
 
-  /// Called when the document has been saved, sent or read from a file: as it is now, it would not
-  /// be lost.
-  Event onDocumentKept;
-  void documentKept() const {
-    if (onDocumentKept) onDocumentKept();
-  }
+  /// Called when something has become of the document.
+  Observers<const Deed&> deeds;
 
   /// The host's properties as they came; empty for one that the host doesn't have.
   std::string OnLine, DebugLevel, PartnerName, PartnerILN, PartnerURL;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,6 +10,7 @@
 #include "platform/forms/platform.h"
 #include "platform/forms/screen_face.h"
 #include "platform/xml.h"
+#include "session/record/exchange.h"
 
 namespace awizo {
 
@@ -33,6 +35,8 @@ struct SessionState {
   std::string OffLinePathValue;  ///< the local folder, classic path
   std::string DecimalSeparator;  ///< one character
   std::string SessionCookie;     ///< cookie of the host page
+  std::optional<Exchange> RunningExchange;
+  bool RequestMayHaveArrived = false;  ///< the one that was sent last
   std::unique_ptr<XmlDocument> UserInfoDom;
   std::unique_ptr<XmlDocument> PartnerInfoDom;
   std::unique_ptr<XmlDocument> LocalizationsDom;   ///< root "dictionary-response"

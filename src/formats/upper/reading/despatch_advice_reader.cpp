@@ -252,8 +252,11 @@ void btnWczytaj_Click(Editor& editor, DlgWczytajZapisz& dialog) {
     dialog.showModal();
     const std::string path = editor.session.LastFilePath;
     if (!path.empty()) {
-      readDespatchAdvice(editor, *editor.platform.xml.createDocument(), path);
-      editor.form.documentKept();
+      const ReadingOutcome outcome =
+          readDespatchAdvice(editor, *editor.platform.xml.createDocument(), path).outcome;
+      const bool isRead =
+          outcome == ReadingOutcome::complete || outcome == ReadingOutcome::incomplete;
+      editor.form.deeds.tell({isRead ? Deed::Kind::read : Deed::Kind::notRead, path});
     }
     editor.form.setEnabled(true);
     editor.form.grdPozycje.refresh();

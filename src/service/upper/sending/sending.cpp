@@ -46,6 +46,9 @@ bool maySend(Editor& editor) {
   return isConfirmed(editor.screen(), "Выслать составленный документ подтверждения отгрузки?");
 }
 
+/// The status where the reply has none.
+constexpr std::string_view noStatus = "-1";
+
 void post(Editor& editor, XmlDocument& document) {
   AwizoForm& form = editor.form;
   const auto reply = runExchange(editor, Exchange::sending, form.UploadUrl, document);
@@ -55,8 +58,12 @@ void post(Editor& editor, XmlDocument& document) {
     editor.screen().messageBox(
         {"Документ отправлен.", "VIRD", BoxIcon::information, BoxButtons::ok});
     form.LastSentNumber = form.txtNrAwiza.text();
-    form.documentKept();
+    form.deeds.tell({Deed::Kind::sent});
   } else {
+    const bool hasAnswer = status != noStatus;
+    if (!hasAnswer && editor.session.RequestMayHaveArrived) {
+      form.deeds.tell({Deed::Kind::unanswered});
+    }
     editor.screen().showCritical("Произошла ошибка:" + status, "VIRD");
   }
 }

@@ -1,0 +1,25 @@
+#include "desk/question.h"
+
+namespace awizo {
+
+std::string_view wordsOf(Choice choice) {
+  switch (choice) {
+    case Choice::save:
+      return "&Сохранить…";
+    case Choice::letGo:
+      return "&Не сохранять";
+    case Choice::goOn:
+      return "&Продолжить";
+    case Choice::wait:
+      return "&Подождать";
+    case Choice::leave:
+      return "&Закрыть сейчас";
+    case Choice::send:
+      return "Отправить &ещё раз";
+    case Choice::cancel:
+      break;
+  }
+  return "&Отмена";
+}
+
+}  // namespace awizo
