@@ -15,6 +15,19 @@ std::vector<Command> sessionCommands() {
       {.words = "&Начать сеанс заново", .icon = "again", .task = HostTask::startAgain}};
 }
 
+std::vector<Command> findCommands() {
+  return {{.words = "&Найти строку…", .task = HostTask::findLine, .keys = {withControl('F')}},
+          {.words = "Найти &ещё раз", .task = HostTask::findAgain, .keys = {key(keys::f3)}},
+          {.words = "&Что не так…", .task = HostTask::showFaults, .keys = {key(keys::f8)}}};
+}
+
+std::vector<Command> countryCommands(AwizoForm& form) {
+  return {{.words = "Страна из полного &списка…",
+           .icon = "countries",
+           .button = &form.Image2,
+           .keys = {withControl('G')}}};
+}
+
 std::vector<Command> endCommands() {
   return {{.words = "&Выход", .task = HostTask::quit, .keys = {withControl('Q')}}};
 }
@@ -93,7 +106,8 @@ std::vector<Command> packageCommands(AwizoForm& form) {
 
 std::vector<CommandMenu> commandMenus(AwizoForm& form) {
   return {{"&Документ", {documentCommands(form), sessionCommands(), endCommands()}},
-          {"&Правка", {lineCommands(form), packageCommands(form)}},
+          {"&Правка",
+           {lineCommands(form), packageCommands(form), countryCommands(form), findCommands()}},
           {"&Справка", {helpCommands()}}};
 }
 

@@ -17,7 +17,17 @@ struct CommandKey {
 };
 
 /// What a command does that no button of the form does: the host does it.
-enum class HostTask { none, chooseFolder, startAgain, quit, showGuide, showAbout };
+enum class HostTask {
+  none,
+  chooseFolder,
+  startAgain,
+  quit,
+  findLine,
+  findAgain,
+  showFaults,
+  showGuide,
+  showAbout
+};
 
 /// What the user can do to the document, for menus and keys. A command that presses a button of the
 /// form moves no focus, and is there as the button is.

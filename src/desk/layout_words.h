@@ -17,6 +17,12 @@ inline constexpr std::string_view deliveryGroup = "Доставка";
 inline constexpr std::string_view country = "Страна:";
 /// Below the table of lines where no line is the current one.
 inline constexpr std::string_view noLine = "Строка не выбрана";
+inline constexpr std::string_view noSuchLine = "Такой строки нет";
+inline constexpr std::string_view codeSoFar = "Код: ";
+inline constexpr std::string_view noSuchCode = "Нет строки с кодом ";
+
+/// Search among the lines.
+inline constexpr std::string_view whatToFind = "Номер, EAN, название или код:";
 
 // Line dialog: groups of fields, tips of the buttons beside its packages.
 inline constexpr std::string_view productGroup = "Товар";

@@ -50,8 +50,8 @@ TEST_F(CommandsTest, EachDoesOneThingAndNoTwoTheSame) {
         pressesButton ? buttons.insert(command->button).second : tasks.insert(command->task).second;
     EXPECT_TRUE(isNew) << command->words;
   }
-  EXPECT_EQ(buttons.size(), 9U);
-  EXPECT_EQ(tasks.size(), 5U);
+  EXPECT_EQ(buttons.size(), 10U);
+  EXPECT_EQ(tasks.size(), 8U);
 }
 
 TEST_F(CommandsTest, NoTwoOfAMenuShareALetterAndNoTwoOfAPlaceAKey) {

@@ -196,9 +196,18 @@ TEST_F(TableOnDesktop, KeysMoveTheCurrentCellOnce) {
   EXPECT_EQ(shownCurrent(), std::pair(1, 0));
 }
 
-TEST_F(TableOnDesktop, KeysWithControlMoveNothing) {
+TEST_F(TableOnDesktop, ControlWithHomeAndEndGoesToTheFirstAndLastRow) {
   clickCell(3, 1);
+  press(Qt::Key_End, Qt::ControlModifier);
+  EXPECT_EQ(shownCurrent(), std::pair(50, 1));
   press(Qt::Key_Home, Qt::ControlModifier);
+  EXPECT_EQ(shownCurrent(), std::pair(1, 1));
+}
+
+TEST_F(TableOnDesktop, OtherKeysWithControlMoveNothing) {
+  clickCell(3, 1);
+  press(Qt::Key_Down, Qt::ControlModifier);
+  press(Qt::Key_PageDown, Qt::ControlModifier);
   press(Qt::Key_A, Qt::ControlModifier);
   EXPECT_EQ(table.row(), 3);
   EXPECT_EQ(view()->selectionModel()->selectedIndexes().size(), 1);

@@ -1,3 +1,5 @@
+#include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 
 #include "desktop_program/program_test.h"
@@ -71,6 +73,101 @@ TEST_F(LinesTest, ThePencilAndTheBinOfThePackagesDoToo) {
     click(face(*button));
     EXPECT_TRUE(seen) << button->name();
   }
+}
+
+TEST_F(LinesTest, CtrlFGoesToALineAndF3ToTheNext) {
+  openLines();
+  then([] {
+    type("кофе 3");
+    press(Qt::Key_Return);
+  });
+  press(Qt::Key_F, Qt::ControlModifier);
+  EXPECT_EQ(table().row(), 3);
+  EXPECT_EQ(form().focus(), &table());
+  press(Qt::Key_F3);
+  EXPECT_EQ(table().row(), 30);
+  EXPECT_TRUE(isSeen(table(), 30));
+}
+
+TEST_F(LinesTest, AScannedCodeGoesToItsLine) {
+  openLines();
+  table().setCell(33, GRD_POZ_EAN, "9520001010026");
+  tabTo(table());
+  type("9520001010026");
+  EXPECT_EQ(strip(), "Код: 9520001010026");
+  press(Qt::Key_Return);
+  EXPECT_EQ(table().row(), 33);
+  EXPECT_TRUE(isSeen(table(), 33));
+  settle();
+  EXPECT_EQ(strip(), "33 · Кофе 33 · заказано 5 · отгружено 1 · упаковано 0 · осталось 1");
+  type("11111111");
+  press(Qt::Key_Return);
+  EXPECT_EQ(table().row(), 33);
+  EXPECT_EQ(strip(), "Нет строки с кодом 11111111");
+}
+
+TEST_F(LinesTest, DigitsThatAreNoCodeLeaveEnterToTheTable) {
+  openLines();
+  table().userCell(2, GRD_POZ_QTY_DESPATCHED);
+  settle();
+  type("12");
+  press(Qt::Key_Return);
+  EXPECT_TRUE(form().txtEdycja.visible());
+}
+
+TEST_F(LinesTest, CtrlHomeAndCtrlEndGoToTheFirstAndTheLastLine) {
+  openLines();
+  tabTo(table());
+  press(Qt::Key_End, Qt::ControlModifier);
+  EXPECT_EQ(table().row(), 40);
+  EXPECT_TRUE(isSeen(table(), 40));
+  press(Qt::Key_Home, Qt::ControlModifier);
+  EXPECT_EQ(table().row(), 1);
+  EXPECT_TRUE(isSeen(table(), 1));
+}
+
+TEST_F(LinesTest, CtrlCCopiesTheMarkedCells) {
+  openLines();
+  tabTo(table());
+  table().userSelect(1, GRD_POZ_NAME, 2, GRD_POZ_QTY_DESPATCHED);
+  press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), "Кофе 1\t1,000\nКофе 2\t1,000\n");
+}
+
+TEST_F(LinesTest, ADoubleClickOnAPackageEditsIt) {
+  openLines();
+  int edits = 0;
+  form().btnEdytujOpak.onClick = [&] { ++edits; };
+  const QTableView* view = widget().faces().table(form().grdOpakowania).view();
+  const QPoint cell = view->visualRect(view->model()->index(1, GRD_OPAK_DESC)).center();
+  doubleClick(view->viewport(), cell);
+  EXPECT_EQ(edits, 1);
+  EXPECT_EQ(form().grdOpakowania.row(), 2);
+}
+
+TEST_F(LinesTest, F8ListsWhatIsWrongAndEnterGoesThere) {
+  openLines();
+  for (int row = 1; row <= 40; ++row) table().setCell(row, GRD_POZ_PACKED_QTY, "1,000");
+  table().setCell(38, GRD_POZ_EAN, "ABC");
+  form().txtNrAwiza.userType("ТН-6");
+  form().txtNrZam.userType("ЗК-1");
+  std::string title;
+  then([&] {
+    title = desktop::toText(QApplication::activeModalWidget()->windowTitle());
+    press(Qt::Key_Return);
+  });
+  press(Qt::Key_F8);
+  EXPECT_EQ(title, "Что не так: 81");
+  EXPECT_EQ(table().row(), 38);
+  EXPECT_TRUE(isSeen(table(), 38));
+  EXPECT_EQ(form().focus(), &table());
+}
+
+TEST_F(LinesTest, AFaultOfTheHeaderLeadsToItsField) {
+  openLines();
+  then([] { press(Qt::Key_Return); });
+  press(Qt::Key_F8);
+  EXPECT_EQ(form().focus(), &form().txtNrAwiza);
 }
 
 }  // namespace

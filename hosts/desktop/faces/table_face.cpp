@@ -1,5 +1,7 @@
 #include "hosts/desktop/faces/table_face.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -8,6 +10,7 @@
 
 #include "hosts/desktop/faces/form_face.h"
 #include "hosts/desktop/faces/key_codes.h"
+#include "platform/forms/table_text.h"
 
 namespace awizo::desktop {
 TableFace::TableFace(FormFace& form, Table& table, QWidget* parent)
@@ -250,7 +253,26 @@ void TableFace::takeViewHeight() {
   table_.setViewHeight((table_.fixedRows() + wholeRows) * Table::normalRowHeight);
 }
 
+/// The keys that tables have everywhere else too, and the model's table doesn't know.
+bool TableFace::pressCommonKey(const QKeyEvent& key) {
+  if (key.matches(QKeySequence::Copy)) {
+    QApplication::clipboard()->setText(fromText(markedText(table_)));
+    return true;
+  }
+  const bool toStart = key.matches(QKeySequence::MoveToStartOfDocument);
+  if (!toStart && !key.matches(QKeySequence::MoveToEndOfDocument)) return false;
+  goToRow(toStart ? table_.fixedRows() : table_.rows() - 1);
+  return true;
+}
+
+void TableFace::goToRow(int row) {
+  showNow();
+  form().act([&] { table_.userRow(row); });
+  showNow();
+}
+
 bool TableFace::pressKey(QKeyEvent& key) {
+  if (pressCommonKey(key)) return true;
   const std::int16_t code = keyCodeOf(key);
   if (code == 0) return false;
   showNow();
@@ -274,7 +296,8 @@ bool TableFace::pressMouse(QMouseEvent& mouse) {
   if (cell == Cell{}) return true;
   const bool again = mouse.type() == QEvent::MouseButtonDblClick;
   if (again && cell == Cell{table_.row(), table_.column()}) {
-    form().act([&] { table_.userDoubleClick(); });
+    const bool taken = form().act([&] { table_.userDoubleClick(); });
+    if (taken && afterDoubleClick) afterDoubleClick();
   } else {
     pressed_ = cell;
   }

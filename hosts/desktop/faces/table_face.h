@@ -26,6 +26,9 @@ class TableFace : public Face {
   void showNow();
   /// Scrolls the current row into view, as its user would.
   void bringRowIntoView();
+  /// Runs after the user has double-clicked a cell, with what the table does by itself done. May
+  /// be empty.
+  std::function<void()> afterDoubleClick;
   /// What a row has to say beside its cells: see TableRows.
   void describeRows(std::function<std::string(int row)> describe);
   /// The column takes the room that the others leave.
@@ -36,6 +39,7 @@ class TableFace : public Face {
   void showChange(const Change& change) override;
   bool pressKey(QKeyEvent& key) override;
   bool pressMouse(QMouseEvent& mouse) override;
+  void goToRow(int row);
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -52,6 +56,7 @@ class TableFace : public Face {
   void relayColumn(int column);
   void showHeights();
   int markedRow() const;
+  bool pressCommonKey(const QKeyEvent& key);
   void showSelection();
   void showTop();
   void placeEditor();

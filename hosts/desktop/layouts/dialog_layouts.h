@@ -8,6 +8,8 @@ class DlgdodajPule;
 class DlgIsoCodes;
 class DlgSzczegoly;
 class DlgWczytajZapisz;
+class FaultList;
+class FindDialog;
 }  // namespace awizo
 
 namespace awizo::desktop {
@@ -18,6 +20,8 @@ void layOut(DlgdodajPule& form, FormDialog& dialog);
 void layOut(DlgIsoCodes& form, FormDialog& dialog);
 void layOut(DlgSzczegoly& form, FormDialog& dialog);
 void layOut(DlgWczytajZapisz& form, FormDialog& dialog);
+void layOut(FaultList& form, FormDialog& dialog);
+void layOut(FindDialog& form, FormDialog& dialog);
 /// Any other form: its controls one below the other in their order.
 void layOut(Form& form, FormDialog& dialog);
 

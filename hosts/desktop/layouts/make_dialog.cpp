@@ -2,6 +2,8 @@
 
 #include <QFormLayout>
 
+#include "desk/fault_list.h"
+#include "desk/find_dialog.h"
 #include "formats/file_dialog.h"
 #include "hosts/desktop/layouts/dialog_layouts.h"
 #include "linedialog/dlg_dodaj.h"
@@ -30,7 +32,8 @@ FormDialog* makeDialog(Form& form, QWidget* parent) {
   const bool known = layOutAs<DlgDodaj>(form, *dialog) || layOutAs<DlgdodajPule>(form, *dialog) ||
                      layOutAs<DlgIsoCodes>(form, *dialog) ||
                      layOutAs<DlgSzczegoly>(form, *dialog) ||
-                     layOutAs<DlgWczytajZapisz>(form, *dialog);
+                     layOutAs<DlgWczytajZapisz>(form, *dialog) ||
+                     layOutAs<FaultList>(form, *dialog) || layOutAs<FindDialog>(form, *dialog);
   if (!known) layOut(form, *dialog);
   // A widget with a new parent must be shown again.
   dialog->faces().showAll();

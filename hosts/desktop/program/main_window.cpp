@@ -13,6 +13,7 @@
 #include "hosts/desktop/program/addresses.h"
 #include "hosts/desktop/program/guide.h"
 #include "hosts/desktop/window/commands.h"
+#include "hosts/desktop/window/finder.h"
 #include "hosts/desktop/window/waiting.h"
 #include "platform/at_exit.h"
 #include "session/awizo_wysylki.h"
@@ -88,10 +89,11 @@ QAction* MainWindow::makeTask(const Command& command) {
   if (!command.icon.empty()) action->setIcon(iconNamed(fromText(command.icon)));
   for (const CommandKey& key : command.keys) action->setShortcut(keysOf(key));
   // What may take the menu away waits until it has closed.
-  const bool showsOnly = command.task == HostTask::showGuide || command.task == HostTask::showAbout;
+  const bool takesMenu = command.task == HostTask::startAgain || command.task == HostTask::quit ||
+                         command.task == HostTask::chooseFolder;
   connect(
       action, &QAction::triggered, this, [this, task = command.task] { perform(task); },
-      showsOnly ? Qt::AutoConnection : Qt::QueuedConnection);
+      takesMenu ? Qt::QueuedConnection : Qt::AutoConnection);
   return action;
 }
 
@@ -104,6 +106,12 @@ void MainWindow::perform(HostTask task) {
     case HostTask::quit:
       close();
       return;
+    case HostTask::findLine:
+      return widget_->finder().find();
+    case HostTask::findAgain:
+      return widget_->finder().findAgain();
+    case HostTask::showFaults:
+      return widget_->finder().showFaults();
     case HostTask::showGuide:
       return openGuide(*this);
     case HostTask::showAbout:

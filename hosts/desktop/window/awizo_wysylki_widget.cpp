@@ -15,6 +15,7 @@
 #include "hosts/desktop/faces/form_face.h"
 #include "hosts/desktop/screen/message_box.h"
 #include "hosts/desktop/window/commands.h"
+#include "hosts/desktop/window/finder.h"
 #include "hosts/desktop/window/host_screen_face.h"
 #include "hosts/desktop/window/main_layout.h"
 #include "hosts/version.h"
@@ -101,6 +102,7 @@ struct AwizoWysylkiWidget::Parts {
   FormFace* faces;
   Status status;
   Commands* commands = nullptr;
+  Finder* finder = nullptr;  ///< belongs to `content`
 };
 
 AwizoWysylkiWidget::AwizoWysylkiWidget(const Host& host, QWidget* parent)
@@ -108,7 +110,8 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const Host& host, QWidget* parent)
   Parts& parts = *parts_;
   parts.control.UserControl_Initialize();
   parts.control.UserControl_ReadProperties();
-  parts.status = layOutMain(parts.control.editor, *parts.faces);
+  parts.finder = new Finder(parts.control.editor, *parts.faces, parts.face);
+  parts.status = layOutMain(parts.control.editor, *parts.faces, parts.finder->strip());
   parts.faces->showAll();
   parts.commands = new Commands(parts.control.form, *parts.faces, *this);
   parts.faces->onStateShown.add([this](Face&) { showStates(); });
@@ -150,6 +153,7 @@ void AwizoWysylkiWidget::setDebugLevel(const QString& value) {
 AwizoWysylki& AwizoWysylkiWidget::control() { return parts_->control; }
 FormFace& AwizoWysylkiWidget::faces() { return *parts_->faces; }
 Commands& AwizoWysylkiWidget::commands() { return *parts_->commands; }
+Finder& AwizoWysylkiWidget::finder() { return *parts_->finder; }
 Waiting& AwizoWysylkiWidget::waiting() { return parts_->waiting; }
 
 bool AwizoWysylkiWidget::hasFailed() const { return parts_->face.programEnded(); }

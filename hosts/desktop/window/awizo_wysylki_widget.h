@@ -21,6 +21,7 @@ class DocumentWatch;
 namespace awizo::desktop {
 
 class Commands;
+class Finder;
 class FormFace;
 class HostScreenFace;
 class Waiting;
@@ -84,6 +85,7 @@ class AwizoWysylkiWidget : public QWidget {
   AwizoWysylki& control();
   FormFace& faces();
   Commands& commands();
+  Finder& finder();
   Waiting& waiting();
 
  signals:

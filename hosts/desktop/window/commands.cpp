@@ -64,7 +64,13 @@ void Commands::giveKeys(const Command& command, QAction& action, QWidget& window
   for (const CommandKey& key : command.keys) {
     all << keysOf(key);
     // The key of the number pad is as good.
-    if (key.code == keys::enter) all << QKeySequence(Qt::Key_Enter);
+    if (key.code != keys::enter) continue;
+    all << QKeySequence(Qt::Key_Enter);
+    if (command.place == nullptr || command.place->kind() != ControlKind::table) continue;
+    // A double click does what Enter does.
+    faces_.table(static_cast<const Table&>(*command.place)).afterDoubleClick = [this, &command] {
+      press(command);
+    };
   }
   action.setShortcuts(all);
   action.setShortcutContext(command.place == nullptr ? Qt::WidgetWithChildrenShortcut

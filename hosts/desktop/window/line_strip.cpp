@@ -26,6 +26,11 @@ void LineStrip::say(const QString& words) {
   setToolTip(words);
 }
 
+void LineStrip::showLine() {
+  saidAtRow_ = -1;
+  showWords();
+}
+
 /// A document comes and goes by thousands of changes in one event; the words are made once.
 void LineStrip::follow(const Change& change) {
   const bool matters =

@@ -15,6 +15,8 @@ class LineStrip : public QLabel {
 
   /// Says this instead, until the current row changes.
   void say(const QString& words);
+  /// The line again.
+  void showLine();
 
  private:
   void follow(const Change& change);

@@ -5,7 +5,7 @@
 
 namespace awizo::desktop {
 
-Status layOutMain(Editor& editor, FormFace& faces) {
+Status layOutMain(Editor& editor, FormFace& faces, QWidget& lineStrip) {
   AwizoForm& form = editor.form;
   auto* below = new QSplitter(Qt::Horizontal);
   below->setChildrenCollapsible(false);
@@ -15,7 +15,7 @@ Status layOutMain(Editor& editor, FormFace& faces) {
   below->setStretchFactor(1, 0);
   auto* tables = new QSplitter(Qt::Vertical);
   tables->setChildrenCollapsible(false);
-  tables->addWidget(makeLines(editor, faces));
+  tables->addWidget(makeLines(editor, faces, lineStrip));
   tables->addWidget(below);
   tables->setStretchFactor(0, 3);
   tables->setStretchFactor(1, 1);

@@ -16,12 +16,12 @@ struct Status {
   QLabel* standing = nullptr;  ///< what was done last
 };
 
-/// Puts every face of the main form into the form's window.
-Status layOutMain(Editor& editor, FormFace& faces);
+/// Puts every face of the main form into the form's window. `lineStrip` comes below the lines.
+Status layOutMain(Editor& editor, FormFace& faces, QWidget& lineStrip);
 
 // Its parts, each one widget.
 QWidget* makeHeader(AwizoForm& form, FormFace& faces);
-QWidget* makeLines(Editor& editor, FormFace& faces);
+QWidget* makeLines(Editor& editor, FormFace& faces, QWidget& strip);
 QWidget* makePackages(AwizoForm& form, FormFace& faces);
 /// The totals, and below them the document's ways in and out.
 QWidget* makeTotals(AwizoForm& form, FormFace& faces);

@@ -13,7 +13,6 @@
 #include "hosts/desktop/faces/table_face.h"
 #include "hosts/desktop/layouts/fields.h"
 #include "hosts/desktop/window/column_fill.h"
-#include "hosts/desktop/window/line_strip.h"
 #include "hosts/desktop/window/main_layout.h"
 #include "tables/columns/columns.h"
 
@@ -102,7 +101,7 @@ QLabel* makeLongText(const char* name) {
 
 }  // namespace
 
-QWidget* makeLines(Editor& editor, FormFace& faces) {
+QWidget* makeLines(Editor& editor, FormFace& faces, QWidget& strip) {
   AwizoForm& form = editor.form;
   QWidget* frame = faces.widget(form.frmPozycje);
   TableFace& table = faces.table(form.grdPozycje);
@@ -115,7 +114,7 @@ QWidget* makeLines(Editor& editor, FormFace& faces) {
   new ColumnFill(*table.view(), GRD_POZ_NAME);
   grid->addWidget(table.view(), 0, 0);
   grid->addLayout(makeRowButtons(faces, lineCommands(form)), 0, 1);
-  grid->addWidget(new LineStrip(editor), 1, 0, 1, 2);
+  grid->addWidget(&strip, 1, 0, 1, 2);
   grid->addLayout(
       makeFillRow(faces, faces.widget(form.lblStawkaVAT), {faces.widget(form.comboStawkaVAT)},
                   form.btnUzupelnij, form.btnNadpisz),

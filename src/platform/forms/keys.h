@@ -26,6 +26,8 @@ inline constexpr std::int16_t insert = 45;
 inline constexpr std::int16_t remove = 46;
 inline constexpr std::int16_t f1 = 112;
 inline constexpr std::int16_t f2 = 113;
+inline constexpr std::int16_t f3 = 114;
+inline constexpr std::int16_t f8 = 119;
 inline constexpr std::int16_t f9 = 120;
 
 /// The character code that KeyPress gets for a key, 0 for a key that has none. Enter, Escape and

@@ -137,6 +137,9 @@ class Table : public Control {
   /// into view, mouse up, Click. Refused: a heading row, a column of no width, a cell that isn't
   /// there.
   void userCell(int row, int column);
+  /// The user goes to a row: clicks its cell in the current column or, where that isn't shown, in
+  /// the first that is.
+  void userRow(int row);
   /// The user double-clicks the current cell: what a click raises, then the double click.
   void userDoubleClick();
   /// The user marks a range with the mouse held down: mouse down, the first cell becomes current,

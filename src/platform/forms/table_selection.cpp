@@ -118,6 +118,11 @@ void Table::userCell(int row, int column) {
   if (takesInput()) raise(onClick);
 }
 
+void Table::userRow(int row) {
+  const bool isShown = hasCell({row, column_}) && columnWidth(column_) > 0;
+  userCell(row, isShown ? column_ : shownColumn(0, 1));
+}
+
 void Table::userDoubleClick() {
   requireUser();
   requireClickable(row_, column_);

@@ -1,0 +1,39 @@
+#include "desk/find_dialog.h"
+
+#include "desk/line_search.h"
+
+namespace awizo {
+
+FindDialog::FindDialog(Screen& screen, const Editor& editor)
+    : Form(screen, "FindDialog"),
+      txtWhat(*this, "txtWhat"),
+      lblNothing(*this, "lblNothing"),
+      btnFind(*this, "btnFind", "&Найти"),
+      btnClose(*this, "btnClose", "&Закрыть"),
+      editor_(editor) {
+  setCaption("Найти строку");
+  onActivate = [this] { txtWhat.setFocus(); };
+  acceptButton = &btnFind;
+  closeButton = &btnClose;
+  txtWhat.onChange = [this] { lblNothing.setCaption(""); };
+  btnFind.onClick = [this] { btnFind_Click(); };
+  btnClose.onClick = [this] { hide(); };
+}
+
+std::optional<int> FindDialog::ask() {
+  found_.reset();
+  lblNothing.setCaption("");
+  showModal();
+  return found_;
+}
+
+std::optional<int> FindDialog::again() const { return findLine(editor_, txtWhat.text()); }
+
+void FindDialog::btnFind_Click() {
+  if (txtWhat.text().empty()) return;
+  found_ = again();
+  if (found_) return hide();
+  lblNothing.setCaption("Такой строки нет.");
+}
+
+}  // namespace awizo

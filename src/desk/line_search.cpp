@@ -1,0 +1,58 @@
+#include "desk/line_search.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <utility>
+
+#include "tables/columns/columns.h"
+
+namespace awizo {
+namespace {
+
+constexpr std::array searchedColumns{GRD_POZ_LP, GRD_POZ_EAN, GRD_POZ_NAME, GRD_POZ_CODE_BY_BUYER,
+                                     GRD_POZ_CODE_BY_SELLER};
+
+std::optional<int> nextRow(const Editor& editor, const std::function<bool(int row)>& fits) {
+  const int count = editor.session.LineCount;
+  const int current = editor.form.grdPozycje.row();
+  for (int step = 1; step <= count; ++step) {
+    const int row = (current - 1 + step) % count + 1;
+    if (fits(row)) return row;
+  }
+  return std::nullopt;
+}
+
+std::string_view withoutZeros(std::string_view code) {
+  code.remove_prefix(std::min(code.find_first_not_of('0'), code.size()));
+  return code;
+}
+
+}  // namespace
+
+std::optional<int> findLine(const Editor& editor, std::string_view text) {
+  if (text.empty()) return std::nullopt;
+  const Locale& locale = editor.platform.locale;
+  const std::string wanted = locale.upper(text);
+  const Table& lines = editor.form.grdPozycje;
+  return nextRow(editor, [&](int row) {
+    return std::any_of(searchedColumns.begin(), searchedColumns.end(), [&](int column) {
+      return locale.upper(lines.cell(row, column)).find(wanted) != std::string::npos;
+    });
+  });
+}
+
+std::optional<int> findScanned(const Editor& editor, std::string_view code) {
+  const std::string_view wanted = withoutZeros(code);
+  const Table& lines = editor.form.grdPozycje;
+  return nextRow(editor,
+                 [&](int row) { return withoutZeros(lines.cell(row, GRD_POZ_EAN)) == wanted; });
+}
+
+std::string ScannedCode::end() {
+  constexpr std::size_t shortestEan = 8;
+  const std::string digits = std::exchange(digits_, {});
+  return digits.size() < shortestEan ? "" : digits;
+}
+
+}  // namespace awizo

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "session/record/editor.h"
+
+namespace awizo {
+
+/// The next row of grdPozycje, after the current one and on from the first, whose number, EAN, name
+/// or one of the item codes holds the text, case ignored. Nothing for the empty text.
+std::optional<int> findLine(const Editor& editor, std::string_view text);
+
+/// The same for a scanned code: a line of this EAN, zeros before it apart.
+std::optional<int> findScanned(const Editor& editor, std::string_view code);
+
+/// Collects the digits that a scanner types into the table, which takes none itself. A scanner is
+/// told by what it types and not by how fast: at least as many digits as the shortest EAN has, and
+/// Enter.
+class ScannedCode {
+ public:
+  void add(char digit) { digits_ += digit; }
+  /// Any other key, or the focus gone elsewhere.
+  void forget() { digits_.clear(); }
+  const std::string& digits() const { return digits_; }
+  /// Enter: the code that it ends, empty where the digits are none; they are forgotten.
+  std::string end();
+
+ private:
+  std::string digits_;
+};
+
+}  // namespace awizo

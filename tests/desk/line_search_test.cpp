@@ -1,0 +1,104 @@
+#include "desk/line_search.h"
+
+#include <gtest/gtest.h>
+
+#include "desk/find_dialog.h"
+#include "platform/forms/keys.h"
+#include "support/documents.h"
+#include "support/test_editor.h"
+
+namespace awizo::test {
+namespace {
+
+struct LineSearch : ::testing::Test {
+  LineSearch() {
+    putLines(test.editor, 4);
+    const char* names[] = {"Кофе", "Чай зелёный", "Какао", "чай чёрный"};
+    for (int row = 1; row <= 4; ++row) {
+      lines.setCell(row, GRD_POZ_NAME, names[row - 1]);
+      lines.setCell(row, GRD_POZ_EAN, "460700000011" + std::to_string(row));
+    }
+  }
+  TestEditor test;
+  Table& lines = test.form.grdPozycje;
+};
+
+TEST_F(LineSearch, FindsTheNextLineInWhateverCaseAndGoesOnFromTheFirst) {
+  EXPECT_EQ(findLine(test.editor, "ЧАЙ"), 2);
+  lines.setRow(2);
+  EXPECT_EQ(findLine(test.editor, "ЧАЙ"), 4);
+  lines.setRow(4);
+  EXPECT_EQ(findLine(test.editor, "ЧАЙ"), 2);
+}
+
+TEST_F(LineSearch, FindsTheCurrentLineWhereThereIsNoOther) {
+  EXPECT_EQ(findLine(test.editor, "кофе"), 1);
+}
+
+TEST_F(LineSearch, LooksAtCodesToo) {
+  lines.setCell(3, GRD_POZ_CODE_BY_BUYER, "B-77");
+  lines.setCell(4, GRD_POZ_CODE_BY_SELLER, "S-88");
+  EXPECT_EQ(findLine(test.editor, "b-7"), 3);
+  EXPECT_EQ(findLine(test.editor, "s-88"), 4);
+}
+
+TEST_F(LineSearch, FindsNothingInNothing) {
+  EXPECT_EQ(findLine(test.editor, ""), std::nullopt);
+  EXPECT_EQ(findLine(test.editor, "сок"), std::nullopt);
+  test.session.LineCount = 0;
+  EXPECT_EQ(findLine(test.editor, "чай"), std::nullopt);
+}
+
+TEST_F(LineSearch, AScannedCodeIsAWholeEanButForZerosBeforeIt) {
+  EXPECT_EQ(findScanned(test.editor, "4607000000113"), 3);
+  EXPECT_EQ(findScanned(test.editor, "04607000000113"), 3);
+  EXPECT_EQ(findScanned(test.editor, "460700000011"), std::nullopt);
+}
+
+TEST(ScannedCodeTest, EndsByEnterAndHasAsManyDigitsAsAnEan) {
+  ScannedCode code;
+  for (const char digit : std::string("1234567")) code.add(digit);
+  EXPECT_EQ(code.end(), "") << "seven digits are no code";
+  EXPECT_EQ(code.digits(), "");
+  for (const char digit : std::string("12345670")) code.add(digit);
+  EXPECT_EQ(code.digits(), "12345670");
+  EXPECT_EQ(code.end(), "12345670");
+  EXPECT_EQ(code.end(), "") << "a code is told once";
+}
+
+TEST(ScannedCodeTest, AnotherKeyForgetsIt) {
+  ScannedCode code;
+  for (const char digit : std::string("12345670")) code.add(digit);
+  code.forget();
+  EXPECT_EQ(code.end(), "");
+}
+
+struct FindDialogTest : LineSearch {
+  FindDialog dialog{test.screen, test.editor};
+};
+
+TEST_F(FindDialogTest, EnterFindsAndCloses) {
+  test.face.onModal([&] {
+    EXPECT_EQ(dialog.focus(), &dialog.txtWhat);
+    dialog.txtWhat.userType("какао");
+    dialog.txtWhat.userKey(keys::enter);
+  });
+  EXPECT_EQ(dialog.ask(), 3);
+  EXPECT_EQ(dialog.again(), 3);
+}
+
+TEST_F(FindDialogTest, SaysThatNothingIsFoundAndStays) {
+  test.face.onModal([&] {
+    dialog.txtWhat.userType("сок");
+    dialog.txtWhat.userKey(keys::enter);
+    EXPECT_EQ(dialog.lblNothing.caption(), "Такой строки нет.");
+    EXPECT_TRUE(dialog.shown());
+    dialog.txtWhat.userType("сокол");
+    EXPECT_EQ(dialog.lblNothing.caption(), "");
+    dialog.txtWhat.userKey(keys::escape);
+  });
+  EXPECT_EQ(dialog.ask(), std::nullopt);
+}
+
+}  // namespace
+}  // namespace awizo::test
