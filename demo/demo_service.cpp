@@ -31,13 +31,13 @@ std::string garbage() {
 
 void fillFaulty(FaultKind kind, httplib::Response& response) {
   switch (kind) {
-    case FaultKind::Drop:
+    case FaultKind::drop:
       response.status = statusOfNoReply;
       break;
-    case FaultKind::Garbage:
+    case FaultKind::garbage:
       response.set_content(garbage(), xmlType);
       break;
-    case FaultKind::Empty:
+    case FaultKind::empty:
       response.set_content("", xmlType);
       break;
     default:
@@ -60,8 +60,8 @@ void fillCut(std::string reply, httplib::Response& response) {
 }
 
 bool replacesReply(FaultKind kind) {
-  return kind == FaultKind::Drop || kind == FaultKind::Garbage || kind == FaultKind::Empty ||
-         kind == FaultKind::Status500;
+  return kind == FaultKind::drop || kind == FaultKind::garbage || kind == FaultKind::empty ||
+         kind == FaultKind::status500;
 }
 
 /// Returns the lines of `text` as settings; nothing if one of them isn't a setting.
@@ -167,7 +167,7 @@ void DemoService::offerCommands() {
 void DemoService::answer(const httplib::Request& request, httplib::Response& response) {
   const auto exchange = exchangeAt(request.path);
   const bool wantsXml =
-      exchange != Exchange::PartnerInfo || request.get_param_value("format") == "xml";
+      exchange != Exchange::partnerInfo || request.get_param_value("format") == "xml";
   if (!exchange || !wantsXml) {
     response.status = 404;
     return;
@@ -180,8 +180,8 @@ void DemoService::answer(const httplib::Request& request, httplib::Response& res
     return;
   }
   std::string reply = replyTo(*exchange, request.body);
-  if (fault.kind == FaultKind::Slow) faults_.hold(fault);
-  if (fault.kind == FaultKind::Cut) {
+  if (fault.kind == FaultKind::slow) faults_.hold(fault);
+  if (fault.kind == FaultKind::cut) {
     fillCut(std::move(reply), response);
   } else {
     response.set_content(std::move(reply), xmlType);
@@ -190,13 +190,13 @@ void DemoService::answer(const httplib::Request& request, httplib::Response& res
 
 std::string DemoService::replyTo(Exchange exchange, const std::string& document) {
   switch (exchange) {
-    case Exchange::PartnerInfo:
+    case Exchange::partnerInfo:
       return replies_.partnerInfo(document);
-    case Exchange::ProductCatalogue:
+    case Exchange::productCatalogue:
       return replies_.productCatalogue(document);
-    case Exchange::DeliveryPlaces:
+    case Exchange::deliveryPlaces:
       return replies_.deliveryPlaces(document);
-    case Exchange::Order:
+    case Exchange::order:
       return replies_.order(document);
     default:
       return submissionReply(posted_.accept(document));

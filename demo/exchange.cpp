@@ -13,11 +13,11 @@ struct ExchangeEntry {
 };
 
 constexpr std::array<ExchangeEntry, allExchanges.size()> entries{{
-    {Exchange::PartnerInfo, "partner-info", "Partners.aspx"},
-    {Exchange::ProductCatalogue, "catalogue", "GetDocument.aspx"},
-    {Exchange::DeliveryPlaces, "places", "Dictionary.aspx"},
-    {Exchange::Order, "order", "OrderData.aspx"},
-    {Exchange::Upload, "upload", "Upload.aspx"},
+    {Exchange::partnerInfo, "partner-info", "Partners.aspx"},
+    {Exchange::productCatalogue, "catalogue", "GetDocument.aspx"},
+    {Exchange::deliveryPlaces, "places", "Dictionary.aspx"},
+    {Exchange::order, "order", "OrderData.aspx"},
+    {Exchange::upload, "upload", "Upload.aspx"},
 }};
 
 std::optional<Exchange> entryWith(std::string_view ExchangeEntry::*field, std::string_view text) {

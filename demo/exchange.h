@@ -7,11 +7,11 @@
 namespace awizo::demo {
 
 /// The five exchanges that the service offers. Each is one POST of an XML document.
-enum class Exchange { PartnerInfo, ProductCatalogue, DeliveryPlaces, Order, Upload };
+enum class Exchange { partnerInfo, productCatalogue, deliveryPlaces, order, upload };
 
-inline constexpr std::array allExchanges{Exchange::PartnerInfo, Exchange::ProductCatalogue,
-                                         Exchange::DeliveryPlaces, Exchange::Order,
-                                         Exchange::Upload};
+inline constexpr std::array allExchanges{Exchange::partnerInfo, Exchange::productCatalogue,
+                                         Exchange::deliveryPlaces, Exchange::order,
+                                         Exchange::upload};
 
 // The name by which options and run-time commands call the exchange: "partner-info",
 // "catalogue", "places", "order", "upload".

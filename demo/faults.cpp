@@ -8,13 +8,13 @@ namespace awizo::demo {
 namespace {
 
 constexpr std::array<std::pair<std::string_view, FaultKind>, 7> kindNames{{
-    {"none", FaultKind::None},
-    {"drop", FaultKind::Drop},
-    {"cut", FaultKind::Cut},
-    {"garbage", FaultKind::Garbage},
-    {"empty", FaultKind::Empty},
-    {"status500", FaultKind::Status500},
-    {"slow", FaultKind::Slow},
+    {"none", FaultKind::none},
+    {"drop", FaultKind::drop},
+    {"cut", FaultKind::cut},
+    {"garbage", FaultKind::garbage},
+    {"empty", FaultKind::empty},
+    {"status500", FaultKind::status500},
+    {"slow", FaultKind::slow},
 }};
 
 std::optional<Fault> slowFor(std::string_view milliseconds) {
@@ -22,7 +22,7 @@ std::optional<Fault> slowFor(std::string_view milliseconds) {
   const char* end = milliseconds.data() + milliseconds.size();
   const auto [stop, error] = std::from_chars(milliseconds.data(), end, count);
   if (error != std::errc{} || stop != end || count < 0) return std::nullopt;
-  return Fault{FaultKind::Slow, std::chrono::milliseconds(count)};
+  return Fault{FaultKind::slow, std::chrono::milliseconds(count)};
 }
 
 std::optional<Fault> parseFault(std::string_view text) {

@@ -12,22 +12,22 @@
 
 namespace awizo::demo {
 
-/// What goes wrong with an exchange. Drop, Garbage, Empty and Status500 come instead of the
-/// exchange: no order is handed out, no document is stored. Cut and Slow only disturb the sending
-/// of a real reply.
+/// What goes wrong with an exchange. `drop`, `garbage`, `empty` and `status500` come instead of the
+/// exchange: no order is handed out, no document is stored. `cut` and `slow` only disturb the
+/// sending of a real reply.
 enum class FaultKind {
-  None,
-  Drop,       ///< the connection is closed without a byte of reply
-  Cut,        ///< the reply's second half never comes
-  Garbage,    ///< bytes that are neither XML nor text
-  Empty,      ///< a reply of no bytes
-  Status500,  ///< status 500 with a page that isn't XML
-  Slow,       ///< the reply is held back
+  none,
+  drop,       ///< the connection is closed without a byte of reply
+  cut,        ///< the reply's second half never comes
+  garbage,    ///< bytes that are neither XML nor text
+  empty,      ///< a reply of no bytes
+  status500,  ///< status 500 with a page that isn't XML
+  slow,       ///< the reply is held back
 };
 
 struct Fault {
-  FaultKind kind = FaultKind::None;
-  /// Only for Slow: how long the reply is held back; without it, until it is released.
+  FaultKind kind = FaultKind::none;
+  /// Only for `slow`: how long the reply is held back; without it, until it is released.
   std::optional<std::chrono::milliseconds> delay;
 };
 

@@ -197,15 +197,15 @@ TEST(Service, EndsAtOnceWhileARequestIsHeldBackAndAClientIsIdle) {
 TEST(FaultSettingText, NamesExchangeAndKind) {
   const auto setting = parseFaultSetting("partner-info=status500");
   ASSERT_TRUE(setting);
-  EXPECT_EQ(setting->exchange, Exchange::PartnerInfo);
-  EXPECT_EQ(setting->fault.kind, FaultKind::Status500);
+  EXPECT_EQ(setting->exchange, Exchange::partnerInfo);
+  EXPECT_EQ(setting->fault.kind, FaultKind::status500);
   EXPECT_FALSE(setting->fault.delay);
 }
 
 TEST(FaultSettingText, MayGiveADelayInMilliseconds) {
   const auto setting = parseFaultSetting("order=slow:250");
   ASSERT_TRUE(setting);
-  EXPECT_EQ(setting->fault.kind, FaultKind::Slow);
+  EXPECT_EQ(setting->fault.kind, FaultKind::slow);
   EXPECT_EQ(setting->fault.delay, std::chrono::milliseconds(250));
 }
 

@@ -34,7 +34,7 @@ TEST(Options, AreTakenInAnyOrder) {
   EXPECT_EQ(options.pageFolder, "g");
   EXPECT_EQ(options.postedFolder, "p");
   ASSERT_EQ(options.faults.size(), 2U);
-  EXPECT_EQ(options.faults[1].exchange, Exchange::Upload);
+  EXPECT_EQ(options.faults[1].exchange, Exchange::upload);
 }
 
 TEST(Options, ThatAreWrongAreNamed) {

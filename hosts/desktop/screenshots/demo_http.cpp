@@ -21,15 +21,15 @@ class DemoRequest : public HttpRequest {
     const auto exchange = demo::exchangeAt(url_);
     if (!exchange) return {};
     switch (*exchange) {
-      case demo::Exchange::PartnerInfo:
+      case demo::Exchange::partnerInfo:
         return replies_.partnerInfo(body);
-      case demo::Exchange::ProductCatalogue:
+      case demo::Exchange::productCatalogue:
         return replies_.productCatalogue(body);
-      case demo::Exchange::DeliveryPlaces:
+      case demo::Exchange::deliveryPlaces:
         return replies_.deliveryPlaces(body);
-      case demo::Exchange::Order:
+      case demo::Exchange::order:
         return replies_.order(body);
-      case demo::Exchange::Upload:
+      case demo::Exchange::upload:
         return demo::submissionReply("OK");
     }
     return {};
