@@ -18,6 +18,7 @@
 #include "hosts/desktop/faces/table_face.h"
 #include "platform/forms/drop_down_list.h"
 #include "platform/forms/table.h"
+#include "tables/columns/columns.h"
 #include "tests/support/scripted_screen.h"
 
 namespace awizo::benchmarks {
@@ -32,7 +33,7 @@ struct ShownForm {
   Screen screen{face};
   Form form{screen, "Main"};
   DropDownList names{form, "names"};
-  Table lines{form, "lines", 23};
+  Table lines{form, "lines", lineColumnCount};
   QWidget window;
   desktop::FormFace* faces = nullptr;
   int lineCount = 0;
@@ -47,7 +48,8 @@ struct ShownForm {
     names.setRows(std::move(rows));
     lines.setRows(lineCount + 1);
     for (int row = 1; row <= lineCount; ++row) {
-      for (int column = 0; column < 23; ++column) lines.setCell(row, column, std::to_string(row));
+      for (int column = 0; column < lineColumnCount; ++column)
+        lines.setCell(row, column, std::to_string(row));
     }
     faces = new desktop::FormFace(form, window);
     auto* layout = new QVBoxLayout(&window);

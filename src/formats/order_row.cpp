@@ -31,11 +31,11 @@ constexpr LineSources sources = [] {
   return all;
 }();
 
-std::string readValue(const Editor& editor, const XmlNode& line, const LineSource& source) {
+std::string readValue(const Work& work, const XmlNode& line, const LineSource& source) {
   if (source.path.empty()) return "";
   std::string value = orderValue(line, source.path, source.missing);
   if (source.decimals == asItStands) return value;
-  return editor.conversions.NormalizeDecimal(value, source.decimals);
+  return work.conversions.NormalizeDecimal(value, source.decimals);
 }
 
 /// The amount that the order states, else the price of what is despatched.

@@ -4,10 +4,9 @@
 #include <cmath>
 
 #include "linedialog/dlg_dodaj.h"
-#include "platform/narrow.h"
 #include "platform/text.h"
-#include "tables/flat_index.h"
 #include "tables/package_references.h"
+#include "tables/row.h"
 
 namespace awizo {
 namespace {
@@ -101,7 +100,7 @@ void LinePackages::addAssignment() {
   Table& table = dialog_.grdPozycje;
   table.setRedraw(false);
   int row = 1;
-  if (table.rows() != 2 || !table.cell(flatIndex(table, 1, 1)).empty()) {
+  if (table.rows() != 2 || !Row(table, 1).cell(1).empty()) {
     row = table.rows();
     table.addItem(std::to_string(row));
   }
@@ -116,15 +115,12 @@ void LinePackages::writeAssignment(int row) {
   const SessionState& session = work_.session;
   const auto package = static_cast<std::size_t>(quantityDialog_.cboxPackages.index());
   if (package >= session.ParentSerials.size()) throw errors::subscriptOutOfRange();
-  Table& table = dialog_.grdPozycje;
-  const std::int16_t line = narrow16(row);
-  const auto write = [&](std::int16_t column, std::string_view text) {
-    table.setCell(flatIndex(table, line, column), text);
-  };
-  write(1, session.ParentSerials[package]);
-  write(2, session.ParentDescriptions[package]);
-  write(3, std::to_string(session.ParentLevels[package]));
-  write(4, work_.conversions.NormalizeDecimal(trimmed(quantityDialog_.txtQuantity.text()), 3));
+  const Row assignment(dialog_.grdPozycje, row);
+  assignment.set(1, session.ParentSerials[package]);
+  assignment.set(2, session.ParentDescriptions[package]);
+  assignment.set(3, std::to_string(session.ParentLevels[package]));
+  assignment.set(
+      4, work_.conversions.NormalizeDecimal(trimmed(quantityDialog_.txtQuantity.text()), 3));
 }
 
 void LinePackages::Command2_Click() {
@@ -148,15 +144,15 @@ void LinePackages::Command2_Click() {
 void LinePackages::Command3_Click() {
   Table& table = dialog_.grdPozycje;
   const int row = table.rows() == 2 ? 1 : table.row();
-  const std::int16_t line = narrow16(row);
+  const Row assignment(table, row);
   DlgdodajPule& small = quantityDialog_;
   small.btnDodaj.setCaption("&Подтвердить");
   small.setCaption("Изменить упаковку, к которой приписан товар");
   small.UpDown1.setMin(1);
-  const double quantity = work_.conversions.toDouble(table.cell(flatIndex(table, line, 4)));
+  const double quantity = work_.conversions.toDouble(assignment.cell(4));
   small.UpDown1.setMax(wholeNumber(GetMaxQuantity() + quantity));
   small.txtQuantity.setText(work_.conversions.plainNumber(quantity));
-  small.cboxPackages.setText(table.cell(flatIndex(table, line, 2)));
+  small.cboxPackages.setText(assignment.cell(2));
   small.showModal();
   if (small.DlgResult == 1) {
     writeAssignment(row);

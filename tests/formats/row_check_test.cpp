@@ -188,7 +188,7 @@ TEST_F(RowCheck, RepaintingMakesPassingLinesWhiteInColumns1To21) {
   paint(1, pink);
   paint(2, pink);
   RepaintValidRows(test.editor);
-  std::vector<Colour> expected(23, white);
+  std::vector<Colour> expected(lineColumnCount, white);
   expected[0] = pink;
   expected[22] = pink;
   EXPECT_EQ(colours(1), expected);
@@ -202,8 +202,8 @@ TEST_F(RowCheck, RepaintingLeavesFailingLinesAlone) {
   test.session.LineCount = 2;
   paint(1, pink);
   RepaintValidRows(test.editor);
-  EXPECT_EQ(colours(1), std::vector<Colour>(23, pink));
-  EXPECT_EQ(colours(2), std::vector<Colour>(23, white));
+  EXPECT_EQ(colours(1), std::vector<Colour>(lineColumnCount, pink));
+  EXPECT_EQ(colours(2), std::vector<Colour>(lineColumnCount, white));
 }
 
 TEST_F(RowCheck, RepaintingKeepsTheCurrentCellAndTheCount) {

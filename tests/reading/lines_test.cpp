@@ -81,7 +81,7 @@ TEST_F(ReadingLinesInAPointLocale, EveryValueReachesItsColumn) {
 
 TEST_F(ReadingLines, ABareLineIsEmptyButForWhatIsMade) {
   readLines("<Line/>");
-  std::vector<std::string> expected(23);
+  std::vector<std::string> expected(lineColumnCount);
   expected[GRD_POZ_LP] = "1";
   expected[GRD_POZ_PRODUCTION_DATE] = "21.11.2026";
   expected[GRD_POZ_PACKED_QTY] = "0,000";

@@ -1,6 +1,7 @@
 #include "tables/clear_tables.h"
 
 #include "support/test_editor.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {
@@ -34,7 +35,7 @@ TEST_F(ClearTest, LinesKeepOneEmptyWhiteRow) {
   EXPECT_EQ(form.grdPozycje.row(), 1);
   EXPECT_THAT(TestEditor::row(form.grdPozycje, 1), Each(""));
   EXPECT_EQ(form.grdPozycje.look(1, 0).background, pink) << "column 0 keeps its own";
-  for (int column = 1; column < 23; ++column) {
+  for (int column = 1; column < lineColumnCount; ++column) {
     EXPECT_EQ(form.grdPozycje.look(1, column).background, white) << column;
   }
   EXPECT_EQ(test.session.LineCount, 0);

@@ -21,9 +21,9 @@ std::string pickedDate(const DatePicker& picker) {
   return picker.date() ? Conversions::FormatDateIso(*picker.date()) : std::string();
 }
 
-void writeProduct(const Editor& editor, DlgDodaj& dialog, const Row& line) {
+void writeProduct(const Work& work, DlgDodaj& dialog, const Row& line) {
   const auto fixed = [&](const TextField& field, int decimals) {
-    return editor.conversions.FormatFixed(field.text(), decimals);
+    return work.conversions.FormatFixed(field.text(), decimals);
   };
   line.set(GRD_POZ_EAN, dialog.txtlEANProdWart.text());
   line.set(GRD_POZ_NAME, dialog.txtNazwaProdWart.text());

@@ -108,8 +108,8 @@ void fillCustomsNumber(Editor& editor, DlgDodaj& dialog, const Row& line) {
   dialog.txtCDN4.setText(fields[3]);
 }
 
-void fillRest(const Editor& editor, DlgDodaj& dialog, const Row& line) {
-  dialog.dtProdDate.setDate(editor.conversions.toDate(line.cell(GRD_POZ_PRODUCTION_DATE)));
+void fillRest(const Work& work, DlgDodaj& dialog, const Row& line) {
+  dialog.dtProdDate.setDate(work.conversions.toDate(line.cell(GRD_POZ_PRODUCTION_DATE)));
   dialog.LinePeriod = line.cell(GRD_POZ_PERIOD);
   dialog.LinePeriodFormat = line.cell(GRD_POZ_PERIOD_FORMAT);
   StringToGrid(dialog.grdPozycje, line.cell(GRD_POZ_PACK_REFS));

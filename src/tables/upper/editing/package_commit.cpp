@@ -40,7 +40,7 @@ void selectParent(DlgSzczegoly& dialog, const std::string& description) {
   }
 }
 
-void fillForEdit(Editor& editor, DlgSzczegoly& dialog, const Row& package) {
+void fillForEdit(const Work& work, DlgSzczegoly& dialog, const Row& package) {
   dialog.ParentSerial = package.cell(GRD_OPAK_PARENT_SERIAL);
   selectParent(dialog, package.cell(GRD_OPAK_PARENT_DESC));
   dialog.lblLevelValue.setCaption(package.cell(GRD_OPAK_LEVEL));
@@ -53,7 +53,7 @@ void fillForEdit(Editor& editor, DlgSzczegoly& dialog, const Row& package) {
   dialog.txtPackageHeight.setText(package.cell(GRD_OPAK_HEIGHT));
   dialog.txtPackageLength.setText(package.cell(GRD_OPAK_LENGTH));
   dialog.cboxPackageType.setIndex(
-      indexPackageType(editor.platform.locale, package.cell(GRD_OPAK_TYPE)));
+      indexPackageType(work.platform.locale, package.cell(GRD_OPAK_TYPE)));
   dialog.txtSerialNumberN.setText(package.cell(GRD_OPAK_SERIAL_NUMBER));
   dialog.cboxILNLokalizacji.setText(package.cell(GRD_OPAK_LOCATION_ILN));
   dialog.cboxILNLokalizacji_Change_PublicWrapper();

@@ -16,8 +16,8 @@ namespace {
 
 /// The longest chain of packages that lie in one another without running in a circle. It may begin
 /// with one package more than are counted: a file brings rows that nobody counts.
-std::size_t longestChain(const Editor& editor, std::int16_t firstRow) {
-  const std::int16_t count = editor.session.IloscPozycjiOpak;
+std::size_t longestChain(const SessionState& session, std::int16_t firstRow) {
+  const std::int16_t count = session.IloscPozycjiOpak;
   const bool isCounted = firstRow >= 1 && firstRow <= count;
   return static_cast<std::size_t>(count) + (isCounted ? 0 : 1);
 }
@@ -134,10 +134,10 @@ void removeInOnePass(Editor& editor, const std::vector<std::string>& delSerials)
 
 void GetPackagesRec(Editor& editor, std::int16_t row, std::vector<std::string>& delSerials) {
   if (editor.session.log.writes(4) || !holdsWhatIsCounted(editor)) {
-    scanAllRows(editor, row, delSerials, longestChain(editor, row));
+    scanAllRows(editor, row, delSerials, longestChain(editor.session, row));
     return;
   }
-  followChildren(editor, childRows(editor), row, delSerials, longestChain(editor, row));
+  followChildren(editor, childRows(editor), row, delSerials, longestChain(editor.session, row));
   editor.form.grdOpakowania.setRow(editor.session.IloscPozycjiOpak);
 }
 
