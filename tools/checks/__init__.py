@@ -1,6 +1,6 @@
 """The checks by name, the quick ones first. A check takes the project and returns a list of problems."""
 
-from checks import comments, compiled, formatting, includes, levels, scripts, tidy, words
+from checks import comments, compiled, documents, formatting, includes, levels, scripts, tidy, words
 
 CHECKS = {
     "levels": levels.check_levels,
@@ -9,6 +9,7 @@ CHECKS = {
     "include-circle": includes.check_no_circle,
     "words": words.check,
     "comments": comments.check,
+    "documents": documents.check,
     "scripts": scripts.check,
     "formatting": formatting.check,
     "warnings": compiled.check,

@@ -84,6 +84,8 @@ BREACHES = [
      append("src/tables/planted.h", "#pragma once\n\ninline int planted() {\n  /// Nothing yet.\n  return 0;\n}\n")),
     ("comments", "a member is documented on its line as code is explained",
      append("src/tables/planted.h", "#pragma once\n\nstruct Planted {\n  int width;  // twips\n};\n")),
+    ("documents", "a document for engineers names a file that isn't there",
+     append("docs/architecture.md", "\nSee `session/planted`.\n")),
     ("scripts", "a script can't be started", append("tools/planted", "#!/usr/bin/env bash\n")),
     ("scripts", "a script of the shell doesn't parse", append("tools/build", "if true; then\n")),
     ("scripts", "a script of the shell splits what it should not", append("tools/build", "rm $1\n")),

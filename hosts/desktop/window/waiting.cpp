@@ -144,7 +144,7 @@ void Waiting::paintNow() {
   QCoreApplication::processEvents();
 }
 
-// An event comes to the window of the system first, and then to the widget in it.
+/// An event comes to the window of the system first, and then to the widget in it.
 bool Waiting::isAnswered(const QObject* watched) const {
   if (!answered_) return false;
   const auto* widget = qobject_cast<const QWidget*>(watched);
