@@ -50,7 +50,7 @@ void readBuyer(SessionState& session, const XmlNode& info) {
   session.BuyerAccount = GetNodeValue(info, "account", true);
 }
 
-std::string_view readIdentity(Editor& editor) {
+Refusal readIdentity(Editor& editor) {
   SessionState& session = editor.session;
   session.UserInfoLoaded =
       loadFile(editor.platform.files, *session.UserInfoDom, userInfoFile(session.OffLinePathValue));

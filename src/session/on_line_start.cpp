@@ -131,7 +131,7 @@ bool HasHostDocument(HostPage& page) {
   }
 }
 
-std::string_view startOnLine(Editor& editor) {
+Refusal startOnLine(Editor& editor) {
   const std::string base = readPage(editor);
   if (!fetchPartner(editor)) return "Неправильный формат XML партнёр инфо.";
   keepParties(editor.session, editor.form);

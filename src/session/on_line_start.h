@@ -1,7 +1,6 @@
 #pragma once
 
-#include <string_view>
-
+#include "session/identity.h"
 #include "session/record/editor.h"
 
 namespace awizo {
@@ -10,8 +9,7 @@ namespace awizo {
 bool HasHostDocument(HostPage& page);
 
 /// Fetches partner info, both catalogues and a waiting order from the service, and fills the form
-/// from the order. Returns the refusal to show, or the empty text. A page whose address or cookie
-/// can't be read raises that error.
-std::string_view startOnLine(Editor& editor);
+/// from the order. A page whose address or cookie can't be read raises that error.
+Refusal startOnLine(Editor& editor);
 
 }  // namespace awizo

@@ -44,13 +44,12 @@ void openLog(Editor& editor) {
   session.log.OpenDebugLog(debugLogFile(session.OffLinePathValue, editor.form.PartnerName), *level);
 }
 
-/// Returns the refusal to show, or the empty text.
-std::string_view start(Editor& editor) {
+Refusal start(Editor& editor) {
   SessionState& session = editor.session;
   session.OffLinePathValue = keptOffLinePath(editor.platform.settings);
   if (session.OffLinePathValue.empty()) return "Нет определённого пути доступа к запасам.";
   openLog(editor);
-  if (const std::string_view refusal = readIdentity(editor); !refusal.empty()) return refusal;
+  if (const Refusal refusal = readIdentity(editor); !refusal.empty()) return refusal;
   if (editor.form.OnLine == "Off" || !HasHostDocument(editor.platform.page)) return "";
   return startOnLine(editor);
 }
@@ -63,7 +62,7 @@ void UserControl_Show(Editor& editor, DlgDodaj& lineDialog) {
     editor.form.LastPackageSerial = 1;
     hidePrices(editor.form, lineDialog);
     prepareFields(editor);
-    if (const std::string_view refusal = start(editor); !refusal.empty()) {
+    if (const Refusal refusal = start(editor); !refusal.empty()) {
       editor.screen().showCritical(refusal, "VIRD");
       editor.form.setEnabled(false);
       editor.form.deeds.tell({Deed::Kind::refused, std::string(refusal)});
