@@ -21,6 +21,20 @@ inline constexpr std::string_view noSuchLine = "Такой строки нет";
 inline constexpr std::string_view codeSoFar = "Код: ";
 inline constexpr std::string_view noSuchCode = "Нет строки с кодом ";
 
+// Names of tables and fields for screen readers, where no caption stands beside them.
+inline constexpr std::string_view linesTable = "Товарные позиции";
+inline constexpr std::string_view packagesTable = "Упаковки";
+inline constexpr std::string_view totalsTable = "Итоги";
+inline constexpr std::string_view quantityEditor = "Отгруженное количество";
+inline constexpr std::string_view linePackagesTable = "Упаковки этой строки";
+inline constexpr std::string_view countriesTable = "Страны";
+inline constexpr std::string_view faultsTable = "Что не так";
+inline constexpr std::string_view customsNumber = "Номер ГТД, первые 8 цифр";
+inline constexpr std::string_view customsDate = "Номер ГТД, дата";
+inline constexpr std::string_view customsSerial = "Номер ГТД, последние 7 цифр";
+inline constexpr std::string_view customsItem = "Номер ГТД, номер товара";
+inline constexpr std::string_view anyCountry = "Страна из полного списка";
+
 /// Search among the lines.
 inline constexpr std::string_view whatToFind = "Номер, EAN, название или код:";
 

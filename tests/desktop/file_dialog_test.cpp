@@ -187,5 +187,21 @@ TEST_F(FileDialogOnDesktop, FoldersMadeSinceAreSeenAtTheNextOpening) {
   });
 }
 
+TEST_F(FileDialogOnDesktop, TypingFindsAFolderAndAFile) {
+  read([this] {
+    tabTo(chooser.DirList);
+    type("ho");
+    EXPECT_EQ(list(chooser.DirList)->currentItem()->text().trimmed(), "home");
+    press(Qt::Key_Return);
+    type("an");
+    press(Qt::Key_Return);
+    EXPECT_EQ(chooser.DirList.path(), "c:\\home\\anna");
+    tabTo(chooser.FileList);
+    type("b");
+    EXPECT_EQ(chooser.FileList.fileName(), "b.xml");
+    press(Qt::Key_Escape);
+  });
+}
+
 }  // namespace
 }  // namespace awizo::test

@@ -280,6 +280,25 @@ TEST_F(LineDialogOnDesktop, ACountryIsPickedFromTheListOfAll) {
   QApplication::setDoubleClickInterval(400);
 }
 
+TEST_F(LineDialogOnDesktop, ACountryIsFoundByTypingAndTakenByADoubleClick) {
+  DlgIsoCodes& countries = control.dlgIsoCodes.touch();
+  then([&] {
+    QTableView* view = static_cast<desktop::TableFace&>(face(countries.grdISO)).view();
+    press(Qt::Key_End);
+    EXPECT_EQ(countries.grdISO.row(), 236);
+    press(Qt::Key_Home);
+    EXPECT_EQ(countries.grdISO.row(), 1);
+    type("рос");
+    const int found = countries.grdISO.row();
+    EXPECT_EQ(countries.grdISO.cell(found, 0), "Россия");
+    const QRect cell = view->visualRect(view->model()->index(found - 1, 0));
+    EXPECT_TRUE(view->viewport()->rect().contains(cell));
+    doubleClick(view->viewport(), cell.center());
+  });
+  countries.showModal();
+  EXPECT_EQ(session.IsoResult, "(RU)Россия");
+}
+
 TEST_F(LineDialogOnDesktop, ADraggedMarkOfCountriesFallsBackToOneRow) {
   DlgIsoCodes& countries = control.dlgIsoCodes.touch();
   then([&] {

@@ -22,6 +22,17 @@ TEST_F(ScreenOnDesktop, ABoxShowsTextTitleIconAndRussianButton) {
   EXPECT_EQ(box, "critical|VIRD|Ошибка|ОК");
 }
 
+TEST_F(ScreenOnDesktop, AnErrorOfTheServiceIsExplainedBesideItsOwnText) {
+  then([] {
+    QMessageBox* box = openBox();
+    EXPECT_EQ(box->text(), "The download of the specified resource has failed.");
+    EXPECT_TRUE(box->informativeText().contains("он мог дойти"));
+    press(Qt::Key_Return);
+  });
+  control.screen.showCritical("The download of the specified resource has failed.",
+                              "Bі№d w SendXMLDOMRequest()!");
+}
+
 TEST_F(ScreenOnDesktop, AQuestionIsAnsweredYesOrNo) {
   std::string box;
   answerNext("&Да", &box);

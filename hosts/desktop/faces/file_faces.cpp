@@ -21,6 +21,16 @@ QString joined(const QString& folder, const QString& name) {
   return folder.endsWith('\\') ? folder + name : folder + '\\' + name;
 }
 
+/// The row that the character leads to, from the one marked on.
+std::optional<int> rowTyped(TypedSearch& search, const QString& character,
+                            const QListWidget& list) {
+  std::vector<std::string> rows;
+  for (int row = 0; row < list.count(); ++row) {
+    rows.push_back(toText(list.item(row)->text().toUpper()));
+  }
+  return search.add(toText(character), rows, list.currentRow());
+}
+
 QListWidget* makeList(QWidget* parent) {
   auto* list = new QListWidget(parent);
   list->setFocusPolicy(Qt::TabFocus);
@@ -118,7 +128,18 @@ void FolderFace::open(const QListWidgetItem* item) {
   act([&] { folders_.userOpen(path); });
 }
 
+bool FolderFace::findTyped(const QString& typed) {
+  if (typed.isEmpty()) {
+    typed_.forget();
+    return false;
+  }
+  const std::optional<int> row = rowTyped(typed_, typed, *list_);
+  if (row) list_->setCurrentRow(*row);
+  return true;
+}
+
 bool FolderFace::pressKey(QKeyEvent& key) {
+  if (findTyped(typedCharacter(key))) return true;
   const std::int16_t code = keyCodeOf(key);
   const QListWidgetItem* marked = list_->currentItem();
   const QString present = fromText(folders_.path());
@@ -171,6 +192,12 @@ bool FileListFace::pressMouse(QMouseEvent& mouse) {
 }
 
 bool FileListFace::pressKey(QKeyEvent& key) {
+  const QString typed = typedCharacter(key);
+  if (!typed.isEmpty()) {
+    if (const std::optional<int> found = rowTyped(typed_, typed, *list_)) choose(*found);
+    return true;
+  }
+  typed_.forget();
   const std::int16_t code = keyCodeOf(key);
   const int count = static_cast<int>(files_.rows().size());
   int row = -1;

@@ -5,6 +5,7 @@
 
 #include "hosts/desktop/faces/face.h"
 #include "platform/forms/file_lists.h"
+#include "platform/forms/typed_search.h"
 
 namespace awizo::desktop {
 
@@ -36,6 +37,7 @@ class FolderFace : public Face {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool findTyped(const QString& typed);
   void readFolder();
   void open(const QListWidgetItem* item);
   void addFolder(const QString& name, const QString& path, int depth);
@@ -43,6 +45,7 @@ class FolderFace : public Face {
   FolderList& folders_;
   QListWidget* list_;
   QString shownPath_;
+  TypedSearch typed_;
   int depth_ = 0;  ///< rows of the way down, the last of which is the present folder
 };
 
@@ -61,6 +64,7 @@ class FileListFace : public Face {
 
   FileList& files_;
   QListWidget* list_;
+  TypedSearch typed_;
 };
 
 }  // namespace awizo::desktop

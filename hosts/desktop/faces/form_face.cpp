@@ -1,6 +1,7 @@
 #include "hosts/desktop/faces/form_face.h"
 
 #include <QKeyEvent>
+#include <QLabel>
 
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/key_codes.h"
@@ -38,6 +39,10 @@ ButtonFace& FormFace::button(const Button& control) const {
 
 TableFace& FormFace::table(const Table& control) const {
   return static_cast<TableFace&>(face(control));
+}
+
+QLabel& FormFace::label(const Control& control) const {
+  return static_cast<QLabel&>(*widget(control));
 }
 
 Face* FormFace::find(std::string_view name) const {

@@ -11,6 +11,8 @@
 #include "platform/at_exit.h"
 #include "platform/forms/form.h"
 
+class QLabel;
+
 namespace awizo {
 class Button;
 class Table;
@@ -35,6 +37,7 @@ class FormFace : public QObject {
   Face& face(const Control& control) const;
   ButtonFace& button(const Button& control) const;
   TableFace& table(const Table& control) const;
+  QLabel& label(const Control& control) const;
   QWidget* widget(const Control& control) const { return face(control).widget(); }
   /// The face of the control of that name, or null.
   Face* find(std::string_view name) const;

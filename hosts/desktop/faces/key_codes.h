@@ -43,6 +43,13 @@ inline std::int16_t keyCodeOf(const QKeyEvent& key) {
   }
 }
 
+/// The character that the key types, as a capital, for a search by typing; empty for any other key.
+inline QString typedCharacter(const QKeyEvent& key) {
+  if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return {};
+  const QString text = key.text().toUpper();
+  return !text.isEmpty() && text.front().isPrint() && text != " " ? text : QString();
+}
+
 inline bool isShifted(const QKeyEvent& key) {
   return key.key() == Qt::Key_Backtab || key.modifiers().testFlag(Qt::ShiftModifier);
 }

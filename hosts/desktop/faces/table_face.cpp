@@ -265,6 +265,25 @@ bool TableFace::pressCommonKey(const QKeyEvent& key) {
   return true;
 }
 
+bool TableFace::pressListKey(const QKeyEvent& key) {
+  if (listColumn_ < 0) return false;
+  const std::int16_t code = keyCodeOf(key);
+  const QString typed = typedCharacter(key);
+  if (typed.isEmpty()) typed_.forget();
+  if (code == keys::home || code == keys::end) {
+    goToRow(code == keys::home ? table_.fixedRows() : table_.rows() - 1);
+    return true;
+  }
+  if (typed.isEmpty()) return false;
+  std::vector<std::string> rows;
+  for (int row = table_.fixedRows(); row < table_.rows(); ++row) {
+    rows.push_back(toText(fromText(table_.cell(row, listColumn_)).toUpper()));
+  }
+  const auto found = typed_.add(toText(typed), rows, table_.row() - table_.fixedRows());
+  if (found) goToRow(*found + table_.fixedRows());
+  return true;
+}
+
 void TableFace::goToRow(int row) {
   showNow();
   form().act([&] { table_.userRow(row); });
@@ -272,7 +291,7 @@ void TableFace::goToRow(int row) {
 }
 
 bool TableFace::pressKey(QKeyEvent& key) {
-  if (pressCommonKey(key)) return true;
+  if (pressCommonKey(key) || pressListKey(key)) return true;
   const std::int16_t code = keyCodeOf(key);
   if (code == 0) return false;
   showNow();

@@ -7,6 +7,7 @@
 #include "hosts/desktop/faces/table_rows.h"
 #include "hosts/desktop/faces/table_view.h"
 #include "platform/forms/table.h"
+#include "platform/forms/typed_search.h"
 
 namespace awizo::desktop {
 
@@ -26,6 +27,9 @@ class TableFace : public Face {
   void showNow();
   /// Scrolls the current row into view, as its user would.
   void bringRowIntoView();
+  /// Lets the user move in the table as in a list: characters find a row by the beginning of its
+  /// text in this column, Home and End go to the first and last row.
+  void moveAsInList(int column) { listColumn_ = column; }
   /// Runs after the user has double-clicked a cell, with what the table does by itself done. May
   /// be empty.
   std::function<void()> afterDoubleClick;
@@ -57,6 +61,7 @@ class TableFace : public Face {
   void showHeights();
   int markedRow() const;
   bool pressCommonKey(const QKeyEvent& key);
+  bool pressListKey(const QKeyEvent& key);
   void showSelection();
   void showTop();
   void placeEditor();
@@ -73,6 +78,8 @@ class TableFace : public Face {
   QPointer<Face> editor_;
   std::vector<int> shownWidths_;  ///< twips, as the columns were last laid out
   Cell pressed_;                  ///< where the mouse button went down and is still held
+  int listColumn_ = -1;           ///< -1 where it is no list
+  TypedSearch typed_;
   bool stale_ = true;
 };
 

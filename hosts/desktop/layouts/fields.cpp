@@ -52,6 +52,7 @@ void Fields::add(int row, int pair, const Control& caption, QLayout* field, int 
 void Fields::add(int row, int pair, const Control& caption, const Control& field, int pairs) {
   addCaption(row, pair, faces_.widget(caption));
   addField(row, pair, faces_.widget(field), pairs);
+  nameBy(faces_.label(caption), faces_.face(field));
 }
 
 QLabel* Fields::add(int row, int pair, const QString& caption, const Control& field, int pairs) {
@@ -60,6 +61,7 @@ QLabel* Fields::add(int row, int pair, const QString& caption, const Control& fi
   addCaption(row, pair, label);
   QWidget* widget = faces_.widget(field);
   addField(row, pair, widget, pairs);
+  nameBy(*label, faces_.face(field));
   new CaptionFollows(label, widget);
   return label;
 }
@@ -68,12 +70,19 @@ void Fields::addCovered(int row, int pair, const Control& caption, const Control
                         const Control& cover, int pairs) {
   add(row, pair, caption, covered, pairs);
   addField(row, pair, faces_.widget(cover), pairs);
+  nameBy(faces_.label(caption), faces_.face(cover));
 }
 
 QGroupBox* makeGroup(std::string_view heading) {
   auto* group = new QGroupBox(fromText(heading));
   group->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   return group;
+}
+
+void nameBy(QLabel& label, const Face& field) {
+  QWidget* widget = field.focusWidget();
+  label.setBuddy(widget);
+  if (widget->accessibleName().isEmpty()) widget->setAccessibleName(label.text());
 }
 
 void makeBold(QWidget& words) {

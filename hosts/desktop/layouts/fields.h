@@ -39,6 +39,10 @@ QGroupBox* makeGroup(std::string_view heading);
 /// Between a frame's edge and its content.
 inline constexpr QMargins insideFrame(8, 4, 8, 6);
 
+/// Lets the label name the field for screen readers; a list has no other name there. Both belong in
+/// one window part.
+void nameBy(QLabel& label, const Face& field);
+
 void makeBold(QWidget& words);
 
 /// A row of widgets and the room that is left after them.

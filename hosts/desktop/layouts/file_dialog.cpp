@@ -6,6 +6,7 @@
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/layouts/dialog_layouts.h"
 #include "hosts/desktop/layouts/fields.h"
+#include "platform/forms/face_words.h"
 
 namespace awizo::desktop {
 namespace {
@@ -20,6 +21,10 @@ void dress(FormFace& faces, const PictureButton& button, const QString& icon,
 void placeLists(DlgWczytajZapisz& form, FormFace& faces) {
   auto* grid = new QGridLayout(faces.widget(form.Frame1));
   grid->addWidget(faces.widget(form.Drive), 0, 0);
+  // Nothing stands before the drives; a list is named by a label alone.
+  auto* drives = new QLabel(fromText(words::drives), faces.widget(form.Frame1));
+  drives->hide();
+  nameBy(*drives, faces.face(form.Drive));
   grid->addWidget(faces.widget(form.DirList), 1, 0);
   grid->addWidget(faces.widget(form.FileList), 0, 1, 2, 1);
   grid->setColumnStretch(0, 2);

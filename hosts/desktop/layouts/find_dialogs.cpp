@@ -13,6 +13,7 @@ void layOut(FaultList& form, FormDialog& dialog) {
   FormFace& faces = dialog.faces();
   TableFace& table = faces.table(form.grdFaults);
   table.stretchColumn(1);
+  table.view()->setAccessibleName(fromText(words::faultsTable));
   const QFontMetrics metrics = dialog.fontMetrics();
   table.view()->setMinimumSize(metrics.averageCharWidth() * 90, metrics.height() * 16);
   auto* rows = new QVBoxLayout(&dialog);

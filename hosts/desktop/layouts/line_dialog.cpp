@@ -43,6 +43,8 @@ QGroupBox* makeOrigin(DlgDodaj& form, FormFace& faces) {
   QHBoxLayout* country = makeRow({faces.widget(form.comboCountry), faces.widget(form.btnISOcodes)});
   country->setStretch(0, 1);
   fields.add(2, 0, form.lblContryOfOryginCode, country);
+  nameBy(faces.label(form.lblContryOfOryginCode), faces.face(form.comboCountry));
+  faces.button(form.btnISOcodes).setTip(fromText(words::anyCountry));
   QHBoxLayout* customsNumber = makeRow({faces.widget(form.txtCDN1), faces.widget(form.dpCDN2),
                                         faces.widget(form.txtCDN3), faces.widget(form.txtCDN4)});
   for (const auto& [field, digits] :
@@ -51,6 +53,13 @@ QGroupBox* makeOrigin(DlgDodaj& form, FormFace& faces) {
     widget->setMinimumWidth(widget->fontMetrics().horizontalAdvance('0') * (digits + 2));
   }
   fields.add(3, 0, form.Label9, customsNumber);
+  for (const auto& [field, words] :
+       {std::pair<const Control*, std::string_view>{&form.txtCDN1, words::customsNumber},
+        {&form.dpCDN2, words::customsDate},
+        {&form.txtCDN3, words::customsSerial},
+        {&form.txtCDN4, words::customsItem}}) {
+    faces.face(*field).focusWidget()->setAccessibleName(fromText(words));
+  }
   fields.grid()->setRowStretch(4, 1);
   return group;
 }
@@ -71,6 +80,8 @@ QGroupBox* makePackages(DlgDodaj& form, FormFace& faces) {
   TableFace& table = faces.table(form.grdPozycje);
   table.view()->setMinimumHeight(table.view()->fontMetrics().height() * 7);
   table.stretchColumn(2);
+  table.view()->setAccessibleName(fromText(words::linePackagesTable));
+  faces.widget(form.grdPozycjeN)->setAccessibleName(fromText(words::linePackagesTable));
   auto* buttons = new QVBoxLayout;
   buttons->setSpacing(4);
   faces.button(form.Command1).setTip(fromText(words::putIntoPackage));

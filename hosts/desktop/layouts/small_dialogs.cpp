@@ -1,5 +1,6 @@
 #include <QVBoxLayout>
 
+#include "desk/layout_words.h"
 #include "hosts/desktop/faces/table_face.h"
 #include "hosts/desktop/layouts/dialog_layouts.h"
 #include "hosts/desktop/layouts/fields.h"
@@ -19,6 +20,7 @@ void layOut(DlgdodajPule& form, FormDialog& dialog) {
   QHBoxLayout* quantity = makeRow({faces.widget(form.txtQuantity), faces.widget(form.UpDown1)});
   quantity->setSpacing(0);
   fields.add(1, 0, form.Label1, quantity);
+  nameBy(faces.label(form.Label1), faces.face(form.txtQuantity));
   faces.widget(form.cboxPackages)->setMinimumWidth(dialog.fontMetrics().averageCharWidth() * 45);
   rows->addWidget(holder);
   rows->addStretch(1);
@@ -29,6 +31,10 @@ void layOut(DlgIsoCodes& form, FormDialog& dialog) {
   FormFace& faces = dialog.faces();
   TableFace& table = faces.table(form.grdISO);
   table.stretchColumn(0);
+  table.moveAsInList(0);
+  table.view()->setAccessibleName(fromText(words::countriesTable));
+  // A double click accepts, as in any list to choose from.
+  table.afterDoubleClick = [&form, &faces] { faces.act([&form] { form.btnAccept.userPress(); }); };
   const QFontMetrics metrics = dialog.fontMetrics();
   table.view()->setMinimumSize(metrics.averageCharWidth() * 52, metrics.height() * 22);
   auto* rows = new QVBoxLayout(&dialog);

@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <QStyle>
 
+#include "desk/box_advice.h"
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/icons.h"
 #include "hosts/desktop/faces/text.h"
@@ -56,6 +57,7 @@ Answer askUser(const MessageBox& box, QWidget* over) {
                      QMessageBox::NoButton, over);
   showIcon(window, box.icon);
   window.setTextFormat(Qt::PlainText);
+  window.setInformativeText(fromText(adviceOn(box)));
   if (box.buttons == BoxButtons::ok) {
     QPushButton* ok = window.addButton(fromText(words::ok), QMessageBox::AcceptRole);
     window.setDefaultButton(ok);

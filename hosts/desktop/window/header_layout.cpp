@@ -49,6 +49,7 @@ void add(QGridLayout* grid, FormFace& faces, const Field& field, int row, int co
   if (row > 0) words->setContentsMargins(0, 4, 0, 0);
   grid->addWidget(words, 2 * row, column, 1, columns);
   grid->addWidget(faces.widget(field), 2 * row + 1, column, 1, columns);
+  nameBy(*words, faces.face(field));
 }
 
 QWidget* makeDocument(AwizoForm& form, FormFace& faces) {

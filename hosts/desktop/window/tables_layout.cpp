@@ -51,7 +51,9 @@ QLayout* makeFillRow(FormFace& faces, QWidget* caption, std::initializer_list<QW
 QWidget* makeSums(AwizoForm& form, FormFace& faces) {
   TableFace& table = faces.table(form.grdSuma);
   table.layOverCell(faces.face(form.txtEdycjaSuma));
+  faces.widget(form.txtEdycjaSuma)->setAccessibleName(fromText(words::totalsTable));
   QTableView* view = table.view();
+  view->setAccessibleName(fromText(words::totalsTable));
   view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   const int rowHeight = view->fontMetrics().height() + 8;
@@ -106,6 +108,7 @@ QWidget* makeLines(Editor& editor, FormFace& faces, QWidget& strip) {
   QWidget* frame = faces.widget(form.frmPozycje);
   TableFace& table = faces.table(form.grdPozycje);
   table.layOverCell(faces.face(form.txtEdycja));
+  faces.widget(form.txtEdycja)->setAccessibleName(fromText(words::quantityEditor));
   table.describeRows([&editor](int row) { return lineFaultWords(editor, row); });
   table.view()->setMinimumHeight(table.view()->fontMetrics().height() * 7);
   auto* grid = new QGridLayout(frame);
@@ -120,10 +123,14 @@ QWidget* makeLines(Editor& editor, FormFace& faces, QWidget& strip) {
                   form.btnUzupelnij, form.btnNadpisz),
       2, 0, 1, 2);
   faces.button(form.Image2).setIcon("countries");
-  grid->addLayout(makeFillRow(faces, new QLabel(fromText(words::country)),
-                              {faces.widget(form.comboCountry), faces.widget(form.Image2)},
-                              form.btnUzupelnij2, form.btnNadpisz2),
-                  3, 0, 1, 2);
+  auto* country = new QLabel(fromText(words::country));
+  grid->addLayout(
+      makeFillRow(faces, country, {faces.widget(form.comboCountry), faces.widget(form.Image2)},
+                  form.btnUzupelnij2, form.btnNadpisz2),
+      3, 0, 1, 2);
+  nameBy(faces.label(form.lblStawkaVAT), faces.face(form.comboStawkaVAT));
+  nameBy(*country, faces.face(form.comboCountry));
+  table.view()->setAccessibleName(fromText(words::linesTable));
   return frame;
 }
 
@@ -134,6 +141,7 @@ QWidget* makePackages(AwizoForm& form, FormFace& faces) {
   row->setSpacing(6);
   QTableView* view = faces.table(form.grdOpakowania).view();
   new ColumnFill(*view, GRD_OPAK_DESC);
+  view->setAccessibleName(fromText(words::packagesTable));
   view->setMinimumHeight(view->fontMetrics().height() * 6);
   row->addWidget(view);
   row->addLayout(makeRowButtons(faces, packageCommands(form)));
