@@ -61,10 +61,12 @@ AdviceDraft draftOf(const Editor& editor) {
     draft.header.push_back(valueText(field));
   }
   draft.packages = std::move(advice.packages);
+  draft.packageNotes.reserve(draft.packages.size());
   for (std::size_t i = 1; i <= draft.packages.size(); ++i) {
     draft.packageNotes.push_back(packageNotes(packageRow(editor, static_cast<int>(i))));
   }
   draft.lines = std::move(advice.lines);
+  draft.lineNotes.reserve(draft.lines.size());
   for (std::size_t i = 1; i <= draft.lines.size(); ++i) {
     draft.lineNotes.push_back(lineNotes(lineRow(editor, static_cast<int>(i))));
   }
