@@ -11,7 +11,7 @@ constexpr std::string_view packingIsNotSaved =
     "В сохранённом файле не остаётся, что в какой упаковке лежит: после открытия товар "
     "упаковывают заново.";
 
-/// " ТН-6", to stand after a word; empty where the document has no number.
+/// " ТН-6", to follow a word; empty where the document has no number.
 std::string afterWord(std::string_view number) {
   return number.empty() ? "" : joined({" ", number});
 }

@@ -13,9 +13,9 @@ namespace awizo {
 /// A way out of a document, by which it would be lost.
 enum class WayOut { open, close, startAgain };
 
-/// Watches what becomes of a control's document. It says how the document stands, and asks before
-/// it would be lost. A host asks it before it hands a user's act to the control; acts of scripts go
-/// to the control unasked.
+/// Watches what becomes of a control's document. It says what state the document is in, and asks
+/// before it would be lost. A host asks it before it hands a user's act to the control; acts of
+/// scripts go to the control unasked.
 class DocumentWatch {
  public:
   /// Both outlive it.
@@ -28,7 +28,7 @@ class DocumentWatch {
   std::function<Choice(const Question&)> ask;
   /// How the host presses the button that saves; it returns when the saving is over.
   std::function<void()> save = [this] { control_.form.btnZapisz.userPress(); };
-  /// Told when what it says may have changed because of something that was done.
+  /// Called when what it says may have changed because of something that was done.
   std::function<void()> onDeed;
 
   /// Whether the document may go. What is neither saved nor sent is asked about; where the user

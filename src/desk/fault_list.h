@@ -10,7 +10,7 @@
 
 namespace awizo {
 
-/// The list of what is wrong with the document. It only tells; Enter or a double click chooses a
+/// The list of what is wrong with the document. It only shows; Enter or a double click chooses a
 /// place to go to.
 class FaultList : public Form {
  public:

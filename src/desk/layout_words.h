@@ -38,7 +38,7 @@ inline constexpr std::string_view anyCountry = "Страна из полного
 /// Search among the lines.
 inline constexpr std::string_view whatToFind = "Номер, EAN, название или код:";
 
-// Line dialog: groups of fields, tips of the buttons beside its packages.
+// Line dialog: groups of fields, tips of the buttons next to its packages.
 inline constexpr std::string_view productGroup = "Товар";
 inline constexpr std::string_view quantityGroup = "Количество и налог";
 inline constexpr std::string_view datesGroup = "Сроки и происхождение";

@@ -16,15 +16,15 @@ std::optional<int> findLine(const Editor& editor, std::string_view text);
 std::optional<int> findScanned(const Editor& editor, std::string_view code);
 
 /// Collects the digits that a scanner types into the table, which takes none itself. A scanner is
-/// told by what it types and not by how fast: at least as many digits as the shortest EAN has, and
-/// Enter.
+/// recognised by what it types, not by how fast: at least as many digits as the shortest EAN has,
+/// and Enter.
 class ScannedCode {
  public:
   void add(char digit) { digits_ += digit; }
   /// Any other key, or the focus gone elsewhere.
   void forget() { digits_.clear(); }
   const std::string& digits() const { return digits_; }
-  /// Enter: the code that it ends, empty where the digits are none; they are forgotten.
+  /// Enter: returns the code that it ends, empty where the digits are no code; they are forgotten.
   std::string end();
 
  private:

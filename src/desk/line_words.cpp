@@ -15,7 +15,7 @@ bool holdsLine(const Editor& editor, int row) {
   return row >= 1 && row <= editor.session.LineCount && row < editor.form.grdPozycje.rows();
 }
 
-/// Beyond the last row that the cell index reaches there is no fault to tell.
+/// Beyond the last row that the cell index reaches there is no fault to show.
 std::optional<RowFault> faultOf(const Editor& editor, int row) {
   try {
     return firstFaultToTell(editor, narrow16(row));
@@ -54,7 +54,7 @@ std::string_view wordsOf(const RowFault& fault, bool isEmpty) {
   }
 }
 
-/// What stands behind a long name must still be seen.
+/// What follows a long name must still be seen.
 std::string shortened(const std::string& name) {
   constexpr std::size_t longest = 60;
   if (countCharacters(name) <= longest) return name;

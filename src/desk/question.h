@@ -14,7 +14,7 @@ enum class Choice { save, letGo, goOn, cancel, wait, leave, send };
 /// The words on its button, "&" before the mnemonic letter.
 std::string_view wordsOf(Choice choice);
 
-/// A question that stands before something that can't be undone. The control never asks one.
+/// A question before something that can't be undone. The control never asks one.
 struct Question {
   std::string text = {};  ///< lines end in a carriage return and a line feed
   std::vector<Choice> choices = {};

@@ -33,7 +33,7 @@ class TableFace : public Face {
   /// Runs after the user has double-clicked a cell, with what the table does by itself done. May
   /// be empty.
   std::function<void()> afterDoubleClick;
-  /// What a row has to say beside its cells: see TableRows.
+  /// What a row has to say besides its cells: see TableRows.
   void describeRows(std::function<std::string(int row)> describe);
   /// The column takes the room that the others leave.
   void stretchColumn(int column);

@@ -20,8 +20,8 @@ class TableRows : public QAbstractTableModel {
   QVariant data(const QModelIndex& index, int role) const override;
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-  /// What a row has to say beside its cells, empty for nothing: stands in the cells' tips and is
-  /// read to those who don't see the row's colour. May be empty.
+  /// What a row has to say besides its cells, empty for nothing: shown in the cells' tips, and read
+  /// to those who don't see the row's colour. May be empty.
   std::function<std::string(int row)> describe;
 
   void changed();

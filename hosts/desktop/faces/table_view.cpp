@@ -9,7 +9,7 @@ namespace {
 
 constexpr int barWidth = 4;
 
-/// The first colour with so many tenths of the second.
+/// The first colour with this many tenths of the second.
 QColor mixed(const QColor& one, const QColor& other, int tenths) {
   const auto between = [tenths](int left, int right) {
     return ((10 - tenths) * left + tenths * right) / 10;

@@ -15,8 +15,8 @@ class Fields {
 
   QGridLayout* grid() const { return grid_; }
 
-  /// A caption that is a control of the form, and the field beside it, in a pair of columns: pair 0
-  /// is the first. `pairs`: how many pairs the field extends over.
+  /// A caption that is a control of the form, and the field next to it, in a pair of columns: pair
+  /// 0 is the first. `pairs`: how many pairs the field extends over.
   void add(int row, int pair, const Control& caption, QLayout* field, int pairs = 1);
   void add(int row, int pair, const Control& caption, const Control& field, int pairs = 1);
   /// The same with a caption in words, which comes and goes with the field.

@@ -150,7 +150,7 @@ bool MainWindow::mayCloseNow() {
     askWhileWorking(*question);
     return false;
   }
-  // A second close while the question stands leaves it to the question.
+  // A second close while the question is open leaves it to the question.
   if (asking_) return false;
   asking_ = true;
   const AtExit asked([this] { asking_ = false; });

@@ -42,7 +42,7 @@ class MainWindow : public QMainWindow {
   bool hasFolder();
   bool agreesToAddresses();
   /// Whether the window may close now. While an order comes or a document goes, the user is asked
-  /// beside the work, and a second closing closes.
+  /// while the work goes on, and a second closing closes.
   bool mayCloseNow();
   void askWhileWorking(const Question& question);
 

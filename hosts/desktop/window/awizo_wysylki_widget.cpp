@@ -80,7 +80,7 @@ struct AwizoWysylkiWidget::Parts {
   ~Parts() {
     face.releaseDialogs();
     delete faces;
-    // What stands beside the faces follows the control too, which goes now.
+    // What is shown besides the faces follows the control too, which is destroyed now.
     delete content;
   }
   Parts(const Parts&) = delete;

@@ -67,7 +67,7 @@ class AwizoWysylkiWidget : public QWidget {
 
   /// What becomes of the document, and the questions before it would be lost.
   DocumentWatch& watch();
-  /// Shows a question while work goes on, and tells what the user has chosen. When the work ends
+  /// Shows a question while work goes on, and reports what the user has chosen. When the work ends
   /// first, that is the harmless choice.
   void askWhileWorking(const Question& question, std::function<void(Choice)> chosen);
   /// Whether an exchange runs or the user is asked something, so that the widget can't go yet.
@@ -103,7 +103,7 @@ class AwizoWysylkiWidget : public QWidget {
   struct Parts;
 
   void showStates();
-  /// Shows how the document stands, once whatever changes it now is over.
+  /// Shows the document's state, once whatever changes it now is over.
   void showStandingSoon();
   void showStanding();
 

@@ -11,7 +11,7 @@
 namespace awizo::desktop {
 
 /// Leads the user to lines and to what is wrong: by a text, by a scanned code typed into the table
-/// of lines, by the list of faults. What it has to say stands in the strip below the table.
+/// of lines, by the list of faults. What it has to say is shown in the strip below the table.
 class Finder : public QObject {
  public:
   /// `screenFace` shows its dialogs, which are the window's and not the control's. It belongs to

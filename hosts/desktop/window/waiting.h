@@ -32,7 +32,7 @@ class Waiting : public QObject {
   /// Lets the user answer this window while the work goes on; it is closed when the wait ends.
   void letAnswer(QWidget* window) { answered_ = window; }
 
-  /// Told when the wait has ended. May be empty.
+  /// Called when the wait has ended. May be empty.
   std::function<void()> onEnd;
 
   bool lasts() const { return spans_ > 0; }

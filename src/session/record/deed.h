@@ -4,7 +4,7 @@
 
 namespace awizo {
 
-/// What became of the document, told to whoever shows it.
+/// What became of the document, reported to whoever shows it.
 struct Deed {
   enum class Kind {
     refused,     ///< the start ended without an editor; `text` says why, in Russian
@@ -22,7 +22,7 @@ struct Deed {
   std::string text = {};
   int lines = 0;
 
-  /// Whether the document, as it stands then, would not be lost with the form.
+  /// Whether the document, as it is then, would not be lost with the form.
   bool keepsDocument() const {
     return kind == Kind::read || kind == Kind::notRead || kind == Kind::saved || kind == Kind::sent;
   }
