@@ -53,7 +53,7 @@ class PackingMaker {
     if (line.packages.empty()) packing_.unpacked.push_back({&line, std::nullopt});
     for (const PackageReference& reference : line.packages) {
       const auto found = byId_.find(reference.packageId);
-      std::vector<PackedLine>& lines = found == byId_.end()
+      std::vector<PackedPart>& lines = found == byId_.end()
                                            ? packing_.unpacked
                                            : packing_.packages[*places_[found->second]].lines;
       lines.push_back({&line, reference.quantity});

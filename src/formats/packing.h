@@ -8,8 +8,8 @@
 
 namespace awizo {
 
-/// What of a line a package holds directly.
-struct PackedLine {
+/// The part of a line that a package holds directly.
+struct PackedPart {
   const AdviceLine* line;
   std::optional<std::string> quantity;  ///< as its reference has it
 };
@@ -17,14 +17,14 @@ struct PackedLine {
 struct PackedPackage {
   const AdvicePackage* package;
   int level;  ///< 1 at the top; what is in it follows, one level deeper
-  std::vector<PackedLine> lines;
+  std::vector<PackedPart> lines;
 };
 
 /// Who is in which package.
 struct Packing {
   /// Each package once, before those in it; those of one parent are in the document's order.
   std::vector<PackedPackage> packages;
-  std::vector<PackedLine> unpacked;  ///< lines without package, and parts that name none of these
+  std::vector<PackedPart> unpacked;  ///< lines without package, and parts that name none of these
 };
 
 /// The packing of an advice, which must outlive it. A package whose parent isn't there is at the

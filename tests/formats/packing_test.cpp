@@ -11,7 +11,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-std::string described(const PackedLine& packed) {
+std::string described(const PackedPart& packed) {
   return packed.line->number + ":" + packed.quantity.value_or("?");
 }
 
@@ -21,10 +21,10 @@ std::vector<std::string> described(const DespatchAdvice& advice) {
   std::vector<std::string> all;
   for (const PackedPackage& packed : packing.packages) {
     std::string text = std::to_string(packed.level) + " " + packed.package->id;
-    for (const PackedLine& line : packed.lines) text += " " + described(line);
+    for (const PackedPart& line : packed.lines) text += " " + described(line);
     all.push_back(text);
   }
-  for (const PackedLine& line : packing.unpacked) all.push_back("- " + described(line));
+  for (const PackedPart& line : packing.unpacked) all.push_back("- " + described(line));
   return all;
 }
 

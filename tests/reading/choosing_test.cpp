@@ -128,7 +128,7 @@ TEST_F(ChoosingAFile, ADocumentOfAnotherKindIsRefusedAndTheFormIsEmpty) {
 }
 
 TEST_F(ChoosingAFile, AFileThatIsGoneByThenIsToldAndRefused) {
-  files.put("c:\\docs\\awizo.xml", DespatchAdvice{}.text());
+  files.put("c:\\docs\\awizo.xml", AdvicePieces{}.text());
   files.failReading("c:\\docs\\awizo.xml", errors::fileNotFound());
   choose("awizo.xml");
   EXPECT_THAT(takeBoxes(),
@@ -137,7 +137,7 @@ TEST_F(ChoosingAFile, AFileThatIsGoneByThenIsToldAndRefused) {
 }
 
 TEST_F(ChoosingAFile, AFileThatMayNotBeReadIsToldAndRefused) {
-  files.put("c:\\docs\\awizo.xml", DespatchAdvice{}.text());
+  files.put("c:\\docs\\awizo.xml", AdvicePieces{}.text());
   files.failReading("c:\\docs\\awizo.xml", errors::permissionDenied());
   choose("awizo.xml");
   EXPECT_THAT(
@@ -146,7 +146,7 @@ TEST_F(ChoosingAFile, AFileThatMayNotBeReadIsToldAndRefused) {
 }
 
 TEST_F(ChoosingAFile, AnotherSellersDocumentIsRefused) {
-  DespatchAdvice document;
+  AdvicePieces document;
   document.parties =
       "<DespatchAdvice-Parties><Buyer><ILN>0</ILN></Buyer><Seller><ILN>9520001000011</ILN>"
       "<CodeByBuyer>77</CodeByBuyer></Seller></DespatchAdvice-Parties>";
@@ -157,7 +157,7 @@ TEST_F(ChoosingAFile, AnotherSellersDocumentIsRefused) {
 }
 
 TEST_F(ChoosingAFile, AnotherBuyersDocumentIsRefusedAfterTheSellersCodeWasRead) {
-  DespatchAdvice document;
+  AdvicePieces document;
   document.parties =
       "<DespatchAdvice-Parties><Buyer><ILN>952000200001</ILN></Buyer><Seller>"
       "<ILN>9520001000010</ILN><CodeByBuyer>77</CodeByBuyer></Seller></DespatchAdvice-Parties>";
@@ -168,7 +168,7 @@ TEST_F(ChoosingAFile, AnotherBuyersDocumentIsRefusedAfterTheSellersCodeWasRead) 
 }
 
 TEST_F(ChoosingAFile, MissingPartiesAreNeitherSellerNorBuyer) {
-  DespatchAdvice document;
+  AdvicePieces document;
   document.parties = "";
   read(document);
   EXPECT_THAT(takeBoxes(), ElementsAre("VIRD|exclamation|OK|Неправильный ILN номер продавца"));

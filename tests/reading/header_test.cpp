@@ -16,12 +16,12 @@ class ReadingTheHeader : public ::testing::Test, public ReadingDesk {
   explicit ReadingTheHeader(const char* localeName = "ru_RU") : ReadingDesk(localeName) {}
 
   void readHeader(const std::string& values) {
-    DespatchAdvice document;
+    AdvicePieces document;
     document.header = "<DespatchAdvice-Header>" + values + "</DespatchAdvice-Header>";
     read(document);
   }
   void readParties(const std::string& others) {
-    DespatchAdvice document;
+    AdvicePieces document;
     document.parties =
         "<DespatchAdvice-Parties><Buyer><ILN>9520002000019</ILN></Buyer><Seller>"
         "<ILN>9520001000010</ILN></Seller>" +
@@ -29,7 +29,7 @@ class ReadingTheHeader : public ::testing::Test, public ReadingDesk {
     read(document);
   }
   void readPackageHeader(const std::string& values) {
-    DespatchAdvice document;
+    AdvicePieces document;
     document.consignment =
         "<DespatchAdvice-Consignment><Packing-Sequence><PackageId>1</PackageId>"
         "<Package-Identification>" +
@@ -199,7 +199,7 @@ TEST(ReadingAWrongHeader, EndsAtTheValueThatIsWrong) {
   for (const char* wrong : {"DespatchAdviceDate", "OrderDate", "EstimatedDeliveryDate",
                             "EstimatedDeliveryTime", "DespatchAdviceTime"}) {
     ReadingDesk desk;
-    DespatchAdvice document;
+    AdvicePieces document;
     const std::string tag = "<" + std::string(wrong) + ">";
     document.header = replaceAll(document.header, tag, tag + "x");
     document.consignment = replaceAll(
@@ -233,7 +233,7 @@ class ReadingOverAnAnswer : public ReadingTheHeader {
     EXPECT_TRUE(form.enabled());
   }
 
-  DespatchAdvice document;
+  AdvicePieces document;
 };
 
 TEST_F(ReadingOverAnAnswer, AnErrorLeavesAnAnswerAndNoTotals) {

@@ -28,7 +28,7 @@ class ReadingLines : public ::testing::Test, public ReadingDesk {
   explicit ReadingLines(const char* localeName = "ru_RU") : ReadingDesk(localeName) {}
 
   void readLines(const std::string& children, const std::string& summary = "") {
-    DespatchAdvice document;
+    AdvicePieces document;
     document.lines = "<DespatchAdvice-Lines>" + children + "</DespatchAdvice-Lines>";
     document.summary = summary;
     read(document);
@@ -128,7 +128,7 @@ TEST_F(ReadingLines, TheReferencesOfALineDontComeBack) {
 }
 
 TEST_F(ReadingLines, ADocumentWithoutLinesIsReadAndReported) {
-  DespatchAdvice document;
+  AdvicePieces document;
   document.lines = "";
   document.summary =
       "<DespatchAdvice-Summary><TotalQuantity>4</TotalQuantity>"

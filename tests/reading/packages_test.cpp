@@ -19,7 +19,7 @@ class ReadingPackages : public ::testing::Test, public ReadingDesk {
   explicit ReadingPackages(const char* debugLevel = "") : ReadingDesk("ru_RU", debugLevel) {}
 
   void readPackages(const std::string& children) {
-    DespatchAdvice document;
+    AdvicePieces document;
     document.consignment =
         "<DespatchAdvice-Consignment>" + children + "</DespatchAdvice-Consignment>";
     read(document);
@@ -73,7 +73,7 @@ TEST_F(ReadingPackages, AConsignmentWithoutPackagesLeavesOneRow) {
 TEST_F(ReadingPackages, AMissingConsignmentIsToldAndReportedAndTheLinesAreRead) {
   putPackages(3, [](int) { return 0; });
   packages.setRow(3);
-  DespatchAdvice document;
+  AdvicePieces document;
   document.consignment = "";
   read(document);
   EXPECT_THAT(takeBoxes(), ElementsAre(plainBreak1, plainBox("break3"), incomplete));

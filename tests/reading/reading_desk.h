@@ -10,7 +10,7 @@
 namespace awizo::test {
 
 /// Pieces of a despatch advice; each can be replaced or left out.
-struct DespatchAdvice {
+struct AdvicePieces {
   std::string header =
       "<DespatchAdvice-Header><DespatchAdviceNumber>WZ-7</DespatchAdviceNumber>"
       "<DespatchAdviceDate>2026-11-02</DespatchAdviceDate>"
@@ -68,7 +68,7 @@ struct ReadingDesk : Desk {
     files.put("c:\\docs\\awizo.xml", bytes);
     choose("awizo.xml");
   }
-  void read(const DespatchAdvice& document) { readBytes(document.text()); }
+  void read(const AdvicePieces& document) { readBytes(document.text()); }
 };
 
 }  // namespace awizo::test
