@@ -25,6 +25,13 @@ std::string systemPath(std::string_view path) {
   return translated;
 }
 
+std::string classicPath(std::string_view path) {
+  std::string translated(drive);
+  translated += path;
+  std::replace(translated.begin(), translated.end(), '/', '\\');
+  return translated;
+}
+
 std::vector<std::string> driveNames() { return {std::string(drive)}; }
 
 }  // namespace awizo::posix

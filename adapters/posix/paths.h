@@ -11,6 +11,9 @@ namespace awizo::posix {
 /// another drive.
 std::string systemPath(std::string_view path);
 
+/// The reverse of it, for a path from the root.
+std::string classicPath(std::string_view path);
+
 /// The drives there are: "c:".
 std::vector<std::string> driveNames();
 

@@ -9,10 +9,14 @@ namespace {
 constexpr CommandKey key(std::int16_t code) { return {.code = code}; }
 constexpr CommandKey withControl(char letter) { return {.code = letter, .control = true}; }
 
-std::vector<Command> sessionCommands() {
+Command folderCommand() {
   return {
-      {.words = "&Папка для работы без связи…", .icon = "folder", .task = HostTask::chooseFolder},
-      {.words = "&Начать сеанс заново", .icon = "again", .task = HostTask::startAgain}};
+      .words = "&Папка для работы без связи…", .icon = "folder", .task = HostTask::chooseFolder};
+}
+
+std::vector<Command> sessionCommands() {
+  return {folderCommand(),
+          {.words = "&Начать сеанс заново", .icon = "again", .task = HostTask::startAgain}};
 }
 
 std::vector<Command> findCommands() {
@@ -102,6 +106,10 @@ std::vector<Command> packageCommands(AwizoForm& form) {
            .keys = {key(keys::remove)},
            .place = &form.grdOpakowania,
            .onCurrentRow = true}};
+}
+
+std::vector<CommandMenu> startMenus() {
+  return {{"&Документ", {{folderCommand()}, endCommands()}}, {"&Справка", {helpCommands()}}};
 }
 
 std::vector<CommandMenu> commandMenus(AwizoForm& form) {

@@ -61,5 +61,7 @@ std::vector<Command> packageCommands(AwizoForm& form);
 
 /// The menus, from the left.
 std::vector<CommandMenu> commandMenus(AwizoForm& form);
+/// The menus beside the start page.
+std::vector<CommandMenu> startMenus();
 
 }  // namespace awizo

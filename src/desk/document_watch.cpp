@@ -11,6 +11,9 @@ constexpr std::string_view packingIsNotSaved =
     "В сохранённом файле не остаётся, что в какой упаковке лежит: после открытия товар "
     "упаковывают заново.";
 
+constexpr std::string_view askBeforeRepeating =
+    "Если он дошёл, получатель увидит его дважды. Спросите получателя или отправьте ещё раз.";
+
 /// " ТН-6", to follow a word; empty where the document has no number.
 std::string afterWord(std::string_view number) {
   return number.empty() ? "" : joined({" ", number});
@@ -121,9 +124,7 @@ bool DocumentWatch::mayPress(const Button& button) {
   const Question question{
       .text =
           joined({"Документ", afterWord(form.txtNrAwiza.text()), " уже отправляли в ", unanswered_,
-                  ", но ответ службы не пришёл: он мог дойти.\r\n"
-                  "Если он дошёл, получатель увидит его дважды. Спросите получателя или "
-                  "отправьте ещё раз."}),
+                  ", но ответ службы не пришёл: он мог дойти.\r\n", askBeforeRepeating}),
       .choices = {Choice::send, Choice::cancel}};
   return ask && ask(question) == Choice::send;
 }

@@ -6,6 +6,9 @@ namespace awizo {
 namespace {
 
 constexpr const char* title = "VIRD";
+constexpr std::string_view whatLaunchFilesAre =
+    "Файл запуска (*.awizo) даёт страница службы: в нём её адрес. Сохранённые документы (*.xml) "
+    "открываются командой «Открыть».";
 
 }  // namespace
 
@@ -21,6 +24,12 @@ MessageBox newAddressQuestion(std::string_view origin) {
   return {joined({"Редактор будет обмениваться документами со службой по адресу:\r\n\r\n", origin,
                   "\r\n\r\nЭтот адрес встречается впервые. Вы ему доверяете?"}),
           title, BoxIcon::question, BoxButtons::yesNo};
+}
+
+MessageBox launchFileRefusal(std::string_view file, std::string_view why) {
+  return {joined({"Файл запуска «", file, "» не годится.\r\n\r\n", why, "\r\n\r\n",
+                  whatLaunchFilesAre}),
+          title, BoxIcon::critical, BoxButtons::ok};
 }
 
 MessageBox aboutBox(std::string_view version) {

@@ -12,6 +12,8 @@ namespace awizo {
 MessageBox folderRequest();
 /// Asked before the first exchange with this place; Yes trusts it.
 MessageBox newAddressQuestion(std::string_view origin);
+/// Shown in place of a session that a launch file should begin. `why`: a sentence.
+MessageBox launchFileRefusal(std::string_view file, std::string_view why);
 /// `version`: the text of the form's version label.
 MessageBox aboutBox(std::string_view version);
 

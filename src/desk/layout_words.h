@@ -7,6 +7,15 @@ namespace awizo::words {
 
 inline constexpr std::string_view windowTitle = "Подтверждение отгрузки";
 inline constexpr std::string_view boxTitle = "VIRD";
+// Why the start page is back.
+inline constexpr std::string_view startRefused = "Начать не удалось. ";
+inline constexpr std::string_view addressNotTrusted =
+    "Сеанс со службой не начат: её адресу не доверено. Ничего не отправлено.";
+inline constexpr std::string_view folderNotChosen =
+    "Сеанс не начат: папка с файлами вашей фирмы не выбрана.";
+inline constexpr std::string_view launchFileTitle = "Файл запуска";
+inline constexpr std::string_view launchFileKind = "Файлы запуска (*.awizo);;Все файлы (*)";
+
 inline constexpr std::string_view guideTitle = "Руководство пользователя";
 inline constexpr std::string_view noGuide = "Руководство не установлено.";
 

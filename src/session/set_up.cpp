@@ -7,11 +7,6 @@
 namespace awizo {
 namespace {
 
-std::string versionText(const ProgramVersion& version) {
-  return "VIRDDesAdv " + std::to_string(version.major) + "." + std::to_string(version.minor) +
-         ".0." + std::to_string(version.revision);
-}
-
 void setUp(Editor& editor) {
   AwizoForm& form = editor.form;
   editor.session.WaitCursor = Cursor::wait;
@@ -36,6 +31,11 @@ void endAfter(Screen& screen, const RunTimeError& error) {
 }
 
 }  // namespace
+
+std::string versionText(const ProgramVersion& version) {
+  return "VIRDDesAdv " + std::to_string(version.major) + "." + std::to_string(version.minor) +
+         ".0." + std::to_string(version.revision);
+}
 
 void setUpControl(Editor& editor) {
   try {

@@ -46,9 +46,21 @@ void ProgramTest::show(const Options& options) {
   window_.reset();
   started_ = false;
   window_ = std::make_unique<desktop::MainWindow>(options);
+  follow();
+  window_->show();
+}
+
+void ProgramTest::follow() {
+  started_ = false;
+  if (!window_->hasSession()) return;
   QObject::connect(&widget(), &desktop::AwizoWysylkiWidget::startEnded, &widget(),
                    [this] { started_ = true; });
-  window_->show();
+}
+
+desktop::StartPageWidget& ProgramTest::waitForStartPage() {
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !window_->hasSession(); }, patience));
+  settle();
+  return window_->startPage();
 }
 
 void ProgramTest::open(const Options& options) {

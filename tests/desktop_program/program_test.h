@@ -32,6 +32,10 @@ class ProgramTest : public testing::Test {
   /// Shows the window; its start comes when the event loop runs.
   void show(const Options& options);
   void waitForStart();
+  /// Hears of the start of the session that the window has just begun.
+  void follow();
+  /// Waits until the window shows the start page; fails the test when it doesn't.
+  desktop::StartPageWidget& waitForStartPage();
   /// Waits until the window has closed; fails the test when it doesn't.
   void waitForClosing();
   bool isClosed() const { return !window_->isVisible(); }

@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QMessageBox>
+#include <QTimer>
 #include <filesystem>
 
 #include "desktop_program/program_test.h"
@@ -34,29 +35,129 @@ TEST_F(StartTest, OnLineShowsTheAddressFirstAndRemembersTheAgreement) {
   EXPECT_TRUE(widget().hasStarted()) << "an agreed address isn't asked about again";
 }
 
-TEST_F(StartTest, WithoutTheUsersAgreementNothingIsSent) {
+TEST_F(StartTest, WithoutTheUsersAgreementNothingIsSentAndTheStartPageSaysWhy) {
   const DemoService service(place.posted());
   show(onLineOptions(service));
   answerNext("&Нет");
-  waitForStart();
-  EXPECT_FALSE(widget().hasStarted());
-  EXPECT_FALSE(commands().action(form().btnWczytaj)->isEnabled());
+  StartPage& page = waitForStartPage().page();
+  EXPECT_EQ(page.lblWhy.caption(),
+            "Сеанс со службой не начат: её адресу не доверено. Ничего не отправлено.");
   // The order still waits for who does agree.
   agreeTo(service);
-  window().startAgain();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return form().txtNrZam.text() == "ЗК-2026/1147"; }, 30000));
+  page.btnAgain.userClick();
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] { return window().hasSession() && form().txtNrZam.text() == "ЗК-2026/1147"; }, 30000));
 }
 
 TEST_F(StartTest, ThatWasDeclinedKeepsTheFolderOfWork) {
   const DemoService service(place.posted());
   show(onLineOptions(service));
   answerNext("&Нет");
-  waitForStart();
+  waitForStartPage();
   Options again = offLineOptions();
   again.offLinePath.reset();
   open(again);
   EXPECT_TRUE(widget().hasStarted());
   EXPECT_TRUE(form().enabled());
+}
+
+TEST_F(StartTest, ThatIsRefusedLeadsToTheStartPageWithTheReason) {
+  Options options = offLineOptions();
+  options.properties["PartnerILN"] = "1";
+  show(options);
+  answerNext("ОК");
+  StartPage& page = waitForStartPage().page();
+  EXPECT_EQ(page.lblWhy.caption(),
+            "Начать не удалось. Нет или неправильный формат файла XML о партнёре.");
+  EXPECT_TRUE(page.btnAgain.visible());
+  EXPECT_EQ(page.cboxPartner.text(), "АО «Магазины рядом» (9520002000019)");
+}
+
+/// The program started by itself, without a launch file.
+class StartPageInWindow : public ProgramTest {
+ protected:
+  Options bareOptions() const {
+    Options options = offLineOptions();
+    options.properties.clear();
+    return options;
+  }
+  void begin(const Button& button) {
+    click(window().startPage().faces().face(button));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window().hasSession(); }, 10000));
+    follow();
+  }
+};
+
+TEST_F(StartPageInWindow, StandsWithoutAControlUntilTheUserBegins) {
+  show(bareOptions());
+  EXPECT_FALSE(window().hasSession());
+  EXPECT_EQ(window().windowTitle(), "Подтверждение отгрузки");
+  begin(window().startPage().page().btnOffLine);
+  waitForStart();
+  EXPECT_EQ(form().lblOnLineStatus.caption(), "Off-Line");
+  EXPECT_EQ(form().lblNameKupWart.caption(), "АО «Магазины рядом»");
+  EXPECT_TRUE(form().enabled());
+  window().startAgain();
+  waitForStartPage();
+}
+
+TEST_F(StartPageInWindow, OpensASavedDocumentAfterTheStart) {
+  show(bareOptions());
+  begin(window().startPage().page().btnOpen);
+  bool dialogSeen = false;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, [&] {
+    if (!control().dlgWczytajZapisz.shown()) return;
+    dialogSeen = true;
+    control().dlgWczytajZapisz.ImageZamknij.userClick();
+  });
+  look.start(10);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return dialogSeen && form().enabled(); }, 10000));
+}
+
+TEST_F(StartPageInWindow, ClosesWithoutAQuestion) {
+  show(bareOptions());
+  settle();
+  window().close();
+  EXPECT_TRUE(isClosed());
+}
+
+TEST_F(StartPageInWindow, AFileThatIsGivenIsOpenedForItsBuyer) {
+  std::filesystem::copy(AWIZO_SAMPLES "/despatch-advice.xml", place.folder() / "saved.xml");
+  show(bareOptions());
+  window().openFile(QString::fromStdString((place.folder() / "saved.xml").string()));
+  ASSERT_TRUE(window().hasSession());
+  // The reader tells of the packages that it forgets.
+  answerWithEnter([&] {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form().txtNrAwiza.text() == "ОТГ-0318"; }, 10000));
+  });
+}
+
+TEST_F(StartPageInWindow, AFileThatIsNoDocumentIsNamed) {
+  show(bareOptions());
+  const auto file = place.folder() / "none.xml";
+  window().openFile(QString::fromStdString(file.string()));
+  EXPECT_FALSE(window().hasSession());
+  EXPECT_NE(window().startPage().page().lblWhy.caption().find("none.xml"), std::string::npos);
+}
+
+TEST_F(StartPageInWindow, ALaunchFileThatIsRefusedIsNamed) {
+  show(bareOptions());
+  std::string box;
+  answerNext("ОК", &box);
+  window().openFile(QString::fromStdString((place.folder() / "bad.awizo").string()));
+  EXPECT_NE(box.find("Файл запуска «bad.awizo» не годится."), box.npos) << box;
+  EXPECT_FALSE(window().hasSession());
+}
+
+TEST_F(StartPageInWindow, AFileDroppedOnUnsentWorkIsAskedAbout) {
+  open(offLineOptions());
+  type("ТН-1");
+  std::string box;
+  answerNext("&Отмена", &box);
+  window().openFile(QString::fromStdString((place.folder() / "saved.xml").string()));
+  EXPECT_NE(box.find("ТН-1 не отправлен"), box.npos);
+  EXPECT_EQ(form().txtNrAwiza.text(), "ТН-1");
 }
 
 TEST_F(StartTest, WithoutAFolderLeadsToSettingOne) {
@@ -82,7 +183,7 @@ TEST_F(StartTest, WithoutAFolderLeadsToSettingOne) {
   EXPECT_EQ(form().lblNameSprzedWart.caption(), "ООО «Товары каждый день»");
 }
 
-TEST_F(StartTest, WithoutAFolderAndAWillToSetOneDoesNotStart) {
+TEST_F(StartTest, WithoutAFolderAndAWillToSetOneLeadsToTheStartPage) {
   Options options = offLineOptions();
   options.offLinePath.reset();
   show(options);
@@ -90,8 +191,8 @@ TEST_F(StartTest, WithoutAFolderAndAWillToSetOneDoesNotStart) {
     then([&] { control().dlgWczytajZapisz.ImageZamknij.userClick(); });
     press(Qt::Key_Return);
   });
-  waitForStart();
-  EXPECT_FALSE(widget().hasStarted());
+  EXPECT_EQ(waitForStartPage().page().lblWhy.caption(),
+            "Сеанс не начат: папка с файлами вашей фирмы не выбрана.");
 }
 
 TEST_F(StartTest, AgainBeginsAFreshSession) {

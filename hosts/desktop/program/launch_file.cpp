@@ -113,6 +113,11 @@ Options readLaunchFile(const std::string& path) {
   return parseLaunchFile({bytes.data(), static_cast<std::size_t>(bytes.size())});
 }
 
+bool nameSession(const Options& options) {
+  const auto onLine = options.properties.find("OnLine");
+  return options.pageUrl || (onLine != options.properties.end() && onLine->second == "Off");
+}
+
 Options merged(const Options& commandLine, const Options& launchFile) {
   Options both = commandLine;
   both.properties.insert(launchFile.properties.begin(), launchFile.properties.end());

@@ -31,6 +31,10 @@ Options parseLaunchFile(std::string_view text);
 /// Reads the file at the path, as the system knows it. Throws BadLaunchFile.
 Options readLaunchFile(const std::string& path);
 
+/// Whether the options say which session to begin: one on a page, or one off line. Else the user
+/// is asked.
+bool nameSession(const Options& options);
+
 /// What the command line says overrides what the launch file says.
 Options merged(const Options& commandLine, const Options& launchFile);
 

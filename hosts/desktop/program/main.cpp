@@ -1,12 +1,14 @@
 // The desktop program: the editor of despatch advices in a window.
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QTranslator>
 #include <csignal>
 #include <exception>
 #include <iostream>
 
+#include "desk/host_boxes.h"
 #include "hosts/common/program/about.h"
 #include "hosts/desktop/faces/icons.h"
 #include "hosts/desktop/program/launch_file.h"
@@ -19,7 +21,8 @@ namespace {
 using namespace awizo;
 
 constexpr std::string_view usage =
-    "usage: awizo [FILE.awizo] [--property NAME=VALUE]... [--page-url URL] [--cookie TEXT]\n"
+    "usage: awizo [FILE.awizo | FILE.xml] [--property NAME=VALUE]... [--page-url URL] [--cookie "
+    "TEXT]\n"
     "             [--settings FILE] [--offline-path DIR] [--locale NAME]\n"
     "             [--now YYYY-MM-DDTHH:MM:SS]\n"
     "       awizo --help | --version\n";
@@ -34,25 +37,37 @@ std::vector<std::string> argumentsOf(const QApplication&) {
   return arguments;
 }
 
-Options optionsOf(const std::vector<std::string>& arguments) {
-  std::vector<std::string> files;
-  const Options options = parseOptions(arguments, &files);
-  if (options.checkedFile) throw BadArguments("awizo-headless checks files");
-  if (files.size() > 1) throw BadArguments("more than one file");
-  return files.empty() ? options : desktop::merged(options, desktop::readLaunchFile(files.front()));
-}
+/// What the program was asked, and the file to begin with, if any.
+struct Asked {
+  Options options;
+  QString file;
+};
 
-void tellOfLaunchFile(const desktop::BadLaunchFile& error) {
-  desktop::askUser({"Файл запуска не годится.\r\n\r\n" + std::string(error.what()), "VIRD",
-                    BoxIcon::critical, BoxButtons::ok},
-                   nullptr);
+Asked asked(const std::vector<std::string>& arguments) {
+  std::vector<std::string> files;
+  Asked asked{parseOptions(arguments, &files), {}};
+  if (asked.options.checkedFile) throw BadArguments("awizo-headless checks files");
+  if (files.size() > 1) throw BadArguments("more than one file");
+  if (files.empty()) return asked;
+  asked.file = QString::fromStdString(files.front());
+  if (asked.file.endsWith(".xml", Qt::CaseInsensitive)) return asked;
+  try {
+    asked.options = desktop::merged(asked.options, desktop::readLaunchFile(files.front()));
+  } catch (const desktop::BadLaunchFile& error) {
+    desktop::askUser(
+        launchFileRefusal(QFileInfo(asked.file).fileName().toStdString(), error.what()), nullptr);
+    throw;
+  }
+  asked.file.clear();
+  return asked;
 }
 
 int run(const QApplication& application) {
-  const Options options = optionsOf(argumentsOf(application));
-  QLocale::setDefault(desktop::localeNamed(options.locale));
-  desktop::MainWindow window(options);
+  const Asked what = asked(argumentsOf(application));
+  QLocale::setDefault(desktop::localeNamed(what.options.locale));
+  desktop::MainWindow window(what.options);
   if (!window.isUsable()) return exitEndedBySystem;
+  if (!what.file.isEmpty()) window.openFile(what.file);
   window.show();
   return QApplication::exec();
 }
@@ -79,8 +94,8 @@ int main(int argumentCount, char** arguments) {
   }
   try {
     return run(application);
-  } catch (const desktop::BadLaunchFile& error) {
-    tellOfLaunchFile(error);
+  } catch (const desktop::BadLaunchFile&) {
+    // The user has seen why.
   } catch (const BadArguments& error) {
     std::cerr << "awizo: " << error.what() << '\n' << usage;
   } catch (const std::exception& error) {

@@ -10,14 +10,14 @@
 #include "desk/host_boxes.h"
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/icons.h"
-#include "hosts/desktop/program/addresses.h"
 #include "hosts/desktop/program/guide.h"
+#include "hosts/desktop/program/launch_file.h"
 #include "hosts/desktop/window/commands.h"
 #include "hosts/desktop/window/finder.h"
-#include "hosts/desktop/window/waiting.h"
+#include "hosts/version.h"
 #include "platform/at_exit.h"
 #include "session/awizo_wysylki.h"
-#include "session/record/off_line_path.h"
+#include "session/set_up.h"
 
 namespace awizo::desktop {
 namespace {
@@ -27,49 +27,45 @@ const QSize usualSize(1024, 700);
 }  // namespace
 
 MainWindow::MainWindow(Options options, Http* http)
-    : options_(std::move(options)),
+    : launch_(std::move(options)),
+      options_(launch_),
       http_(http),
       page_(options_),
       settings_(makeSettings(options_)),
       clock_(makeClock(options_)) {
-  setWindowTitle(fromText(words::windowTitle));
-  makeSession();
+  setAcceptDrops(true);
+  begin();
   // On a smaller screen the form scrolls instead of losing its edges.
   resize(usualSize.expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
 }
 
 MainWindow::~MainWindow() { delete takeCentralWidget(); }
 
-void MainWindow::makeSession() {
-  bag_ = std::make_unique<OptionsBag>(options_);
-  widget_ =
-      new AwizoWysylkiWidget({*bag_, page_, *settings_, options_.locale, clock_.get(), http_});
-  widget_->mayStart = [this] { return mayStart(); };
-  widget_->waiting().onEnd = [this] { askedWhileWorking_ = false; };
-  connect(widget_, &AwizoWysylkiWidget::standingChanged, this,
-          [this] { setWindowTitle(fromText(widget_->watch().title())); });
+GivenParts MainWindow::givenParts() {
+  return {*bag_, page_, *settings_, options_.locale, clock_.get(), http_};
+}
+
+void MainWindow::showPart(QWidget* part) {
   auto* area = new QScrollArea;
   area->setFrameShape(QFrame::NoFrame);
   area->setWidgetResizable(true);
   area->setFocusPolicy(Qt::NoFocus);
-  area->setWidget(widget_);
+  area->setWidget(part);
   setCentralWidget(area);
   makeMenus();
 }
 
-void MainWindow::startAgain() {
-  if (widget_->isWorking() || !widget_->watch().mayTake(WayOut::startAgain)) return;
-  delete takeCentralWidget();
-  makeSession();
-}
-
 void MainWindow::chooseFolder() {
-  if (!widget_->isWorking()) widget_->askOffLineFolder();
+  if (widget_ == nullptr) {
+    startPage_->faces().act([this] { startPage_->page().btnFolder.userPress(); });
+  } else if (!widget_->isWorking()) {
+    widget_->askOffLineFolder();
+  }
 }
 
 void MainWindow::makeMenus() {
   menuBar()->clear();
-  for (const CommandMenu& menu : widget_->commands().menus()) {
+  for (const CommandMenu& menu : widget_ == nullptr ? startMenus() : widget_->commands().menus()) {
     fill(*menuBar()->addMenu(fromText(menu.heading)), menu);
   }
 }
@@ -115,36 +111,19 @@ void MainWindow::perform(HostTask task) {
     case HostTask::showGuide:
       return openGuide(*this);
     case HostTask::showAbout:
-      widget_->ask(aboutBox(widget_->control().form.lblVersion.caption()));
+      ask(aboutBox(versionText(programVersion)));
       return;
     case HostTask::none:
       return;
   }
 }
 
-bool MainWindow::mayStart() { return agreesToAddresses() && hasFolder(); }
-
-bool MainWindow::hasFolder() {
-  if (!keptOffLinePath(*settings_).empty()) return true;
-  widget_->ask(folderRequest());
-  return widget_->askOffLineFolder();
-}
-
-bool MainWindow::agreesToAddresses() {
-  const bool offLine = widget_->control().OnLine() == "Off";
-  // Without a page's cookie the control works as off line and sends nothing.
-  if (offLine || !options_.cookie) return true;
-  const std::string url = options_.pageUrl.value_or("");
-  AgreedAddresses agreed(*settings_);
-  for (const std::string& origin : serviceOrigins(url, widget_->control().form.PartnerURL)) {
-    if (agreed.holds(origin)) continue;
-    if (widget_->ask(newAddressQuestion(origin)) != Answer::yes) return false;
-    agreed.add(origin);
-  }
-  return true;
+Answer MainWindow::ask(const MessageBox& box) {
+  return widget_ != nullptr ? widget_->ask(box) : startPage_->ask(box);
 }
 
 bool MainWindow::mayCloseNow() {
+  if (widget_ == nullptr) return true;
   if (const auto question = widget_->watch().questionWhileWorking()) {
     if (askedWhileWorking_) return true;
     askWhileWorking(*question);
@@ -164,13 +143,21 @@ void MainWindow::askWhileWorking(const Question& question) {
   });
 }
 
+bool MainWindow::isWorking() const {
+  return widget_ != nullptr ? widget_->isWorking() : startPage_->isWorking();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
   mayClose_ = mayClose_ || mayCloseNow();
   if (!mayClose_) return event->ignore();
-  if (!widget_->isWorking()) return event->accept();
+  if (!isWorking()) return event->accept();
   // What is under way ends first; each step of it runs in a call of its own.
   event->ignore();
-  widget_->endWork();
+  if (widget_ != nullptr) {
+    widget_->endWork();
+  } else {
+    startPage_->endWork();
+  }
   QTimer::singleShot(0, this, &MainWindow::close);
 }
 

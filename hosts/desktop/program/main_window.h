@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <QMenu>
+#include <functional>
 #include <memory>
 
 #include "desk/commands.h"
@@ -9,21 +10,30 @@
 #include "hosts/common/options.h"
 #include "hosts/common/program/machine.h"
 #include "hosts/desktop/window/awizo_wysylki_widget.h"
+#include "hosts/desktop/window/start_page_widget.h"
 
 namespace awizo::desktop {
 
-/// The program's window: the control with a menu. It asks before an address is talked to for the
-/// first time, leads the user to a folder for off-line work where there is none, and asks before a
-/// changed document is lost.
+/// The program's window: the control with a menu, or the start page while there is no control. It
+/// asks before an address is talked to for the first time, leads the user to a folder for off-line
+/// work where there is none, and asks before a changed document is lost.
 class MainWindow : public QMainWindow {
  public:
   /// `http`: null for the network.
   explicit MainWindow(Options options, Http* http = nullptr);
   ~MainWindow() override;
 
+  /// Whether there is a control; else there is the start page.
+  bool hasSession() const { return widget_ != nullptr; }
   AwizoWysylkiWidget& widget() { return *widget_; }
-  /// Could the control be set up?
-  bool isUsable() const { return !widget_->hasFailed(); }
+  StartPageWidget& startPage() { return *startPage_; }
+  /// False where the control couldn't be set up.
+  bool isUsable() const { return widget_ == nullptr || !widget_->hasFailed(); }
+
+  /// Opens a launch file or a saved document, by its path as the system knows it; the document that
+  /// is in the window is asked about first. What is no launch file is named on the start page, or
+  /// in a box where there is a session.
+  void openFile(const QString& path);
 
   /// Ends the session and begins another, as the program's start does.
   void startAgain();
@@ -31,9 +41,26 @@ class MainWindow : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
+  void begin();
+  void beginOffLine(const Partner& partner);
+  void beginByLaunchFile(const QString& path);
   void makeSession();
+  /// `why`: words for the user, empty for none.
+  void showStartPage(const std::string& why);
+  void showPart(QWidget* part);
+  GivenParts givenParts();
+  /// After a start, whatever came of it.
+  void lookAtStart();
+  /// Whether the document in the window may go, so that another session may begin.
+  bool mayBeginAnother();
+  bool isWorking() const;
+  void openDocument(const std::string& path);
+  void chooseLaunchFile();
+  Answer ask(const MessageBox& box);
   void makeMenus();
   void fill(QMenu& menu, const CommandMenu& commands);
   QAction* makeTask(const Command& command);
@@ -46,13 +73,18 @@ class MainWindow : public QMainWindow {
   bool mayCloseNow();
   void askWhileWorking(const Question& question);
 
-  const Options options_;
+  const Options launch_;  ///< what the program was asked at its start
+  Options options_;       ///< of the session
   Http* http_;
   OptionsPage page_;
   std::unique_ptr<OptionsBag> bag_;
   std::unique_ptr<SettingsStore> settings_;
   std::unique_ptr<Clock> clock_;
   AwizoWysylkiWidget* widget_ = nullptr;
+  StartPageWidget* startPage_ = nullptr;
+  bool fromStartPage_ = false;        ///< the session was begun there, off line
+  std::string whyNot_;                ///< why the last session wasn't to start
+  std::function<void()> afterStart_;  ///< what follows once the session has started
   bool mayClose_ = false;
   bool asking_ = false;
   bool askedWhileWorking_ = false;

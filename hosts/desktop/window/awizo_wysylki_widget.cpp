@@ -5,29 +5,19 @@
 #include <QVBoxLayout>
 #include <utility>
 
-#include "adapters/curl/curl_http.h"
-#include "adapters/icu/icu_locale.h"
-#include "adapters/libxml2/libxml2.h"
-#include "adapters/posix/clocks.h"
-#include "adapters/posix/posix_files.h"
+#include "desk/choose_path.h"
 #include "desk/document_watch.h"
-#include "hosts/common/given_host.h"
 #include "hosts/desktop/faces/form_face.h"
 #include "hosts/desktop/screen/message_box.h"
 #include "hosts/desktop/window/commands.h"
 #include "hosts/desktop/window/finder.h"
-#include "hosts/desktop/window/host_screen_face.h"
 #include "hosts/desktop/window/main_layout.h"
-#include "hosts/version.h"
+#include "hosts/desktop/window/surroundings.h"
 #include "session/awizo_wysylki.h"
 #include "session/record/off_line_path.h"
 
 namespace awizo::desktop {
 namespace {
-
-std::string chosenLocale(const std::string& given) {
-  return given.empty() ? IcuLocale::environmentName() : given;
-}
 
 void showText(QLabel& label, const QString& text) {
   label.setText(text);
@@ -43,34 +33,16 @@ QLocale localeNamed(const std::string& name) {
 
 /// The control in its surroundings and on the screen.
 struct AwizoWysylkiWidget::Parts {
-  Parts(const Host& given, AwizoWysylkiWidget& widget)
+  Parts(const GivenParts& given, AwizoWysylkiWidget& widget)
       : content(new QWidget(&widget)),
-        waiting(widget),
-        face(waiting),
-        locale(chosenLocale(given.locale)),
-        network({[this] {
-                   waiting.goOn();
-                   return !face.ending();
-                 },
-                 ""}),
-        host([&widget](std::string_view property) {
-          if (property == "OnLine") emit widget.onLineChanged();
-          if (property == "DebugLevel") emit widget.debugLevelChanged();
-        }),
-        platform{.xml = xml,
-                 .http = given.http != nullptr ? *given.http : network,
-                 .page = given.page,
-                 .bag = given.bag,
-                 .host = host,
-                 .settings = given.settings,
-                 .files = files,
-                 .clock = given.clock != nullptr ? *given.clock : machineClock,
-                 .locale = locale,
-                 .screenFace = face,
-                 .version = programVersion},
-        session(platform),
-        control(platform, session),
-        watch(control, platform.clock),
+        surroundings(given, widget,
+                     [&widget](std::string_view property) {
+                       if (property == "OnLine") emit widget.onLineChanged();
+                       if (property == "DebugLevel") emit widget.debugLevelChanged();
+                     }),
+        session(surroundings.platform),
+        control(surroundings.platform, session),
+        watch(control, surroundings.platform.clock),
         faces(nullptr) {
     // Dates and times are written as the control writes them.
     content->setLocale(localeNamed(given.locale));
@@ -87,15 +59,9 @@ struct AwizoWysylkiWidget::Parts {
   Parts& operator=(const Parts&) = delete;
 
   QWidget* content;
-  Waiting waiting;
-  HostScreenFace face;
-  Libxml2 xml;
-  IcuLocale locale;
-  CurlHttp network;
-  PosixFiles files;
-  SystemClock machineClock;
-  ReportingHost host;
-  Platform platform;
+  Surroundings surroundings;
+  Waiting& waiting = surroundings.waiting;
+  HostScreenFace& face = surroundings.face;
   SessionState session;
   AwizoWysylki control;
   DocumentWatch watch;
@@ -105,8 +71,8 @@ struct AwizoWysylkiWidget::Parts {
   Finder* finder = nullptr;  ///< belongs to `content`
 };
 
-AwizoWysylkiWidget::AwizoWysylkiWidget(const Host& host, QWidget* parent)
-    : QWidget(parent), parts_(std::make_unique<Parts>(host, *this)) {
+AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
+    : QWidget(parent), parts_(std::make_unique<Parts>(given, *this)) {
   Parts& parts = *parts_;
   parts.control.UserControl_Initialize();
   parts.control.UserControl_ReadProperties();
@@ -171,7 +137,14 @@ Answer AwizoWysylkiWidget::ask(const MessageBox& box) {
 bool AwizoWysylkiWidget::askOffLineFolder() {
   Parts& parts = *parts_;
   awizo::askOffLineFolder(parts.control.dlgWczytajZapisz);
-  return !keptOffLinePath(parts.platform.settings).empty();
+  return !keptOffLinePath(parts.surroundings.platform.settings).empty();
+}
+
+void AwizoWysylkiWidget::openDocument(const std::string& path) {
+  Parts& parts = *parts_;
+  parts.face.actOnNextForm([&parts, path] { choosePath(parts.control.dlgWczytajZapisz, path); });
+  parts.commands->pressUnasked(parts.control.form.btnWczytaj);
+  parts.face.actOnNextForm(nullptr);
 }
 
 void AwizoWysylkiWidget::start() {

@@ -7,11 +7,7 @@
 #include <string>
 
 #include "desk/question.h"
-#include "platform/clock.h"
-#include "platform/forms/screen_face.h"
-#include "platform/host.h"
-#include "platform/http.h"
-#include "platform/settings.h"
+#include "hosts/desktop/window/surroundings.h"
 
 namespace awizo {
 class AwizoWysylki;
@@ -23,8 +19,6 @@ namespace awizo::desktop {
 class Commands;
 class Finder;
 class FormFace;
-class HostScreenFace;
-class Waiting;
 
 /// The locale in which Qt writes dates and times: that of the name, else the environment's; ru_RU
 /// where neither names one. A program makes it the default before it makes windows.
@@ -41,17 +35,7 @@ class AwizoWysylkiWidget : public QWidget {
   Q_PROPERTY(QString DebugLevel READ debugLevel WRITE setDebugLevel NOTIFY debugLevelChanged)
 
  public:
-  /// What the host hands to the control. All of it outlives the widget.
-  struct Host {
-    PropertyBag& bag;
-    HostPage& page;
-    SettingsStore& settings;
-    std::string locale = {};       ///< "ru_RU"; empty: the environment's
-    const Clock* clock = nullptr;  ///< null: the machine's
-    Http* http = nullptr;          ///< null: the network
-  };
-
-  explicit AwizoWysylkiWidget(const Host& host, QWidget* parent = nullptr);
+  explicit AwizoWysylkiWidget(const GivenParts& given, QWidget* parent = nullptr);
   ~AwizoWysylkiWidget() override;
 
   QString onLine() const;
@@ -81,6 +65,10 @@ class AwizoWysylkiWidget : public QWidget {
   Answer ask(const MessageBox& box);
   /// Lets the user choose the folder of off-line work; answers whether there is one now.
   bool askOffLineFolder();
+
+  /// Opens the file of this classic path by the control's own button and dialog. The document that
+  /// was there is gone.
+  void openDocument(const std::string& path);
 
   AwizoWysylki& control();
   FormFace& faces();

@@ -26,10 +26,14 @@ Choice HostScreenFace::choose(const Question& question) {
 }
 
 void HostScreenFace::formOpened(Form& form) {
-  if (!ending_) DesktopScreenFace::formOpened(form);
+  if (!ending_ && !actInstead_) DesktopScreenFace::formOpened(form);
 }
 
 void HostScreenFace::runModal(Form& form) {
+  if (const auto act = std::exchange(actInstead_, nullptr)) {
+    act();
+    return form.hide();
+  }
   if (ending_) return form.hide();
   ++asking_;
   const AtExit asked([this] { --asking_; });

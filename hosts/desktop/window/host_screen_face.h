@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include "hosts/desktop/screen/desktop_screen_face.h"
@@ -21,6 +23,9 @@ class HostScreenFace : public DesktopScreenFace {
   void workBegins(std::string_view what) override;
   void workEnds() override;
 
+  /// In place of the user, `act` acts on the next modal form, which isn't shown. Null: the user.
+  void actOnNextForm(std::function<void()> act) { actInstead_ = std::move(act); }
+
   void end();
   bool ending() const { return ending_; }
   /// Whether the user is asked something or works in a dialog.
@@ -29,6 +34,7 @@ class HostScreenFace : public DesktopScreenFace {
  private:
   Waiting& waiting_;
   std::vector<Form*> modal_;
+  std::function<void()> actInstead_;
   int asking_ = 0;
   bool ending_ = false;
 };

@@ -1,0 +1,204 @@
+// The ways in which the window's sessions begin.
+
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMimeData>
+#include <QTimer>
+#include <utility>
+
+#include "adapters/posix/paths.h"
+#include "desk/document_watch.h"
+#include "desk/host_boxes.h"
+#include "desk/layout_words.h"
+#include "hosts/desktop/program/addresses.h"
+#include "hosts/desktop/program/launch_file.h"
+#include "hosts/desktop/program/main_window.h"
+#include "hosts/desktop/window/commands.h"
+#include "platform/text.h"
+#include "session/awizo_wysylki.h"
+#include "session/record/off_line_path.h"
+
+namespace awizo::desktop {
+namespace {
+
+bool isDocument(const QString& path) { return path.endsWith(".xml", Qt::CaseInsensitive); }
+
+QString droppedFile(const QDropEvent& event) {
+  const QList<QUrl> urls = event.mimeData()->urls();
+  return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+}
+
+/// The program's own options without those of a session.
+Options withoutSession(Options options) {
+  options.properties.clear();
+  options.pageUrl.reset();
+  options.cookie.reset();
+  return options;
+}
+
+}  // namespace
+
+void MainWindow::begin() {
+  if (nameSession(options_)) {
+    makeSession();
+  } else {
+    showStartPage("");
+  }
+}
+
+void MainWindow::makeSession() {
+  delete takeCentralWidget();
+  startPage_ = nullptr;
+  bag_ = std::make_unique<OptionsBag>(options_);
+  widget_ = new AwizoWysylkiWidget(givenParts());
+  widget_->mayStart = [this] { return mayStart(); };
+  widget_->waiting().onEnd = [this] { askedWhileWorking_ = false; };
+  connect(widget_, &AwizoWysylkiWidget::standingChanged, this,
+          [this] { setWindowTitle(fromText(widget_->watch().title())); });
+  // The widget may go then, which it can't within its own call.
+  connect(widget_, &AwizoWysylkiWidget::startEnded, this, &MainWindow::lookAtStart,
+          Qt::QueuedConnection);
+  setWindowTitle(fromText(words::windowTitle));
+  showPart(widget_);
+}
+
+void MainWindow::lookAtStart() {
+  if (widget_ == nullptr || widget_->isWorking()) return;
+  const std::function<void()> next = std::exchange(afterStart_, nullptr);
+  const std::string& refusal = widget_->watch().refusal();
+  if (!widget_->hasStarted()) {
+    showStartPage(whyNot_);
+  } else if (!refusal.empty()) {
+    showStartPage(joined({words::startRefused, refusal}));
+  } else if (next) {
+    next();
+  }
+}
+
+void MainWindow::showStartPage(const std::string& why) {
+  delete takeCentralWidget();
+  widget_ = nullptr;
+  bag_ = std::make_unique<OptionsBag>(options_);
+  startPage_ = new StartPageWidget(givenParts());
+  StartPage& page = startPage_->page();
+  // The page goes when a session begins, which it can't within its own events.
+  const auto later = [this](const std::function<void()>& act) { QTimer::singleShot(0, this, act); };
+  page.onOffLine = [this, later](const Partner& partner) {
+    later([this, partner] { beginOffLine(partner); });
+  };
+  page.onOpen = [this, later](const Partner& partner) {
+    later([this, partner] {
+      beginOffLine(partner);
+      afterStart_ = [this] {
+        widget_->commands().pressUnasked(widget_->control().form.btnWczytaj);
+      };
+    });
+  };
+  page.onLaunchFile = [this, later] { later([this] { chooseLaunchFile(); }); };
+  page.onAgain = [this, later] { later([this] { makeSession(); }); };
+  showPart(startPage_);
+  setWindowTitle(fromText(page.caption()));
+  page.show(why, nameSession(options_));
+}
+
+void MainWindow::startAgain() {
+  if (widget_ == nullptr || !mayBeginAnother()) return;
+  if (fromStartPage_) options_ = launch_;
+  fromStartPage_ = false;
+  begin();
+}
+
+bool MainWindow::mayBeginAnother() {
+  if (isWorking()) return false;
+  return widget_ == nullptr || widget_->watch().mayTake(WayOut::startAgain);
+}
+
+void MainWindow::beginOffLine(const Partner& partner) {
+  options_ = withoutSession(launch_);
+  options_.properties = {
+      {"OnLine", "Off"}, {"PartnerILN", partner.iln}, {"PartnerName", partner.name}};
+  fromStartPage_ = true;
+  makeSession();
+}
+
+void MainWindow::beginByLaunchFile(const QString& path) {
+  try {
+    const Options named = merged(withoutSession(launch_), readLaunchFile(toText(path)));
+    if (!mayBeginAnother()) return;
+    options_ = named;
+    fromStartPage_ = false;
+    makeSession();
+  } catch (const BadLaunchFile& error) {
+    ask(launchFileRefusal(toText(QFileInfo(path).fileName()), error.what()));
+  }
+}
+
+void MainWindow::chooseLaunchFile() {
+  const QString path = QFileDialog::getOpenFileName(this, fromText(words::launchFileTitle),
+                                                    QString(), fromText(words::launchFileKind));
+  if (!path.isEmpty()) beginByLaunchFile(path);
+}
+
+void MainWindow::openFile(const QString& path) {
+  const QString whole = QFileInfo(path).absoluteFilePath();
+  if (isDocument(whole)) {
+    openDocument(posix::classicPath(toText(whole)));
+  } else {
+    beginByLaunchFile(whole);
+  }
+}
+
+void MainWindow::openDocument(const std::string& path) {
+  if (isWorking()) return;
+  if (widget_ != nullptr) {
+    if (widget_->watch().mayTake(WayOut::open)) widget_->openDocument(path);
+    return;
+  }
+  const FoundPartner found = startPage_->page().partnerOf(path);
+  if (found.partner == nullptr) return startPage_->page().show(found.why, nameSession(options_));
+  beginOffLine(*found.partner);
+  afterStart_ = [this, path] { widget_->openDocument(path); };
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!droppedFile(*event).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  const QString path = droppedFile(*event);
+  event->acceptProposedAction();
+  // Where the file comes from waits until the event is over.
+  QTimer::singleShot(0, this, [this, path] { openFile(path); });
+}
+
+bool MainWindow::mayStart() {
+  if (!agreesToAddresses()) {
+    whyNot_ = words::addressNotTrusted;
+    return false;
+  }
+  whyNot_ = words::folderNotChosen;
+  return hasFolder();
+}
+
+bool MainWindow::hasFolder() {
+  if (!keptOffLinePath(*settings_).empty()) return true;
+  widget_->ask(folderRequest());
+  return widget_->askOffLineFolder();
+}
+
+bool MainWindow::agreesToAddresses() {
+  const bool offLine = widget_->control().OnLine() == "Off";
+  // Without a page's cookie the control works as off line and sends nothing.
+  if (offLine || !options_.cookie) return true;
+  const std::string url = options_.pageUrl.value_or("");
+  AgreedAddresses agreed(*settings_);
+  for (const std::string& origin : serviceOrigins(url, widget_->control().form.PartnerURL)) {
+    if (agreed.holds(origin)) continue;
+    if (widget_->ask(newAddressQuestion(origin)) != Answer::yes) return false;
+    agreed.add(origin);
+  }
+  return true;
+}
+
+}  // namespace awizo::desktop

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "adapters/curl/curl_http.h"
+#include "adapters/icu/icu_locale.h"
+#include "adapters/libxml2/libxml2.h"
+#include "adapters/posix/clocks.h"
+#include "adapters/posix/posix_files.h"
+#include "hosts/common/given_host.h"
+#include "hosts/desktop/window/host_screen_face.h"
+#include "hosts/desktop/window/waiting.h"
+#include "platform/forms/platform.h"
+
+namespace awizo::desktop {
+
+/// What a program gives to a widget that shows forms. All of it outlives the widget.
+struct GivenParts {
+  PropertyBag& bag;
+  HostPage& page;
+  SettingsStore& settings;
+  std::string locale = {};       ///< "ru_RU"; empty: the environment's
+  const Clock* clock = nullptr;  ///< null: the machine's
+  Http* http = nullptr;          ///< null: the network
+};
+
+/// The platform of the forms in one widget: what the program gave, and the machine for the rest.
+struct Surroundings {
+  /// `propertyChanged`: called when the control reports a property as changed.
+  Surroundings(const GivenParts& given, QWidget& widget,
+               std::function<void(std::string_view)> propertyChanged);
+  Surroundings(const Surroundings&) = delete;
+  Surroundings& operator=(const Surroundings&) = delete;
+
+  Waiting waiting;
+  HostScreenFace face;
+  Libxml2 xml;
+  IcuLocale locale;
+  CurlHttp network;
+  PosixFiles files;
+  SystemClock machineClock;
+  ReportingHost host;
+  Platform platform;
+};
+
+/// The name of the locale, the environment's where none is given.
+std::string chosenLocale(const std::string& given);
+
+}  // namespace awizo::desktop
