@@ -236,6 +236,13 @@ TEST_P(CheckingADespatchAdvice, AReferenceThatIsEmptyNamesNoPackage) {
                   "документе нет"));
 }
 
+TEST_P(CheckingADespatchAdvice, APackageWithoutNumberIsNoneThatCanBeNamed) {
+  const std::string package = "<Packing-Sequence><ParentId/></Packing-Sequence>";
+  EXPECT_THAT(checkWith("</DespatchAdvice-Consignment>", package + "</DespatchAdvice-Consignment>"),
+              ::testing::Contains("10|DespatchAdvice-Consignment/Packing-Sequence[2]/ParentId|"
+                                  "упаковки «» в документе нет"));
+}
+
 TEST_P(CheckingADespatchAdvice, AParentNeedsThePackageOfTheConsignment) {
   const std::string package = "<Packing-Sequence>\n<PackageId>1</PackageId></Packing-Sequence>";
   const std::string other =

@@ -70,6 +70,8 @@ TEST_F(ADraft, HasOnlyWhatIsEntered) {
 
 TEST_F(ADraft, HasTheTextOfAnOpenEditThatDiffersFromItsCell) {
   const AdviceDraft before = draft();
+  form.txtEdycja.setText("7");
+  EXPECT_EQ(draft(), before) << "it isn't open";
   form.txtEdycja.setText("");
   form.txtEdycja.setVisible(true);
   form.grdPozycje.setColumn(GRD_POZ_NAME);

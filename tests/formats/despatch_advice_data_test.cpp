@@ -203,6 +203,17 @@ TEST(AdviceOfDocument, LeavesOutThePackageThatOnlyStandsForTheConsignment) {
               ElementsAre("2", "1"));
 }
 
+TEST(AdviceOfDocument, OfRepeatedElementsHasTheFirstThatIsNotEmpty) {
+  const DespatchAdvice advice = adviceOfText(
+      "<Document-DespatchAdvice><DespatchAdvice-Lines><Line><Line-Item><EAN/><EAN>1</EAN>"
+      "<EAN>2</EAN></Line-Item><Package-Reference><PackageId/><PackageId>3</PackageId>"
+      "<PackageId>4</PackageId><Quantity/><Quantity>5</Quantity><Quantity>6</Quantity>"
+      "</Package-Reference></Line></DespatchAdvice-Lines></Document-DespatchAdvice>");
+  ASSERT_EQ(advice.lines.size(), 1U);
+  EXPECT_EQ(advice.lines[0].ean, "1");
+  EXPECT_THAT(advice.lines[0].packages, ElementsAre(PackageReference{"3", "5"}));
+}
+
 TEST(AdviceOfDocument, OfAnotherKindIsEmpty) {
   EXPECT_EQ(adviceOfText("<Document-Order/>"), DespatchAdvice());
   EXPECT_EQ(adviceOfText("<Document-DespatchAdvice/>"), DespatchAdvice());
