@@ -55,7 +55,7 @@ class StartPage : public Form {
   /// Shows the page as the main form. `why`: words for the user, empty for none. `mayTryAgain`:
   /// whether something was tried.
   void show(std::string_view why, bool mayTryAgain);
-  /// Reads the folder anew.
+  /// Reads the folder again.
   void refresh();
   /// The partner in the folder that the saved document of this classic path is for.
   FoundPartner partnerOf(std::string_view path) const;

@@ -63,7 +63,7 @@ class Screen {
   /// Far more than real work nests, few enough for the stack.
   static constexpr int mostNestedEvents = 250;
 
-  /// Lets the user act anew: what he does meanwhile is no part of what runs.
+  /// Lets the user act again: what he does meanwhile is no part of what runs.
   template <class Wait>
   auto letUserAct(Wait&& wait);
 

@@ -8,7 +8,7 @@
 namespace awizo {
 
 /// Finds a row of a list by the beginning of its text, typed character by character. No clock ends
-/// what is typed: a character that no row goes on with begins anew, after the current row, so that
+/// what is typed: a character that no row goes on with begins again, after the current row, so that
 /// one letter over and over goes through all rows that begin with it.
 class TypedSearch {
  public:
