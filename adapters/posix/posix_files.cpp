@@ -23,8 +23,8 @@ using posix::systemPath;
 
 class FileStream final : public TextStream {
  public:
-  explicit FileStream(const std::string& path)
-      : file_(path, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, S_IRUSR | S_IWUSR) {
+  FileStream(const std::string& path, int beginning)
+      : file_(path, O_WRONLY | O_CREAT | O_NOFOLLOW | beginning, S_IRUSR | S_IWUSR) {
     struct stat status {};
     // A file that was there before still has the permissions that it was made with.
     if (fstat(file_.number(), &status) == 0 && S_ISREG(status.st_mode) &&
@@ -94,7 +94,11 @@ void PosixFiles::replace(std::string_view path, std::string_view bytes) {
 }
 
 std::unique_ptr<TextStream> PosixFiles::createText(std::string_view path) {
-  return std::make_unique<FileStream>(systemPath(path));
+  return std::make_unique<FileStream>(systemPath(path), O_TRUNC);
+}
+
+std::unique_ptr<TextStream> PosixFiles::continueText(std::string_view path) {
+  return std::make_unique<FileStream>(systemPath(path), O_APPEND);
 }
 
 bool PosixFiles::folderExists(std::string_view path) {

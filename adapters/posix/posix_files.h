@@ -12,6 +12,7 @@ class PosixFiles final : public Files {
   std::string readAll(std::string_view path) override;
   void replace(std::string_view path, std::string_view bytes) override;
   std::unique_ptr<TextStream> createText(std::string_view path) override;
+  std::unique_ptr<TextStream> continueText(std::string_view path) override;
   bool folderExists(std::string_view path) override;
   void makeFolder(std::string_view path) override;
   std::vector<std::string> folders(std::string_view path) override;

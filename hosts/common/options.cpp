@@ -1,7 +1,9 @@
 #include "hosts/common/options.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstddef>
+#include <system_error>
 
 #include "hosts/common/value_texts.h"
 
@@ -34,10 +36,19 @@ void takeNow(Options& options, const std::string& text) {
   if (!options.now) throw BadArguments("no such moment: " + text);
 }
 
+void takeActs(Options& options, const std::string& text) {
+  std::size_t acts = 0;
+  const char* const end = text.data() + text.size();
+  const auto read = std::from_chars(text.data(), end, acts);
+  if (read.ec != std::errc{} || read.ptr != end) throw BadArguments("no such number: " + text);
+  options.acts = acts;
+}
+
 void takeOption(Options& options, const std::string& name, const std::string& value) {
   if (name == "--property") return takeProperty(options, value);
   if (name == "--locale") return takeLocale(options, value);
   if (name == "--now") return takeNow(options, value);
+  if (name == "--acts") return takeActs(options, value);
   if (name == "--page-url") {
     options.pageUrl = value;
   } else if (name == "--cookie") {
@@ -46,6 +57,10 @@ void takeOption(Options& options, const std::string& name, const std::string& va
     options.settingsFile = value;
   } else if (name == "--offline-path") {
     options.offLinePath = value;
+  } else if (name == "--record") {
+    options.recordFile = value;
+  } else if (name == "--replay") {
+    options.replayFile = value;
   } else if (name == "--check") {
     options.checkedFile = value;
   } else {
@@ -71,6 +86,7 @@ Options parseOptions(const std::vector<std::string>& arguments, std::vector<std:
     if (i + 1 == arguments.size()) throw BadArguments("no value for: " + argument);
     takeOption(options, argument, arguments[++i]);
   }
+  if (options.acts && !options.replayFile) throw BadArguments("--acts goes with --replay");
   return options;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <map>
 #include <optional>
 #include <stdexcept>
@@ -20,6 +21,9 @@ struct Options {
   std::optional<std::string> offLinePath;
   std::string locale;  ///< empty: the environment's
   std::optional<Moment> now;
+  std::optional<std::string> recordFile;   ///< new: what reaches the control is written into it
+  std::optional<std::string> replayFile;   ///< a record that is done first
+  std::optional<std::size_t> acts;         ///< no more of it than so many acts
   std::optional<std::string> checkedFile;  ///< the file is to be checked, and nothing else done
 };
 

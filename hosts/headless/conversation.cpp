@@ -36,7 +36,7 @@ void Conversation::watch(Form& dialog) {
 }
 
 void Conversation::emit(const protocol::Json& event) {
-  if (!givenUp_) lines_.write(event);
+  if (!givenUp_ && !silent) lines_.write(event);
 }
 
 void Conversation::runModal(Form& form) {

@@ -28,6 +28,8 @@ class Conversation : public ScreenFace {
   /// but what a procedure did before its error. While a box is open only lines that get something
   /// come here.
   std::function<protocol::Json(const protocol::Json& line)> act;
+  /// Nothing is told for now.
+  bool silent = false;
 
   /// Reports from now on when the form is shown modally and when it hides.
   void watch(Form& dialog);

@@ -1,5 +1,6 @@
 #include "hosts/headless/headless_program.h"
 
+#include <iostream>
 #include <memory>
 #include <utility>
 
@@ -10,42 +11,60 @@
 #include "hosts/common/given_host.h"
 #include "hosts/common/program/machine.h"
 #include "hosts/headless/conversation.h"
+#include "hosts/headless/recording.h"
 #include "hosts/protocol/answers.h"
 #include "hosts/protocol/control_access.h"
 #include "hosts/version.h"
-#include "session/awizo_wysylki.h"
+#include "journal/recording.h"
 
 namespace awizo::headless {
 
 namespace {
 
+std::string localeName(const Options& options) {
+  return options.locale.empty() ? IcuLocale::environmentName() : options.locale;
+}
+
 /// The control in its surroundings, with a client that speaks lines to it.
 class Program {
  public:
-  Program(const Options& options, const Outside& outside, std::istream& in, std::ostream& out);
+  /// The options as they were given, and with what the replayed session adds.
+  Program(const Options& given, const Options& options, journal::RecordedSession&& replayed,
+          const Outside& outside, std::istream& in, std::ostream& out);
 
   /// From the control's creation to its end.
   void run();
 
  private:
+  void tellWhatIsOpen();
+
   Conversation conversation_;
   Libxml2 xml_;
+  std::unique_ptr<GrowingFile> record_;
   IcuLocale locale_;
   OptionsPage page_;
   OptionsBag bag_;
   ReportingHost host_;
   std::unique_ptr<SettingsStore> settings_;
   std::unique_ptr<Clock> clock_;
-  Platform platform_;
+  journal::Tape tape_;
+  journal::TapedPlatform taped_;
   SessionState session_;
   AwizoWysylki control_;
+  journal::Recording recording_;
   protocol::ControlAccess access_;
 };
 
-Program::Program(const Options& options, const Outside& outside, std::istream& in,
-                 std::ostream& out)
+void reportLostRecord(const std::string& description) {
+  std::cerr << "awizo-headless: the record can't be written any more: " << description
+            << ". The work goes on without it.\n";
+}
+
+Program::Program(const Options& given, const Options& options, journal::RecordedSession&& replayed,
+                 const Outside& outside, std::istream& in, std::ostream& out)
     : conversation_(in, out),
-      locale_(options.locale.empty() ? IcuLocale::environmentName() : options.locale),
+      record_(newRecord(options, localeName(options))),
+      locale_(localeName(options)),
       page_(options),
       bag_(options),
       host_([this](std::string_view property) {
@@ -53,27 +72,46 @@ Program::Program(const Options& options, const Outside& outside, std::istream& i
       }),
       settings_(makeSettings(options)),
       clock_(makeClock(options)),
-      platform_{.xml = xml_,
-                .http = outside.http,
-                .page = page_,
-                .bag = bag_,
-                .host = host_,
-                .settings = *settings_,
-                .files = outside.files,
-                .clock = *clock_,
-                .locale = locale_,
-                .screenFace = conversation_,
-                .version = programVersion},
-      session_(platform_),
-      control_(platform_, session_),
+      tape_(std::move(replayed.records), record_.get()),
+      taped_(tape_,
+             {.xml = xml_,
+              .http = outside.http,
+              .page = page_,
+              .bag = bag_,
+              .host = host_,
+              .settings = *settings_,
+              .files = outside.files,
+              .clock = *clock_,
+              .locale = locale_,
+              .screenFace = conversation_,
+              .version = programVersion},
+             askedToday(given)),
+      session_(taped_.platform),
+      control_(taped_.platform, session_),
+      recording_(tape_, taped_, control_),
       access_(control_, bag_) {
   for (Form* dialog : access_.dialogs()) conversation_.watch(*dialog);
   conversation_.act = [this](const protocol::Json& line) { return access_.act(line); };
+  access_.dispatcher().noteHostDeed = [this](const protocol::Json& line, const auto& deed) {
+    return recording_.doHostAct(hostActOf(line), deed);
+  };
+  recording_.performHostAct = [this](const std::vector<std::string>& texts) {
+    access_.act(lineOf(texts));
+  };
+  tape_.onTrouble = reportLostRecord;
+  recording_.onLive = [this] { tellWhatIsOpen(); };
+  conversation_.silent = tape_.replaying();
+}
+
+void Program::tellWhatIsOpen() {
+  conversation_.silent = false;
+  for (const Form* form : taped_.screen.opened()) {
+    if (form != &control_.form) conversation_.emit(protocol::formEvent(*form));
+  }
 }
 
 void Program::run() {
-  control_.UserControl_Initialize();
-  control_.UserControl_ReadProperties();
+  recording_.start();
   conversation_.run();
   access_.end();
 }
@@ -88,9 +126,15 @@ int runHeadless(const Options& options, std::istream& in, std::ostream& out) {
 
 int runHeadless(const Options& options, const Outside& outside, std::istream& in,
                 std::ostream& out) {
-  Program program(options, outside, in, out);
+  journal::RecordedSession replayed = sessionToReplay(options);
+  const Options whole = withRecorded(options, replayed);
+  Program program(options, whole, std::move(replayed), outside, in, out);
   try {
     program.run();
+  } catch (const journal::ReplayDiffers& differs) {
+    std::cerr << "awizo-headless: the replay differs at act " << differs.deed << ": "
+              << differs.what << '\n';
+    return exitReplayDiffers;
   } catch (const InputEnded&) {
     return exitInputEndedEarly;
   } catch (const ProgramEnded&) {

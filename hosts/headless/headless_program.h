@@ -12,6 +12,7 @@ namespace awizo::headless {
 inline constexpr int exitDone = 0;
 inline constexpr int exitEndedBySystem = 1;  ///< the control couldn't be set up
 inline constexpr int exitBadArguments = 2;
+inline constexpr int exitReplayDiffers = 4;
 inline constexpr int exitInputEndedEarly = 3;  ///< under an open box or modal form
 
 /// Creates the control, serves the lines of `in` and takes the control down at their end. Returns

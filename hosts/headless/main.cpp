@@ -16,7 +16,8 @@ namespace {
 constexpr std::string_view usage =
     "usage: awizo-headless [--property NAME=VALUE]... [--page-url URL] [--cookie TEXT]\n"
     "                      [--settings FILE] [--offline-path DIR] [--locale NAME]\n"
-    "                      [--now YYYY-MM-DDTHH:MM:SS]\n"
+    "                      [--now YYYY-MM-DDTHH:MM:SS] [--record FILE]\n"
+    "                      [--replay FILE [--acts N]]\n"
     "       awizo-headless --check FILE [option]...\n"
     "       awizo-headless --help | --version\n";
 

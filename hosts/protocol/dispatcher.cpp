@@ -14,15 +14,25 @@ Json Dispatcher::act(const Json& line) {
   }
   if (gets) return {{"value", get(line)}};
   if (ended) throw Refused("The control has been taken down.");
-  if (calls) return call(line);
+  if (calls) return doNoted(line, [&] { return call(line); });
   perform(line);
   return Json::object();
+}
+
+Json Dispatcher::doNoted(const Json& line, const std::function<Json()>& deed) {
+  return noteHostDeed ? noteHostDeed(line, deed) : deed();
 }
 
 void Dispatcher::perform(const Json& line) {
   const std::string action = textMember(line, "do");
   const auto hostAction = hostActions.find(action);
-  if (hostAction != hostActions.end()) return hostAction->second(line);
+  if (hostAction != hostActions.end()) {
+    doNoted(line, [&] {
+      hostAction->second(line);
+      return Json();
+    });
+    return;
+  }
   if (!UserActions::knows(action)) throw BadLine("There is no action \"" + action + "\".");
   actions_.perform(action, line);
 }

@@ -23,6 +23,9 @@ class Dispatcher {
   /// What "get" answers besides the forms and their controls ("session", "settings").
   std::map<std::string, std::function<Json()>, std::less<>> records;
   Procedures procedures;
+  /// Whether what the host does, a call included, is noted by somebody: that one gets the line and
+  /// does it. None: it is just done.
+  std::function<Json(const Json& line, const std::function<Json()>& deed)> noteHostDeed;
   /// After the control's end nothing but a "get" is allowed.
   bool ended = false;
 
@@ -31,6 +34,7 @@ class Dispatcher {
 
  private:
   void perform(const Json& line);
+  Json doNoted(const Json& line, const std::function<Json()>& deed);
   Json get(const Json& line) const;
   Json call(const Json& line) const;
   Json formState(const Form& form) const;

@@ -37,7 +37,7 @@ void DebugLog::WriteDebugXml(std::string_view message, const XmlNode& node, std:
 
 void DebugLog::writeStamped(std::string_view message) {
   silently([&] {
-    const Moment now = clock_.now();
+    const Moment now = clock_.stamp();
     std::string line = locale_.shortDate(now.date) + " " + locale_.shortTime(now.time) + " ";
     LogStream->writeLine(locale_.toSingleByte(line.append(message)));
   });

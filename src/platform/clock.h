@@ -10,6 +10,9 @@ class Clock {
   virtual ~Clock() = default;
   virtual Moment now() const = 0;
 
+  /// The same for a stamp that nothing but a log's line is made of.
+  virtual Moment stamp() const { return now(); }
+
   Date today() const { return now().date; }
 };
 

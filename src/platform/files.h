@@ -28,6 +28,9 @@ class Files {
   /// A new or emptied file that only its owner can read.
   virtual std::unique_ptr<TextStream> createText(std::string_view path) = 0;
 
+  /// The same file without emptying it; a new one where there is none.
+  virtual std::unique_ptr<TextStream> continueText(std::string_view path) = 0;
+
   virtual bool folderExists(std::string_view path) = 0;
   virtual void makeFolder(std::string_view path) = 0;
   /// Names, without a path, of the folders in a folder, in order.

@@ -34,6 +34,10 @@ AwizoWysylki::AwizoWysylki(const Platform& platform, SessionState& session)
   });
 }
 
+std::vector<Form*> AwizoWysylki::forms() {
+  return {&form, &dlgDodaj, &dlgdodajPule, &dlgSzczegoly, &dlgIsoCodes, &dlgWczytajZapisz};
+}
+
 void AwizoWysylki::setOnLine(std::string_view value) {
   form.OnLine = value;
   editor.platform.host.propertyChanged("OnLine");

@@ -39,6 +39,9 @@ class AwizoWysylki {
   DlgSzczegoly dlgSzczegoly;
   DlgWczytajZapisz dlgWczytajZapisz;
 
+  /// The main form, then the dialogs.
+  std::vector<Form*> forms();
+
   // Properties. "Off" means off-line, any other text on-line. A change is reported to the host.
   const std::string& OnLine() const { return form.OnLine; }
   void setOnLine(std::string_view value);

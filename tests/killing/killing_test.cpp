@@ -13,6 +13,7 @@
 
 #include "killing/folder_watch.h"
 #include "killing/prepared_editor.h"
+#include "support/environment.h"
 #include "support/files/files.h"
 
 namespace awizo::test {
@@ -21,11 +22,6 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Microseconds = std::chrono::microseconds;
 namespace fs = std::filesystem;
-
-int fromEnvironment(const char* name, int otherwise) {
-  const char* text = std::getenv(name);
-  return text == nullptr ? otherwise : std::atoi(text);
-}
 
 Microseconds since(Clock::time_point moment) {
   return std::chrono::duration_cast<Microseconds>(Clock::now() - moment);

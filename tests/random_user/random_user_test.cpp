@@ -3,16 +3,10 @@
 #include <cstdlib>
 
 #include "random_user/user.h"
+#include "support/environment.h"
 
 namespace awizo::test {
 namespace {
-
-/// A number from the environment, so that anybody can let the user go on for hours:
-/// AWIZO_RANDOM_SEED=7 AWIZO_RANDOM_ACTIONS=100000000 random_user_tests
-int fromEnvironment(const char* name, int otherwise) {
-  const char* text = std::getenv(name);
-  return text == nullptr ? otherwise : std::atoi(text);
-}
 
 struct Tally {
   int actions = 0;

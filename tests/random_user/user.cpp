@@ -53,6 +53,13 @@ const std::vector<std::string> mainForm{
 
 }  // namespace
 
+RandomUser::RandomUser(Dice& dice, const Beginning& beginning, const Listener& listener)
+    : dice_(dice), desk_(beginning.localeName, listener.between), withOutages_(beginning.outages) {
+  prepare(beginning);
+  desk_.files.putFolder("c:\\docs");
+  listener.start(desk_.control);
+}
+
 RandomUser::RandomUser(Dice& dice, const Beginning& beginning)
     : dice_(dice), desk_(beginning.localeName), withOutages_(beginning.outages) {
   prepare(beginning);
@@ -307,7 +314,7 @@ void RandomUser::lookAtDocuments() {
   }
   // A save that failed leaves the file that was there, whatever it is.
   const bool kept = std::exchange(documentKept_, false);
-  const std::string path = std::exchange(desk_.session.LastFilePath, "");
+  const std::string& path = desk_.session.LastFilePath;
   if (kept && desk_.files.has(path)) requireDocument(desk_.files.bytes(path), path);
 }
 

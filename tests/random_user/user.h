@@ -20,10 +20,18 @@ struct Beginning {
   bool outages = false;  ///< disks and service fail now and then once the control has started
 };
 
+/// Who listens to a session, and starts it.
+struct Listener {
+  /// What the control gets instead of its surroundings.
+  std::function<const Platform&(const Platform&)> between;
+  std::function<void(AwizoWysylki&)> start;
+};
+
 /// A user who does anything that the forms let him do, by chance, on a control of his own.
 class RandomUser {
  public:
   RandomUser(Dice& dice, const Beginning& beginning);
+  RandomUser(Dice& dice, const Beginning& beginning, const Listener& listener);
 
   /// Does one thing on the main form, with all that follows on the dialogs it opens.
   void act();

@@ -107,6 +107,13 @@ std::unique_ptr<TextStream> MemoryFiles::createText(std::string_view path) {
   return std::make_unique<MemoryTextStream>(*this, name);
 }
 
+std::unique_ptr<TextStream> MemoryFiles::continueText(std::string_view path) {
+  const std::string name = plain(path);
+  requireWritable(name);
+  files_.try_emplace(name);
+  return std::make_unique<MemoryTextStream>(*this, name);
+}
+
 bool MemoryFiles::folderExists(std::string_view path) { return folders_.contains(plain(path)); }
 
 void MemoryFiles::makeFolder(std::string_view path) {

@@ -8,9 +8,7 @@ std::string aboutProgram(std::string_view name, std::string_view usage,
                          const std::vector<std::string>& arguments) {
   if (arguments == std::vector<std::string>{"--help"}) return std::string(usage);
   if (arguments != std::vector<std::string>{"--version"}) return "";
-  return std::string(name) + " " + std::to_string(programVersion.major) + "." +
-         std::to_string(programVersion.minor) + "." + std::to_string(programVersion.revision) +
-         "\n";
+  return std::string(name) + " " + versionText() + "\n";
 }
 
 }  // namespace awizo

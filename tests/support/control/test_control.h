@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -10,7 +11,12 @@ namespace awizo::test {
 
 /// A control on played surroundings, just made: no event has run yet.
 struct TestControl : TestSurroundings {
-  explicit TestControl(std::string_view localeName = "ru_RU") : TestSurroundings(localeName) {}
+  explicit TestControl(std::string_view localeName = "ru_RU")
+      : TestSurroundings(localeName), around(platform) {}
+  /// With something between the control and the surroundings.
+  TestControl(std::string_view localeName,
+              const std::function<const Platform&(const Platform&)>& between)
+      : TestSurroundings(localeName), around(between(platform)) {}
 
   static constexpr std::string_view folder = "c:\\VIRD";
   static constexpr std::string_view seller = "9520001000010";
@@ -19,8 +25,9 @@ struct TestControl : TestSurroundings {
   static constexpr std::string_view partnerFile =
       "c:\\VIRD\\9520001000010_9520002000019_partner_INFO.xml";
 
-  SessionState session{platform};
-  AwizoWysylki control{platform, session};
+  const Platform& around;
+  SessionState session{around};
+  AwizoWysylki control{around, session};
   Screen& screen = control.screen;
   AwizoForm& form = control.form;
   Editor& editor = control.editor;

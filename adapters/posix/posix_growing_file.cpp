@@ -1,0 +1,61 @@
+#include "adapters/posix/posix_growing_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <chrono>
+
+#include "platform/run_time_error.h"
+
+namespace awizo {
+namespace {
+
+constexpr std::chrono::milliseconds longestUnflushed{500};
+
+}  // namespace
+
+PosixGrowingFile::PosixGrowingFile(const std::string& path)
+    : file_(path, O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_NOFOLLOW, S_IRUSR | S_IWUSR),
+      flusher_([this] { flushSoon(); }) {}
+
+PosixGrowingFile::~PosixGrowingFile() {
+  {
+    const std::lock_guard lock(mutex_);
+    ends_ = true;
+  }
+  changed_.notify_one();
+  flusher_.join();
+}
+
+void PosixGrowingFile::append(std::string_view bytes) {
+  file_.writeAll(bytes);
+  const std::lock_guard lock(mutex_);
+  if (!unflushed_) changed_.notify_one();
+  unflushed_ = true;
+}
+
+void PosixGrowingFile::flush() {
+  file_.flush();
+  const std::lock_guard lock(mutex_);
+  unflushed_ = false;
+}
+
+void PosixGrowingFile::flushSoon() {
+  std::unique_lock lock(mutex_);
+  while (!ends_) {
+    changed_.wait(lock, [this] { return unflushed_ || ends_; });
+    // What comes in the meantime goes to the disk together.
+    changed_.wait_for(lock, longestUnflushed, [this] { return ends_; });
+    if (!unflushed_) continue;
+    unflushed_ = false;
+    lock.unlock();
+    try {
+      file_.flush();
+    } catch (const RunTimeError&) {
+      // Appending and flush() tell of a disk that fails.
+    }
+    lock.lock();
+  }
+}
+
+}  // namespace awizo

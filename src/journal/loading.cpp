@@ -1,0 +1,96 @@
+#include "journal/loading.h"
+
+#include <algorithm>
+
+#include "journal/record_file.h"
+#include "platform/run_time_error.h"
+
+namespace awizo::journal {
+namespace {
+
+using Records = std::vector<Record>;
+
+std::map<std::string, std::string> headerOf(const Record& record) {
+  if (record.kind != RecordKind::header || record.texts.size() % 2 != 0) {
+    throw errors::typeMismatch();
+  }
+  std::map<std::string, std::string> header;
+  for (std::size_t at = 0; at < record.texts.size(); at += 2) {
+    header[record.texts[at]] = record.texts[at + 1];
+  }
+  return header;
+}
+
+/// Takes the last act out, with all that it had asked before it was refused.
+void takeBack(Records& records) {
+  while (!records.empty()) {
+    const bool act = isDeed(records.back());
+    records.pop_back();
+    if (act) return;
+  }
+  throw errors::typeMismatch();
+}
+
+Records doneRecords(Records&& all) {
+  Records done;
+  done.reserve(all.size());
+  for (Record& record : all) {
+    if (record.kind == RecordKind::undone) {
+      takeBack(done);
+    } else {
+      done.push_back(std::move(record));
+    }
+  }
+  return done;
+}
+
+/// Cuts before the deed after the last one that is wanted.
+void cutAfter(Records& records, std::size_t mostDeeds) {
+  std::size_t deeds = 0;
+  const auto tooMuch = std::ranges::find_if(
+      records, [&](const Record& record) { return isDeed(record) && ++deeds > mostDeeds; });
+  records.erase(tooMuch, records.end());
+}
+
+/// Cuts after the last moment at which the control waited.
+void cutUnfinished(RecordedSession& session) {
+  Records& records = session.records;
+  const auto unfinished =
+      std::find_if(records.rbegin(), records.rend(), [](const Record& record) {
+        return record.kind == RecordKind::ready || record.kind == RecordKind::digest;
+      }).base();
+  session.requestUnanswered = std::any_of(unfinished, records.end(), [](const Record& record) {
+    return record.kind == RecordKind::request;
+  });
+  records.erase(unfinished, records.end());
+}
+
+}  // namespace
+
+Record headerRecord(const std::map<std::string, std::string>& header) {
+  Record record{RecordKind::header, {}, {}};
+  for (const auto& [name, value] : header) {
+    record.texts.push_back(name);
+    record.texts.push_back(value);
+  }
+  return record;
+}
+
+RecordedSession recordedSession(std::string_view bytes, std::size_t mostDeeds) {
+  Records all = wholeRecords(bytes).records;
+  if (all.empty()) throw errors::typeMismatch();
+  RecordedSession session;
+  session.header = headerOf(all.front());
+  all.erase(all.begin());
+  session.records = doneRecords(std::move(all));
+  cutAfter(session.records, mostDeeds);
+  cutUnfinished(session);
+  const auto last =
+      std::find_if(session.records.rbegin(), session.records.rend(),
+                   [](const Record& record) { return record.kind == RecordKind::summary; });
+  if (last != session.records.rend()) session.summary = last->texts;
+  session.deeds = static_cast<std::size_t>(std::ranges::count_if(session.records, isDeed));
+  return session;
+}
+
+}  // namespace awizo::journal

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace awizo::journal {
+
+/// What a record is. The numbers stand in files: none is ever given a new meaning.
+enum class RecordKind : std::uint8_t {
+  header = 1,  ///< names and values by turns: version, locale, what the host was asked at its start
+  outcome = 2,  ///< what the surroundings answered
+  fact = 3,     ///< what they answered to a question that may be asked at any time
+  act = 4,      ///< of the user
+  hostAct = 5,  ///< of the host: its name and what it needs
+  undone = 6,   ///< the act before was refused and changed nothing
+  answer = 7,   ///< to a message box
+  viewHeight = 8,
+  ready = 9,     ///< the control waits for the user
+  digest = 10,   ///< of the whole state
+  request = 11,  ///< goes out now; without an outcome nobody knows whether it arrived
+  summary = 12,  ///< what a person wants to know of the work so far
+};
+
+/// One thing that happened. Which numbers and texts it has is said where its kind is written.
+struct Record {
+  RecordKind kind{};
+  std::vector<std::int64_t> numbers;
+  std::vector<std::string> texts;
+  bool operator==(const Record&) const = default;
+};
+
+/// A record as bytes. It says nothing of its length.
+std::string encoded(const Record& record);
+
+/// The record of these bytes; error 13 for bytes that are none.
+Record decoded(std::string_view bytes);
+
+/// Whether it is something that the user or the host did, an answer included.
+bool isDeed(const Record& record);
+
+}  // namespace awizo::journal

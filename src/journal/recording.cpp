@@ -1,0 +1,61 @@
+#include "journal/recording.h"
+
+#include <algorithm>
+
+#include "journal/acts.h"
+#include "journal/state_digest.h"
+#include "platform/forms/table.h"
+
+namespace awizo::journal {
+
+Recording::Recording(Tape& tape, TapedPlatform& taped, AwizoWysylki& control)
+    : tape_(tape), control_(control) {
+  control.screen.actObserver = &tape;
+  tape.digest = [this] { return stateDigest(control_); };
+  tape.isRecorded = [this](const Form& form) {
+    return std::ranges::any_of(control_.forms(), [&](const Form* own) { return own == &form; });
+  };
+  tape.setViewHeight = [this](const std::string& form, const std::string& table, int height) {
+    setViewHeight(form, table, height);
+  };
+  tape.onLive = [this, &taped] {
+    taped.screen.showAll();
+    if (onLive) onLive();
+  };
+  taped.screen.perform = [this](const Record& deed) { perform(deed); };
+}
+
+void Recording::start() {
+  tape_.beginsCreation();
+  control_.UserControl_Initialize();
+  control_.UserControl_ReadProperties();
+  tape_.ends(true);
+  while (tape_.replaying()) {
+    if (const Record* deed = tape_.nextDeed()) perform(*deed);
+  }
+}
+
+void Recording::perform(const Record& deed) {
+  try {
+    if (deed.kind == RecordKind::act) {
+      journal::perform(control_.forms(), deed);
+    } else if (deed.kind == RecordKind::hostAct && performHostAct) {
+      performHostAct(deed.texts);
+    } else {
+      tape_.differs("an answer where no box is open");
+    }
+  } catch (const RunTimeError&) {
+    // A procedure that the host called ended by this error before, too.
+  } catch (const std::exception& error) {
+    tape_.differs(error.what());
+  }
+}
+
+void Recording::setViewHeight(const std::string& form, const std::string& table, int height) {
+  for (Form* own : control_.forms()) {
+    if (own->name() != form) continue;
+    if (auto* shown = dynamic_cast<Table*>(own->find(table))) shown->setViewHeight(height);
+  }
+}
+
+}  // namespace awizo::journal

@@ -1,0 +1,185 @@
+#include "journal/tape.h"
+
+#include "journal/record_file.h"
+#include "platform/forms/control.h"
+#include "platform/forms/form.h"
+#include "platform/run_time_error.h"
+
+namespace awizo::journal {
+
+Tape::Tape(std::vector<Record> replayed, GrowingFile* file)
+    : replayed_(std::move(replayed)), replaying_(!replayed_.empty()), file_(file) {}
+
+void Tape::write(const Record& record) {
+  if (file_ != nullptr) pending_ += framed(record);
+}
+
+void Tape::commit() {
+  if (file_ == nullptr || pending_.empty()) return;
+  try {
+    file_->append(pending_);
+  } catch (const RunTimeError& error) {
+    file_ = nullptr;
+    if (onTrouble) onTrouble(error.description());
+  }
+  pending_.clear();
+}
+
+void Tape::flush() {
+  if (replaying_ || !running_) return;
+  commit();
+  if (file_ == nullptr) return;
+  try {
+    file_->flush();
+  } catch (const RunTimeError& error) {
+    file_ = nullptr;
+    if (onTrouble) onTrouble(error.description());
+  }
+}
+
+void Tape::ready() {
+  if (summary) {
+    std::vector<std::string> texts = summary();
+    if (texts != summaryWritten_) {
+      write({RecordKind::summary, {}, texts});
+      summaryWritten_ = std::move(texts);
+    }
+  }
+  write({RecordKind::ready, {static_cast<std::int64_t>(waiting_.size())}, {}});
+  commit();
+}
+
+void Tape::writeDigest() {
+  actsSinceDigest_ = 0;
+  if (file_ == nullptr || !digest) return;
+  write({RecordKind::digest, {static_cast<std::int64_t>(digest())}, {}});
+}
+
+void Tape::request(std::uint64_t bodyDigest) {
+  if (!running_ || replaying_) return;
+  write({RecordKind::request, {static_cast<std::int64_t>(bodyDigest)}, {}});
+  commit();
+}
+
+void Tape::beginsCreation() { running_ = true; }
+
+void Tape::begins(const Act& act) {
+  aside_ = isRecorded && !isRecorded(*act.form);
+  if (aside_) return;
+  running_ = true;
+  if (replaying_) return;
+  ++deeds_;
+  passed_ = 0;
+  Record record{RecordKind::act, {static_cast<std::int64_t>(act.kind)}, {act.form->name()}};
+  record.numbers.insert(record.numbers.end(), act.numbers.begin(), act.numbers.end());
+  record.texts.push_back(act.control == nullptr ? std::string() : act.control->name());
+  record.texts.emplace_back(act.text);
+  write(record);
+}
+
+void Tape::beginsHostAct(const std::vector<std::string>& texts) {
+  running_ = true;
+  if (replaying_) return;
+  ++deeds_;
+  passed_ = 0;
+  write({RecordKind::hostAct, {}, texts});
+}
+
+void Tape::refused() {
+  if (std::exchange(aside_, false)) return;
+  running_ = false;
+  if (replaying_) differs("an act that is refused now");
+  --deeds_;
+  write({RecordKind::undone, {}, {}});
+}
+
+void Tape::ends(bool whole) {
+  if (std::exchange(aside_, false)) return;
+  running_ = false;
+  if (replaying_ || !whole) return;
+  // The act that has hidden a dialog leaves the one that opened it to be finished.
+  if (!waiting_.empty() && waiting_.back() != nullptr && !waiting_.back()->shown()) return commit();
+  ready();
+  if (waiting_.empty() && ++actsSinceDigest_ >= actsPerDigest) writeDigest();
+}
+
+void Tape::viewHeightSet(const Control& table, int height) {
+  if (replaying_) return;
+  write({RecordKind::viewHeight, {height, passed_}, {table.form().name(), table.name()}});
+}
+
+void Tape::differs(const std::string& what) const { throw ReplayDiffers{deeds_, what}; }
+
+void Tape::checkDigest(const Record& record) const {
+  // One that was taken while a form waits would say nothing about the acts before it.
+  if (!digest || running_ || !waiting_.empty()) return;
+  if (static_cast<std::int64_t>(digest()) != record.numbers.at(0)) differs("another state");
+}
+
+void Tape::absorb() {
+  for (; next_ < replayed_.size(); ++next_) {
+    const Record& record = replayed_[next_];
+    switch (record.kind) {
+      case RecordKind::fact:
+        facts_[{static_cast<Source>(record.numbers.at(0)), record.texts.at(0)}] = record;
+        break;
+      case RecordKind::viewHeight:
+        if (running_ && record.numbers.at(1) > passed_) return;
+        if (setViewHeight) {
+          setViewHeight(record.texts.at(0), record.texts.at(1),
+                        static_cast<int>(record.numbers.at(0)));
+        }
+        break;
+      case RecordKind::digest:
+        checkDigest(record);
+        break;
+      case RecordKind::outcome:
+      case RecordKind::act:
+      case RecordKind::hostAct:
+      case RecordKind::answer:
+        return;
+      default:
+        break;
+    }
+    write(record);
+  }
+}
+
+Record Tape::takeOutcome(Source source) {
+  absorb();
+  if (next_ == replayed_.size()) differs("something that wasn't asked before");
+  // Moved, since a reply can be large.
+  Record record = std::move(replayed_[next_]);
+  if (record.kind != RecordKind::outcome ||
+      record.numbers.at(0) != static_cast<std::int64_t>(source)) {
+    differs("something else that is asked");
+  }
+  ++next_;
+  write(record);
+  return record;
+}
+
+const Record* Tape::nextDeed() {
+  if (!replaying_) return nullptr;
+  absorb();
+  if (next_ == replayed_.size()) {
+    goLive();
+    return nullptr;
+  }
+  const Record& record = replayed_[next_];
+  if (!isDeed(record)) differs("less that is asked");
+  ++next_;
+  ++deeds_;
+  passed_ = 0;
+  write(record);
+  return &record;
+}
+
+void Tape::goLive() {
+  replaying_ = false;
+  commit();
+  // The records stay: the acts that are under way hold their texts.
+  if (onLive) onLive();
+}
+
+}  // namespace awizo::journal

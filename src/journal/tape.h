@@ -1,0 +1,224 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "journal/record.h"
+#include "journal/values.h"
+#include "platform/forms/act.h"
+#include "platform/growing_file.h"
+
+namespace awizo::journal {
+
+/// What the surroundings are asked. The numbers stand in files.
+enum class Source : std::uint8_t {
+  readFile = 1,
+  replaceFile,
+  openLog,
+  folderExists,
+  makeFolder,
+  folders,
+  files,
+  drives,
+  clock,
+  pageUrl,
+  pageCookie,
+  readProperty,
+  writeProperty,
+  readSetting,
+  writeSetting,
+  makeRequest,
+  openRequest,
+  setHeader,
+  send,
+  reply,
+};
+
+/// Whether a replay takes what was recorded, or what the host of today says instead.
+enum class Asked : std::uint8_t { asRecorded, today };
+
+/// A replay that went another way than what was recorded. No std::exception, so that nothing on the
+/// way takes it for an error to report.
+struct ReplayDiffers {
+  std::size_t deed;  ///< the act, counted from 1, during or after which it was found; 0: the start
+  std::string what;
+};
+
+/// Stands between a control and all that reaches it. It writes down what comes in; and while it has
+/// records to replay, it hands out what they hold instead of asking the surroundings. After the
+/// last record it goes on as if it had only written.
+class Tape : public ActObserver {
+ public:
+  /// Nothing is written where `file` is null.
+  Tape(std::vector<Record> replayed, GrowingFile* file);
+
+  /// Digest of the whole state.
+  std::function<std::uint64_t()> digest;
+  /// What a person wants to know of the work so far, asked whenever the control waits; none:
+  /// nothing.
+  std::function<std::vector<std::string>()> summary;
+  /// Told once when the file can't be written any more; the work goes on without it.
+  std::function<void(const std::string& description)> onTrouble;
+  /// Told when the last record has been replayed and the user's turn comes.
+  std::function<void()> onLive;
+  /// Whether a form is the control's; what happens on another is nothing to record.
+  std::function<bool(const Form& form)> isRecorded;
+  /// Sets a table's view height in a replay.
+  std::function<void(const std::string& form, const std::string& table, int height)> setViewHeight;
+
+  bool replaying() const { return replaying_; }
+  /// Whether what is asked now is part of an act. Between acts only hosts ask, for themselves.
+  bool running() const { return running_; }
+  std::size_t deeds() const { return deeds_; }
+
+  /// What `call` gives, or gave when this was recorded, its run-time error included.
+  template <class Call>
+  auto outcome(Source source, Call&& call, Asked asked = Asked::asRecorded);
+  /// The same for a question that anybody may ask any number of times.
+  template <class Call>
+  auto fact(Source source, std::string_view about, Call&& call);
+  /// Says that a request goes out now. Its digest lets a replay see that it is the same.
+  void request(std::uint64_t bodyDigest);
+  /// What was recorded must be on the disk before the work goes on.
+  void flush();
+
+  /// The act that a replay has to do next; none when there is no more, and then it is the user's
+  /// turn.
+  const Record* nextDeed();
+  /// The answer to a box.
+  template <class Ask>
+  int answer(Ask&& ask);
+  /// Waits for the user, who acts meanwhile, in a modal form.
+  template <class Wait>
+  void wait(const Form& form, Wait&& wait);
+  /// A call of the surroundings within which a host may lay out its views.
+  template <class Call>
+  void passing(Call&& call);
+
+  /// The control is made now, which is nobody's act. ends() comes when it is done.
+  void beginsCreation();
+  /// The host does something. ends() or refused() comes when it is done.
+  void beginsHostAct(const std::vector<std::string>& texts);
+
+  // ActObserver
+  void begins(const Act& act) override;
+  void refused() override;
+  void ends(bool whole) override;
+  void viewHeightSet(const Control& table, int height) override;
+
+  [[noreturn]] void differs(const std::string& what) const;
+
+ private:
+  bool isTaped() const { return running_ && (replaying_ || file_ != nullptr); }
+
+  /// Acts from one digest to the next: it is far dearer than an act.
+  static constexpr int actsPerDigest = 64;
+
+  void write(const Record& record);
+  void commit();
+  void ready();
+  void writeDigest();
+  void goLive();
+  /// Takes what stands before the next outcome or deed.
+  void absorb();
+  Record takeOutcome(Source source);
+  void checkDigest(const Record& record) const;
+
+  std::vector<Record> replayed_;
+  std::size_t next_ = 0;
+  bool replaying_;
+  GrowingFile* file_;
+  std::string pending_;
+  bool running_ = false;
+  bool aside_ = false;  ///< an act on another form runs
+  /// The modal forms that wait for the user, null for a box.
+  std::vector<const Form*> waiting_;
+  /// Passing calls since the last deed: where within an act a host laid out its views.
+  std::int64_t passed_ = 0;
+  std::size_t deeds_ = 0;
+  int actsSinceDigest_ = 0;
+  std::vector<std::string> summaryWritten_;
+  std::map<std::pair<Source, std::string>, Record> facts_;
+};
+
+template <class Call>
+auto Tape::outcome(Source source, Call&& call, Asked asked) {
+  using Value = decltype(call());
+  if (!isTaped()) return call();
+  if (replaying_) {
+    const Record record = takeOutcome(source);
+    return asked == Asked::asRecorded ? valueOf<Value>(record) : call();
+  }
+  return noted<Value>(call, [&](Record record) {
+    record.kind = RecordKind::outcome;
+    record.numbers.insert(record.numbers.begin(), static_cast<std::int64_t>(source));
+    write(record);
+  });
+}
+
+template <class Call>
+auto Tape::fact(Source source, std::string_view about, Call&& call) {
+  using Value = decltype(call());
+  if (!isTaped()) return call();
+  const std::pair key{source, std::string(about)};
+  if (replaying_) {
+    absorb();
+    const auto found = facts_.find(key);
+    if (found == facts_.end()) differs("a question that nobody asked before");
+    return valueOf<Value>(found->second, 1);
+  }
+  return noted<Value>(call, [&](Record record) {
+    record.kind = RecordKind::fact;
+    record.numbers.insert(record.numbers.begin(), static_cast<std::int64_t>(source));
+    record.texts.insert(record.texts.begin(), key.second);
+    if (const auto found = facts_.find(key); found != facts_.end() && found->second == record)
+      return;
+    write(record);
+    facts_[key] = std::move(record);
+  });
+}
+
+template <class Ask>
+int Tape::answer(Ask&& ask) {
+  if (!running_) return ask();
+  if (replaying_) {
+    if (const Record* deed = nextDeed()) {
+      if (deed->kind != RecordKind::answer) differs("a box that wasn't answered before");
+      return static_cast<int>(deed->numbers.at(0));
+    }
+  }
+  const bool running = std::exchange(running_, false);
+  waiting_.push_back(nullptr);
+  ready();
+  const int given = ask();
+  waiting_.pop_back();
+  running_ = running;
+  ++deeds_;
+  write({RecordKind::answer, {given}, {}});
+  return given;
+}
+
+template <class Wait>
+void Tape::wait(const Form& form, Wait&& wait) {
+  const bool running = std::exchange(running_, false);
+  waiting_.push_back(&form);
+  if (!replaying_) ready();
+  wait();
+  waiting_.pop_back();
+  running_ = running;
+}
+
+template <class Call>
+void Tape::passing(Call&& call) {
+  ++passed_;
+  if (replaying_) return absorb();
+  call();
+}
+
+}  // namespace awizo::journal

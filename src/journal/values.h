@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "journal/record.h"
+#include "platform/date.h"
+#include "platform/run_time_error.h"
+
+namespace awizo::journal {
+
+// Values and run-time errors as records have them: how it ended, and for an error its number, for
+// a value the numbers that it consists of; then its texts. The number of the source stands before.
+
+inline constexpr std::int64_t endedWell = 0;
+inline constexpr std::int64_t endedByError = 1;
+
+inline void put(Record&, std::nullptr_t) {}
+inline void put(Record& record, bool value) { record.numbers.push_back(value ? 1 : 0); }
+inline void put(Record& record, const std::string& value) { record.texts.push_back(value); }
+inline void put(Record& record, const std::vector<std::string>& values) {
+  record.texts.insert(record.texts.end(), values.begin(), values.end());
+}
+inline void put(Record& record, const Moment& moment) {
+  record.numbers.insert(
+      record.numbers.end(),
+      {int(moment.date.year()), unsigned(moment.date.month()), unsigned(moment.date.day()),
+       moment.time.hour, moment.time.minute, moment.time.second});
+}
+
+/// Calls, and hands the outcome to `note`, an error too.
+template <class Value, class Call, class Note>
+Value noted(Call&& call, Note&& note) {
+  Record record{{}, {endedWell}, {}};
+  try {
+    if constexpr (std::is_void_v<Value>) {
+      call();
+      note(std::move(record));
+    } else {
+      Value value = call();
+      put(record, value);
+      note(std::move(record));
+      return value;
+    }
+  } catch (const RunTimeError& error) {
+    note({{}, {endedByError, error.number()}, {error.description()}});
+    throw;
+  }
+}
+
+/// The value of an outcome or a fact, of whose texts the first `skipped` are none of the value's.
+/// Raises the error that it ended by.
+template <class Value>
+Value valueOf(const Record& record, std::size_t skipped = 0) {
+  if (record.numbers.at(1) == endedByError) {
+    throw RunTimeError(static_cast<std::int32_t>(record.numbers.at(2)), record.texts.at(skipped));
+  }
+  if constexpr (std::is_same_v<Value, bool>) {
+    return record.numbers.at(2) != 0;
+  } else if constexpr (std::is_same_v<Value, std::string>) {
+    return record.texts.at(skipped);
+  } else if constexpr (std::is_same_v<Value, std::vector<std::string>>) {
+    return {record.texts.begin() + static_cast<std::ptrdiff_t>(skipped), record.texts.end()};
+  } else if constexpr (std::is_same_v<Value, Moment>) {
+    const auto number = [&](std::size_t at) { return static_cast<int>(record.numbers.at(at)); };
+    return {makeDate(number(2), static_cast<unsigned>(number(3)), static_cast<unsigned>(number(4))),
+            {number(5), number(6), number(7)}};
+  } else {
+    static_assert(std::is_void_v<Value>);
+  }
+}
+
+}  // namespace awizo::journal

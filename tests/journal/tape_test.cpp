@@ -1,0 +1,197 @@
+#include "journal/tape.h"
+
+#include <gtest/gtest.h>
+
+#include "journal/loading.h"
+#include "journal/record_file.h"
+#include "journal/recording.h"
+#include "journal/state_digest.h"
+#include "platform/forms/keys.h"
+#include "support/control/test_control.h"
+
+namespace awizo::test {
+namespace {
+
+/// A file in memory; after so many bytes the disk is full.
+struct MemoryRecord : GrowingFile {
+  std::string bytes;
+  std::size_t room = std::string::npos;
+  int flushes = 0;
+
+  void append(std::string_view more) override {
+    if (bytes.size() + more.size() > room) {
+      bytes += more.substr(0, room - bytes.size());
+      throw errors::diskFull();
+    }
+    bytes += more;
+  }
+  void flush() override { ++flushes; }
+};
+
+/// A control whose surroundings go over a tape.
+struct Taped {
+  explicit Taped(GrowingFile* file, std::vector<journal::Record> replayed = {})
+      : tape(std::move(replayed), file),
+        desk("ru_RU", [this](const Platform& real) -> const Platform& {
+          platform = std::make_unique<journal::TapedPlatform>(tape, real);
+          return platform->platform;
+        }) {
+    recording = std::make_unique<journal::Recording>(tape, *platform, desk.control);
+    recording->performHostAct = [this](const std::vector<std::string>& texts) { doHostAct(texts); };
+  }
+
+  void doHostAct(const std::vector<std::string>& texts) {
+    recording->doHostAct(texts, [&] {
+      if (texts.front() == "show") desk.control.UserControl_Show();
+      if (texts.front() == "refused") throw Refused("not now");
+      if (texts.front() == "error") throw errors::overflow();
+    });
+  }
+  /// Off line, with one line in the document.
+  void start() {
+    desk.prepareFolder();
+    desk.files.put(TestControl::partnerFile, TestControl::partnerInfo("ООО Покупатель"));
+    desk.bag.values["OnLine"] = "Off";
+    recording->start();
+    doHostAct({"show"});
+  }
+  std::uint64_t digest() { return journal::stateDigest(desk.control); }
+
+  journal::Tape tape;
+  std::unique_ptr<journal::TapedPlatform> platform;
+  TestControl desk;
+  std::unique_ptr<journal::Recording> recording;
+};
+
+std::string withHeader(const MemoryRecord& record) {
+  return journal::fileBeginning() + journal::framed(journal::headerRecord({})) + record.bytes;
+}
+
+journal::RecordedSession session(const MemoryRecord& record) {
+  return journal::recordedSession(withHeader(record));
+}
+
+TEST(Tape, AReplayNeedsNeitherFilesNorSettings) {
+  MemoryRecord record;
+  Taped recorded(&record);
+  recorded.start();
+  recorded.desk.form.txtNrAwiza.userType("ТН/1");
+  Taped replayed(nullptr, session(record).records);
+  replayed.recording->start();
+  EXPECT_EQ(replayed.desk.form.txtNrAwiza.text(), "ТН/1");
+  EXPECT_EQ(replayed.desk.session.SellerName, "ООО Поставщик");
+  EXPECT_EQ(replayed.digest(), recorded.digest());
+}
+
+TEST(Tape, ActsThatWereRefusedAreNoActs) {
+  MemoryRecord record;
+  Taped recorded(&record);
+  recorded.start();
+  EXPECT_THROW(recorded.doHostAct({"refused"}), Refused);
+  EXPECT_THROW(recorded.doHostAct({"error"}), RunTimeError);
+  EXPECT_EQ(session(record).deeds, 2U);
+  Taped replayed(nullptr, session(record).records);
+  replayed.recording->start();
+  EXPECT_EQ(replayed.tape.deeds(), 2U);
+}
+
+TEST(Tape, AFullDiskEndsTheRecordWithOneWordAndNotTheWork) {
+  MemoryRecord record;
+  Taped recorded(&record);
+  recorded.start();
+  std::vector<std::string> words;
+  recorded.tape.onTrouble = [&](const std::string& word) { words.push_back(word); };
+  record.room = record.bytes.size() + 100;
+  for (const char* text : {"1", "22", "333", "4444", "55555"}) {
+    recorded.desk.form.txtNrAwiza.userType(text);
+  }
+  EXPECT_EQ(words, std::vector<std::string>{"Disk full"});
+  EXPECT_EQ(recorded.desk.form.txtNrAwiza.text(), "55555");
+
+  Taped replayed(nullptr, session(record).records);
+  replayed.recording->start();
+  EXPECT_EQ(replayed.desk.form.txtNrAwiza.text(), "1");
+}
+
+TEST(Tape, AReplayOfAnotherStateStops) {
+  MemoryRecord record;
+  Taped recorded(&record);
+  recorded.start();
+  for (int act = 0; act < 70; ++act) {
+    recorded.desk.form.txtNrAwiza.userType(std::to_string(act));
+  }
+  auto records = session(record).records;
+  for (journal::Record& act : records) {
+    if (act.kind == journal::RecordKind::act && act.texts.back() == "40") act.texts.back() = "x";
+    if (act.kind == journal::RecordKind::digest) act.numbers.front() ^= 1;
+  }
+  Taped replayed(nullptr, records);
+  try {
+    replayed.recording->start();
+    FAIL() << "nothing differs";
+  } catch (const journal::ReplayDiffers& differs) {
+    EXPECT_EQ(differs.what, "another state");
+    EXPECT_EQ(differs.deed, 63U);
+  }
+}
+
+TEST(Tape, ARecordThatAsksSomethingElseStops) {
+  MemoryRecord record;
+  Taped recorded(&record);
+  recorded.start();
+  auto records = session(record).records;
+  std::erase_if(records, [](const journal::Record& outcome) {
+    return outcome.kind == journal::RecordKind::outcome &&
+           outcome.numbers.front() == static_cast<int>(journal::Source::readFile);
+  });
+  Taped replayed(nullptr, records);
+  EXPECT_THROW(replayed.recording->start(), journal::ReplayDiffers);
+}
+
+TEST(Tape, TheHeightOfAViewIsReplayed) {
+  MemoryRecord record;
+  Taped recorded(&record);
+  recorded.start();
+  Table& countries = recorded.desk.control.dlgIsoCodes.grdISO;
+  countries.setViewHeight(1200);
+  recorded.desk.face.onModal([&] {
+    countries.userKey(keys::pageDown);
+    recorded.desk.control.dlgIsoCodes.userClose();
+  });
+  recorded.desk.form.Image2.userClick();
+
+  Taped replayed(nullptr, session(record).records);
+  replayed.recording->start();
+  EXPECT_EQ(replayed.desk.control.dlgIsoCodes.grdISO.row(), countries.row());
+  EXPECT_GT(countries.row(), 1);
+}
+
+TEST(Tape, WhatTheHostDoesForItselfStandsOnNoTape) {
+  MemoryRecord record;
+  Taped recorded(&record);
+  recorded.start();
+  const std::size_t before = record.bytes.size();
+  recorded.platform->platform.files.folderExists("c:\\VIRD");
+  recorded.platform->platform.clock.now();
+  EXPECT_EQ(record.bytes.size(), before);
+}
+
+TEST(Tape, TheLogGoesOnAfterAReplay) {
+  MemoryRecord record;
+  Taped recorded(&record);
+  recorded.desk.bag.values["DebugLevel"] = "4";
+  recorded.start();
+  ASSERT_TRUE(recorded.desk.files.has(TestControl::logFile));
+
+  Taped replayed(nullptr, session(record).records);
+  replayed.desk.files.putFolder("c:\\VIRD");
+  replayed.desk.files.put(TestControl::logFile, "before\r\n");
+  replayed.recording->start();
+  EXPECT_EQ(replayed.desk.logText(), "before\r\n");
+  replayed.desk.session.log.WriteDebugLine("after", 2);
+  EXPECT_TRUE(replayed.desk.logText().starts_with("before\r\n"));
+  EXPECT_TRUE(replayed.desk.logText().ends_with("after\r\n"));
+}
+
+}  // namespace
+}  // namespace awizo::test

@@ -1,0 +1,166 @@
+// A random user's work is recorded, the program killed at a random moment, and the record replayed
+// where there are no files, no service and no page: every model must be as it was.
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <map>
+#include <random>
+#include <set>
+#include <thread>
+
+#include "adapters/posix/posix_growing_file.h"
+#include "journal/loading.h"
+#include "journal/record_file.h"
+#include "journal/recording.h"
+#include "journal/state_digest.h"
+#include "random_user/user.h"
+#include "support/environment.h"
+#include "support/files/files.h"
+#include "support/files/temporary_folder.h"
+
+namespace awizo::test {
+namespace {
+
+/// A state that was noted while the user's turn was: by the number of acts so far.
+struct Note {
+  std::uint64_t deeds;
+  std::uint64_t digest;
+};
+
+/// What a recorded user's control stands on.
+struct Recorded {
+  journal::Tape tape;
+  std::unique_ptr<journal::TapedPlatform> taped;
+  std::unique_ptr<journal::Recording> recording;
+
+  Recorded(std::vector<journal::Record> replayed, GrowingFile* file)
+      : tape(std::move(replayed), file) {}
+
+  const Platform& between(const Platform& real) {
+    taped = std::make_unique<journal::TapedPlatform>(tape, real);
+    return taped->platform;
+  }
+  journal::Recording& attach(AwizoWysylki& control) {
+    recording = std::make_unique<journal::Recording>(tape, *taped, control);
+    recording->performHostAct = [this, &control](const std::vector<std::string>& texts) {
+      show(control, texts);
+    };
+    return *recording;
+  }
+  void show(AwizoWysylki& control, const std::vector<std::string>& texts = {"show"}) {
+    recording->doHostAct(texts, [&] { control.UserControl_Show(); });
+  }
+};
+
+/// The work that is killed: it notes each state before the user goes on.
+[[noreturn]] void workForEver(const std::string& file, int notes, unsigned seed,
+                              const std::string& locale) {
+  Dice dice(seed);
+  PosixGrowingFile record(file);
+  record.append(journal::fileBeginning() +
+                journal::framed(journal::headerRecord({{"locale", locale}})));
+  Recorded recorded({}, &record);
+  Beginning beginning;
+  beginning.localeName = locale;
+  beginning.onLine = dice.percent(60);
+  Listener listener;
+  AwizoWysylki* made = nullptr;
+  const auto note = [&] {
+    const Note noted{recorded.tape.deeds(), journal::stateDigest(*made)};
+    if (write(notes, &noted, sizeof noted) != sizeof noted) _exit(1);
+  };
+  listener.between = [&](const Platform& real) -> const Platform& {
+    return recorded.between(real);
+  };
+  listener.start = [&](AwizoWysylki& control) {
+    made = &control;
+    recorded.tape.summary = [&] {
+      note();
+      return std::vector<std::string>();
+    };
+    recorded.attach(control).start();
+    recorded.show(control);
+  };
+  RandomUser user(dice, beginning, listener);
+  while (true) user.act();
+}
+
+/// Where a replay has come to its end.
+struct Live {};
+
+/// The digest after a replay, and the number of acts.
+Note replayed(journal::RecordedSession session, const std::string& locale) {
+  Recorded recorded(std::move(session.records), nullptr);
+  TestControl empty(
+      locale, [&](const Platform& real) -> const Platform& { return recorded.between(real); });
+  empty.face.actUnscripted = [](Form&) { throw Live{}; };
+  empty.face.answerUnscripted = [](const MessageBox&) -> Answer { throw Live{}; };
+  journal::Recording& recording = recorded.attach(empty.control);
+  Note end{};
+  recording.onLive = [&] { end = {recorded.tape.deeds(), journal::stateDigest(empty.control)}; };
+  try {
+    recording.start();
+  } catch (const Live&) {
+  } catch (const journal::ReplayDiffers& differs) {
+    ADD_FAILURE() << "differs at " << differs.deed << ": " << differs.what;
+  }
+  return end;
+}
+
+std::multimap<std::uint64_t, std::uint64_t> notesIn(int pipe) {
+  std::multimap<std::uint64_t, std::uint64_t> notes;
+  Note note{};
+  while (read(pipe, &note, sizeof note) == sizeof note) notes.emplace(note.deeds, note.digest);
+  return notes;
+}
+
+class RecordedUser : public ::testing::TestWithParam<const char*> {
+ protected:
+  static void SetUpTestSuite() { unsetenv("AWIZO_SEEN_BOXES"); }
+
+  TemporaryFolder folder;
+};
+
+INSTANTIATE_TEST_SUITE_P(Locales, RecordedUser, ::testing::Values("ru_RU", "en_US"));
+
+TEST_P(RecordedUser, KilledAtAnyMomentLosesNoFinishedAct) {
+  const int seed = fromEnvironment("AWIZO_RANDOM_SEED", 20261122);
+  SCOPED_TRACE("AWIZO_RANDOM_SEED=" + std::to_string(seed));
+  std::mt19937 random(static_cast<unsigned>(seed));
+  std::uint64_t acts = 0;
+  const int kills = fromEnvironment("AWIZO_KILLS", 50) / 2;
+  for (int kill = 0; kill < kills; ++kill) {
+    const std::string file = (folder.path() / ("record" + std::to_string(kill))).string();
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    // All that a session writes of notes fits in, so that nobody waits for the reader.
+    fcntl(ends[1], F_SETPIPE_SZ, 1 << 20);
+    const auto seedOfSession = static_cast<unsigned>(random());
+    const pid_t child = fork();
+    if (child == 0) workForEver(file, ends[1], seedOfSession, GetParam());
+    close(ends[1]);
+    std::this_thread::sleep_for(std::chrono::microseconds(30'000 + random() % 200'000));
+    ::kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    const auto notes = notesIn(ends[0]);
+    close(ends[0]);
+
+    const Note end = replayed(journal::recordedSession(readFile(file)), GetParam());
+    acts += end.deeds;
+    const auto [first, last] = notes.equal_range(end.deeds);
+    EXPECT_TRUE(
+        std::any_of(first, last, [&](const auto& note) { return note.second == end.digest; }))
+        << "session " << seedOfSession << " after " << end.deeds << " acts";
+  }
+  EXPECT_GT(acts, static_cast<std::uint64_t>(kills));
+  std::printf("%d kills, %llu acts replayed\n", kills, static_cast<unsigned long long>(acts));
+}
+
+}  // namespace
+}  // namespace awizo::test
