@@ -28,6 +28,8 @@ void packageReferences(std::string_view bytes);
 void customsNumber(std::string_view bytes);
 /// A number or a date as a user types it, in both locales: read, written and read again.
 void numbersAndDates(std::string_view bytes);
+/// A record of a session, damaged or made up: replayed where there is nothing else.
+void records(std::string_view bytes);
 /// Lines to awizo-headless.
 void lines(std::string_view bytes);
 
@@ -38,7 +40,7 @@ struct NamedTarget {
   Target run;
 };
 
-inline constexpr std::array<NamedTarget, 10> targets{{
+inline constexpr std::array<NamedTarget, 11> targets{{
     {"order", order},
     {"catalogue", catalogue},
     {"places", places},
@@ -48,6 +50,7 @@ inline constexpr std::array<NamedTarget, 10> targets{{
     {"package-references", packageReferences},
     {"customs-number", customsNumber},
     {"numbers-and-dates", numbersAndDates},
+    {"records", records},
     {"lines", lines},
 }};
 

@@ -21,6 +21,30 @@ std::map<std::string, std::string> headerOf(const Record& record) {
   return header;
 }
 
+/// Whether a record has what its kind needs, so that nobody looks for more.
+bool isSound(const Record& record) {
+  const std::size_t numbers = record.numbers.size();
+  const std::size_t texts = record.texts.size();
+  switch (record.kind) {
+    case RecordKind::outcome:
+      return numbers >= 2;
+    case RecordKind::fact:
+      return numbers >= 2 && texts >= 1;
+    case RecordKind::act:
+      return numbers == 5 && texts == 3;
+    case RecordKind::hostAct:
+      return texts >= 1;
+    case RecordKind::answer:
+      return numbers == 1 && record.numbers[0] >= 0 && record.numbers[0] <= 2;
+    case RecordKind::viewHeight:
+      return numbers == 2 && texts == 2;
+    case RecordKind::digest:
+      return numbers == 1;
+    default:
+      return true;
+  }
+}
+
 /// Takes the last act out, with all that it had asked before it was refused.
 void takeBack(Records& records) {
   while (!records.empty()) {
@@ -82,6 +106,7 @@ RecordedSession recordedSession(std::string_view bytes, std::size_t mostDeeds) {
   RecordedSession session;
   session.header = headerOf(all.front());
   all.erase(all.begin());
+  if (!std::ranges::all_of(all, isSound)) throw errors::typeMismatch();
   session.records = doneRecords(std::move(all));
   cutAfter(session.records, mostDeeds);
   cutUnfinished(session);

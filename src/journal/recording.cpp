@@ -44,8 +44,9 @@ void Recording::perform(const Record& deed) {
     } else {
       tape_.differs("an answer where no box is open");
     }
-  } catch (const RunTimeError&) {
+  } catch (const RunTimeError& error) {
     // A procedure that the host called ended by this error before, too.
+    if (deed.kind == RecordKind::act) tape_.differs(error.description());
   } catch (const std::exception& error) {
     tape_.differs(error.what());
   }

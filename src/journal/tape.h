@@ -120,6 +120,9 @@ class Tape : public ActObserver {
   /// Acts from one digest to the next: it is far dearer than an act.
   static constexpr int actsPerDigest = 64;
 
+  /// valueOf; a record that has none is a difference.
+  template <class Value>
+  Value recordedValue(const Record& record, std::size_t skipped) const;
   void write(const Record& record);
   void commit();
   void ready();
@@ -153,7 +156,7 @@ auto Tape::outcome(Source source, Call&& call, Asked asked) {
   if (!isTaped()) return call();
   if (replaying_) {
     const Record record = takeOutcome(source);
-    return asked == Asked::asRecorded ? valueOf<Value>(record) : call();
+    return asked == Asked::asRecorded ? recordedValue<Value>(record, 0) : call();
   }
   return noted<Value>(call, [&](Record record) {
     record.kind = RecordKind::outcome;
@@ -171,7 +174,7 @@ auto Tape::fact(Source source, std::string_view about, Call&& call) {
     absorb();
     const auto found = facts_.find(key);
     if (found == facts_.end()) differs("a question that nobody asked before");
-    return valueOf<Value>(found->second, 1);
+    return recordedValue<Value>(found->second, 1);
   }
   return noted<Value>(call, [&](Record record) {
     record.kind = RecordKind::fact;
@@ -182,6 +185,12 @@ auto Tape::fact(Source source, std::string_view about, Call&& call) {
     write(record);
     facts_[key] = std::move(record);
   });
+}
+
+template <class Value>
+Value Tape::recordedValue(const Record& record, std::size_t skipped) const {
+  if (!holdsValue<Value>(record, skipped)) differs("a value of another kind");
+  return valueOf<Value>(record, skipped);
 }
 
 template <class Ask>

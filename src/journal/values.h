@@ -31,6 +31,18 @@ inline void put(Record& record, const Moment& moment) {
        moment.time.hour, moment.time.minute, moment.time.second});
 }
 
+/// Whether the numbers from the third on are a day and a time of it.
+inline bool isMoment(const std::vector<std::int64_t>& numbers) {
+  const auto within = [&](std::size_t at, std::int64_t least, std::int64_t most) {
+    return numbers[at] >= least && numbers[at] <= most;
+  };
+  return within(2, 100, 9999) && within(3, 1, 12) && within(4, 1, 31) && within(5, 0, 23) &&
+         within(6, 0, 59) && within(7, 0, 59) &&
+         makeDate(static_cast<int>(numbers[2]), static_cast<unsigned>(numbers[3]),
+                  static_cast<unsigned>(numbers[4]))
+             .ok();
+}
+
 /// Calls, and hands the outcome to `note`, an error too.
 template <class Value, class Call, class Note>
 Value noted(Call&& call, Note&& note) {
@@ -49,6 +61,19 @@ Value noted(Call&& call, Note&& note) {
     note({{}, {endedByError, error.number()}, {error.description()}});
     throw;
   }
+}
+
+/// Whether an outcome or a fact holds such a value, or an error.
+template <class Value>
+bool holdsValue(const Record& record, std::size_t skipped) {
+  const std::vector<std::int64_t>& numbers = record.numbers;
+  const bool hasText = record.texts.size() > skipped;
+  if (numbers.size() < 2) return false;
+  if (numbers[1] == endedByError) return numbers.size() > 2 && hasText;
+  if constexpr (std::is_same_v<Value, bool>) return numbers.size() > 2;
+  if constexpr (std::is_same_v<Value, std::string>) return hasText;
+  if constexpr (std::is_same_v<Value, Moment>) return numbers.size() == 8 && isMoment(numbers);
+  return true;
 }
 
 /// The value of an outcome or a fact, of whose texts the first `skipped` are none of the value's.

@@ -229,5 +229,17 @@ TEST_P(RecordTest, ThatIsNoneIsRefused) {
   EXPECT_EQ(acts.waitForEnd(), 2);
 }
 
+/// A record of the first format, made off line: header fields and one package.
+TEST(RecordFormats, TheFirstIsReplayed) {
+  const fs::path file = projectFolder() / "tests/journal/samples/format-1.record";
+  Conversation editor({"--replay", file.string()});
+  EXPECT_EQ(editor.text("txtNrAwiza"), "ТН/7");
+  EXPECT_EQ(editor.get("txtEstimatedDeliveryDate")["date"], "2026-11-30");
+  EXPECT_EQ(editor.cellText("grdOpakowania", 1, 3), "Паллета 1");
+  EXPECT_EQ(editor.get("settings")["OffLinePath"], "c:\\VIRD");
+  EXPECT_EQ(editor.get("control")["DebugLevel"], "2");
+  EXPECT_EQ(editor.finish(), 0);
+}
+
 }  // namespace
 }  // namespace awizo::test

@@ -47,6 +47,9 @@ Asked asked(const std::vector<std::string>& arguments) {
   std::vector<std::string> files;
   Asked asked{parseOptions(arguments, &files), {}};
   if (asked.options.checkedFile) throw BadArguments("awizo-headless checks files");
+  if (asked.options.recordFile || asked.options.replayFile) {
+    throw BadArguments("awizo-headless records and replays");
+  }
   if (files.size() > 1) throw BadArguments("more than one file");
   if (files.empty()) return asked;
   asked.file = QString::fromStdString(files.front());
