@@ -1,0 +1,140 @@
+// What the record of a session costs at full size, and how soon a replay is through.
+
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+#include "adapters/posix/posix_growing_file.h"
+#include "benchmarks/support/compare.h"
+#include "benchmarks/support/full_size.h"
+#include "journal/loading.h"
+#include "journal/record_file.h"
+#include "journal/recording.h"
+#include "tests/support/control/test_control.h"
+#include "tests/support/files/files.h"
+#include "tests/support/files/temporary_folder.h"
+
+namespace awizo::benchmarks {
+namespace {
+
+constexpr double secondsAllowedAnAct = 0.0002;
+constexpr double secondsAllowedForAReplay = 2;
+constexpr int lineCommits = 250;
+constexpr int packages = 125;
+constexpr int headerFields = 125;
+
+/// A control on a tape.
+struct Taped {
+  explicit Taped(GrowingFile* file, std::vector<journal::Record> replayed = {})
+      : tape(std::move(replayed), file),
+        desk("ru_RU", [this](const Platform& real) -> const Platform& {
+          platform = std::make_unique<journal::TapedPlatform>(tape, real);
+          return platform->platform;
+        }) {
+    recording = std::make_unique<journal::Recording>(tape, *platform, desk.control);
+    recording->performHostAct = [this](const std::vector<std::string>&) { show(); };
+  }
+
+  void show() {
+    recording->doHostAct({"show"}, [&] { desk.control.UserControl_Show(); });
+  }
+
+  journal::Tape tape;
+  std::unique_ptr<journal::TapedPlatform> platform;
+  test::TestControl desk;
+  std::unique_ptr<journal::Recording> recording;
+};
+
+void start(Taped& session) {
+  test::TestControl& desk = session.desk;
+  desk.prepareFolder();
+  desk.preparePage();
+  desk.http.reply(test::TestControl::partnerInfo("ООО Покупатель"));
+  desk.http.reply(catalogueReply(catalogue(mostCatalogueLines)));
+  desk.http.reply("<dictionary-response><status>UNCHANGED</status></dictionary-response>");
+  desk.http.reply(orderReply(order(mostOrderLines, mostCatalogueLines)));
+  session.recording->start();
+  session.show();
+  if (desk.session.LineCount != mostOrderLines) std::abort();
+}
+
+/// Accepts each line as it is; makes top packages.
+void actOn(AwizoWysylki& control, const Form& form) {
+  if (&form == &control.dlgDodaj) return control.dlgDodaj.btnDodaj.userClick();
+  DlgSzczegoly& package = control.dlgSzczegoly;
+  package.txtPackageDesc.userType("Паллета");
+  package.cboxILNLokalizacji.userType("9520002001016");
+  package.txtSerialNumberN.userType("035200010000000016");
+  package.btnDodaj.userClick();
+}
+
+/// Half of the acts are line commits, a quarter packages.
+void work(Taped& session) {
+  AwizoWysylki& control = session.desk.control;
+  session.desk.face.actUnscripted = [&](Form& form) {
+    actOn(control, form);
+    if (form.shown()) form.userClose();
+  };
+  session.desk.face.answerUnscripted = [](const MessageBox&) { return Answer::yes; };
+  for (int line = 1; line <= lineCommits; ++line) {
+    control.form.grdPozycje.userCell(line, 1);
+    control.form.btnEdytuj.userClick();
+  }
+  for (int package = 0; package < packages; ++package) control.form.btnDodajOpak.userClick();
+  for (int field = 0; field < headerFields; ++field) {
+    control.form.txtNrAwiza.userType(std::to_string(field));
+  }
+}
+
+/// The processor's time that a record takes of an act, the state's digests included.
+void RecordingAnAct(benchmark::State& state) {
+  double cost = 0;
+  for ([[maybe_unused]] const auto turn : state) {
+    const test::TemporaryFolder folder;
+    PosixGrowingFile file((folder.path() / "record").string());
+    Taped recorded(&file);
+    Taped bare(nullptr);
+    start(recorded);
+    start(bare);
+    const std::size_t before = recorded.tape.deeds();
+    const double with = secondsOf([&] { work(recorded); });
+    const double without = secondsOf([&] { work(bare); });
+    const double anAct = (with - without) / static_cast<double>(recorded.tape.deeds() - before);
+    state.SetIterationTime(anAct);
+    cost += anAct;
+  }
+  state.counters["ratio"] = cost / static_cast<double>(state.iterations()) / secondsAllowedAnAct;
+}
+
+/// A start on line and a day's work, from the file's bytes to the user's turn.
+void ReplayingADay(benchmark::State& state) {
+  const test::TemporaryFolder folder;
+  const std::string path = (folder.path() / "record").string();
+  {
+    PosixGrowingFile file(path);
+    file.append(journal::fileBeginning() + journal::framed(journal::headerRecord({})));
+    Taped recorded(&file);
+    start(recorded);
+    work(recorded);
+  }
+  double cost = 0;
+  for ([[maybe_unused]] const auto turn : state) {
+    const double seconds = secondsOf([&] {
+      Taped replayed(nullptr, journal::recordedSession(test::readFile(path)).records);
+      replayed.recording->start();
+      if (replayed.desk.form.txtNrAwiza.text().empty()) std::abort();
+    });
+    state.SetIterationTime(seconds);
+    cost += seconds;
+  }
+  state.counters["ratio"] =
+      cost / static_cast<double>(state.iterations()) / secondsAllowedForAReplay;
+}
+
+BENCHMARK(RecordingAnAct)->UseManualTime()->Iterations(3);
+BENCHMARK(ReplayingADay)->UseManualTime()->Iterations(3);
+
+}  // namespace
+}  // namespace awizo::benchmarks
