@@ -61,6 +61,7 @@ inline constexpr std::string_view sizesGroup = "Размеры и номер";
 inline constexpr std::string_view packageDeliveryGroup = "Доставка";
 
 // File dialog.
+inline constexpr std::string_view recentFiles = "&Недавние";
 inline constexpr std::string_view fileName = "Имя файла:";
 inline constexpr std::string_view folder = "Папка:";
 inline constexpr std::string_view chooseFile = "Выбрать";

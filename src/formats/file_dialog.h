@@ -32,6 +32,9 @@ class DlgWczytajZapisz : public Form {
   /// Loads the form at its first use. Every caller touches it before it sets anything.
   void touch();
 
+  /// Whole path of the file chosen; empty for none.
+  const std::string& chosenFile() const { return session_.LastFilePath; }
+
   // The modes. Each touches the form, sets it up and empties LastFilePath.
 
   /// "&Wczytaj": a file that is there is chosen.

@@ -39,7 +39,9 @@ void HostScreenFace::runModal(Form& form) {
   const AtExit asked([this] { --asking_; });
   const auto aside = waiting_.aside();
   modal_.push_back(&form);
+  if (onModal) onModal(form);
   DesktopScreenFace::runModal(form);
+  if (onModalEnd) onModalEnd(form);
   modal_.pop_back();
 }
 

@@ -25,6 +25,9 @@ class HostScreenFace : public DesktopScreenFace {
 
   /// In place of the user, `act` acts on the next modal form, which isn't shown. Null: the user.
   void actOnNextForm(std::function<void()> act) { actInstead_ = std::move(act); }
+  /// Told when a dialog has come up for the user, and when it has gone. May be empty.
+  std::function<void(Form& form)> onModal;
+  std::function<void(Form& form)> onModalEnd;
 
   void end();
   bool ending() const { return ending_; }

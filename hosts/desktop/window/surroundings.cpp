@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "hosts/desktop/window/file_chooser.h"
 #include "hosts/version.h"
 
 namespace awizo::desktop {
@@ -27,7 +28,9 @@ Surroundings::Surroundings(const GivenParts& given, QWidget& widget,
                .clock = given.clock != nullptr ? *given.clock : machineClock,
                .locale = locale,
                .screenFace = face,
-               .version = programVersion} {}
+               .version = programVersion} {
+  helpToChooseFiles(face, files, given.settings);
+}
 
 std::string chosenLocale(const std::string& given) {
   return given.empty() ? IcuLocale::environmentName() : given;

@@ -1,0 +1,126 @@
+#include "hosts/desktop/window/file_chooser.h"
+
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QPointer>
+#include <QStandardPaths>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <utility>
+
+#include "desk/layout_words.h"
+#include "hosts/desktop/faces/text.h"
+
+namespace awizo::desktop {
+namespace {
+
+std::string classicFolder(QStandardPaths::StandardLocation location) {
+  const QString path = QStandardPaths::writableLocation(location);
+  return path.isEmpty() ? "" : toText("c:" + QString(path).replace('/', '\\'));
+}
+
+QToolButton* makeButton(const QString& words, QWidget* parent) {
+  auto* button = new QToolButton(parent);
+  button->setText(words);
+  button->setAccessibleName(QString(words).remove('&'));
+  button->setFocusPolicy(Qt::NoFocus);
+  return button;
+}
+
+/// As Qt knows them.
+UserFolders userFolders() {
+  return {classicFolder(QStandardPaths::HomeLocation),
+          classicFolder(QStandardPaths::DocumentsLocation)};
+}
+
+}  // namespace
+
+FileChooser::FileChooser(DlgWczytajZapisz& form, FormDialog& dialog, Files& files,
+                         SettingsStore& settings, UserFolders user)
+    : QWidget(&dialog),
+      form_(form),
+      dialog_(dialog),
+      files_(files),
+      settings_(settings),
+      user_(std::move(user)) {
+  setObjectName("places");
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  static_cast<QBoxLayout*>(dialog.layout())->insertWidget(0, this);
+}
+
+void FileChooser::opened() {
+  const bool choosesFolder = form_.lblOffLinePath.visible();
+  // The dialog keeps its folder; only the root of the drive is nobody's choice yet.
+  if (form_.DirList.path().ends_with('\\')) {
+    const std::string folder = choosesFolder ? firstOffLineParent(files_, user_)
+                                             : firstFileFolder(files_, settings_, user_);
+    if (!folder.empty()) goTo({"", folder, ""});
+  }
+  offer(filePlaces(files_, settings_, user_));
+}
+
+void FileChooser::closed() {
+  if (!form_.chosenFile().empty()) keepUsedFile(settings_, form_.chosenFile());
+}
+
+void FileChooser::offer(const std::vector<FilePlace>& places) {
+  qDeleteAll(findChildren<QToolButton*>());
+  delete layout();
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  auto* recent = makeButton(fromText(words::recentFiles), this);
+  recent->setObjectName("recent");
+  recent->setPopupMode(QToolButton::InstantPopup);
+  auto* menu = new QMenu(recent);
+  recent->setMenu(menu);
+  for (const FilePlace& place : places) {
+    if (!place.file.empty()) {
+      // No letter of a file's name is a mnemonic.
+      menu->addAction(fromText(place.file).replace("&", "&&"), this,
+                      [this, place] { goTo(place); });
+      continue;
+    }
+    QToolButton* button = makeButton("&" + fromText(place.words), this);
+    connect(button, &QToolButton::clicked, this, [this, place] { goTo(place); });
+    row->addWidget(button);
+  }
+  // A new file has a name of its own, and a folder is no file.
+  recent->setVisible(!menu->isEmpty() && form_.ImageWczytaj.visible() &&
+                     !form_.lblOffLinePath.visible());
+  row->addWidget(recent);
+  row->addStretch(1);
+}
+
+void FileChooser::goTo(const FilePlace& place) {
+  FormFace& faces = dialog_.faces();
+  faces.act([&] { form_.DirList.userOpen(place.folder); });
+  if (place.file.empty()) return;
+  const std::vector<std::string>& names = form_.FileList.rows();
+  const auto found = std::ranges::find(names, place.file);
+  if (found == names.end()) return;
+  faces.act([&] { form_.FileList.userChoose(static_cast<int>(found - names.begin())); });
+}
+
+void helpToChooseFiles(HostScreenFace& face, Files& files, SettingsStore& settings) {
+  // A dialog's window may be made anew for the same form.
+  const auto choosers = std::make_shared<std::map<Form*, QPointer<FileChooser>>>();
+  face.onModal = [choosers, &face, &files, &settings](Form& form) {
+    auto* dialog = dynamic_cast<DlgWczytajZapisz*>(&form);
+    if (dialog == nullptr) return;
+    QPointer<FileChooser>& chooser = (*choosers)[&form];
+    if (!chooser) {
+      chooser = new FileChooser(*dialog, face.dialog(form), files, settings, userFolders());
+    }
+    chooser->opened();
+  };
+  face.onModalEnd = [choosers](Form& form) {
+    const auto chooser = choosers->find(&form);
+    if (chooser != choosers->end() && chooser->second) chooser->second->closed();
+  };
+}
+
+}  // namespace awizo::desktop

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/files.h"
+#include "platform/settings.h"
+
+namespace awizo {
+
+// Where people keep files. Folders are classic paths, without a backslash at the end.
+
+/// The user's folders as the machine names them; empty for one that it doesn't have.
+struct UserFolders {
+  std::string home;
+  std::string documents;
+};
+
+/// A place to go to at once: a folder or, where a file is named, that file in it.
+struct FilePlace {
+  std::string words;
+  std::string folder;
+  std::string file;
+};
+
+/// The folder used last where it is still there, else the user's documents, else the home folder;
+/// empty where there is none of them.
+std::string firstFileFolder(Files& files, SettingsStore& settings, const UserFolders& user);
+
+/// The folder in which that of off-line work is proposed: one that the user may write to.
+std::string firstOffLineParent(Files& files, const UserFolders& user);
+
+/// The user's folders, and the files used last, the newest first, as far as they are there.
+std::vector<FilePlace> filePlaces(Files& files, SettingsStore& settings, const UserFolders& user);
+
+/// Remembers a file that the user has read or written.
+void keepUsedFile(SettingsStore& settings, std::string_view path);
+
+}  // namespace awizo
