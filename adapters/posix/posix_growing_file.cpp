@@ -1,6 +1,7 @@
 #include "adapters/posix/posix_growing_file.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 
 #include <chrono>
@@ -16,7 +17,10 @@ constexpr std::chrono::milliseconds longestUnflushed{500};
 
 PosixGrowingFile::PosixGrowingFile(const std::string& path)
     : file_(path, O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_NOFOLLOW, S_IRUSR | S_IWUSR),
-      flusher_([this] { flushSoon(); }) {}
+      flusher_([this] { flushSoon(); }) {
+  // Where the system can't lock, nobody is told that the file is in use, which hurts nobody else.
+  flock(file_.number(), LOCK_EX | LOCK_NB);
+}
 
 PosixGrowingFile::~PosixGrowingFile() {
   {

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/record_folder.h"
+#include "session/awizo_wysylki.h"
+
+namespace awizo::journal {
+
+/// What a record says of its work, for the question whether to go on with it.
+struct WorkSummary {
+  std::string number;  ///< of the despatch advice, as typed
+  std::string orderNumber;
+  std::string time;  ///< of the last act, "23:14"
+  int lines = 0;
+  int packedLines = 0;    ///< lines of which something lies in packages
+  bool isUnsent = false;  ///< there are lines, and the service hasn't taken them under this number
+  bool operator==(const WorkSummary&) const = default;
+};
+
+/// Of a control as it is now. Quick enough to be asked after every act.
+WorkSummary summaryOf(const AwizoWysylki& control, const Clock& clock);
+
+// A summary as a record has it; none for texts of another form.
+std::vector<std::string> textsOf(const WorkSummary& summary);
+std::optional<WorkSummary> summaryIn(const std::vector<std::string>& texts);
+
+/// A record of work that was neither sent nor given up.
+struct UnfinishedWork {
+  std::string record;  ///< its name in the folder
+  WorkSummary summary;
+  /// A request went out last whose answer never came: the document may have arrived.
+  bool mayHaveArrived = false;
+};
+
+/// The work left behind last. Records in use are somebody else's; those without unsent work are
+/// removed on the way, and one that can't be read is left alone.
+std::optional<UnfinishedWork> unfinishedWork(RecordFolder& folder);
+
+/// Removes the oldest records until no more than so many bytes are kept; never one in use.
+void keepWithin(RecordFolder& folder, std::uint64_t mostBytes);
+
+}  // namespace awizo::journal

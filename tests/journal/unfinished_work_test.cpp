@@ -1,0 +1,137 @@
+#include "journal/unfinished_work.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "journal/loading.h"
+#include "journal/record_file.h"
+#include "platform/run_time_error.h"
+#include "support/control/test_control.h"
+#include "tables/columns/columns.h"
+
+namespace awizo::test {
+namespace {
+
+using journal::UnfinishedWork;
+using journal::WorkSummary;
+
+struct MemoryFolder : RecordFolder {
+  struct Entry {
+    std::string bytes;
+    std::int64_t changed = 0;
+    bool inUse = false;
+  };
+  std::map<std::string, Entry, std::less<>> entries;
+
+  std::vector<FoundRecord> records() override {
+    std::vector<FoundRecord> found;
+    for (const auto& [name, entry] : entries) {
+      found.push_back({name, entry.bytes.size(), entry.changed, entry.inUse});
+    }
+    return found;
+  }
+  std::unique_ptr<GrowingFile> create() override { return nullptr; }
+  std::string read(std::string_view name) override { return entries.find(name)->second.bytes; }
+  void remove(std::string_view name) override { entries.erase(entries.find(name)); }
+
+  std::vector<std::string> names() const {
+    std::vector<std::string> all;
+    for (const auto& [name, entry] : entries) all.push_back(name);
+    return all;
+  }
+};
+
+const WorkSummary unsent{"ТН-6", "ЗК-1", "23:14", 25, 12, true};
+
+std::string recordOf(const WorkSummary& summary, bool requestUnanswered = false) {
+  using journal::Record;
+  using journal::RecordKind;
+  std::string bytes = journal::fileBeginning() + journal::framed(journal::headerRecord({})) +
+                      journal::framed({RecordKind::summary, {}, journal::textsOf(summary)}) +
+                      journal::framed({RecordKind::ready, {0}, {}});
+  if (requestUnanswered) bytes += journal::framed({RecordKind::request, {1}, {}});
+  return bytes;
+}
+
+WorkSummary sent() {
+  WorkSummary summary = unsent;
+  summary.isUnsent = false;
+  return summary;
+}
+
+using Names = std::vector<std::string>;
+
+TEST(UnfinishedWork, IsTheNewestThatNobodyWritesNow) {
+  MemoryFolder folder;
+  WorkSummary older = unsent;
+  older.number = "ТН-5";
+  folder.entries = {{"a", {recordOf(older), 10}},
+                    {"b", {recordOf(unsent), 20}},
+                    {"c", {recordOf(older), 30, true}}};
+  const auto work = journal::unfinishedWork(folder);
+  ASSERT_TRUE(work);
+  EXPECT_EQ(work->record, "b");
+  EXPECT_EQ(work->summary, unsent);
+  EXPECT_FALSE(work->mayHaveArrived);
+  EXPECT_EQ(folder.names(), (Names{"a", "b", "c"}));
+}
+
+TEST(UnfinishedWork, MayHaveArrivedWhereTheAnswerNeverCame) {
+  MemoryFolder folder;
+  folder.entries = {{"a", {recordOf(unsent, true), 10}}};
+  EXPECT_TRUE(journal::unfinishedWork(folder)->mayHaveArrived);
+}
+
+TEST(UnfinishedWork, IsNoneWhereAllWasSentAndThenNothingIsKept) {
+  MemoryFolder folder;
+  folder.entries = {{"a", {recordOf(sent()), 10}}, {"b", {recordOf({}), 20}}};
+  EXPECT_FALSE(journal::unfinishedWork(folder));
+  EXPECT_EQ(folder.names(), Names{});
+}
+
+TEST(UnfinishedWork, IsLookedForPastWhatCantBeRead) {
+  MemoryFolder folder;
+  folder.entries = {{"a", {recordOf(unsent), 10}}, {"b", {"garbage", 20}}};
+  EXPECT_EQ(journal::unfinishedWork(folder)->record, "a");
+  EXPECT_EQ(folder.names(), (Names{"a", "b"}));
+}
+
+TEST(KeepingWithin, RemovesTheOldestButNoneInUse) {
+  MemoryFolder folder;
+  const std::string bytes(100, 'x');
+  folder.entries = {{"a", {bytes, 10, true}}, {"b", {bytes, 20}}, {"c", {bytes, 30}}};
+  journal::keepWithin(folder, 300);
+  EXPECT_EQ(folder.names(), (Names{"a", "b", "c"}));
+  journal::keepWithin(folder, 299);
+  EXPECT_EQ(folder.names(), (Names{"a", "c"}));
+  journal::keepWithin(folder, 0);
+  EXPECT_EQ(folder.names(), Names{"a"});
+}
+
+TEST(WorkSummary, SaysHowFarTheWorkIs) {
+  TestControl desk;
+  EXPECT_EQ(journal::summaryOf(desk.control, desk.clock),
+            (WorkSummary{"", "", "10:15", 0, 0, false}));
+  desk.form.grdPozycje.setRows(3);
+  desk.session.LineCount = 2;
+  desk.form.grdPozycje.setCell(2, GRD_POZ_PACK_REFS, "2@A@1@1,000");
+  desk.form.txtNrAwiza.setText("ТН-6");
+  desk.form.txtNrZam.setText("ЗК-1");
+  EXPECT_EQ(journal::summaryOf(desk.control, desk.clock),
+            (WorkSummary{"ТН-6", "ЗК-1", "10:15", 2, 1, true}));
+  desk.form.LastSentNumber = "ТН-5";
+  EXPECT_TRUE(journal::summaryOf(desk.control, desk.clock).isUnsent);
+  desk.form.LastSentNumber = "ТН-6";
+  EXPECT_FALSE(journal::summaryOf(desk.control, desk.clock).isUnsent);
+}
+
+TEST(WorkSummary, IsReadBackAndNothingElse) {
+  EXPECT_EQ(journal::summaryIn(journal::textsOf(unsent)), unsent);
+  EXPECT_FALSE(journal::summaryIn({}));
+  EXPECT_FALSE(journal::summaryIn({"a", "b", "c", "1", "x", "1"}));
+  EXPECT_FALSE(journal::summaryIn({"a", "b", "c", "-1", "0", "1"}));
+}
+
+}  // namespace
+}  // namespace awizo::test
