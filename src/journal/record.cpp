@@ -68,8 +68,8 @@ class Reader {
 
 }  // namespace
 
-std::string encoded(const Record& record) {
-  std::string bytes(1, static_cast<char>(record.kind));
+void encode(const Record& record, std::string& bytes) {
+  bytes += static_cast<char>(record.kind);
   putUnsigned(bytes, record.numbers.size());
   for (const std::int64_t number : record.numbers) putUnsigned(bytes, folded(number));
   putUnsigned(bytes, record.texts.size());
@@ -77,7 +77,6 @@ std::string encoded(const Record& record) {
     putUnsigned(bytes, text.size());
     bytes += text;
   }
-  return bytes;
 }
 
 Record decoded(std::string_view bytes) {

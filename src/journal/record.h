@@ -31,8 +31,9 @@ struct Record {
   bool operator==(const Record&) const = default;
 };
 
-/// A record as bytes. It says nothing of its length.
-std::string encoded(const Record& record);
+/// Appends a record's bytes, which say nothing of their length. A reply can be large, so that
+/// nobody holds it once more than needed.
+void encode(const Record& record, std::string& bytes);
 
 /// The record of these bytes; error 13 for bytes that are none.
 Record decoded(std::string_view bytes);

@@ -13,8 +13,11 @@ constexpr std::string_view firstLine = "awizo record 1\n";
 constexpr std::size_t lengthSize = 4;
 constexpr std::size_t sumSize = 8;
 
-void putNumber(std::string& bytes, std::uint64_t number, std::size_t size) {
-  for (std::size_t at = 0; at < size; ++at) bytes += static_cast<char>((number >> (8 * at)) & 0xFF);
+/// Writes a number of so many bytes over those that are there.
+void putNumber(std::string& bytes, std::size_t place, std::uint64_t number, std::size_t size) {
+  for (std::size_t at = 0; at < size; ++at) {
+    bytes[place + at] = static_cast<char>((number >> (8 * at)) & 0xFF);
+  }
 }
 
 std::uint64_t numberIn(std::string_view bytes) {
@@ -41,13 +44,19 @@ std::optional<std::string_view> firstFrame(std::string_view rest) {
 
 std::string fileBeginning() { return std::string(firstLine); }
 
+void frame(const Record& record, std::string& file) {
+  const std::size_t start = file.size();
+  const std::size_t body = start + lengthSize + sumSize;
+  file.resize(body);
+  encode(record, file);
+  putNumber(file, start, file.size() - body, lengthSize);
+  putNumber(file, start + lengthSize, checksum(std::string_view(file).substr(body)), sumSize);
+}
+
 std::string framed(const Record& record) {
-  const std::string bytes = encoded(record);
-  std::string frame;
-  frame.reserve(lengthSize + sumSize + bytes.size());
-  putNumber(frame, bytes.size(), lengthSize);
-  putNumber(frame, checksum(bytes), sumSize);
-  return frame += bytes;
+  std::string file;
+  frame(record, file);
+  return file;
 }
 
 WholeRecords wholeRecords(std::string_view bytes) {

@@ -16,7 +16,8 @@ namespace awizo::journal {
 /// With what a file begins.
 std::string fileBeginning();
 
-/// A record as it stands in a file.
+/// Appends a record as it stands in a file.
+void frame(const Record& record, std::string& file);
 std::string framed(const Record& record);
 
 /// What of a file's bytes is whole.

@@ -7,11 +7,17 @@
 
 namespace awizo::journal {
 
+namespace {
+
+constexpr std::size_t mostKeptPending = 1 << 16;
+
+}  // namespace
+
 Tape::Tape(std::vector<Record> replayed, GrowingFile* file)
     : replayed_(std::move(replayed)), replaying_(!replayed_.empty()), file_(file) {}
 
 void Tape::write(const Record& record) {
-  if (file_ != nullptr) pending_ += framed(record);
+  if (file_ != nullptr) frame(record, pending_);
 }
 
 void Tape::commit() {
@@ -23,6 +29,8 @@ void Tape::commit() {
     if (onTrouble) onTrouble(error.description());
   }
   pending_.clear();
+  // What a large reply took is given back.
+  if (pending_.capacity() > mostKeptPending) pending_.shrink_to_fit();
 }
 
 void Tape::flush() {
