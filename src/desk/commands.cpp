@@ -1,5 +1,6 @@
 #include "desk/commands.h"
 
+#include "desk/layout_words.h"
 #include "platform/forms/keys.h"
 #include "platform/text.h"
 
@@ -110,6 +111,24 @@ std::vector<Command> packageCommands(AwizoForm& form) {
 
 std::vector<CommandMenu> startMenus() {
   return {{"&Документ", {{folderCommand()}, endCommands()}}, {"&Справка", {helpCommands()}}};
+}
+
+std::vector<Command> lineDialogCommands(DlgDodaj& dialog) {
+  return {{.words = words::putIntoPackage,
+           .button = &dialog.Command1,
+           .keys = {key(keys::insert)},
+           .place = &dialog.grdPozycje},
+          {.words = words::takeOutOfPackage,
+           .button = &dialog.Command2,
+           .keys = {key(keys::remove)},
+           .place = &dialog.grdPozycje,
+           .onCurrentRow = true},
+          {.words = words::changePackage,
+           .button = &dialog.Command3,
+           .keys = {key(keys::f2)},
+           .place = &dialog.grdPozycje,
+           .onCurrentRow = true},
+          {.words = words::anyCountry, .button = &dialog.btnISOcodes, .keys = {withControl('G')}}};
 }
 
 std::vector<CommandMenu> commandMenus(AwizoForm& form) {

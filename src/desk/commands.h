@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "linedialog/dlg_dodaj.h"
 #include "session/record/awizo_form.h"
 
 namespace awizo {
@@ -58,6 +59,9 @@ struct CommandMenu {
 std::vector<Command> documentCommands(AwizoForm& form);
 std::vector<Command> lineCommands(AwizoForm& form);
 std::vector<Command> packageCommands(AwizoForm& form);
+
+/// The keys of the line dialog: packages of the line, the list of all countries.
+std::vector<Command> lineDialogCommands(DlgDodaj& dialog);
 
 /// The menus, from the left.
 std::vector<CommandMenu> commandMenus(AwizoForm& form);

@@ -17,6 +17,7 @@ inline constexpr std::string_view launchFileTitle = "Файл запуска";
 inline constexpr std::string_view launchFileKind = "Файлы запуска (*.awizo);;Все файлы (*)";
 
 inline constexpr std::string_view guideTitle = "Руководство пользователя";
+inline constexpr std::string_view guideContents = "Содержание";
 inline constexpr std::string_view noGuide = "Руководство не установлено.";
 
 // Main form: groups of the header's fields, the country that is written over all lines.

@@ -299,6 +299,27 @@ TEST_F(LineDialogOnDesktop, ACountryIsFoundByTypingAndTakenByADoubleClick) {
   EXPECT_EQ(session.IsoResult, "(RU)Россия");
 }
 
+TEST_F(LineDialogOnDesktop, InsF2AndDelActOnThePackagesOfTheLine) {
+  addLine([this] {
+    std::string pressed;
+    for (Button* button : {&line.Command1, &line.Command2, &line.Command3}) {
+      button->onClick = [&pressed, button] { pressed += button->name() + " "; };
+    }
+    tabTo(line.grdPozycje);
+    press(Qt::Key_Insert);
+    EXPECT_EQ(pressed, "") << "a disabled button has no key";
+    for (Button* button : {&line.Command1, &line.Command2, &line.Command3}) {
+      button->setEnabled(true);
+    }
+    press(Qt::Key_Insert);
+    press(Qt::Key_Delete);
+    press(Qt::Key_F2);
+    EXPECT_EQ(pressed, "Command1 Command2 Command3 ");
+    EXPECT_EQ(face(line.Command1).widget()->toolTip(), "Положить товар в упаковку (Ins)");
+    press(Qt::Key_Escape);
+  });
+}
+
 TEST_F(LineDialogOnDesktop, ADraggedMarkOfCountriesFallsBackToOneRow) {
   DlgIsoCodes& countries = control.dlgIsoCodes.touch();
   then([&] {

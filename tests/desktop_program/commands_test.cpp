@@ -1,6 +1,8 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScrollBar>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <set>
 
@@ -127,6 +129,28 @@ TEST_F(CommandsTest, F1ShowsTheUserGuideWithItsPictures) {
   auto* text = guide->findChild<QTextBrowser*>();
   EXPECT_TRUE(text->toPlainText().startsWith("Руководство пользователя\nAwizo"));
   EXPECT_FALSE(text->loadResource(QTextDocument::ImageResource, QUrl("images/line.png")).isNull());
+}
+
+TEST_F(CommandsTest, F1InADialogOpensItsChapterBesideIt) {
+  open(offLineOptions());
+  std::string shown;
+  int widest = 0;
+  then([&] {
+    press(Qt::Key_F1);
+    settle();
+    QWidget* dialog = QApplication::activeModalWidget();
+    const auto* guide = dialog->findChild<QWidget*>("guide");
+    if (guide != nullptr) {
+      const auto* text = guide->findChild<QTextBrowser*>();
+      shown = desktop::toText(text->cursorForPosition({5, 20}).block().text());
+      widest = text->horizontalScrollBar()->maximum();
+    }
+    control().dlgSzczegoly.userClose();
+  });
+  tabTo(form().grdOpakowania);
+  press(Qt::Key_Insert);
+  EXPECT_EQ(shown, "Упаковки");
+  EXPECT_EQ(widest, 0) << "no picture is wider than the guide";
 }
 
 TEST_F(CommandsTest, NoTwoItemsOfAMenuShareALetter) {

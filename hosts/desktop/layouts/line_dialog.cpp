@@ -4,6 +4,7 @@
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/table_face.h"
+#include "hosts/desktop/layouts/command_keys.h"
 #include "hosts/desktop/layouts/dialog_layouts.h"
 #include "hosts/desktop/layouts/fields.h"
 #include "linedialog/dlg_dodaj.h"
@@ -44,7 +45,6 @@ QGroupBox* makeOrigin(DlgDodaj& form, FormFace& faces) {
   country->setStretch(0, 1);
   fields.add(2, 0, form.lblContryOfOryginCode, country);
   nameBy(faces.label(form.lblContryOfOryginCode), faces.face(form.comboCountry));
-  faces.button(form.btnISOcodes).setTip(fromText(words::anyCountry));
   QHBoxLayout* customsNumber = makeRow({faces.widget(form.txtCDN1), faces.widget(form.dpCDN2),
                                         faces.widget(form.txtCDN3), faces.widget(form.txtCDN4)});
   for (const auto& [field, digits] :
@@ -84,9 +84,6 @@ QGroupBox* makePackages(DlgDodaj& form, FormFace& faces) {
   faces.widget(form.grdPozycjeN)->setAccessibleName(fromText(words::linePackagesTable));
   auto* buttons = new QVBoxLayout;
   buttons->setSpacing(4);
-  faces.button(form.Command1).setTip(fromText(words::putIntoPackage));
-  faces.button(form.Command2).setTip(fromText(words::takeOutOfPackage));
-  faces.button(form.Command3).setTip(fromText(words::changePackage));
   for (const Button* command : {&form.Command1, &form.Command2, &form.Command3}) {
     faces.widget(*command)->setMaximumWidth(48);
     buttons->addWidget(faces.widget(*command));
@@ -115,6 +112,7 @@ void layOut(DlgDodaj& form, FormDialog& dialog) {
     middle->itemAt(i)->widget()->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
   }
 
+  giveKeys(lineDialogCommands(form), faces);
   auto* rows = new QVBoxLayout(&dialog);
   rows->setSpacing(10);
   rows->addWidget(heading);

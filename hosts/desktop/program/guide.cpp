@@ -1,22 +1,83 @@
 #include "hosts/desktop/program/guide.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QDialog>
 #include <QFile>
 #include <QFileInfo>
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTextBlock>
 #include <QTextBrowser>
-#include <QVBoxLayout>
 
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/text.h"
 
 namespace awizo::desktop {
+namespace {
 
-void openGuide(QWidget& owner) {
+constexpr int chapterLevel = 2;
+
+/// The guide's text, its pictures no wider than the window.
+class GuideText : public QTextBrowser {
+ public:
+  QVariant loadResource(int type, const QUrl& name) override {
+    const QVariant loaded = QTextBrowser::loadResource(type, name);
+    if (type != QTextDocument::ImageResource) return loaded;
+    const QImage picture = loaded.typeId() == QMetaType::QByteArray
+                               ? QImage::fromData(loaded.toByteArray())
+                               : loaded.value<QImage>();
+    const int room = viewport()->width() - 2 * static_cast<int>(document()->documentMargin());
+    if (picture.isNull() || picture.width() <= room) return loaded;
+    return picture.scaledToWidth(room, Qt::SmoothTransformation);
+  }
+
+  /// The headings of its chapters.
+  QStringList chapters() const {
+    QStringList headings;
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+      if (block.blockFormat().headingLevel() == chapterLevel) headings << block.text();
+    }
+    return headings;
+  }
+
+  void goTo(const QString& chapter) {
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+      if (block.blockFormat().headingLevel() != chapterLevel || block.text() != chapter) continue;
+      const QRectF place = document()->documentLayout()->blockBoundingRect(block);
+      verticalScrollBar()->setValue(static_cast<int>(place.top()));
+      return;
+    }
+  }
+};
+
+/// On the right of the screen, where it covers least of the window that it tells about.
+void placeBeside(QWidget& guide, const QWidget& owner) {
+  const QRect room = owner.screen()->availableGeometry();
+  guide.resize(room.width() * 9 / 20, room.height() * 9 / 10);
+  guide.move(room.right() - guide.width(), room.top() + (room.height() - guide.height()) / 2);
+}
+
+}  // namespace
+
+void openGuide(QWidget& owner, const QString& chapter) {
   auto* window = new QDialog(&owner);
   window->setObjectName("guide");
   window->setAttribute(Qt::WA_DeleteOnClose);
   window->setWindowTitle(fromText(words::guideTitle));
-  auto* text = new QTextBrowser;
+  auto* contents = new QListWidget;
+  contents->setAccessibleName(fromText(words::guideContents));
+  auto* text = new GuideText;
+  // The room for pictures is known from the start.
+  text->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  auto* columns = new QHBoxLayout(window);
+  columns->setContentsMargins(0, 0, 0, 0);
+  columns->setSpacing(0);
+  columns->addWidget(contents, 1);
+  columns->addWidget(text, 3);
+  placeBeside(*window, owner);
+  window->show();
   text->setOpenExternalLinks(true);
   QFile file(AWIZO_GUIDE);
   if (file.open(QIODevice::ReadOnly)) {
@@ -25,11 +86,11 @@ void openGuide(QWidget& owner) {
   } else {
     text->setPlainText(fromText(words::noGuide));
   }
-  auto* rows = new QVBoxLayout(window);
-  rows->setContentsMargins(0, 0, 0, 0);
-  rows->addWidget(text);
-  window->resize(owner.size() * 0.9);
-  window->show();
+  contents->addItems(text->chapters());
+  QObject::connect(contents, &QListWidget::currentTextChanged, text,
+                   [text](const QString& heading) { text->goTo(heading); });
+  text->setFocus();
+  text->goTo(chapter);
 }
 
 }  // namespace awizo::desktop

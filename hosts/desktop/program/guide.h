@@ -4,7 +4,8 @@
 
 namespace awizo::desktop {
 
-/// Shows the user guide in a window of its own next to `owner`.
-void openGuide(QWidget& owner);
+/// Shows the user guide beside the window, with its contents, at the chapter of this heading; at
+/// its beginning where the guide has no such chapter.
+void openGuide(QWidget& owner, const QString& chapter = {});
 
 }  // namespace awizo::desktop

@@ -1,15 +1,19 @@
 #include "hosts/desktop/program/main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
 #include <QTimer>
 
 #include "desk/document_watch.h"
+#include "desk/guide_chapter.h"
 #include "desk/host_boxes.h"
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/icons.h"
+#include "hosts/desktop/layouts/command_keys.h"
 #include "hosts/desktop/program/guide.h"
 #include "hosts/desktop/program/launch_file.h"
 #include "hosts/desktop/window/commands.h"
@@ -34,9 +38,21 @@ MainWindow::MainWindow(Options options, Http* http)
       settings_(makeSettings(options_)),
       clock_(makeClock(options_)) {
   setAcceptDrops(true);
+  qApp->installEventFilter(this);
   begin();
   // On a smaller screen the form scrolls instead of losing its edges.
   resize(usualSize.expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
+}
+
+/// A dialog takes all keys from the window below; F1 opens its chapter of the guide.
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  QWidget* dialog = QApplication::activeModalWidget();
+  const bool isKey = event->type() == QEvent::KeyPress && watched->isWidgetType();
+  if (!isKey || dialog == nullptr || static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1) {
+    return QMainWindow::eventFilter(watched, event);
+  }
+  openGuide(*dialog, fromText(guideChapter(toText(dialog->objectName()))));
+  return true;
 }
 
 MainWindow::~MainWindow() { delete takeCentralWidget(); }

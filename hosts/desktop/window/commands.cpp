@@ -3,37 +3,10 @@
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/icons.h"
 #include "hosts/desktop/faces/table_face.h"
+#include "hosts/desktop/layouts/command_keys.h"
 #include "platform/forms/keys.h"
 
 namespace awizo::desktop {
-namespace {
-
-Qt::Key keyOf(std::int16_t code) {
-  constexpr std::int16_t lastFunctionKey = keys::f1 + 23;
-  switch (code) {
-    case keys::insert:
-      return Qt::Key_Insert;
-    case keys::remove:
-      return Qt::Key_Delete;
-    case keys::enter:
-      return Qt::Key_Return;
-    default:
-      break;
-  }
-  if (code >= keys::f1 && code <= lastFunctionKey) {
-    return static_cast<Qt::Key>(Qt::Key_F1 + code - keys::f1);
-  }
-  // Letters and digits have the same numbers.
-  return static_cast<Qt::Key>(code);
-}
-
-}  // namespace
-
-QKeySequence keysOf(const CommandKey& key) {
-  const Qt::Key one = keyOf(key.code);
-  return key.control ? QKeySequence(Qt::CTRL | one) : QKeySequence(one);
-}
-
 Commands::Commands(AwizoForm& form, FormFace& faces, QWidget& window)
     : QObject(&window), faces_(faces), menus_(commandMenus(form)) {
   for (const CommandMenu& menu : menus_) {

@@ -9,8 +9,6 @@
 
 namespace awizo::desktop {
 
-QKeySequence keysOf(const CommandKey& key);
-
 /// The commands that press a button of the main form, as actions for menus and keys.
 class Commands : public QObject {
  public:

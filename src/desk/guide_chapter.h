@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string_view>
+
+namespace awizo {
+
+/// The heading of the user guide's chapter about the form of this name; empty for its beginning.
+constexpr std::string_view guideChapter(std::string_view form) {
+  if (form == "DlgDodaj" || form == "DlgdodajPule" || form == "DlgIsoCodes") {
+    return "Товарные позиции";
+  }
+  if (form == "DlgSzczegoly") return "Упаковки";
+  if (form == "DlgWczytajZapisz") return "Сохранить, открыть, отправить";
+  if (form == "FaultList" || form == "FindDialog") return "Найти и проверить";
+  return "";
+}
+
+}  // namespace awizo
