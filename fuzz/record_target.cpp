@@ -1,14 +1,12 @@
 #include <algorithm>
 #include <cstddef>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "fuzz/targets.h"
 #include "journal/loading.h"
 #include "journal/record_file.h"
-#include "journal/recording.h"
-#include "tests/support/control/test_control.h"
+#include "tests/support/control/taped_control.h"
 
 namespace awizo::fuzz {
 
@@ -20,23 +18,11 @@ constexpr int typeMismatch = 13;
 struct UsersTurn {};
 
 void replay(std::vector<journal::Record> records) {
-  journal::Tape tape(std::move(records), nullptr);
-  std::unique_ptr<journal::TapedPlatform> taped;
-  test::TestControl desk("ru_RU", [&](const Platform& real) -> const Platform& {
-    taped = std::make_unique<journal::TapedPlatform>(tape, real);
-    return taped->platform;
-  });
-  desk.face.actUnscripted = [](Form&) { throw UsersTurn{}; };
-  desk.face.answerUnscripted = [](const MessageBox&) -> Answer { throw UsersTurn{}; };
-  journal::Recording recording(tape, *taped, desk.control);
-  recording.performHostAct = [&](const std::vector<std::string>& texts) {
-    recording.doHostAct(texts, [&] {
-      if (desk.form.shown()) throw Refused("shown already");
-      desk.control.UserControl_Show();
-    });
-  };
+  test::TapedControl session(nullptr, std::move(records));
+  session.desk.face.actUnscripted = [](Form&) { throw UsersTurn{}; };
+  session.desk.face.answerUnscripted = [](const MessageBox&) -> Answer { throw UsersTurn{}; };
   try {
-    recording.start();
+    session.recording->start();
   } catch (const journal::ReplayDiffers&) {
   } catch (const UsersTurn&) {
   }

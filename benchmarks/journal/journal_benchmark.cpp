@@ -11,8 +11,7 @@
 #include "benchmarks/support/full_size.h"
 #include "journal/loading.h"
 #include "journal/record_file.h"
-#include "journal/recording.h"
-#include "tests/support/control/test_control.h"
+#include "tests/support/control/taped_control.h"
 #include "tests/support/files/files.h"
 #include "tests/support/files/temporary_folder.h"
 
@@ -25,29 +24,7 @@ constexpr int lineCommits = 250;
 constexpr int packages = 125;
 constexpr int headerFields = 125;
 
-/// A control on a tape.
-struct Taped {
-  explicit Taped(GrowingFile* file, std::vector<journal::Record> replayed = {})
-      : tape(std::move(replayed), file),
-        desk("ru_RU", [this](const Platform& real) -> const Platform& {
-          platform = std::make_unique<journal::TapedPlatform>(tape, real);
-          return platform->platform;
-        }) {
-    recording = std::make_unique<journal::Recording>(tape, *platform, desk.control);
-    recording->performHostAct = [this](const std::vector<std::string>&) { show(); };
-  }
-
-  void show() {
-    recording->doHostAct({"show"}, [&] { desk.control.UserControl_Show(); });
-  }
-
-  journal::Tape tape;
-  std::unique_ptr<journal::TapedPlatform> platform;
-  test::TestControl desk;
-  std::unique_ptr<journal::Recording> recording;
-};
-
-void start(Taped& session) {
+void start(test::TapedControl& session) {
   test::TestControl& desk = session.desk;
   desk.prepareFolder();
   desk.preparePage();
@@ -71,7 +48,7 @@ void actOn(AwizoWysylki& control, const Form& form) {
 }
 
 /// Half of the acts are line commits, a quarter packages.
-void work(Taped& session) {
+void work(test::TapedControl& session) {
   AwizoWysylki& control = session.desk.control;
   session.desk.face.actUnscripted = [&](Form& form) {
     actOn(control, form);
@@ -94,8 +71,8 @@ void RecordingAnAct(benchmark::State& state) {
   for ([[maybe_unused]] const auto turn : state) {
     const test::TemporaryFolder folder;
     PosixGrowingFile file((folder.path() / "record").string());
-    Taped recorded(&file);
-    Taped bare(nullptr);
+    test::TapedControl recorded(&file);
+    test::TapedControl bare(nullptr);
     start(recorded);
     start(bare);
     const std::size_t before = recorded.tape.deeds();
@@ -115,14 +92,14 @@ void ReplayingADay(benchmark::State& state) {
   {
     PosixGrowingFile file(path);
     file.append(journal::fileBeginning() + journal::framed(journal::headerRecord({})));
-    Taped recorded(&file);
+    test::TapedControl recorded(&file);
     start(recorded);
     work(recorded);
   }
   double cost = 0;
   for ([[maybe_unused]] const auto turn : state) {
     const double seconds = secondsOf([&] {
-      Taped replayed(nullptr, journal::recordedSession(test::readFile(path)).records);
+      test::TapedControl replayed(nullptr, journal::recordedSession(test::readFile(path)).records);
       replayed.recording->start();
       if (replayed.desk.form.txtNrAwiza.text().empty()) std::abort();
     });

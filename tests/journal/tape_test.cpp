@@ -4,10 +4,9 @@
 
 #include "journal/loading.h"
 #include "journal/record_file.h"
-#include "journal/recording.h"
 #include "journal/state_digest.h"
 #include "platform/forms/keys.h"
-#include "support/control/test_control.h"
+#include "support/control/taped_control.h"
 
 namespace awizo::test {
 namespace {
@@ -28,40 +27,16 @@ struct MemoryRecord : GrowingFile {
   void flush() override { ++flushes; }
 };
 
-/// A control whose surroundings go over a tape.
-struct Taped {
-  explicit Taped(GrowingFile* file, std::vector<journal::Record> replayed = {})
-      : tape(std::move(replayed), file),
-        desk("ru_RU", [this](const Platform& real) -> const Platform& {
-          platform = std::make_unique<journal::TapedPlatform>(tape, real);
-          return platform->platform;
-        }) {
-    recording = std::make_unique<journal::Recording>(tape, *platform, desk.control);
-    recording->performHostAct = [this](const std::vector<std::string>& texts) { doHostAct(texts); };
-  }
+/// Starts off line.
+void start(TapedControl& session) {
+  session.desk.prepareFolder();
+  session.desk.files.put(TestControl::partnerFile, TestControl::partnerInfo("ООО Покупатель"));
+  session.desk.bag.values["OnLine"] = "Off";
+  session.recording->start();
+  session.show();
+}
 
-  void doHostAct(const std::vector<std::string>& texts) {
-    recording->doHostAct(texts, [&] {
-      if (texts.front() == "show") desk.control.UserControl_Show();
-      if (texts.front() == "refused") throw Refused("not now");
-      if (texts.front() == "error") throw errors::overflow();
-    });
-  }
-  /// Off line, with one line in the document.
-  void start() {
-    desk.prepareFolder();
-    desk.files.put(TestControl::partnerFile, TestControl::partnerInfo("ООО Покупатель"));
-    desk.bag.values["OnLine"] = "Off";
-    recording->start();
-    doHostAct({"show"});
-  }
-  std::uint64_t digest() { return journal::stateDigest(desk.control); }
-
-  journal::Tape tape;
-  std::unique_ptr<journal::TapedPlatform> platform;
-  TestControl desk;
-  std::unique_ptr<journal::Recording> recording;
-};
+std::uint64_t digestOf(TapedControl& session) { return journal::stateDigest(session.desk.control); }
 
 std::string withHeader(const MemoryRecord& record) {
   return journal::fileBeginning() + journal::framed(journal::headerRecord({})) + record.bytes;
@@ -73,32 +48,32 @@ journal::RecordedSession session(const MemoryRecord& record) {
 
 TEST(Tape, AReplayNeedsNeitherFilesNorSettings) {
   MemoryRecord record;
-  Taped recorded(&record);
-  recorded.start();
+  TapedControl recorded(&record);
+  start(recorded);
   recorded.desk.form.txtNrAwiza.userType("ТН/1");
-  Taped replayed(nullptr, session(record).records);
+  TapedControl replayed(nullptr, session(record).records);
   replayed.recording->start();
   EXPECT_EQ(replayed.desk.form.txtNrAwiza.text(), "ТН/1");
   EXPECT_EQ(replayed.desk.session.SellerName, "ООО Поставщик");
-  EXPECT_EQ(replayed.digest(), recorded.digest());
+  EXPECT_EQ(digestOf(replayed), digestOf(recorded));
 }
 
 TEST(Tape, ActsThatWereRefusedAreNoActs) {
   MemoryRecord record;
-  Taped recorded(&record);
-  recorded.start();
+  TapedControl recorded(&record);
+  start(recorded);
   EXPECT_THROW(recorded.doHostAct({"refused"}), Refused);
   EXPECT_THROW(recorded.doHostAct({"error"}), RunTimeError);
   EXPECT_EQ(session(record).deeds, 2U);
-  Taped replayed(nullptr, session(record).records);
+  TapedControl replayed(nullptr, session(record).records);
   replayed.recording->start();
   EXPECT_EQ(replayed.tape.deeds(), 2U);
 }
 
 TEST(Tape, AFullDiskEndsTheRecordWithOneWordAndNotTheWork) {
   MemoryRecord record;
-  Taped recorded(&record);
-  recorded.start();
+  TapedControl recorded(&record);
+  start(recorded);
   std::vector<std::string> words;
   recorded.tape.onTrouble = [&](const std::string& word) { words.push_back(word); };
   record.room = record.bytes.size() + 100;
@@ -108,15 +83,15 @@ TEST(Tape, AFullDiskEndsTheRecordWithOneWordAndNotTheWork) {
   EXPECT_EQ(words, std::vector<std::string>{"Disk full"});
   EXPECT_EQ(recorded.desk.form.txtNrAwiza.text(), "55555");
 
-  Taped replayed(nullptr, session(record).records);
+  TapedControl replayed(nullptr, session(record).records);
   replayed.recording->start();
   EXPECT_EQ(replayed.desk.form.txtNrAwiza.text(), "1");
 }
 
 TEST(Tape, AReplayOfAnotherStateStops) {
   MemoryRecord record;
-  Taped recorded(&record);
-  recorded.start();
+  TapedControl recorded(&record);
+  start(recorded);
   for (int act = 0; act < 70; ++act) {
     recorded.desk.form.txtNrAwiza.userType(std::to_string(act));
   }
@@ -125,7 +100,7 @@ TEST(Tape, AReplayOfAnotherStateStops) {
     if (act.kind == journal::RecordKind::act && act.texts.back() == "40") act.texts.back() = "x";
     if (act.kind == journal::RecordKind::digest) act.numbers.front() ^= 1;
   }
-  Taped replayed(nullptr, records);
+  TapedControl replayed(nullptr, records);
   try {
     replayed.recording->start();
     FAIL() << "nothing differs";
@@ -137,21 +112,21 @@ TEST(Tape, AReplayOfAnotherStateStops) {
 
 TEST(Tape, ARecordThatAsksSomethingElseStops) {
   MemoryRecord record;
-  Taped recorded(&record);
-  recorded.start();
+  TapedControl recorded(&record);
+  start(recorded);
   auto records = session(record).records;
   std::erase_if(records, [](const journal::Record& outcome) {
     return outcome.kind == journal::RecordKind::outcome &&
            outcome.numbers.front() == static_cast<int>(journal::Source::readFile);
   });
-  Taped replayed(nullptr, records);
+  TapedControl replayed(nullptr, records);
   EXPECT_THROW(replayed.recording->start(), journal::ReplayDiffers);
 }
 
 TEST(Tape, TheHeightOfAViewIsReplayed) {
   MemoryRecord record;
-  Taped recorded(&record);
-  recorded.start();
+  TapedControl recorded(&record);
+  start(recorded);
   Table& countries = recorded.desk.control.dlgIsoCodes.grdISO;
   countries.setViewHeight(1200);
   recorded.desk.face.onModal([&] {
@@ -160,7 +135,7 @@ TEST(Tape, TheHeightOfAViewIsReplayed) {
   });
   recorded.desk.form.Image2.userClick();
 
-  Taped replayed(nullptr, session(record).records);
+  TapedControl replayed(nullptr, session(record).records);
   replayed.recording->start();
   EXPECT_EQ(replayed.desk.control.dlgIsoCodes.grdISO.row(), countries.row());
   EXPECT_GT(countries.row(), 1);
@@ -168,8 +143,8 @@ TEST(Tape, TheHeightOfAViewIsReplayed) {
 
 TEST(Tape, WhatTheHostDoesForItselfStandsOnNoTape) {
   MemoryRecord record;
-  Taped recorded(&record);
-  recorded.start();
+  TapedControl recorded(&record);
+  start(recorded);
   const std::size_t before = record.bytes.size();
   recorded.platform->platform.files.folderExists("c:\\VIRD");
   recorded.platform->platform.clock.now();
@@ -178,12 +153,12 @@ TEST(Tape, WhatTheHostDoesForItselfStandsOnNoTape) {
 
 TEST(Tape, TheLogGoesOnAfterAReplay) {
   MemoryRecord record;
-  Taped recorded(&record);
+  TapedControl recorded(&record);
   recorded.desk.bag.values["DebugLevel"] = "4";
-  recorded.start();
+  start(recorded);
   ASSERT_TRUE(recorded.desk.files.has(TestControl::logFile));
 
-  Taped replayed(nullptr, session(record).records);
+  TapedControl replayed(nullptr, session(record).records);
   replayed.desk.files.putFolder("c:\\VIRD");
   replayed.desk.files.put(TestControl::logFile, "before\r\n");
   replayed.recording->start();
