@@ -1,7 +1,9 @@
 // The main window with a document in it: all its controls have a place and are in sight.
 
 #include <QAbstractScrollArea>
+#include <QApplication>
 #include <QLayout>
+#include <QScreen>
 #include <QScrollBar>
 
 #include "desktop_program/program_test.h"
@@ -92,6 +94,61 @@ TEST_F(MainLayoutTest, ALongAddressTakesLinesFromTheTablesAlone) {
   EXPECT_GT(address->height(), before);
   EXPECT_GE(address->height(), address->heightForWidth(address->width()));
   EXPECT_EQ(face(form().txtNrAwiza).widget()->height(), field);
+}
+
+/// A user who needs large letters, on the smallest screen.
+class LargeTextTest : public ProgramTest {
+ protected:
+  LargeTextTest() : before_(QApplication::font()) {
+    QFont large = before_;
+    large.setPointSizeF(16);
+    QApplication::setFont(large);
+  }
+  ~LargeTextTest() override {
+    close();
+    QApplication::setFont(before_);
+  }
+
+ private:
+  QFont before_;
+};
+
+TEST_F(LargeTextTest, TheFillRowWrapsAndTheWholeFormCanBeScrolledTo) {
+  open(offLineOptions());
+  window().resize(800, 600);
+  letLayoutsSettle();
+  const QWidget* fillEmpty = face(form().btnUzupelnij2).widget();
+  const QWidget* fillAll = face(form().btnNadpisz2).widget();
+  const auto top = [this](const QWidget* shown) { return shown->mapTo(&widget(), QPoint()).y(); };
+  EXPECT_GT(top(fillAll), top(fillEmpty));
+  for (const Control* control : form().controls()) {
+    const QWidget* shown = face(*control).widget();
+    if (!shown->isVisible()) continue;
+    const QRect area(shown->mapTo(&widget(), QPoint()), shown->size());
+    EXPECT_TRUE(widget().rect().contains(area)) << control->name();
+  }
+}
+
+TEST_F(LargeTextTest, ADialogIsNoLargerThanTheScreen) {
+  open(offLineOptions());
+  bool seenDialog = false;
+  then([&] {
+    seenDialog = true;
+    QWidget* dialog = QApplication::activeModalWidget();
+    ASSERT_NE(dialog, nullptr);
+    const QSize room = dialog->screen()->availableSize();
+    EXPECT_LE(dialog->width(), room.width());
+    EXPECT_LE(dialog->height(), room.height());
+    press(Qt::Key_Escape);
+  });
+  form().btnDodaj.userClick();
+  EXPECT_TRUE(seenDialog);
+}
+
+TEST_F(MainLayoutTest, TheWindowOpensAsLargeAsItNeedsWhereTheScreenHasRoom) {
+  openOrder();
+  const auto* area = qobject_cast<QAbstractScrollArea*>(window().centralWidget());
+  EXPECT_EQ(area->sizeHint(), widget().sizeHint());
 }
 
 }  // namespace

@@ -32,6 +32,8 @@ class ProgramTest : public testing::Test {
   /// Shows the window; its start comes when the event loop runs.
   void show(const Options& options);
   void waitForStart();
+  /// The window goes.
+  void close() { window_.reset(); }
   /// Hears of the start of the session that the window has just begun.
   void follow();
   /// Waits until the window shows the start page; fails the test when it doesn't.

@@ -1,6 +1,9 @@
 #include "hosts/desktop/layouts/form_dialog.h"
 
 #include <QCloseEvent>
+#include <QVBoxLayout>
+
+#include "hosts/desktop/layouts/wrapping.h"
 
 namespace awizo::desktop {
 
@@ -17,6 +20,16 @@ void FormDialog::showChange(const Change& change) {
   hide();
   if (loop_ != nullptr) loop_->quit();
 }
+
+void FormDialog::makeScrollable() {
+  content_ = new QWidget;
+  content_->setLayout(layout());
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->addWidget(new Scrolled(content_));
+}
+
+void FormDialog::takeRoom() { resize(sizeHint().boundedTo(roomFor(*this))); }
 
 void FormDialog::open() {
   setWindowModality(Qt::ApplicationModal);

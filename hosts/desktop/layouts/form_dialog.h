@@ -17,6 +17,13 @@ class FormDialog : public QDialog {
   FormFace& faces() { return faces_; }
   Form& form() const { return faces_.form(); }
 
+  /// Lets what was laid out scroll where the screen is too small for it.
+  void makeScrollable();
+  /// What was laid out, once it can scroll.
+  QWidget& content() const { return *content_; }
+  /// Takes the size that the content asks for, as far as the screen has it.
+  void takeRoom();
+
   /// Shows itself over all other windows, with the focus where the model's is.
   void open() override;
   /// Lets the user act until the form has hidden, or the program is asked to end.
@@ -33,6 +40,7 @@ class FormDialog : public QDialog {
   void showChange(const Change& change);
 
   FormFace faces_;
+  QWidget* content_ = nullptr;
   QEventLoop* loop_ = nullptr;
 };
 

@@ -35,8 +35,11 @@ FormDialog* makeDialog(Form& form, QWidget* parent) {
                      layOutAs<DlgWczytajZapisz>(form, *dialog) ||
                      layOutAs<FaultList>(form, *dialog) || layOutAs<FindDialog>(form, *dialog);
   if (!known) layOut(form, *dialog);
+  dialog->makeScrollable();
   // A widget with a new parent must be shown again.
   dialog->faces().showAll();
+  // Only now is it known what is hidden.
+  dialog->takeRoom();
   return dialog;
 }
 

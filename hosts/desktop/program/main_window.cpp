@@ -4,8 +4,6 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
-#include <QScreen>
-#include <QScrollArea>
 #include <QTimer>
 
 #include "desk/document_watch.h"
@@ -14,6 +12,7 @@
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/icons.h"
 #include "hosts/desktop/layouts/command_keys.h"
+#include "hosts/desktop/layouts/wrapping.h"
 #include "hosts/desktop/program/guide.h"
 #include "hosts/desktop/program/launch_file.h"
 #include "hosts/desktop/window/commands.h"
@@ -41,7 +40,7 @@ MainWindow::MainWindow(Options options, Http* http)
   qApp->installEventFilter(this);
   begin();
   // On a smaller screen the form scrolls instead of losing its edges.
-  resize(usualSize.expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
+  resize(usualSize.expandedTo(sizeHint()).boundedTo(roomFor(*this)));
 }
 
 /// A dialog takes all keys from the window below; F1 opens its chapter of the guide.
@@ -62,12 +61,7 @@ GivenParts MainWindow::givenParts() {
 }
 
 void MainWindow::showPart(QWidget* part) {
-  auto* area = new QScrollArea;
-  area->setFrameShape(QFrame::NoFrame);
-  area->setWidgetResizable(true);
-  area->setFocusPolicy(Qt::NoFocus);
-  area->setWidget(part);
-  setCentralWidget(area);
+  setCentralWidget(new Scrolled(part));
   makeMenus();
 }
 

@@ -1,5 +1,6 @@
 #include "hosts/desktop/screen/message_box.h"
 
+#include <QGridLayout>
 #include <QPushButton>
 #include <QStyle>
 
@@ -20,6 +21,15 @@ void showIcon(QMessageBox& window, BoxIcon icon) {
   const int side = window.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &window);
   window.setIconPixmap(
       iconNamed(fromText(nameOf(icon))).pixmap(QSize(side, side), window.devicePixelRatioF()));
+}
+
+/// Qt makes a box as wide as its text, which may be shorter than the title.
+void makeRoomForTitle(QMessageBox& window) {
+  const QFontMetrics metrics = window.fontMetrics();
+  // The window frame's own buttons stand beside the title, in a font that may be bold.
+  const int width = metrics.horizontalAdvance(window.windowTitle()) * 5 / 4 + metrics.height() * 6;
+  auto* grid = static_cast<QGridLayout*>(window.layout());
+  grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 }  // namespace
@@ -45,6 +55,7 @@ QuestionBox::QuestionBox(const awizo::Question& question, QWidget* over)
     setDefaultButton(button);
     setEscapeButton(button);
   }
+  makeRoomForTitle(*this);
 }
 
 Choice QuestionBox::choice() const {
@@ -58,6 +69,7 @@ Answer askUser(const MessageBox& box, QWidget* over) {
   showIcon(window, box.icon);
   window.setTextFormat(Qt::PlainText);
   window.setInformativeText(fromText(adviceOn(box)));
+  makeRoomForTitle(window);
   if (box.buttons == BoxButtons::ok) {
     QPushButton* ok = window.addButton(fromText(words::ok), QMessageBox::AcceptRole);
     window.setDefaultButton(ok);

@@ -14,6 +14,7 @@
 #include "hosts/common/program/machine.h"
 #include "hosts/desktop/screenshots/demo_http.h"
 #include "hosts/desktop/screenshots/demo_user.h"
+#include "hosts/desktop/window/start_page_widget.h"
 
 namespace {
 
@@ -70,6 +71,15 @@ class DemoFolder {
 };
 
 /// Returns the program's exit status.
+bool takeStartPage(const desktop::GivenParts& given, const fs::path& pictures, const QSize& size) {
+  desktop::StartPageWidget start(given);
+  start.page().show("", false);
+  start.resize(size);
+  start.show();
+  QCoreApplication::processEvents();
+  return start.grab().save(QString::fromStdString((pictures / "start-page.png").string()));
+}
+
 int draw(const fs::path& pictures, const QSize& size) {
   const DemoFolder folder;
   Options options = demoOptions();
@@ -78,6 +88,7 @@ int draw(const fs::path& pictures, const QSize& size) {
   OptionsPage page(options);
   const auto settings = makeSettings(options);
   const auto clock = makeClock(options);
+  if (!takeStartPage({bag, page, *settings, options.locale, clock.get()}, pictures, size)) return 1;
   desktop::DemoHttp http(fs::path(AWIZO_DEMO_FOLDER) / "data");
   QMainWindow window;
   auto* widget =

@@ -6,6 +6,7 @@
 
 #include "desk/layout_words.h"
 #include "hosts/desktop/layouts/fields.h"
+#include "hosts/desktop/layouts/wrapping.h"
 #include "hosts/desktop/window/main_layout.h"
 
 namespace awizo::desktop {
@@ -98,29 +99,8 @@ QLabel* caption(const std::string& text) {
   return label;
 }
 
-/// Takes as much height as its wrapped texts need. By a height that depends on the width the whole
-/// window would ask for more than its least height, and scroll on a screen that has just that.
-class WrappedTexts : public QWidget {
- public:
-  bool hasHeightForWidth() const override { return false; }
-  void takeHeight() {
-    const bool wraps = layout()->hasHeightForWidth();
-    setFixedHeight(wraps ? layout()->heightForWidth(width()) : layout()->sizeHint().height());
-  }
-
- protected:
-  bool event(QEvent* event) override {
-    // A layout doesn't notice a height that changes while it is laying out.
-    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) {
-      QMetaObject::invokeMethod(
-          this, [this] { takeHeight(); }, Qt::QueuedConnection);
-    }
-    return QWidget::event(event);
-  }
-};
-
 QWidget* makeParties(AwizoForm& form, FormFace& faces) {
-  auto* parties = new WrappedTexts;
+  auto* parties = new Wrapped;
   auto* grid = new QGridLayout(parties);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(8);

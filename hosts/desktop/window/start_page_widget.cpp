@@ -14,7 +14,9 @@ QLabel& wrapped(FormFace& faces, const Label& label) {
   text->setWordWrap(true);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   text->setFocusPolicy(Qt::NoFocus);
-  text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+  QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  policy.setHeightForWidth(true);
+  text->setSizePolicy(policy);
   return *text;
 }
 

@@ -12,6 +12,7 @@
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/table_face.h"
 #include "hosts/desktop/layouts/fields.h"
+#include "hosts/desktop/layouts/wrapping.h"
 #include "hosts/desktop/window/column_fill.h"
 #include "hosts/desktop/window/main_layout.h"
 #include "tables/columns/columns.h"
@@ -35,16 +36,17 @@ QLayout* makeRowButtons(FormFace& faces, const std::vector<Command>& commands) {
 }
 
 /// What is written over all lines: a value and the two ways of writing it.
-QLayout* makeFillRow(FormFace& faces, QWidget* caption, std::initializer_list<QWidget*> value,
+QWidget* makeFillRow(FormFace& faces, QWidget* caption, std::initializer_list<QWidget*> value,
                      const Button& fillEmpty, const Button& fillAll) {
-  auto* row = new QHBoxLayout;
+  auto* whole = new Wrapped;
+  auto* row = new WrappingLayout(whole);
+  row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(6);
   row->addWidget(caption);
   for (QWidget* part : value) row->addWidget(part);
   row->addWidget(faces.widget(fillEmpty));
   row->addWidget(faces.widget(fillAll));
-  row->addStretch(1);
-  return row;
+  return whole;
 }
 
 /// The table of totals, as high as its one row.
@@ -118,16 +120,17 @@ QWidget* makeLines(Editor& editor, FormFace& faces, QWidget& strip) {
   grid->addWidget(table.view(), 0, 0);
   grid->addLayout(makeRowButtons(faces, lineCommands(form)), 0, 1);
   grid->addWidget(&strip, 1, 0, 1, 2);
-  grid->addLayout(
-      makeFillRow(faces, faces.widget(form.lblStawkaVAT), {faces.widget(form.comboStawkaVAT)},
-                  form.btnUzupelnij, form.btnNadpisz),
-      2, 0, 1, 2);
+  auto* fillRows = new QVBoxLayout;
+  fillRows->setSpacing(0);
+  grid->addLayout(fillRows, 2, 0, 1, 2);
+  fillRows->addWidget(makeFillRow(faces, faces.widget(form.lblStawkaVAT),
+                                  {faces.widget(form.comboStawkaVAT)}, form.btnUzupelnij,
+                                  form.btnNadpisz));
   faces.button(form.Image2).setIcon("countries");
   auto* country = new QLabel(fromText(words::country));
-  grid->addLayout(
-      makeFillRow(faces, country, {faces.widget(form.comboCountry), faces.widget(form.Image2)},
-                  form.btnUzupelnij2, form.btnNadpisz2),
-      3, 0, 1, 2);
+  fillRows->addWidget(makeFillRow(faces, country,
+                                  {faces.widget(form.comboCountry), faces.widget(form.Image2)},
+                                  form.btnUzupelnij2, form.btnNadpisz2));
   nameBy(faces.label(form.lblStawkaVAT), faces.face(form.comboStawkaVAT));
   nameBy(*country, faces.face(form.comboCountry));
   table.view()->setAccessibleName(fromText(words::linesTable));
