@@ -25,6 +25,7 @@ QString joined(const QString& folder, const QString& name) {
 std::optional<int> rowTyped(TypedSearch& search, const QString& character,
                             const QListWidget& list) {
   std::vector<std::string> rows;
+  rows.reserve(static_cast<std::size_t>(list.count()));
   for (int row = 0; row < list.count(); ++row) {
     rows.push_back(toText(list.item(row)->text().toUpper()));
   }
