@@ -71,15 +71,16 @@ std::vector<FoundRecord> PosixRecordFolder::records() {
   return found;
 }
 
-std::unique_ptr<GrowingFile> PosixRecordFolder::create() {
+NewRecord PosixRecordFolder::create() {
   std::error_code error;
   fs::create_directories(path_, error);
   if (error) throw posix::folderError(error.value());
   if (chmod(path_.c_str(), S_IRWXU) != 0) throw posix::folderError(errno);
   for (int tried = 1;; ++tried) {
-    const std::string path = pathOf(newName());
+    const std::string name = newName();
+    const std::string path = pathOf(name);
     if (tried < mostNamesTried && access(path.c_str(), F_OK) == 0) continue;
-    return std::make_unique<PosixGrowingFile>(path);
+    return {name, std::make_unique<PosixGrowingFile>(path)};
   }
 }
 

@@ -17,7 +17,7 @@ class PosixRecordFolder final : public RecordFolder {
   static std::string usersOwnPath();
 
   std::vector<FoundRecord> records() override;
-  std::unique_ptr<GrowingFile> create() override;
+  NewRecord create() override;
   std::string read(std::string_view name) override;
   void remove(std::string_view name) override;
 

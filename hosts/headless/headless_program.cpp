@@ -10,6 +10,7 @@
 #include "adapters/posix/posix_files.h"
 #include "hosts/common/given_host.h"
 #include "hosts/common/program/machine.h"
+#include "hosts/common/program/recorded_options.h"
 #include "hosts/headless/conversation.h"
 #include "hosts/headless/recording.h"
 #include "hosts/protocol/answers.h"
@@ -127,7 +128,7 @@ int runHeadless(const Options& options, std::istream& in, std::ostream& out) {
 int runHeadless(const Options& options, const Outside& outside, std::istream& in,
                 std::ostream& out) {
   journal::RecordedSession replayed = sessionToReplay(options);
-  const Options whole = withRecorded(options, replayed);
+  const Options whole = withRecorded(options, replayed.header);
   Program program(options, whole, std::move(replayed), outside, in, out);
   try {
     program.run();

@@ -8,7 +8,6 @@
 #include "hosts/common/options.h"
 #include "hosts/protocol/values/json.h"
 #include "journal/loading.h"
-#include "journal/taped_platform.h"
 #include "platform/growing_file.h"
 
 namespace awizo::headless {
@@ -22,12 +21,6 @@ journal::RecordedSession sessionToReplay(const Options& options);
 /// The new file of the record, which begins with what the options say; null where none is asked
 /// for. Throws BadArguments where it is there already or can't be made.
 std::unique_ptr<GrowingFile> newRecord(const Options& options, const std::string& localeName);
-
-/// The options with what the session's own said where these name nothing.
-Options withRecorded(Options options, const journal::RecordedSession& session);
-
-/// What these options name, so that a replay doesn't take it from the record.
-journal::AskedToday askedToday(const Options& options);
 
 /// A line of the host's as a record's texts, and back. A line that isn't the host's gives none.
 std::vector<std::string> hostActOf(const protocol::Json& line);

@@ -159,6 +159,11 @@ std::string DocumentWatch::title() const {
   return title;
 }
 
+void DocumentWatch::tell(std::string words) {
+  status_ = std::move(words);
+  if (onDeed) onDeed();
+}
+
 std::string DocumentWatch::status() const { return status_; }
 
 }  // namespace awizo

@@ -13,6 +13,13 @@ inline constexpr std::string_view addressNotTrusted =
     "Сеанс со службой не начат: её адресу не доверено. Ничего не отправлено.";
 inline constexpr std::string_view folderNotChosen =
     "Сеанс не начат: папка с файлами вашей фирмы не выбрана.";
+inline constexpr std::string_view replayFailed =
+    "Продолжить не удалось: программа или её настройки с тех пор изменились. Запись работы "
+    "сохранена.";
+inline constexpr std::string_view continued = "Продолжена работа, записанная до ";
+/// Followed by what is wrong with the disk.
+inline constexpr std::string_view notRecorded =
+    "Работа больше не записывается и при сбое пропадёт: ";
 inline constexpr std::string_view launchFileTitle = "Файл запуска";
 inline constexpr std::string_view launchFileKind = "Файлы запуска (*.awizo);;Все файлы (*)";
 

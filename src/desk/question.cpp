@@ -16,6 +16,10 @@ std::string_view wordsOf(Choice choice) {
       return "&Закрыть сейчас";
     case Choice::send:
       return "Отправить &ещё раз";
+    case Choice::startAfresh:
+      return "&Начать заново";
+    case Choice::later:
+      return "О&тложить";
     case Choice::cancel:
       break;
   }

@@ -9,7 +9,7 @@
 namespace awizo {
 
 /// What a user may answer to a question of the desk.
-enum class Choice { save, letGo, goOn, cancel, wait, leave, send };
+enum class Choice { save, letGo, goOn, cancel, wait, leave, send, startAfresh, later };
 
 /// The words on its button, "&" before the mnemonic letter.
 std::string_view wordsOf(Choice choice);

@@ -21,6 +21,7 @@ enum class RecordKind : std::uint8_t {
   digest = 10,   ///< of the whole state
   request = 11,  ///< goes out now; without an outcome nobody knows whether it arrived
   summary = 12,  ///< what a person wants to know of the work so far
+  closed = 13,   ///< the host hid the modal form that waited, without an act of the user
 };
 
 /// One thing that happened. Which numbers and texts it has is said where its kind is written.

@@ -26,10 +26,18 @@ Recording::Recording(Tape& tape, TapedPlatform& taped, AwizoWysylki& control)
 }
 
 void Recording::start() {
+  create();
+  replay();
+}
+
+void Recording::create() {
   tape_.beginsCreation();
   control_.UserControl_Initialize();
   control_.UserControl_ReadProperties();
   tape_.ends(true);
+}
+
+void Recording::replay() {
   while (tape_.replaying()) {
     if (const Record* deed = tape_.nextDeed()) perform(*deed);
   }

@@ -28,6 +28,9 @@ class Recording {
   /// then.
   std::function<void()> onLive;
 
+  /// The two steps of start(), for a host that shows the control in between.
+  void create();
+  void replay();
   /// Creates the control: UserControl_Initialize and UserControl_ReadProperties. Then it replays
   /// what the tape holds; a form or box that is open at its end waits for the user as ever. Throws
   /// ReplayDiffers.

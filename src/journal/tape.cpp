@@ -106,7 +106,10 @@ void Tape::ends(bool whole) {
   running_ = false;
   if (replaying_ || !whole) return;
   // The act that has hidden a dialog leaves the one that opened it to be finished.
-  if (!waiting_.empty() && waiting_.back() != nullptr && !waiting_.back()->shown()) return commit();
+  if (!waiting_.empty() && waiting_.back() != nullptr && !waiting_.back()->shown()) {
+    hiddenByAct_ = true;
+    return commit();
+  }
   ready();
   if (waiting_.empty() && ++actsSinceDigest_ >= actsPerDigest) writeDigest();
 }
@@ -145,6 +148,7 @@ void Tape::absorb() {
       case RecordKind::act:
       case RecordKind::hostAct:
       case RecordKind::answer:
+      case RecordKind::closed:
         return;
       default:
         break;
@@ -175,9 +179,10 @@ const Record* Tape::nextDeed() {
     return nullptr;
   }
   const Record& record = replayed_[next_];
-  if (!isDeed(record)) differs("less that is asked");
+  const bool closed = record.kind == RecordKind::closed;
+  if (!isDeed(record) && !closed) differs("less that is asked");
   ++next_;
-  ++deeds_;
+  if (!closed) ++deeds_;
   passed_ = 0;
   write(record);
   return &record;

@@ -88,8 +88,8 @@ class Tape : public ActObserver {
   /// What was recorded must be on the disk before the work goes on.
   void flush();
 
-  /// The act that a replay has to do next; none when there is no more, and then it is the user's
-  /// turn.
+  /// The act that a replay has to do next, or that the form that waits was closed; none when there
+  /// is no more, and then it is the user's turn.
   const Record* nextDeed();
   /// The answer to a box.
   template <class Ask>
@@ -139,7 +139,8 @@ class Tape : public ActObserver {
   GrowingFile* file_;
   std::string pending_;
   bool running_ = false;
-  bool aside_ = false;  ///< an act on another form runs
+  bool hiddenByAct_ = false;  ///< the form that waits was hidden by the act that has just ended
+  bool aside_ = false;        ///< an act on another form runs
   /// The modal forms that wait for the user, null for a box.
   std::vector<const Form*> waiting_;
   /// Passing calls since the last deed: where within an act a host laid out its views.
@@ -218,7 +219,9 @@ void Tape::wait(const Form& form, Wait&& wait) {
   const bool running = std::exchange(running_, false);
   waiting_.push_back(&form);
   if (!replaying_) ready();
+  hiddenByAct_ = false;
   wait();
+  if (!replaying_ && !std::exchange(hiddenByAct_, false)) write({RecordKind::closed, {}, {}});
   waiting_.pop_back();
   running_ = running;
 }

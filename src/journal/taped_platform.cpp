@@ -164,7 +164,10 @@ void TapedScreen::formOpened(Form& form) {
 void TapedScreen::runModal(Form& form) {
   tape_.wait(form, [&] {
     while (form.shown() && tape_.replaying()) {
-      if (const Record* deed = tape_.nextDeed()) perform(*deed);
+      const Record* deed = tape_.nextDeed();
+      if (deed == nullptr) break;
+      if (deed->kind == RecordKind::closed) return form.hide();
+      perform(*deed);
     }
     if (form.shown()) real_.runModal(form);
   });

@@ -18,13 +18,18 @@ struct FoundRecord {
   bool inUse = false;        ///< a program that runs writes it now
 };
 
+struct NewRecord {
+  std::string name;
+  std::unique_ptr<GrowingFile> file;
+};
+
 /// Where a user's records lie, for him alone. Failures raise the run-time errors of Files.
 class RecordFolder {
  public:
   virtual ~RecordFolder() = default;
   virtual std::vector<FoundRecord> records() = 0;
   /// A new record under a name that no other has; in use as long as the file is open.
-  virtual std::unique_ptr<GrowingFile> create() = 0;
+  virtual NewRecord create() = 0;
   virtual std::string read(std::string_view name) = 0;
   /// Nothing happens where there is none of that name.
   virtual void remove(std::string_view name) = 0;

@@ -28,7 +28,7 @@ TEST_F(RecordFolderTest, ThatIsNotThereYetHasNoRecords) {
 }
 
 TEST_F(RecordFolderTest, HoldsWhatWasWrittenForItsOwnerAlone) {
-  const auto file = folder.create();
+  const auto file = folder.create().file;
   file->append("one ");
   file->append("two");
   file->flush();
@@ -42,8 +42,8 @@ TEST_F(RecordFolderTest, HoldsWhatWasWrittenForItsOwnerAlone) {
 }
 
 TEST_F(RecordFolderTest, SaysWhichRecordsAreInUse) {
-  auto open = folder.create();
-  folder.create()->append("closed");
+  auto open = folder.create().file;
+  folder.create().file->append("closed");
   int inUse = 0;
   for (const FoundRecord& record : folder.records()) inUse += record.inUse ? 1 : 0;
   EXPECT_EQ(inUse, 1);
@@ -54,7 +54,7 @@ TEST_F(RecordFolderTest, SaysWhichRecordsAreInUse) {
 TEST_F(RecordFolderTest, FreesARecordWhoseProgramHasDied) {
   const pid_t child = fork();
   if (child == 0) {
-    const auto file = folder.create();
+    const auto file = folder.create().file;
     file->append("last words");
     _exit(0);
   }

@@ -45,7 +45,7 @@ void ProgramTest::agreeTo(const DemoService& service) const {
 void ProgramTest::show(const Options& options) {
   window_.reset();
   started_ = false;
-  window_ = std::make_unique<desktop::MainWindow>(options);
+  window_ = std::make_unique<desktop::MainWindow>(options, nullptr, records);
   follow();
   window_->show();
 }

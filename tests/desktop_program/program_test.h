@@ -61,6 +61,7 @@ class ProgramTest : public testing::Test {
   void tabTo(const Control& control);
 
   Workplace place;
+  RecordFolder* records = nullptr;  ///< where windows record their work from now on
 
  private:
   std::unique_ptr<desktop::MainWindow> window_;

@@ -141,6 +141,22 @@ TEST(Tape, TheHeightOfAViewIsReplayed) {
   EXPECT_GT(countries.row(), 1);
 }
 
+TEST(Tape, AFormThatItsHostHidIsHiddenAgain) {
+  MemoryRecord record;
+  TapedControl recorded(&record);
+  start(recorded);
+  DlgIsoCodes& countries = recorded.desk.control.dlgIsoCodes;
+  recorded.desk.face.onModal([&] { countries.hide(); });
+  recorded.desk.form.Image2.userClick();
+  recorded.desk.form.txtNrAwiza.userType("ТН/1");
+
+  TapedControl replayed(nullptr, session(record).records);
+  replayed.recording->start();
+  EXPECT_FALSE(replayed.desk.control.dlgIsoCodes.shown());
+  EXPECT_EQ(replayed.desk.form.txtNrAwiza.text(), "ТН/1");
+  EXPECT_EQ(digestOf(replayed), digestOf(recorded));
+}
+
 TEST(Tape, WhatTheHostDoesForItselfStandsOnNoTape) {
   MemoryRecord record;
   TapedControl recorded(&record);

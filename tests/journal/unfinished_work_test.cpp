@@ -31,7 +31,7 @@ struct MemoryFolder : RecordFolder {
     }
     return found;
   }
-  std::unique_ptr<GrowingFile> create() override { return nullptr; }
+  NewRecord create() override { return {}; }
   std::string read(std::string_view name) override { return entries.find(name)->second.bytes; }
   void remove(std::string_view name) override { entries.erase(entries.find(name)); }
 

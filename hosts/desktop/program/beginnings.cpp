@@ -11,10 +11,13 @@
 #include "desk/document_watch.h"
 #include "desk/host_boxes.h"
 #include "desk/layout_words.h"
+#include "desk/unfinished_question.h"
 #include "hosts/desktop/program/addresses.h"
 #include "hosts/desktop/program/launch_file.h"
 #include "hosts/desktop/program/main_window.h"
+#include "hosts/desktop/screen/message_box.h"
 #include "hosts/desktop/window/commands.h"
+#include "journal/unfinished_work.h"
 #include "platform/text.h"
 #include "session/awizo_wysylki.h"
 #include "session/record/off_line_path.h"
@@ -47,6 +50,32 @@ void MainWindow::begin() {
   }
 }
 
+bool MainWindow::takesUpUnfinishedWork() {
+  if (records_ == nullptr) return false;
+  const auto work = journal::unfinishedWork(*records_);
+  if (!work) return false;
+  QuestionBox box(unfinishedQuestion(*work), nullptr);
+  box.exec();
+  if (box.choice() == Choice::startAfresh) records_->remove(work->record);
+  if (box.choice() != Choice::goOn) return false;
+  goOnWith(*work);
+  return true;
+}
+
+void MainWindow::goOnWith(const journal::UnfinishedWork& work) {
+  replayed_ = journal::recordedSession(records_->read(work.record));
+  replayedName_ = work.record;
+  // The session's own partner and locale; the page is today's, if one was given.
+  Options recorded = launch_;
+  recorded.properties.clear();
+  recorded.locale.clear();
+  options_ = withRecorded(recorded, replayed_.header);
+  makeSession();
+  afterStart_ = [this, time = work.summary.time] {
+    widget_->watch().tell(joined({words::continued, time}));
+  };
+}
+
 void MainWindow::makeSession() {
   delete takeCentralWidget();
   startPage_ = nullptr;
@@ -67,7 +96,10 @@ void MainWindow::lookAtStart() {
   if (widget_ == nullptr || widget_->isWorking()) return;
   const std::function<void()> next = std::exchange(afterStart_, nullptr);
   const std::string& refusal = widget_->watch().refusal();
-  if (!widget_->hasStarted()) {
+  if (widget_->replayFailed()) {
+    options_ = launch_;
+    showStartPage(std::string(words::replayFailed));
+  } else if (!widget_->hasStarted()) {
     showStartPage(whyNot_);
   } else if (!refusal.empty()) {
     showStartPage(joined({words::startRefused, refusal}));

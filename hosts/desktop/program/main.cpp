@@ -8,6 +8,7 @@
 #include <exception>
 #include <iostream>
 
+#include "adapters/posix/posix_record_folder.h"
 #include "desk/host_boxes.h"
 #include "hosts/common/program/about.h"
 #include "hosts/desktop/faces/icons.h"
@@ -68,7 +69,8 @@ Asked asked(const std::vector<std::string>& arguments) {
 int run(const QApplication& application) {
   const Asked what = asked(argumentsOf(application));
   QLocale::setDefault(desktop::localeNamed(what.options.locale));
-  desktop::MainWindow window(what.options);
+  PosixRecordFolder records(PosixRecordFolder::usersOwnPath());
+  desktop::MainWindow window(what.options, nullptr, &records);
   if (!window.isUsable()) return exitEndedBySystem;
   if (!what.file.isEmpty()) window.openFile(what.file);
   window.show();

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QTimer>
+#include <utility>
 
 #include "desk/document_watch.h"
 #include "desk/guide_chapter.h"
@@ -27,18 +28,24 @@ namespace {
 
 const QSize usualSize(1024, 700);
 
+/// The folder, unless the user wants nothing recorded.
+RecordFolder* wanted(RecordFolder* records, SettingsStore& settings) {
+  return settings.read("Awizo", "Records", "Keep", "yes") == "no" ? nullptr : records;
+}
+
 }  // namespace
 
-MainWindow::MainWindow(Options options, Http* http)
+MainWindow::MainWindow(Options options, Http* http, RecordFolder* records)
     : launch_(std::move(options)),
       options_(launch_),
       http_(http),
       page_(options_),
       settings_(makeSettings(options_)),
       clock_(makeClock(options_)) {
+  records_ = wanted(records, *settings_);
   setAcceptDrops(true);
   qApp->installEventFilter(this);
-  begin();
+  if (!takesUpUnfinishedWork()) begin();
   // On a smaller screen the form scrolls instead of losing its edges.
   resize(usualSize.expandedTo(sizeHint()).boundedTo(roomFor(*this)));
 }
@@ -57,7 +64,13 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 MainWindow::~MainWindow() { delete takeCentralWidget(); }
 
 GivenParts MainWindow::givenParts() {
-  return {*bag_, page_, *settings_, options_.locale, clock_.get(), http_};
+  GivenParts parts{*bag_, page_, *settings_, options_.locale, clock_.get(), http_};
+  parts.records.folder = records_;
+  parts.records.header = headerOf(options_, chosenLocale(options_.locale));
+  parts.records.replayed = std::exchange(replayed_, {});
+  parts.records.replayedName = std::exchange(replayedName_, "");
+  parts.records.today.page = launch_.pageUrl.has_value();
+  return parts;
 }
 
 void MainWindow::showPart(QWidget* part) {

@@ -12,6 +12,10 @@
 #include "hosts/desktop/window/awizo_wysylki_widget.h"
 #include "hosts/desktop/window/start_page_widget.h"
 
+namespace awizo::journal {
+struct UnfinishedWork;
+}
+
 namespace awizo::desktop {
 
 /// The program's window: the control with a menu, or the start page while there is no control. It
@@ -19,8 +23,9 @@ namespace awizo::desktop {
 /// work where there is none, and asks before a changed document is lost.
 class MainWindow : public QMainWindow {
  public:
-  /// `http`: null for the network.
-  explicit MainWindow(Options options, Http* http = nullptr);
+  /// `http`: null for the network. `records`: where sessions are recorded, null for nowhere; work
+  /// that was left behind there is offered first.
+  explicit MainWindow(Options options, Http* http = nullptr, RecordFolder* records = nullptr);
   ~MainWindow() override;
 
   /// Whether there is a control; else there is the start page.
@@ -47,6 +52,9 @@ class MainWindow : public QMainWindow {
 
  private:
   void begin();
+  /// Asks whether to go on with work that was left behind; answers whether that has begun.
+  bool takesUpUnfinishedWork();
+  void goOnWith(const journal::UnfinishedWork& work);
   void beginOffLine(const Partner& partner);
   void beginByLaunchFile(const QString& path);
   void makeSession();
@@ -77,6 +85,9 @@ class MainWindow : public QMainWindow {
   const Options launch_;  ///< what the program was asked at its start
   Options options_;       ///< of the session
   Http* http_;
+  RecordFolder* records_ = nullptr;
+  journal::RecordedSession replayed_;  ///< of the session that begins
+  std::string replayedName_;
   OptionsPage page_;
   std::unique_ptr<OptionsBag> bag_;
   std::unique_ptr<SettingsStore> settings_;

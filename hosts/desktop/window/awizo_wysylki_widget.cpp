@@ -7,12 +7,16 @@
 
 #include "desk/choose_path.h"
 #include "desk/document_watch.h"
+#include "desk/layout_words.h"
 #include "hosts/desktop/faces/form_face.h"
 #include "hosts/desktop/screen/message_box.h"
 #include "hosts/desktop/window/commands.h"
 #include "hosts/desktop/window/finder.h"
+#include "hosts/desktop/window/kept_record.h"
 #include "hosts/desktop/window/main_layout.h"
 #include "hosts/desktop/window/surroundings.h"
+#include "journal/unfinished_work.h"
+#include "platform/text.h"
 #include "session/awizo_wysylki.h"
 #include "session/record/off_line_path.h"
 
@@ -40,8 +44,13 @@ struct AwizoWysylkiWidget::Parts {
                        if (property == "OnLine") emit widget.onLineChanged();
                        if (property == "DebugLevel") emit widget.debugLevelChanged();
                      }),
-        session(surroundings.platform),
-        control(surroundings.platform, session),
+        record(given.records, [this](const std::string& why) { recordingTrouble = why; }),
+        replayedName(given.records.replayedName),
+        tape(given.records.replayed.records, record.file()),
+        taped(tape, surroundings.platform, given.records.today),
+        session(taped.platform),
+        control(taped.platform, session),
+        recording(tape, taped, control),
         watch(control, surroundings.platform.clock),
         faces(nullptr) {
     // Dates and times are written as the control writes them.
@@ -62,8 +71,14 @@ struct AwizoWysylkiWidget::Parts {
   Surroundings surroundings;
   Waiting& waiting = surroundings.waiting;
   HostScreenFace& face = surroundings.face;
+  std::string recordingTrouble;  ///< why nothing is recorded; empty while all is well
+  KeptRecord record;
+  std::string replayedName;
+  journal::Tape tape;
+  journal::TapedPlatform taped;
   SessionState session;
   AwizoWysylki control;
+  journal::Recording recording;
   DocumentWatch watch;
   FormFace* faces;
   Status status;
@@ -74,8 +89,8 @@ struct AwizoWysylkiWidget::Parts {
 AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
     : QWidget(parent), parts_(std::make_unique<Parts>(given, *this)) {
   Parts& parts = *parts_;
-  parts.control.UserControl_Initialize();
-  parts.control.UserControl_ReadProperties();
+  connectRecording();
+  replayOr([&parts] { parts.recording.create(); });
   parts.finder = new Finder(parts.control.editor, *parts.faces, parts.face);
   parts.status = layOutMain(parts.control.editor, *parts.faces, parts.finder->strip());
   parts.faces->showAll();
@@ -106,14 +121,50 @@ AwizoWysylkiWidget::~AwizoWysylkiWidget() {
 
 QString AwizoWysylkiWidget::onLine() const { return fromText(parts_->control.OnLine()); }
 
-void AwizoWysylkiWidget::setOnLine(const QString& value) {
-  parts_->control.setOnLine(toText(value));
-}
+void AwizoWysylkiWidget::setOnLine(const QString& value) { set("OnLine", toText(value)); }
 
 QString AwizoWysylkiWidget::debugLevel() const { return fromText(parts_->control.DebugLevel()); }
 
-void AwizoWysylkiWidget::setDebugLevel(const QString& value) {
-  parts_->control.setDebugLevel(toText(value));
+void AwizoWysylkiWidget::setDebugLevel(const QString& value) { set("DebugLevel", toText(value)); }
+
+void AwizoWysylkiWidget::set(const std::string& property, const std::string& value) {
+  Parts& parts = *parts_;
+  parts.recording.doHostAct({"set", property, value}, [&] {
+    if (property == "OnLine") return parts.control.setOnLine(value);
+    parts.control.setDebugLevel(value);
+  });
+}
+
+void AwizoWysylkiWidget::showControl() {
+  parts_->recording.doHostAct({"show"}, [this] { parts_->control.UserControl_Show(); });
+}
+
+void AwizoWysylkiWidget::connectRecording() {
+  Parts& parts = *parts_;
+  parts.recording.performHostAct = [this](const std::vector<std::string>& act) {
+    if (act.front() == "show") return showControl();
+    if (act.front() == "offlineFolder") return askFolder();
+    if (act.size() > 2) set(act[1], act[2]);
+  };
+  parts.tape.summary = [&parts] {
+    const auto& clock = parts.surroundings.platform.clock;
+    return journal::textsOf(journal::summaryOf(parts.control, clock));
+  };
+  parts.tape.onTrouble = [this](const std::string& why) { tellOfRecording(why); };
+  parts.recording.onLive = [&parts] { parts.record.forgetReplayed(parts.replayedName); };
+}
+
+void AwizoWysylkiWidget::tellOfRecording(const std::string& why) {
+  parts_->watch.tell(joined({words::notRecorded, why}));
+}
+
+template <class Replay>
+void AwizoWysylkiWidget::replayOr(Replay&& replay) {
+  try {
+    replay();
+  } catch (const journal::ReplayDiffers&) {
+    replayFailed_ = true;
+  }
 }
 
 AwizoWysylki& AwizoWysylkiWidget::control() { return parts_->control; }
@@ -134,9 +185,14 @@ Answer AwizoWysylkiWidget::ask(const MessageBox& box) {
   return parts_->control.screen.messageBox(box);
 }
 
+void AwizoWysylkiWidget::askFolder() {
+  parts_->recording.doHostAct(
+      {"offlineFolder"}, [this] { awizo::askOffLineFolder(parts_->control.dlgWczytajZapisz); });
+}
+
 bool AwizoWysylkiWidget::askOffLineFolder() {
   Parts& parts = *parts_;
-  awizo::askOffLineFolder(parts.control.dlgWczytajZapisz);
+  askFolder();
   return !keptOffLinePath(parts.surroundings.platform.settings).empty();
 }
 
@@ -156,7 +212,12 @@ void AwizoWysylkiWidget::start() {
     return;
   }
   started_ = true;
-  parts_->control.UserControl_Show();
+  if (parts_->tape.replaying()) {
+    replayOr([this] { parts_->recording.replay(); });
+  } else {
+    showControl();
+  }
+  if (!parts_->recordingTrouble.empty()) tellOfRecording(parts_->recordingTrouble);
   showStates();
   emit startEnded();
 }

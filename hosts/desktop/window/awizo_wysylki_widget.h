@@ -46,6 +46,8 @@ class AwizoWysylkiWidget : public QWidget {
   /// Asked before the work starts; while the answer is no, nothing is read or sent. May be empty.
   std::function<bool()> mayStart;
   bool hasStarted() const { return started_; }
+  /// The record of an earlier session came to another state than it had then.
+  bool replayFailed() const { return replayFailed_; }
   /// Starts the work, as the first showing does.
   void start();
 
@@ -90,6 +92,15 @@ class AwizoWysylkiWidget : public QWidget {
  private:
   struct Parts;
 
+  void connectRecording();
+  void tellOfRecording(const std::string& why);
+  template <class Replay>
+  void replayOr(Replay&& replay);
+  /// What the host does of itself, recorded.
+  void showControl();
+  void askFolder();
+  void set(const std::string& property, const std::string& value);
+
   void showStates();
   /// Shows the document's state, once whatever changes it now is over.
   void showStandingSoon();
@@ -98,6 +109,7 @@ class AwizoWysylkiWidget : public QWidget {
   std::unique_ptr<Parts> parts_;
   bool startAsked_ = false;
   bool started_ = false;
+  bool replayFailed_ = false;
   bool standingIsDue_ = false;
 };
 

@@ -10,11 +10,24 @@
 #include "adapters/posix/clocks.h"
 #include "adapters/posix/posix_files.h"
 #include "hosts/common/given_host.h"
+#include "hosts/common/program/recorded_options.h"
 #include "hosts/desktop/window/host_screen_face.h"
 #include "hosts/desktop/window/waiting.h"
+#include "journal/loading.h"
+#include "journal/taped_platform.h"
 #include "platform/forms/platform.h"
+#include "platform/record_folder.h"
 
 namespace awizo::desktop {
+
+/// Where a session is recorded, and what it goes on with.
+struct GivenRecords {
+  RecordFolder* folder = nullptr;          ///< null: nothing is recorded
+  RecordHeader header = {};                ///< of the new record
+  journal::RecordedSession replayed = {};  ///< done before the user's turn comes
+  std::string replayedName = {};           ///< its record, removed once it has been done
+  journal::AskedToday today = {};
+};
 
 /// What a program gives to a widget that shows forms. All of it outlives the widget.
 struct GivenParts {
@@ -24,6 +37,7 @@ struct GivenParts {
   std::string locale = {};       ///< "ru_RU"; empty: the environment's
   const Clock* clock = nullptr;  ///< null: the machine's
   Http* http = nullptr;          ///< null: the network
+  GivenRecords records = {};
 };
 
 /// The platform of the forms in one widget: what the program gave, and the machine for the rest.

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "hosts/desktop/window/surroundings.h"
+#include "journal/recording.h"
+
+namespace awizo::desktop {
+
+/// The record of one session in the user's folder. It stays there when the program ends without
+/// having ended the session.
+class KeptRecord {
+ public:
+  /// Makes a new record, unless there is no folder. What goes wrong is told to `onTrouble` once.
+  KeptRecord(const GivenRecords& given, std::function<void(const std::string&)> onTrouble);
+  /// The session has ended as its user wanted: nothing of it is left.
+  ~KeptRecord();
+  KeptRecord(const KeptRecord&) = delete;
+  KeptRecord& operator=(const KeptRecord&) = delete;
+
+  GrowingFile* file() const { return record_.file.get(); }
+  /// The work that was replayed is in this record now.
+  void forgetReplayed(const std::string& name);
+
+ private:
+  void remove(const std::string& name);
+
+  RecordFolder* folder_;
+  NewRecord record_;
+};
+
+}  // namespace awizo::desktop

@@ -1,0 +1,24 @@
+#include "desk/unfinished_question.h"
+
+#include "platform/text.h"
+
+namespace awizo {
+
+Question unfinishedQuestion(const journal::UnfinishedWork& work) {
+  const journal::WorkSummary& summary = work.summary;
+  const std::string document = summary.number.empty() ? "документ без номера" : summary.number;
+  Question question{.choices = {Choice::goOn, Choice::startAfresh, Choice::later},
+                    .harmless = Choice::later};
+  question.text =
+      joined({"Продолжить ", document, " от ", summary.time, ", упаковано ",
+              std::to_string(summary.packedLines), " из ", std::to_string(summary.lines), "?"});
+  if (work.mayHaveArrived) {
+    question.text +=
+        "\r\n\r\nЕго отправляли, но ответ службы не пришёл: он мог дойти до получателя.";
+  }
+  question.text +=
+      "\r\n\r\n«Начать заново» удаляет эту работу; «Отложить» оставляет её до следующего запуска.";
+  return question;
+}
+
+}  // namespace awizo

@@ -1,0 +1,153 @@
+#include <filesystem>
+
+#include "adapters/posix/posix_record_folder.h"
+#include "adapters/posix/settings_stores.h"
+#include "desk/document_watch.h"
+#include "desktop_program/program_test.h"
+
+namespace awizo::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class UnfinishedWorkTest : public ProgramTest {
+ protected:
+  UnfinishedWorkTest() { records = &folder; }
+  ~UnfinishedWorkTest() override { close(); }
+
+  /// An order in the window, with its number typed.
+  void work() {
+    agreeTo(service);
+    open(onLineOptions(service));
+    form().txtNrAwiza.userType("ТН-6");
+  }
+  /// The program ends without a word: what it leaves is what it has recorded.
+  void crash() {
+    fs::copy(path, kept, fs::copy_options::recursive);
+    close();
+    fs::remove_all(path);
+    fs::rename(kept, path);
+  }
+  void openAgain(const QString& answer) {
+    answerNext(answer, &asked);
+    open(onLineOptions(service));
+  }
+
+  DemoService service{place.posted()};
+  const fs::path path = place.folder() / "records";
+  const fs::path kept = place.folder() / "kept";
+  PosixRecordFolder folder{path.string()};
+  std::string asked;
+};
+
+TEST_F(UnfinishedWorkTest, IsOfferedAtTheNextStartAndGoesOn) {
+  work();
+  crash();
+  const std::size_t requests = service.requests().size();
+  openAgain("&Продолжить");
+  EXPECT_EQ(asked,
+            "question|VIRD|Продолжить ТН-6 от 10:15, упаковано 0 из 25?\n\n"
+            "«Начать заново» удаляет эту работу; «Отложить» оставляет её до следующего запуска.|"
+            "&Продолжить,&Начать заново,О&тложить");
+  EXPECT_EQ(form().txtNrAwiza.text(), "ТН-6");
+  EXPECT_EQ(shownText(face(form().txtNrAwiza)), "ТН-6");
+  EXPECT_EQ(control().editor.session.LineCount, 25);
+  EXPECT_EQ(service.requests().size(), requests);
+  EXPECT_EQ(folder.records().size(), 1U);
+
+  form().txtNrAwiza.userType("ТН-7");
+  crash();
+  openAgain("&Продолжить");
+  EXPECT_EQ(form().txtNrAwiza.text(), "ТН-7");
+}
+
+TEST_F(UnfinishedWorkTest, GoesOnInTheDialogInWhichItEnded) {
+  work();
+  then([this] {
+    control().dlgSzczegoly.txtPackageDesc.userType("Паллета");
+    fs::copy(path, kept, fs::copy_options::recursive);
+    control().dlgSzczegoly.userClose();
+  });
+  form().btnDodajOpak.userClick();
+  close();
+  fs::remove_all(path);
+  fs::rename(kept, path);
+
+  bool seenAgain = false;
+  answerNext("&Продолжить", &asked);
+  then([&] {
+    then([&] {
+      seenAgain = control().dlgSzczegoly.shown();
+      EXPECT_EQ(shownText(face(form().txtNrAwiza)), "ТН-6");
+      EXPECT_EQ(control().dlgSzczegoly.txtPackageDesc.text(), "Паллета");
+      control().dlgSzczegoly.userClose();
+    });
+  });
+  open(onLineOptions(service));
+  EXPECT_TRUE(seenAgain);
+  EXPECT_EQ(control().editor.session.IloscPozycjiOpak, 0);
+}
+
+TEST_F(UnfinishedWorkTest, IsGoneWhereItsUserStartsAfresh) {
+  work();
+  crash();
+  openAgain("&Начать заново");
+  EXPECT_EQ(form().txtNrAwiza.text(), "");
+  EXPECT_EQ(folder.records().size(), 1U);
+  close();
+  EXPECT_TRUE(folder.records().empty());
+}
+
+TEST_F(UnfinishedWorkTest, WaitsWhereItIsPutOff) {
+  work();
+  crash();
+  openAgain("О&тложить");
+  EXPECT_EQ(form().txtNrAwiza.text(), "");
+  close();
+  ASSERT_EQ(folder.records().size(), 1U);
+  openAgain("&Продолжить");
+  EXPECT_EQ(form().txtNrAwiza.text(), "ТН-6");
+}
+
+TEST_F(UnfinishedWorkTest, IsNoneOnceItsWindowHasClosed) {
+  work();
+  close();
+  EXPECT_TRUE(folder.records().empty());
+  open(onLineOptions(service));
+  EXPECT_EQ(form().txtNrAwiza.text(), "");
+}
+
+TEST_F(UnfinishedWorkTest, IsNoneWhereNothingWasDone) {
+  open(offLineOptions());
+  crash();
+  open(offLineOptions());
+  EXPECT_EQ(folder.records().size(), 1U);
+}
+
+TEST_F(UnfinishedWorkTest, OfAnotherWindowIsNotOffered) {
+  work();
+  PosixRecordFolder same{path.string()};
+  desktop::MainWindow second(offLineOptions(), nullptr, &same);
+  EXPECT_EQ(folder.records().size(), 2U);
+}
+
+TEST_F(UnfinishedWorkTest, AFolderThatCantBeWrittenDisturbsNobody) {
+  PosixRecordFolder forbidden{"/proc/records"};
+  records = &forbidden;
+  open(offLineOptions());
+  form().txtNrAwiza.userType("ТН-6");
+  EXPECT_EQ(form().txtNrAwiza.text(), "ТН-6");
+  EXPECT_TRUE(widget().watch().status().starts_with("Работа больше не записывается"));
+}
+
+TEST_F(UnfinishedWorkTest, IsNotRecordedWhereItsUserWantsThat) {
+  Options options = offLineOptions();
+  options.settingsFile = place.settings().string();
+  SettingsFile(*options.settingsFile).write("Awizo", "Records", "Keep", "no");
+  open(options);
+  form().txtNrAwiza.userType("ТН-6");
+  EXPECT_TRUE(folder.records().empty());
+}
+
+}  // namespace
+}  // namespace awizo::test
