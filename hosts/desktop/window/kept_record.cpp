@@ -14,7 +14,8 @@ constexpr std::uint64_t mostBytesKept = 250'000'000;
 
 }  // namespace
 
-KeptRecord::KeptRecord(const GivenRecords& given, std::function<void(const std::string&)> onTrouble)
+KeptRecord::KeptRecord(const GivenRecords& given,
+                       const std::function<void(const std::string&)>& onTrouble)
     : folder_(given.folder) {
   if (folder_ == nullptr) return;
   try {

@@ -13,7 +13,7 @@ namespace awizo::desktop {
 class KeptRecord {
  public:
   /// Makes a new record, unless there is no folder. What goes wrong is told to `onTrouble` once.
-  KeptRecord(const GivenRecords& given, std::function<void(const std::string&)> onTrouble);
+  KeptRecord(const GivenRecords& given, const std::function<void(const std::string&)>& onTrouble);
   /// The session has ended as its user wanted: nothing of it is left.
   ~KeptRecord();
   KeptRecord(const KeptRecord&) = delete;
