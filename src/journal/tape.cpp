@@ -63,9 +63,9 @@ void Tape::writeDigest() {
   write({RecordKind::digest, {static_cast<std::int64_t>(digest())}, {}});
 }
 
-void Tape::request(std::uint64_t bodyDigest) {
+void Tape::request() {
   if (!running_ || replaying_) return;
-  write({RecordKind::request, {static_cast<std::int64_t>(bodyDigest)}, {}});
+  write({RecordKind::request, {}, {}});
   commit();
 }
 

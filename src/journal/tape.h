@@ -76,6 +76,8 @@ class Tape : public ActObserver {
   /// Whether what is asked now is part of an act. Between acts only hosts ask, for themselves.
   bool running() const { return running_; }
   std::size_t deeds() const { return deeds_; }
+  /// Whether all that came in so far is in the file, or on its way there.
+  bool recording() const { return file_ != nullptr; }
 
   /// What `call` gives, or gave when this was recorded, its run-time error included.
   template <class Call>
@@ -83,8 +85,8 @@ class Tape : public ActObserver {
   /// The same for a question that anybody may ask any number of times.
   template <class Call>
   auto fact(Source source, std::string_view about, Call&& call);
-  /// Says that a request goes out now. Its digest lets a replay see that it is the same.
-  void request(std::uint64_t bodyDigest);
+  /// Says that a request goes out now: without an outcome, nobody knows whether it arrived.
+  void request();
   /// What was recorded must be on the disk before the work goes on.
   void flush();
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "foundation/date_text.h"
 #include "journal/loading.h"
 #include "platform/run_time_error.h"
 #include "tables/columns/columns.h"
@@ -11,13 +12,6 @@ namespace awizo::journal {
 namespace {
 
 constexpr std::size_t textsOfASummary = 6;
-
-std::string hourMinute(const TimeOfDay& time) {
-  const auto twoDigits = [](int number) {
-    return (number < 10 ? "0" : "") + std::to_string(number);
-  };
-  return twoDigits(time.hour) + ":" + twoDigits(time.minute);
-}
 
 std::optional<int> countIn(const std::string& text) {
   int count = 0;

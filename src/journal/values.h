@@ -18,7 +18,6 @@ namespace awizo::journal {
 inline constexpr std::int64_t endedWell = 0;
 inline constexpr std::int64_t endedByError = 1;
 
-inline void put(Record&, std::nullptr_t) {}
 inline void put(Record& record, bool value) { record.numbers.push_back(value ? 1 : 0); }
 inline void put(Record& record, const std::string& value) { record.texts.push_back(value); }
 inline void put(Record& record, const std::vector<std::string>& values) {

@@ -4,6 +4,7 @@
 #include "adapters/posix/settings_stores.h"
 #include "desk/document_watch.h"
 #include "desktop_program/program_test.h"
+#include "platform/run_time_error.h"
 
 namespace awizo::test {
 namespace {
@@ -138,6 +139,42 @@ TEST_F(UnfinishedWorkTest, AFolderThatCantBeWrittenDisturbsNobody) {
   form().txtNrAwiza.userType("ТН-6");
   EXPECT_EQ(form().txtNrAwiza.text(), "ТН-6");
   EXPECT_TRUE(widget().watch().status().starts_with("Работа больше не записывается"));
+}
+
+/// A folder of records on a disk that takes so many bytes of each new one.
+struct FullFolder : RecordFolder {
+  struct File : GrowingFile {
+    std::size_t room = 0;
+    void append(std::string_view bytes) override {
+      if (bytes.size() > room) throw errors::diskFull();
+      room -= bytes.size();
+    }
+    void flush() override {}
+  };
+
+  explicit FullFolder(RecordFolder& real) : real_(real) {}
+  std::vector<FoundRecord> records() override { return real_.records(); }
+  NewRecord create() override {
+    auto file = std::make_unique<File>();
+    file->room = 1000;
+    return {"full.record", std::move(file)};
+  }
+  std::string read(std::string_view name) override { return real_.read(name); }
+  void remove(std::string_view name) override { real_.remove(name); }
+
+ private:
+  RecordFolder& real_;
+};
+
+TEST_F(UnfinishedWorkTest, StaysWhereItWasUntilItsNewRecordIsWhole) {
+  work();
+  crash();
+  FullFolder full(folder);
+  records = &full;
+  openAgain("&Продолжить");
+  EXPECT_EQ(form().txtNrAwiza.text(), "ТН-6");
+  close();
+  EXPECT_EQ(folder.records().size(), 1U);
 }
 
 TEST_F(UnfinishedWorkTest, IsNotRecordedWhereItsUserWantsThat) {

@@ -151,7 +151,9 @@ void AwizoWysylkiWidget::connectRecording() {
     return journal::textsOf(journal::summaryOf(parts.control, clock));
   };
   parts.tape.onTrouble = [this](const std::string& why) { tellOfRecording(why); };
-  parts.recording.onLive = [&parts] { parts.record.forgetReplayed(parts.replayedName); };
+  parts.recording.onLive = [&parts] {
+    if (parts.tape.recording()) parts.record.forgetReplayed(parts.replayedName);
+  };
 }
 
 void AwizoWysylkiWidget::tellOfRecording(const std::string& why) {

@@ -36,8 +36,13 @@ KeptRecord::~KeptRecord() {
 }
 
 void KeptRecord::forgetReplayed(const std::string& name) {
-  // Without a record of its own, the old one is all that is left of the work.
+  // Without a whole record of its own, the old one is all that is left of the work.
   if (name.empty() || record_.file == nullptr) return;
+  try {
+    record_.file->flush();
+  } catch (const RunTimeError&) {
+    return;
+  }
   remove(name);
 }
 
