@@ -5,6 +5,7 @@
 
 #include "adapters/icu/collation.h"
 #include "adapters/icu/formats.h"
+#include "adapters/icu/key_store.h"
 #include "adapters/icu/locale_name.h"
 #include "adapters/icu/single_byte.h"
 #include "platform/text.h"
@@ -79,8 +80,16 @@ std::string IcuLocale::lower(std::string_view text) const {
   return inCase(&icu::CaseMap::utf8ToLower, parts_->locale, text);
 }
 
-std::string IcuLocale::collationKey(std::string_view text) const {
-  return parts_->collation.key(text);
+std::vector<std::int32_t> IcuLocale::ranks(const std::vector<std::string_view>& texts) const {
+  icu_locale::KeyStore keys;
+  keys.reserve(texts.size());
+  for (const std::string_view text : texts) keys.add(parts_->collation.key(text));
+  return keys.ranks();
+}
+
+int IcuLocale::compare(std::string_view left, std::string_view right) const {
+  const int order = parts_->collation.key(left).compare(parts_->collation.key(right));
+  return (order > 0) - (order < 0);
 }
 
 std::string IcuLocale::toSingleByte(std::string_view text) const {

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/locale.h"
 
@@ -25,7 +27,8 @@ class IcuLocale final : public Locale {
   std::string longDate(Date date) const override;
   std::string upper(std::string_view text) const override;
   std::string lower(std::string_view text) const override;
-  std::string collationKey(std::string_view text) const override;
+  std::vector<std::int32_t> ranks(const std::vector<std::string_view>& texts) const override;
+  int compare(std::string_view left, std::string_view right) const override;
   std::string toSingleByte(std::string_view text) const override;
   std::string fromSingleByte(std::string_view bytes) const override;
 

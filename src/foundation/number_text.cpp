@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <system_error>
 
+#include "platform/floating_text.h"
+
 namespace awizo {
 namespace {
 
@@ -209,8 +211,7 @@ double toFloating(const DecimalNumber& number) {
     value = HUGE_VAL;
   } else if (!number.digits.empty() && magnitude > -400) {
     const std::string text = number.digits + "e" + std::to_string(number.exponent);
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (result.ec == std::errc::result_out_of_range) value = magnitude > 0 ? HUGE_VAL : 0;
+    value = readFloating(text).value_or(magnitude > 0 ? HUGE_VAL : 0);
   }
   return number.negative ? -value : value;
 }

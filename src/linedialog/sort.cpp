@@ -1,9 +1,9 @@
 #include "linedialog/sort.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
-#include "linedialog/ranks.h"
 #include "platform/forms/report_errors.h"
 
 namespace awizo {
@@ -19,6 +19,19 @@ void requireSegment(const Sorter::Keys& keys, const Sorter::Index& index, std::i
       throw errors::subscriptOutOfRange();
     }
   }
+}
+
+/// The last place that each rank takes when all are sorted.
+std::vector<std::int32_t> lastPlaces(const std::vector<std::int32_t>& ranks) {
+  std::vector<std::int32_t> counts;
+  for (const std::int32_t rank : ranks) {
+    const auto at = static_cast<std::size_t>(rank);
+    if (at >= counts.size()) counts.resize(at + 1);
+    ++counts[at];
+  }
+  std::int32_t place = -1;
+  for (std::int32_t& count : counts) place = count += place;
+  return counts;
 }
 
 }  // namespace
@@ -93,8 +106,8 @@ std::int32_t Sorter::Partition(const Keys& keys, Index& index, std::int32_t left
   return pivot;
 }
 
-/// Makes each text's key once, and numbers the texts of the segment by their order: equal texts
-/// get equal ranks. A segment that isn't there is left to Partition to report.
+/// Asks once for the places that the segment's texts have in order. A segment that isn't there is
+/// left to Partition to report.
 void Sorter::prepare(const Keys& keys, const Index& index, std::int32_t left, std::int32_t right) {
   ranked_ = false;
   if (left >= right) return;
@@ -105,16 +118,16 @@ void Sorter::prepare(const Keys& keys, const Index& index, std::int32_t left, st
   }
   const auto from = static_cast<std::size_t>(left);
   const auto to = static_cast<std::size_t>(right) + 1;
-  KeyStore store;
-  store.reserve(to - from);
+  std::vector<std::string_view> texts;
+  texts.reserve(to - from);
   for (std::size_t place = from; place < to; ++place) {
-    store.add(conversions_.locale().collationKey(keys[static_cast<std::size_t>(index[place])]));
+    texts.emplace_back(keys[static_cast<std::size_t>(index[place])]);
   }
-  Ranks ranks = store.ranks();
-  lastPlace_ = std::move(ranks.lastPlace);
+  const std::vector<std::int32_t> ranks = conversions_.locale().ranks(texts);
+  lastPlace_ = lastPlaces(ranks);
   for (std::int32_t& place : lastPlace_) place += left;
   ranks_.assign(from, 0);
-  ranks_.insert(ranks_.end(), ranks.rankOf.begin(), ranks.rankOf.end());
+  ranks_.insert(ranks_.end(), ranks.begin(), ranks.end());
   ranked_ = true;
 }
 

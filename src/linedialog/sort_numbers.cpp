@@ -16,11 +16,7 @@ double Sorter::ToNumberOrMinusOne(const std::string& text) const {
 std::int16_t Sorter::CompareNumbers(const std::string& a, const std::string& b) const {
   const double x = ToNumberOrMinusOne(a);
   const double y = ToNumberOrMinusOne(b);
-  if (x == -1 && y == -1) {
-    const int order =
-        conversions_.locale().collationKey(a).compare(conversions_.locale().collationKey(b));
-    return static_cast<std::int16_t>((order > 0) - (order < 0));
-  }
+  if (x == -1 && y == -1) return static_cast<std::int16_t>(conversions_.locale().compare(a, b));
   if (x == -1) return -1;
   if (y == -1) return 1;
   return static_cast<std::int16_t>((x > y) - (x < y));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,11 +39,14 @@ class Locale {
   virtual std::string upper(std::string_view text) const = 0;
   virtual std::string lower(std::string_view text) const = 0;
 
-  /// Bytes whose order is the locale's case-blind order of texts, and which are equal for texts
-  /// that differ only in case. Punctuation counts. Forms of one character (full width, raised,
-  /// ligatures) have equal keys, so keys order texts but can't be used to compare them for
-  /// equality.
-  virtual std::string collationKey(std::string_view text) const = 0;
+  // The locale's order of texts, blind to case; punctuation counts. Forms of one character (full
+  // width, raised, ligatures) have equal places, so texts of equal places needn't be the same.
+
+  /// The place of each text in the order of all of them, from 0; equal ones have equal places, and
+  /// the next has the next number.
+  virtual std::vector<std::int32_t> ranks(const std::vector<std::string_view>& texts) const = 0;
+  /// -1, 0 or 1.
+  virtual int compare(std::string_view left, std::string_view right) const = 0;
 
   /// The machine's single-byte encoding (windows-1251 for Cyrillic locales, windows-1252 for
   /// western ones); a character that it lacks is written "?".

@@ -1,9 +1,9 @@
 #include "platform/xpath_number.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
-#include <system_error>
+
+#include "platform/floating_text.h"
 
 namespace awizo {
 namespace {
@@ -30,14 +30,12 @@ std::optional<double> xpathNumber(std::string_view text) {
   const bool negative = text.starts_with('-');
   if (negative) text.remove_prefix(1);
   if (!isUnsignedNumber(text)) return std::nullopt;
-  double value = 0;
-  const auto [end, error] =
-      std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
-  if (error == std::errc::result_out_of_range) {
+  std::optional<double> value = readFloating(text);
+  if (!value) {
     const bool isLarge = text.find_first_of("123456789") < text.find('.');
     value = isLarge ? HUGE_VAL : 0.0;
   }
-  return negative ? -value : value;
+  return negative ? -*value : *value;
 }
 
 }  // namespace awizo

@@ -1,6 +1,7 @@
 #include "session/array_remove_item.h"
 
 #include <algorithm>
+#include <cstddef>
 
 #include "platform/run_time_error.h"
 
@@ -27,8 +28,8 @@ void ArrayRemoveItem(HostValue& array, std::int32_t index) {
   if (place < 0 || place >= static_cast<std::int64_t>(held->elements.size())) {
     throw RunTimeError(subscriptError, "Subscript out of Range");
   }
-  std::copy(held->elements.begin() + place + 1, held->elements.end(),
-            held->elements.begin() + place);
+  const auto removed = held->elements.begin() + static_cast<std::ptrdiff_t>(place);
+  std::copy(removed + 1, held->elements.end(), removed);
   shrink(*held);
 }
 

@@ -9,7 +9,7 @@ using testing::ElementsAre;
 
 std::vector<std::string> sorted(const IcuLocale& locale, std::vector<std::string> texts) {
   std::stable_sort(texts.begin(), texts.end(), [&](const auto& left, const auto& right) {
-    return locale.collationKey(left) < locale.collationKey(right);
+    return locale.compare(left, right) < 0;
   });
   return texts;
 }
@@ -52,6 +52,23 @@ TEST_P(Collation, DigitsGoBeforeLettersAndPunctuationBeforeDigits) {
 TEST_P(Collation, ATextGoesBeforeItsContinuation) {
   EXPECT_THAT(sorted(locale, {"молоко 1", "молоко", "Молоко", "мол"}),
               ElementsAre("мол", "молоко", "Молоко", "молоко 1"));
+}
+
+TEST_P(Collation, RanksAreThePlacesOfTheSameOrder) {
+  EXPECT_THAT(locale.ranks({"яблоко", "ЁЖ", "Ель", "ёж", "", "2", "Яблоко "}),
+              ElementsAre(4, 2, 3, 2, 0, 1, 5));
+  EXPECT_THAT(locale.ranks({}), testing::IsEmpty());
+}
+
+TEST_P(Collation, ComparingGivesASignAlone) {
+  EXPECT_EQ(locale.compare("ёж", "Ель"), -1);
+  EXPECT_EQ(locale.compare("Ель", "ёж"), 1);
+  EXPECT_EQ(locale.compare("МОЛОКО", "молоко"), 0);
+}
+
+TEST_P(Collation, FormsOfOneCharacterHaveOnePlace) {
+  EXPECT_EQ(locale.compare("ﬁ", "fi"), 0);
+  EXPECT_THAT(locale.ranks({"Ａ", "a", "b"}), ElementsAre(0, 0, 1));
 }
 
 TEST_P(Collation, BytesThatAreNoTextAreTakenToo) {

@@ -1,12 +1,14 @@
 """The checks by name, the quick ones first. A check takes the project and returns a list of problems."""
 
-from checks import comments, compiled, documents, formatting, includes, levels, scripts, tidy, words
+from checks import (comments, compiled, documents, formatting, includes, levels, portable, scripts, tidy,
+                    words)
 
 CHECKS = {
     "levels": levels.check_levels,
     "links": levels.check_links,
     "standard-only": includes.check_standard_only,
     "include-circle": includes.check_no_circle,
+    "portable": portable.check,
     "words": words.check,
     "comments": comments.check,
     "documents": documents.check,

@@ -6,7 +6,7 @@ import re
 # own locale are left out: src/ does all of that through the interfaces of src/platform.
 STANDARD = set("""
     algorithm any array bit bitset cctype cerrno cfloat charconv chrono cinttypes climits cmath
-    compare concepts cstddef cstdint cstdlib cstring cwchar deque exception execution format forward_list
+    compare concepts cstddef cstdint cstdlib cstring cwchar deque exception format forward_list
     functional initializer_list iterator limits list map memory memory_resource new numbers numeric
     optional queue ranges ratio set source_location span stack stdexcept string string_view
     system_error tuple type_traits typeindex typeinfo unordered_map unordered_set utility variant
@@ -21,7 +21,7 @@ CALLS = re.compile(
 COMMENT_OR_TEXT = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"', re.DOTALL)
 
 
-def _blank(match):
+def blank(match):
     return "\n" * match[0].count("\n")
 
 
@@ -35,7 +35,7 @@ def check_standard_only(project):
                 problems.append(f'{place}: "{include.name}" is no file of src/ named from there')
             if not include.quoted and include.name not in STANDARD:
                 problems.append(f"{place}: <{include.name}> is not for src/")
-        code = COMMENT_OR_TEXT.sub(_blank, project.text(name))
+        code = COMMENT_OR_TEXT.sub(blank, project.text(name))
         for match in CALLS.finditer(code):
             line = code.count("\n", 0, match.start()) + 1
             problems.append(f"{name}:{line}: {match[0].strip()} goes past the platform's interfaces")

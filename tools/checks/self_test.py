@@ -67,6 +67,18 @@ BREACHES = [
      append("src/tables/planted.h", '#pragma once\n\ninline const char* planted() { return std::getenv("A"); }\n')),
     ("standard-only", "src/ reads a clock by itself",
      append("src/tables/planted.h", "#pragma once\n\ninline auto planted() { return std::chrono::system_clock::now(); }\n")),
+    ("portable", "a floating number is read as pages can't",
+     append("src/tables/planted.h", "#pragma once\n\ninline double planted(const char* a, const char* z) {\n"
+            "  double value = 0;\n  std::from_chars(a, z, value);\n  return value;\n}\n")),
+    ("portable", "a floating number of a stated form is read as pages can't",
+     append("src/tables/planted.h", "#pragma once\n\ninline void planted(const char* a, const char* z, auto& value) {\n"
+            "  std::from_chars(a, z, value, std::chars_format::fixed);\n}\n")),
+    ("portable", "a time zone is asked for",
+     append("src/tables/planted.h", "#pragma once\n\ninline auto planted() { return std::chrono::current_zone(); }\n")),
+    ("portable", "what pages are built on too uses threads",
+     append("hosts/protocol/planted.h", "#pragma once\n\n#include <thread>\n")),
+    ("portable", "what pages are built on too uses the disk",
+     append("adapters/libxml2/planted.h", "#pragma once\n\n#include <filesystem>\n")),
     ("include-circle", "a header includes itself by way of another",
      [append("src/tables/planted.h", '#pragma once\n\n#include "tables/planted_too.h"\n'),
       append("src/tables/planted_too.h", '#pragma once\n\n#include "tables/planted.h"\n')]),

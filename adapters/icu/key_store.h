@@ -4,13 +4,7 @@
 #include <string_view>
 #include <vector>
 
-namespace awizo {
-
-/// Places of keys in their order; equal keys have equal ranks.
-struct Ranks {
-  std::vector<std::int32_t> rankOf;     ///< of each key, from 0
-  std::vector<std::int32_t> lastPlace;  ///< of each rank: the last place it takes when sorted
-};
+namespace awizo::icu_locale {
 
 /// Many keys, held as numbers of eight bytes each, so that whole words are compared at a time.
 class KeyStore {
@@ -20,7 +14,8 @@ class KeyStore {
   /// A key holds no byte 0.
   void add(std::string_view key);
 
-  Ranks ranks() const;
+  /// The place of each key in the order of all, from 0; equal keys have equal places.
+  std::vector<std::int32_t> ranks() const;
 
  private:
   struct Entry {
@@ -37,4 +32,4 @@ class KeyStore {
   std::vector<std::size_t> starts_;
 };
 
-}  // namespace awizo
+}  // namespace awizo::icu_locale

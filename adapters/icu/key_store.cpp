@@ -1,10 +1,10 @@
-#include "linedialog/ranks.h"
+#include "adapters/icu/key_store.h"
 
 #include <algorithm>
 
 #include "platform/narrow.h"
 
-namespace awizo {
+namespace awizo::icu_locale {
 namespace {
 
 constexpr std::size_t wordSize = sizeof(std::uint64_t);
@@ -72,18 +72,16 @@ std::vector<KeyStore::Entry> KeyStore::sorted(std::vector<bool>& equalsItsFormer
   return entries;
 }
 
-Ranks KeyStore::ranks() const {
+std::vector<std::int32_t> KeyStore::ranks() const {
   std::vector<bool> equalsItsFormer;
   const std::vector<Entry> entries = sorted(equalsItsFormer);
-  Ranks ranks;
-  ranks.rankOf.resize(entries.size());
+  std::vector<std::int32_t> ranks(entries.size());
+  std::int32_t rank = -1;
   for (std::size_t place = 0; place < entries.size(); ++place) {
-    if (!equalsItsFormer[place]) ranks.lastPlace.push_back(0);
-    ranks.lastPlace.back() = static_cast<std::int32_t>(place);
-    ranks.rankOf[static_cast<std::size_t>(entries[place].key)] =
-        static_cast<std::int32_t>(ranks.lastPlace.size()) - 1;
+    if (!equalsItsFormer[place]) ++rank;
+    ranks[static_cast<std::size_t>(entries[place].key)] = rank;
   }
   return ranks;
 }
 
-}  // namespace awizo
+}  // namespace awizo::icu_locale
