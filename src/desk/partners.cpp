@@ -64,6 +64,7 @@ FolderContent lookIntoFolder(const Xml& xml, Files& files, std::string_view fold
         "в эту папку.";
     return content;
   }
+  content.sellerILN = seller;
   content.seller = infoOf(*user, "name");
   for (const std::string& file : filesIn(files, folder)) {
     const std::string iln = buyerInName(file, seller);

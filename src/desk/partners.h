@@ -17,7 +17,8 @@ struct Partner {
 
 /// What a local folder offers for work off line.
 struct FolderContent {
-  std::string seller;             ///< name of the user's firm
+  std::string seller;  ///< name of the user's firm
+  std::string sellerILN;
   std::vector<Partner> partners;  ///< in the order of their files' names
   std::string missing;            ///< what keeps from working, in Russian; empty where nothing does
 };

@@ -1,0 +1,103 @@
+#include "adapters/qt_paper/qt_paper.h"
+
+#include <QBuffer>
+#include <QPageLayout>
+#include <QPdfWriter>
+#include <cmath>
+
+#include "platform/run_time_error.h"
+
+namespace awizo {
+namespace {
+
+constexpr double inch = 25.4;
+/// Pages are laid out, and files written, in pixels of this size.
+constexpr int dotsPerInch = 1200;
+constexpr double pixelsPerMillimetre = dotsPerInch / inch;
+/// Without hinting a text's width grows with its size.
+constexpr int measuringSize = 500;
+
+int pixelSize(const papers::Font& font) {
+  return std::max(1, static_cast<int>(std::lround(font.size * pixelsPerMillimetre)));
+}
+
+QFont fontOf(int pixels, bool bold) {
+  QFont font("DejaVu Sans");
+  font.setStyleHint(QFont::SansSerif);
+  font.setHintingPreference(QFont::PreferNoHinting);
+  font.setPixelSize(pixels);
+  font.setBold(bold);
+  return font;
+}
+
+QPageLayout layoutOf(const papers::PageSize& size) {
+  const QPageSize paper(QSizeF(size.width, size.height), QPageSize::Millimeter);
+  return {paper, QPageLayout::Portrait, QMarginsF()};
+}
+
+}  // namespace
+
+QtTextMeasure::QtTextMeasure()
+    : plain_(fontOf(measuringSize, false)), bold_(fontOf(measuringSize, true)) {}
+
+double QtTextMeasure::measured(const QFontMetricsF& metrics, Known& known,
+                               const std::string& text) {
+  constexpr std::size_t most = 20'000;
+  if (known.size() >= most) known.clear();
+  const auto [entry, isNew] = known.try_emplace(text);
+  if (isNew) entry->second = metrics.horizontalAdvance(QString::fromStdString(text));
+  return entry->second;
+}
+
+double QtTextMeasure::width(const std::string& text, const papers::Font& font) const {
+  const double pixels =
+      font.bold ? measured(bold_, knownBold_, text) : measured(plain_, knownPlain_, text);
+  return pixels * pixelSize(font) / measuringSize / pixelsPerMillimetre;
+}
+
+void paintPage(QPainter& painter, const papers::Page& page, double scale) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  for (const papers::Rectangle& rectangle : page.rectangles) {
+    const int grey = static_cast<int>(std::lround(255 * (1 - rectangle.darkness)));
+    painter.fillRect(QRectF(rectangle.x * scale, rectangle.y * scale, rectangle.width * scale,
+                            rectangle.height * scale),
+                     QColor(grey, grey, grey));
+  }
+  // Texts have the size that they were measured in, whatever the device's.
+  const double shrink = scale / pixelsPerMillimetre;
+  painter.scale(shrink, shrink);
+  painter.setPen(Qt::black);
+  for (const papers::TextRun& run : page.texts) {
+    painter.setFont(fontOf(pixelSize(run.font), run.font.bold));
+    painter.drawText(QPointF(run.x * pixelsPerMillimetre, run.baseline * pixelsPerMillimetre),
+                     QString::fromStdString(run.text));
+  }
+  painter.restore();
+}
+
+bool printPages(const papers::Pages& pages, QPagedPaintDevice& device) {
+  QPainter painter;
+  for (const papers::Page& page : pages) {
+    const bool isFirst = &page == pages.data();
+    device.setPageLayout(layoutOf(page.size));
+    if (isFirst ? !painter.begin(&device) : !device.newPage()) return false;
+    paintPage(painter, page, device.logicalDpiX() / inch);
+  }
+  return painter.end();
+}
+
+std::string pdfOf(const papers::Pages& pages, const std::string& title) {
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  {
+    QPdfWriter writer(&buffer);
+    writer.setResolution(dotsPerInch);
+    writer.setTitle(QString::fromStdString(title));
+    writer.setCreator("awizo");
+    if (pages.empty() || !printPages(pages, writer)) throw errors::invalidProcedureCall();
+  }
+  return buffer.data().toStdString();
+}
+
+}  // namespace awizo
