@@ -13,7 +13,7 @@
 #include "adapters/posix/replacing.h"
 #include "adapters/qt_paper/qt_paper.h"
 #include "adapters/zint/zint_encoder.h"
-#include "desk/partners.h"
+#include "desk/papers_source.h"
 #include "formats/advice_of_document.h"
 #include "papers/package_numbers.h"
 #include "papers/packing_csv.h"
@@ -65,17 +65,11 @@ DespatchAdvice adviceIn(const std::string& path) {
 
 /// The names that the folder's files tell of the advice's own parties.
 papers::Names namesFrom(const std::string& folder, const AdviceHeader& header) {
-  papers::Names names;
-  if (folder.empty()) return names;
+  if (folder.empty()) return {};
   PosixFiles files;
   const std::string path = posix::classicPath(std::filesystem::absolute(folder).string());
   if (!files.folderExists(path)) throw std::runtime_error(folder + ": нет такой папки");
-  const FolderContent content = lookIntoFolder(Libxml2(), files, path);
-  if (content.sellerILN == header.sellerILN) names.seller = content.seller;
-  for (const Partner& partner : content.partners) {
-    if (partner.iln == header.buyerILN) names.buyer = partner.name;
-  }
-  return names;
+  return namesInFolder(Libxml2(), files, path, header);
 }
 
 std::vector<std::size_t> pickedPackages(const PapersOptions& options,

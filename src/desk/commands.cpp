@@ -37,6 +37,18 @@ std::vector<Command> endCommands() {
   return {{.words = "&Выход", .task = HostTask::quit, .keys = {withControl('Q')}}};
 }
 
+Command paperOfFileCommand() {
+  return {.words = "Бумаги сохранённого &документа…", .task = HostTask::showPapersOfFile};
+}
+
+std::vector<Command> paperCommands() {
+  return {{.words = "&Этикетки…", .task = HostTask::showLabels, .keys = {withControl('L')}},
+          {.words = "&Упаковочный лист…",
+           .task = HostTask::showPackingList,
+           .keys = {withControl('P')}},
+          {.words = "&Листы в упаковки…", .task = HostTask::showPackageSheets}};
+}
+
 std::vector<Command> helpCommands() {
   return {
       {.words = "&Руководство пользователя", .task = HostTask::showGuide, .keys = {key(keys::f1)}},
@@ -135,6 +147,7 @@ std::vector<CommandMenu> commandMenus(AwizoForm& form) {
   return {{"&Документ", {documentCommands(form), sessionCommands(), endCommands()}},
           {"&Правка",
            {lineCommands(form), packageCommands(form), countryCommands(form), findCommands()}},
+          {"&Бумаги", {paperCommands(), {paperOfFileCommand()}}},
           {"&Справка", {helpCommands()}}};
 }
 

@@ -26,6 +26,10 @@ enum class HostTask {
   findLine,
   findAgain,
   showFaults,
+  showLabels,
+  showPackingList,
+  showPackageSheets,
+  showPapersOfFile,
   showGuide,
   showAbout
 };

@@ -12,6 +12,7 @@ constexpr std::string_view guideChapter(std::string_view form) {
   if (form == "DlgSzczegoly") return "Упаковки";
   if (form == "DlgWczytajZapisz") return "Сохранить, открыть, отправить";
   if (form == "FaultList" || form == "FindDialog") return "Найти и проверить";
+  if (form == "PapersDialog") return "Этикетки и упаковочный лист";
   return "";
 }
 

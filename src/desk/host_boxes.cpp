@@ -32,6 +32,30 @@ MessageBox launchFileRefusal(std::string_view file, std::string_view why) {
           title, BoxIcon::critical, BoxButtons::ok};
 }
 
+MessageBox paperRefusal(std::string_view what, const RunTimeError& error) {
+  std::string reason;
+  switch (error.number()) {
+    case 5:
+      reason = "это не уведомление об отгрузке, или в нём есть то, чего в документе быть не может";
+      break;
+    case 53:
+      reason = "нет такого файла";
+      break;
+    case 61:
+      reason = "диск полон";
+      break;
+    case 70:
+      reason = "нет прав доступа";
+      break;
+    case 76:
+      reason = "нет такой папки";
+      break;
+    default:
+      reason = error.description();
+  }
+  return {joined({what, ": ", reason, "."}), title, BoxIcon::critical, BoxButtons::ok};
+}
+
 MessageBox aboutBox(std::string_view version) {
   return {joined({version, "\r\n\r\nРедактор подтверждений отгрузки (EDIFACT DESADV в виде XML)."}),
           "О программе", BoxIcon::information, BoxButtons::ok};

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "platform/forms/screen_face.h"
+#include "platform/run_time_error.h"
 
 namespace awizo {
 
@@ -14,6 +15,8 @@ MessageBox folderRequest();
 MessageBox newAddressQuestion(std::string_view origin);
 /// Shown in place of a session that a launch file should begin. `why`: a sentence.
 MessageBox launchFileRefusal(std::string_view file, std::string_view why);
+/// No paper came of it. `what`: a file, or words.
+MessageBox paperRefusal(std::string_view what, const RunTimeError& error);
 /// `version`: the text of the form's version label.
 MessageBox aboutBox(std::string_view version);
 

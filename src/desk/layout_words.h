@@ -27,6 +27,13 @@ inline constexpr std::string_view guideTitle = "Руководство поль�
 inline constexpr std::string_view guideContents = "Содержание";
 inline constexpr std::string_view noGuide = "Руководство не установлено.";
 
+// Papers.
+inline constexpr std::string_view paperPreview = "Лист, каким он будет";
+inline constexpr std::string_view pdfKind = "Файлы PDF (*.pdf)";
+inline constexpr std::string_view savedDocumentTitle = "Сохранённый документ";
+inline constexpr std::string_view savedDocumentKind = "Документы (*.xml);;Все файлы (*)";
+inline constexpr std::string_view noPapers = "Этикеток и листов нет";
+
 // Main form: groups of the header's fields, the country that is written over all lines.
 inline constexpr std::string_view documentGroup = "Документ";
 inline constexpr std::string_view orderGroup = "Заказ";

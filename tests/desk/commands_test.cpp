@@ -34,10 +34,10 @@ std::string mnemonicOf(std::string_view words) {
   return mark == words.npos ? "" : std::string(firstCharacters(words.substr(mark + 1), 1));
 }
 
-TEST_F(CommandsTest, StandInThreeMenus) {
+TEST_F(CommandsTest, StandInFourMenus) {
   std::vector<std::string_view> headings;
   for (const CommandMenu& menu : menus) headings.push_back(menu.heading);
-  EXPECT_THAT(headings, ElementsAre("&Документ", "&Правка", "&Справка"));
+  EXPECT_THAT(headings, ElementsAre("&Документ", "&Правка", "&Бумаги", "&Справка"));
 }
 
 TEST_F(CommandsTest, EachDoesOneThingAndNoTwoTheSame) {
@@ -51,7 +51,7 @@ TEST_F(CommandsTest, EachDoesOneThingAndNoTwoTheSame) {
     EXPECT_TRUE(isNew) << command->words;
   }
   EXPECT_EQ(buttons.size(), 10U);
-  EXPECT_EQ(tasks.size(), 8U);
+  EXPECT_EQ(tasks.size(), 12U);
 }
 
 TEST_F(CommandsTest, NoTwoOfAMenuShareALetterAndNoTwoOfAPlaceAKey) {

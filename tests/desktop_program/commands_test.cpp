@@ -98,7 +98,7 @@ TEST_F(CommandsTest, MenusAndTipsTellTheKeys) {
   openCounting();
   QStringList menus;
   for (const QAction* menu : window().menuBar()->actions()) menus << menu->text();
-  EXPECT_EQ(menus, QStringList({"&Документ", "&Правка", "&Справка"}));
+  EXPECT_EQ(menus, QStringList({"&Документ", "&Правка", "&Бумаги", "&Справка"}));
   EXPECT_EQ(commands().action(form().btnWczytaj)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_O));
   EXPECT_EQ(commands().action(form().btnUsunOpak)->shortcut(), QKeySequence(Qt::Key_Delete));
   EXPECT_EQ(face(form().btnDodaj).widget()->toolTip(), "Добавить строку (Ins)");

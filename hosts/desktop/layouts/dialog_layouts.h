@@ -10,6 +10,7 @@ class DlgSzczegoly;
 class DlgWczytajZapisz;
 class FaultList;
 class FindDialog;
+class PapersDialog;
 }  // namespace awizo
 
 namespace awizo::desktop {
@@ -22,6 +23,7 @@ void layOut(DlgSzczegoly& form, FormDialog& dialog);
 void layOut(DlgWczytajZapisz& form, FormDialog& dialog);
 void layOut(FaultList& form, FormDialog& dialog);
 void layOut(FindDialog& form, FormDialog& dialog);
+void layOut(PapersDialog& form, FormDialog& dialog);
 /// Any other form: its controls one below the other in their order.
 void layOut(Form& form, FormDialog& dialog);
 

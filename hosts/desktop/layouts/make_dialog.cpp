@@ -4,6 +4,7 @@
 
 #include "desk/fault_list.h"
 #include "desk/find_dialog.h"
+#include "desk/papers_dialog.h"
 #include "formats/file_dialog.h"
 #include "hosts/desktop/layouts/dialog_layouts.h"
 #include "linedialog/dlg_dodaj.h"
@@ -29,11 +30,11 @@ void layOut(Form& form, FormDialog& dialog) {
 
 FormDialog* makeDialog(Form& form, QWidget* parent) {
   auto* dialog = new FormDialog(form, parent);
-  const bool known = layOutAs<DlgDodaj>(form, *dialog) || layOutAs<DlgdodajPule>(form, *dialog) ||
-                     layOutAs<DlgIsoCodes>(form, *dialog) ||
-                     layOutAs<DlgSzczegoly>(form, *dialog) ||
-                     layOutAs<DlgWczytajZapisz>(form, *dialog) ||
-                     layOutAs<FaultList>(form, *dialog) || layOutAs<FindDialog>(form, *dialog);
+  const bool known =
+      layOutAs<DlgDodaj>(form, *dialog) || layOutAs<DlgdodajPule>(form, *dialog) ||
+      layOutAs<DlgIsoCodes>(form, *dialog) || layOutAs<DlgSzczegoly>(form, *dialog) ||
+      layOutAs<DlgWczytajZapisz>(form, *dialog) || layOutAs<FaultList>(form, *dialog) ||
+      layOutAs<FindDialog>(form, *dialog) || layOutAs<PapersDialog>(form, *dialog);
   if (!known) layOut(form, *dialog);
   dialog->makeScrollable();
   // A widget with a new parent must be shown again.

@@ -18,6 +18,7 @@
 #include "hosts/desktop/program/launch_file.h"
 #include "hosts/desktop/window/commands.h"
 #include "hosts/desktop/window/finder.h"
+#include "hosts/desktop/window/paper_maker.h"
 #include "hosts/version.h"
 #include "platform/at_exit.h"
 #include "session/awizo_wysylki.h"
@@ -131,6 +132,14 @@ void MainWindow::perform(HostTask task) {
       return widget_->finder().findAgain();
     case HostTask::showFaults:
       return widget_->finder().showFaults();
+    case HostTask::showLabels:
+      return widget_->paperMaker().show(Paper::labels);
+    case HostTask::showPackingList:
+      return widget_->paperMaker().show(Paper::packingList);
+    case HostTask::showPackageSheets:
+      return widget_->paperMaker().show(Paper::packageSheets);
+    case HostTask::showPapersOfFile:
+      return widget_->paperMaker().showSaved();
     case HostTask::showGuide:
       return openGuide(*this);
     case HostTask::showAbout:

@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <iostream>
 
+#include "hosts/desktop/window/paper_maker.h"
 #include "session/awizo_wysylki.h"
 #include "tables/columns/columns.h"
 
@@ -111,6 +112,18 @@ void DemoUser::showOtherForms() {
          });
 }
 
+void DemoUser::showPapers() {
+  for (const auto& [paper, name] :
+       {std::pair{Paper::labels, "labels"}, std::pair{Paper::packingList, "packing-list"}}) {
+    PaperMaker& maker = widget_.paperMaker();
+    during([&] { maker.show(paper); },
+           [&] {
+             take(name);
+             maker.dialog().btnClose.userClick();
+           });
+  }
+}
+
 void DemoUser::work() {
   take("order");
   fillHeader();
@@ -120,6 +133,7 @@ void DemoUser::work() {
   for (int row = 1; row <= 4; ++row) packLine(row, 1 + row % 2, row == 1 ? "line" : "");
   widget_.control().form.grdPozycje.userCell(1, GRD_POZ_NAME);
   take("main");
+  showPapers();
   showOtherForms();
 }
 

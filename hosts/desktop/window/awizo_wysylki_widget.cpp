@@ -14,6 +14,7 @@
 #include "hosts/desktop/window/finder.h"
 #include "hosts/desktop/window/kept_record.h"
 #include "hosts/desktop/window/main_layout.h"
+#include "hosts/desktop/window/paper_maker.h"
 #include "hosts/desktop/window/surroundings.h"
 #include "journal/unfinished_work.h"
 #include "platform/text.h"
@@ -84,6 +85,7 @@ struct AwizoWysylkiWidget::Parts {
   Status status;
   Commands* commands = nullptr;
   Finder* finder = nullptr;  ///< belongs to `content`
+  std::unique_ptr<PaperMaker> paperMaker;
 };
 
 AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
@@ -92,6 +94,8 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
   connectRecording();
   replayOr([&parts] { parts.recording.create(); });
   parts.finder = new Finder(parts.control.editor, *parts.faces, parts.face);
+  parts.paperMaker = std::make_unique<PaperMaker>(parts.control.editor, parts.surroundings.files,
+                                                  given.settings, parts.face, *this);
   parts.status = layOutMain(parts.control.editor, *parts.faces, parts.finder->strip());
   parts.faces->showAll();
   parts.commands = new Commands(parts.control.form, *parts.faces, *this);
@@ -173,6 +177,7 @@ AwizoWysylki& AwizoWysylkiWidget::control() { return parts_->control; }
 FormFace& AwizoWysylkiWidget::faces() { return *parts_->faces; }
 Commands& AwizoWysylkiWidget::commands() { return *parts_->commands; }
 Finder& AwizoWysylkiWidget::finder() { return *parts_->finder; }
+PaperMaker& AwizoWysylkiWidget::paperMaker() { return *parts_->paperMaker; }
 Waiting& AwizoWysylkiWidget::waiting() { return parts_->waiting; }
 
 bool AwizoWysylkiWidget::hasFailed() const { return parts_->face.programEnded(); }

@@ -18,6 +18,7 @@ namespace awizo::desktop {
 
 class Commands;
 class Finder;
+class PaperMaker;
 class FormFace;
 
 /// The locale in which Qt writes dates and times: that of the name, else the environment's; ru_RU
@@ -76,6 +77,7 @@ class AwizoWysylkiWidget : public QWidget {
   FormFace& faces();
   Commands& commands();
   Finder& finder();
+  PaperMaker& paperMaker();
   Waiting& waiting();
 
  signals:

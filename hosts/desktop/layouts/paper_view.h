@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QWidget>
+
+namespace awizo {
+class PapersDialog;
+}
+
+namespace awizo::desktop {
+
+/// The sheet that the dialog shows, as large as there is room.
+class PaperView : public QWidget {
+ public:
+  explicit PaperView(const PapersDialog& form);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  const PapersDialog& form_;
+};
+
+}  // namespace awizo::desktop

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <functional>
+
+#include "adapters/qt_paper/qt_paper.h"
+#include "adapters/zint/zint_encoder.h"
+#include "desk/papers_dialog.h"
+#include "session/record/editor.h"
+
+namespace awizo::desktop {
+
+/// Shows, writes and prints the papers of the document in the window, or of a saved one.
+class PaperMaker {
+ public:
+  /// `screenFace` shows the dialog, which is the window's and not the control's.
+  PaperMaker(const Editor& editor, Files& files, SettingsStore& settings, ScreenFace& screenFace,
+             QWidget& window);
+
+  void show(Paper paper);
+  void showSaved();
+
+  PapersDialog& dialog() { return dialog_; }
+
+  /// Ask for a path of the system; empty for none.
+  std::function<QString(const QString& proposed)> askTarget;
+  std::function<QString()> askDocument;
+  /// Lets the user choose a printer and prints; answers whether that was done.
+  std::function<bool(const papers::Pages&)> print;
+
+ private:
+  bool write();
+  void tell(const std::string& what, const RunTimeError& error);
+
+  const Editor& editor_;
+  Files& files_;
+  SettingsStore& settings_;
+  QWidget& window_;
+  Screen screen_;
+  QtTextMeasure measure_;
+  ZintEncoder encoder_;
+  PapersDialog dialog_;
+};
+
+}  // namespace awizo::desktop

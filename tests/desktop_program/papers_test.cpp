@@ -1,0 +1,105 @@
+#include <QApplication>
+#include <QTimer>
+
+#include "desktop_program/program_test.h"
+#include "hosts/desktop/layouts/paper_view.h"
+#include "hosts/desktop/window/paper_maker.h"
+#include "support/files/files.h"
+
+namespace awizo::test {
+namespace {
+
+class PapersTest : public ProgramTest {
+ protected:
+  desktop::PaperMaker& maker() { return widget().paperMaker(); }
+  PapersDialog& dialog() { return maker().dialog(); }
+
+  /// Does this while the dialog that the act opens is on the screen.
+  void during(const std::function<void()>& act, const std::function<void()>& inside) {
+    bool came = false;
+    QTimer whenShown;
+    QObject::connect(&whenShown, &QTimer::timeout, [&] {
+      if (came || !dialog().shown()) return;
+      came = true;
+      inside();
+      dialog().btnClose.userClick();
+    });
+    whenShown.start(0);
+    act();
+    EXPECT_TRUE(came);
+  }
+
+  /// The picture that the user sees of the sheet.
+  QImage seen() const {
+    auto* view = QApplication::activeModalWidget()->findChild<QWidget*>();
+    for (QWidget* part : QApplication::activeModalWidget()->findChildren<QWidget*>()) {
+      if (dynamic_cast<desktop::PaperView*>(part) != nullptr) view = part;
+    }
+    return view->grab().toImage();
+  }
+};
+
+int darkPixels(const QImage& image) {
+  int count = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x)
+      count += image.pixelColor(x, y).lightness() < 80 ? 1 : 0;
+  }
+  return count;
+}
+
+TEST_F(PapersTest, KeysShowThePapersOfTheDocument) {
+  open(offLineOptions());
+  during([this] { press(Qt::Key_L, Qt::ControlModifier); },
+         [this] { EXPECT_EQ(dialog().lblNotes.caption(), "В документе нет упаковок."); });
+  during([this] { press(Qt::Key_P, Qt::ControlModifier); },
+         [this] {
+           EXPECT_EQ(dialog().lblSheet.caption(), "лист 1 из 1");
+           EXPECT_GT(darkPixels(seen()), 100) << "the sheet is drawn";
+         });
+}
+
+TEST_F(PapersTest, WritesThePapersOfASavedDocument) {
+  open(offLineOptions());
+  const std::string sample = (projectFolder() / "samples/despatch-advice.xml").string();
+  const std::string target = (place.folder() / "labels.pdf").string();
+  maker().askDocument = [&] { return QString::fromStdString(sample); };
+  maker().askTarget = [&](const QString& proposed) {
+    EXPECT_EQ(proposed, "Этикетки_ОТГ-0318.pdf");
+    return QString::fromStdString(target);
+  };
+  during([this] { maker().showSaved(); },
+         [this] {
+           EXPECT_EQ(dialog().lblSheet.caption(), "лист 1 из 4");
+           dialog().btnPdf.userClick();
+         });
+  EXPECT_TRUE(readFile(target).starts_with("%PDF-"));
+}
+
+TEST_F(PapersTest, TellsWhatCannotBeWrittenOrRead) {
+  open(offLineOptions());
+  const std::string sample = (projectFolder() / "samples/despatch-advice.xml").string();
+  maker().askDocument = [&] { return QString::fromStdString(sample); };
+  maker().askTarget = [](const QString&) { return QString("/nowhere/labels.pdf"); };
+  std::vector<std::string> boxes;
+  during([this] { maker().showSaved(); },
+         [&, this] { boxes = answerWithEnter([this] { dialog().btnPdf.userClick(); }); });
+  EXPECT_THAT(boxes, ::testing::ElementsAre(::testing::HasSubstr("нет такой папки")));
+  maker().askDocument = [&] { return QString("/nowhere/a.xml"); };
+  boxes = answerWithEnter([this] { maker().showSaved(); });
+  EXPECT_THAT(boxes, ::testing::ElementsAre(::testing::HasSubstr("нет такой папки")));
+}
+
+TEST_F(PapersTest, PrintsWhatIsShown) {
+  open(offLineOptions());
+  std::size_t printed = 0;
+  maker().print = [&](const papers::Pages& pages) {
+    printed = pages.size();
+    return true;
+  };
+  during([this] { maker().show(Paper::packingList); }, [this] { dialog().btnPrint.userClick(); });
+  EXPECT_EQ(printed, 1U);
+}
+
+}  // namespace
+}  // namespace awizo::test
