@@ -3,6 +3,7 @@
 
 #include "fuzz/targets.h"
 #include "hosts/headless/headless_program.h"
+#include "hosts/headless/native/native_machine.h"
 #include "hosts/protocol/values/json.h"
 #include "tests/support/control/test_control.h"
 #include "tests/support/fake_http.h"
@@ -24,7 +25,8 @@ void lines(std::string_view bytes) {
   options.now = Moment{makeDate(2026, 11, 21), {10, 15, 0}};
   std::istringstream in{std::string(bytes)};
   std::ostringstream out;
-  headless::runHeadless(options, {http, files}, in, out);
+  headless::NativeMachine machine(http, files);
+  headless::runHeadless(options, machine, in, out);
   std::istringstream replies(out.str());
   for (std::string line; std::getline(replies, line);) {
     const auto reply = protocol::Json::parse(line, nullptr, false);

@@ -9,7 +9,7 @@
 
 #include "adapters/posix/descriptor.h"
 #include "adapters/posix/errors.h"
-#include "adapters/posix/paths.h"
+#include "adapters/posix/paths/paths.h"
 #include "adapters/posix/replacing.h"
 #include "platform/text.h"
 

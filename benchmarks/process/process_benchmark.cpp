@@ -10,7 +10,7 @@
 #include "benchmarks/process/child.h"
 #include "benchmarks/process/roles.h"
 #include "benchmarks/support/full_size.h"
-#include "hosts/common/program/machine.h"
+#include "hosts/common/machine/machine.h"
 #include "hosts/desktop/program/addresses.h"
 #include "support/files/files.h"
 #include "support/programs/demo_service.h"

@@ -12,7 +12,7 @@
 #include "adapters/libxml2/libxml2.h"
 #include "adapters/posix/posix_files.h"
 #include "hosts/common/given_host.h"
-#include "hosts/common/program/machine.h"
+#include "hosts/common/machine/machine.h"
 #include "hosts/version.h"
 #include "session/awizo_wysylki.h"
 #include "tables/columns/columns.h"

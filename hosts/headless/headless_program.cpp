@@ -4,12 +4,8 @@
 #include <memory>
 #include <utility>
 
-#include "adapters/curl/curl_http.h"
-#include "adapters/icu/icu_locale.h"
 #include "adapters/libxml2/libxml2.h"
-#include "adapters/posix/posix_files.h"
 #include "hosts/common/given_host.h"
-#include "hosts/common/program/machine.h"
 #include "hosts/common/program/recorded_options.h"
 #include "hosts/headless/conversation.h"
 #include "hosts/headless/recording.h"
@@ -22,16 +18,12 @@ namespace awizo::headless {
 
 namespace {
 
-std::string localeName(const Options& options) {
-  return options.locale.empty() ? IcuLocale::environmentName() : options.locale;
-}
-
 /// The control in its surroundings, with a client that speaks lines to it.
 class Program {
  public:
   /// The options as they were given, and with what the replayed session adds.
   Program(const Options& given, const Options& options, journal::RecordedSession&& replayed,
-          const Outside& outside, std::istream& in, std::ostream& out);
+          Machine& machine, std::istream& in, std::ostream& out);
 
   /// From the control's creation to its end.
   void run();
@@ -42,7 +34,7 @@ class Program {
   Conversation conversation_;
   Libxml2 xml_;
   std::unique_ptr<GrowingFile> record_;
-  IcuLocale locale_;
+  std::unique_ptr<Locale> locale_;
   OptionsPage page_;
   OptionsBag bag_;
   ReportingHost host_;
@@ -62,28 +54,28 @@ void reportLostRecord(const std::string& description) {
 }
 
 Program::Program(const Options& given, const Options& options, journal::RecordedSession&& replayed,
-                 const Outside& outside, std::istream& in, std::ostream& out)
+                 Machine& machine, std::istream& in, std::ostream& out)
     : conversation_(in, out),
-      record_(newRecord(options, localeName(options))),
-      locale_(localeName(options)),
+      record_(newRecord(options, localeName(options, machine), machine)),
+      locale_(machine.locale(localeName(options, machine))),
       page_(options),
       bag_(options),
       host_([this](std::string_view property) {
         conversation_.emit(protocol::propertyEvent(property));
       }),
-      settings_(makeSettings(options)),
-      clock_(makeClock(options)),
+      settings_(machine.settings(options)),
+      clock_(machine.clock(options)),
       tape_(std::move(replayed.records), record_.get()),
       taped_(tape_,
              {.xml = xml_,
-              .http = outside.http,
+              .http = machine.http(),
               .page = page_,
               .bag = bag_,
               .host = host_,
               .settings = *settings_,
-              .files = outside.files,
+              .files = machine.files(),
               .clock = *clock_,
-              .locale = locale_,
+              .locale = *locale_,
               .screenFace = conversation_,
               .version = programVersion},
              askedToday(given)),
@@ -119,17 +111,10 @@ void Program::run() {
 
 }  // namespace
 
-int runHeadless(const Options& options, std::istream& in, std::ostream& out) {
-  CurlHttp http;
-  PosixFiles files;
-  return runHeadless(options, {http, files}, in, out);
-}
-
-int runHeadless(const Options& options, const Outside& outside, std::istream& in,
-                std::ostream& out) {
-  journal::RecordedSession replayed = sessionToReplay(options);
+int runHeadless(const Options& options, Machine& machine, std::istream& in, std::ostream& out) {
+  journal::RecordedSession replayed = sessionToReplay(options, machine);
   const Options whole = withRecorded(options, replayed.header);
-  Program program(options, whole, std::move(replayed), outside, in, out);
+  Program program(options, whole, std::move(replayed), machine, in, out);
   try {
     program.run();
   } catch (const journal::ReplayDiffers& differs) {

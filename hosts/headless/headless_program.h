@@ -3,8 +3,7 @@
 #include <iosfwd>
 
 #include "hosts/common/options.h"
-#include "platform/files.h"
-#include "platform/http.h"
+#include "hosts/headless/machine.h"
 
 namespace awizo::headless {
 
@@ -17,16 +16,6 @@ inline constexpr int exitInputEndedEarly = 3;  ///< under an open box or modal f
 
 /// Creates the control, serves the lines of `in` and takes the control down at their end. Returns
 /// the exit status. Throws RunTimeError where the settings asked for can't be kept.
-int runHeadless(const Options& options, std::istream& in, std::ostream& out);
-
-/// What the program reaches besides its lines.
-struct Outside {
-  Http& http;
-  Files& files;
-};
-
-/// The same with another network and other disks than the machine's own.
-int runHeadless(const Options& options, const Outside& outside, std::istream& in,
-                std::ostream& out);
+int runHeadless(const Options& options, Machine& machine, std::istream& in, std::ostream& out);
 
 }  // namespace awizo::headless

@@ -1,19 +1,15 @@
 #include "hosts/headless/recording.h"
 
-#include <fcntl.h>
-
-#include "adapters/posix/descriptor.h"
-#include "adapters/posix/posix_growing_file.h"
 #include "hosts/common/program/recorded_options.h"
 #include "journal/record_file.h"
 #include "platform/run_time_error.h"
 
 namespace awizo::headless {
 
-journal::RecordedSession sessionToReplay(const Options& options) {
+journal::RecordedSession sessionToReplay(const Options& options, Machine& machine) {
   if (!options.replayFile) return {};
   try {
-    const std::string bytes = posix::Descriptor(*options.replayFile, O_RDONLY).readAll();
+    const std::string bytes = machine.readFile(*options.replayFile);
     return options.acts ? journal::recordedSession(bytes, *options.acts)
                         : journal::recordedSession(bytes);
   } catch (const RunTimeError& error) {
@@ -23,10 +19,11 @@ journal::RecordedSession sessionToReplay(const Options& options) {
   }
 }
 
-std::unique_ptr<GrowingFile> newRecord(const Options& options, const std::string& localeName) {
+std::unique_ptr<GrowingFile> newRecord(const Options& options, const std::string& localeName,
+                                       Machine& machine) {
   if (!options.recordFile) return nullptr;
   try {
-    auto file = std::make_unique<PosixGrowingFile>(*options.recordFile);
+    std::unique_ptr<GrowingFile> file = machine.newFile(*options.recordFile);
     file->append(journal::fileBeginning() +
                  journal::framed(journal::headerRecord(headerOf(options, localeName))));
     return file;

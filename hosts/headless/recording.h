@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "hosts/common/options.h"
+#include "hosts/headless/machine.h"
 #include "hosts/protocol/values/json.h"
 #include "journal/loading.h"
 #include "platform/growing_file.h"
@@ -16,11 +17,12 @@ namespace awizo::headless {
 
 /// The session that is to be replayed; an empty one where none is asked for. Throws BadArguments
 /// where the file can't be read or holds no session.
-journal::RecordedSession sessionToReplay(const Options& options);
+journal::RecordedSession sessionToReplay(const Options& options, Machine& machine);
 
 /// The new file of the record, which begins with what the options say; null where none is asked
 /// for. Throws BadArguments where it is there already or can't be made.
-std::unique_ptr<GrowingFile> newRecord(const Options& options, const std::string& localeName);
+std::unique_ptr<GrowingFile> newRecord(const Options& options, const std::string& localeName,
+                                       Machine& machine);
 
 /// A line of the host's as a record's texts, and back. A line that isn't the host's gives none.
 std::vector<std::string> hostActOf(const protocol::Json& line);

@@ -8,7 +8,7 @@
 
 #include "adapters/libxml2/libxml2.h"
 #include "adapters/posix/descriptor.h"
-#include "adapters/posix/paths.h"
+#include "adapters/posix/paths/paths.h"
 #include "adapters/posix/posix_files.h"
 #include "adapters/posix/replacing.h"
 #include "adapters/qt_paper/qt_paper.h"

@@ -6,7 +6,10 @@
 #include <streambuf>
 #include <utility>
 
+#include "adapters/curl/curl_http.h"
+#include "adapters/posix/posix_files.h"
 #include "hosts/headless/headless_program.h"
+#include "hosts/headless/native/native_machine.h"
 #include "packagedialog/serial_number.h"
 #include "support/files/files.h"
 
@@ -109,7 +112,10 @@ void PreparedEditor::run(const std::function<void()>& then) const {
   Lines lines(preparingLines(), then);
   std::istream in(&lines);
   std::ofstream out("/dev/null");
-  headless::runHeadless(options, in, out);
+  CurlHttp http;
+  PosixFiles files;
+  headless::NativeMachine machine(http, files);
+  headless::runHeadless(options, machine, in, out);
 }
 
 }  // namespace awizo::test

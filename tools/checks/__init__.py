@@ -1,7 +1,7 @@
 """The checks by name, the quick ones first. A check takes the project and returns a list of problems."""
 
-from checks import (comments, compiled, documents, formatting, includes, levels, portable, scripts, tidy,
-                    words)
+from checks import (comments, compiled, documents, formatting, includes, levels, lockfiles, portable,
+                    scripts, tidy, words)
 
 CHECKS = {
     "levels": levels.check_levels,
@@ -12,6 +12,7 @@ CHECKS = {
     "words": words.check,
     "comments": comments.check,
     "documents": documents.check,
+    "lockfiles": lockfiles.check,
     "scripts": scripts.check,
     "formatting": formatting.check,
     "warnings": compiled.check,

@@ -7,7 +7,7 @@
 #include <QTimer>
 #include <utility>
 
-#include "adapters/posix/paths.h"
+#include "adapters/posix/paths/paths.h"
 #include "desk/document_watch.h"
 #include "desk/host_boxes.h"
 #include "desk/layout_words.h"

@@ -7,8 +7,8 @@
 
 #include "desk/commands.h"
 #include "hosts/common/given_host.h"
+#include "hosts/common/machine/machine.h"
 #include "hosts/common/options.h"
-#include "hosts/common/program/machine.h"
 #include "hosts/desktop/window/awizo_wysylki_widget.h"
 #include "hosts/desktop/window/start_page_widget.h"
 

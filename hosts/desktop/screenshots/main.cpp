@@ -11,7 +11,7 @@
 
 #include "adapters/posix/clocks.h"
 #include "hosts/common/given_host.h"
-#include "hosts/common/program/machine.h"
+#include "hosts/common/machine/machine.h"
 #include "hosts/desktop/screenshots/demo_http.h"
 #include "hosts/desktop/screenshots/demo_user.h"
 #include "hosts/desktop/window/start_page_widget.h"

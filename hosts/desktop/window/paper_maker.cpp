@@ -7,7 +7,7 @@
 #include <QPrinter>
 #include <QStandardPaths>
 
-#include "adapters/posix/paths.h"
+#include "adapters/posix/paths/paths.h"
 #include "desk/host_boxes.h"
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/text.h"

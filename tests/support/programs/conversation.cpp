@@ -33,12 +33,17 @@ void noteSeenBox(const Json& box) {
   seen << visible(box["title"]) + "\t" + visible(box["text"]) + "\n";
 }
 
+std::string headlessProgram() {
+  const char* other = std::getenv("AWIZO_HEADLESS");
+  return other == nullptr || *other == '\0' ? AWIZO_HEADLESS : other;
+}
+
 }  // namespace
 
 std::vector<std::string> headlessCommand(const std::vector<std::string>& options,
                                          const std::vector<std::string>& launcher) {
   std::vector<std::string> command = launcher;
-  command.emplace_back(AWIZO_HEADLESS);
+  command.push_back(headlessProgram());
   command.insert(command.end(), options.begin(), options.end());
   return command;
 }

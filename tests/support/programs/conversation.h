@@ -13,7 +13,9 @@ namespace awizo::test {
 
 using Json = nlohmann::ordered_json;
 
-/// The command that starts awizo-headless with these options, by the launcher if there is one.
+/// The command that starts awizo-headless with these options, by the launcher if there is one. The
+/// environment's AWIZO_HEADLESS names another program, by its whole path, that speaks the same
+/// lines.
 std::vector<std::string> headlessCommand(const std::vector<std::string>& options,
                                          const std::vector<std::string>& launcher = {});
 

@@ -11,9 +11,8 @@ namespace awizo {
 /// The machine's clock, or a fixed time where the options say so.
 std::unique_ptr<Clock> makeClock(const Options& options);
 
-/// The file that the options name, else the user's own; with nothing but a folder of off-line work
-/// named, a store in memory. That folder is put in. Raises the error of a file that can't be
-/// written.
+/// The store that the options choose, in files of the machine. Raises the error of a file that
+/// can't be written.
 std::unique_ptr<SettingsStore> makeSettings(const Options& options);
 
 }  // namespace awizo

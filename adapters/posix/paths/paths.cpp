@@ -1,4 +1,4 @@
-#include "adapters/posix/paths.h"
+#include "adapters/posix/paths/paths.h"
 
 #include <algorithm>
 

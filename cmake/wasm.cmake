@@ -1,0 +1,30 @@
+# Compiling for a page: Debian's clang on its WASI library, and the libraries that tools/wasm has made.
+set(CMAKE_SYSTEM_NAME Generic)
+set(CMAKE_SYSTEM_PROCESSOR wasm32)
+set(UNIX 1)
+set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
+set(AWIZO_WASM ON)
+
+set(CMAKE_C_FLAGS_INIT "-fno-stack-protector -fwasm-exceptions")
+set(CMAKE_CXX_FLAGS_INIT
+  "-fno-stack-protector -fwasm-exceptions -nostdinc++ -isystem $ENV{AWIZO_WASM_LIBRARIES}/include/c++/v1")
+foreach(language C CXX ASM)
+  set(CMAKE_${language}_COMPILER_TARGET wasm32-wasi)
+  set(CMAKE_${language}_COMPILER_WORKS ON)
+endforeach()
+set(CMAKE_C_COMPILER clang-19)
+set(CMAKE_CXX_COMPILER clang++-19)
+set(CMAKE_ASM_COMPILER clang-19)
+set(CMAKE_AR /usr/bin/llvm-ar-19)
+set(CMAKE_RANLIB /usr/bin/llvm-ranlib-19)
+
+# What of the machine's own lies in /usr is for another processor.
+set(CMAKE_FIND_USE_CMAKE_SYSTEM_PATH OFF)
+set(CMAKE_FIND_USE_SYSTEM_ENVIRONMENT_PATH ON)
+if(NOT DEFINED ENV{AWIZO_WASM_LIBRARIES})
+  message(FATAL_ERROR "The preset wasm is built by tools/wasm")
+endif()
+set(libraries "$ENV{AWIZO_WASM_LIBRARIES}")
+set(CMAKE_PREFIX_PATH "${libraries}")
+set(LIBXML2_INCLUDE_DIR "${libraries}/include/libxml2" CACHE PATH "")
+set(LIBXML2_LIBRARY "${libraries}/lib/libxml2.a" CACHE FILEPATH "")

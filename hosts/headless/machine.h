@@ -1,0 +1,40 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "hosts/common/options.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/growing_file.h"
+#include "platform/http.h"
+#include "platform/locale.h"
+#include "platform/settings.h"
+
+namespace awizo::headless {
+
+/// What the program takes from the machine that it runs on, whichever that is. Paths here are the
+/// machine's own; failures raise the run-time errors of Files.
+class Machine {
+ public:
+  virtual ~Machine() = default;
+  virtual Http& http() = 0;
+  virtual Files& files() = 0;
+  /// As the options choose.
+  virtual std::unique_ptr<Clock> clock(const Options& options) = 0;
+  virtual std::unique_ptr<SettingsStore> settings(const Options& options) = 0;
+  /// The name of the environment's locale.
+  virtual std::string localeName() = 0;
+  virtual std::unique_ptr<Locale> locale(const std::string& name) = 0;
+  virtual std::string readFile(const std::string& path) = 0;
+  /// A file that isn't there yet.
+  virtual std::unique_ptr<GrowingFile> newFile(const std::string& path) = 0;
+  virtual std::string absolutePath(const std::string& path) = 0;
+};
+
+/// The name of the locale that the options choose.
+inline std::string localeName(const Options& options, Machine& machine) {
+  return options.locale.empty() ? machine.localeName() : options.locale;
+}
+
+}  // namespace awizo::headless

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace awizo::web {
+
+// The border between the core and the JavaScript around it. A question is its name and its
+// arguments, the answer a list too: all of them bytes, so that nothing is encoded twice.
+
+using Fields = std::vector<std::string>;
+
+/// Asks what may take time. The core is suspended meanwhile, with all that is on its stack.
+Fields ask(const Fields& question);
+/// Asks what is known at once.
+Fields askNow(const Fields& question);
+
+/// The answer to a question that can fail begins with the number of its run-time error, "0" for
+/// none: raises that error, or returns what follows.
+Fields checked(Fields answer);
+
+}  // namespace awizo::web

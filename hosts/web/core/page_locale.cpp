@@ -1,0 +1,86 @@
+#include "hosts/web/core/page_locale.h"
+
+#include <cstring>
+#include <stdexcept>
+#include <utility>
+
+#include "hosts/web/core/border.h"
+
+namespace awizo::web {
+
+namespace {
+
+std::string dateText(Date date) {
+  return std::to_string(int(date.year())) + "-" + std::to_string(unsigned(date.month())) + "-" +
+         std::to_string(unsigned(date.day()));
+}
+
+std::string timeText(TimeOfDay time) {
+  return std::to_string(time.hour) + ":" + std::to_string(time.minute) + ":" +
+         std::to_string(time.second);
+}
+
+DateOrder dateOrder(std::string_view letters) {
+  if (letters == "mdy") return DateOrder::monthDayYear;
+  return letters == "dmy" ? DateOrder::dayMonthYear : DateOrder::yearMonthDay;
+}
+
+}  // namespace
+
+PageLocale::PageLocale(std::string name) : name_(std::move(name)) {
+  Fields facts = askNow({"facts", name_});
+  facts_.decimalSeparator = facts.at(0);
+  facts_.currencySign = facts.at(1);
+  facts_.dateOrder = dateOrder(facts.at(2));
+  facts_.dotSeparatesDates = facts.at(3) == "1";
+  facts_.groupSeparators.assign(facts.begin() + 4, facts.end());
+}
+
+std::string PageLocale::text(const char* question, std::string argument) const {
+  return std::move(askNow({question, name_, std::move(argument)}).at(0));
+}
+
+std::string PageLocale::shortDate(Date date) const { return text("shortDate", dateText(date)); }
+
+std::string PageLocale::shortTime(TimeOfDay time) const {
+  return text("shortTime", timeText(time));
+}
+
+std::string PageLocale::longDate(Date date) const { return text("longDate", dateText(date)); }
+
+std::string PageLocale::upper(std::string_view given) const {
+  return text("upper", std::string(given));
+}
+
+std::string PageLocale::lower(std::string_view given) const {
+  return text("lower", std::string(given));
+}
+
+std::vector<std::int32_t> PageLocale::ranks(const std::vector<std::string_view>& texts) const {
+  Fields question{"ranks", name_};
+  question.insert(question.end(), texts.begin(), texts.end());
+  // The ranks' own bytes, one after another.
+  const std::string bytes = askNow(question).at(0);
+  std::vector<std::int32_t> ranks(texts.size());
+  if (bytes.size() != ranks.size() * sizeof(std::int32_t)) {
+    throw std::logic_error("not as many ranks as texts");
+  }
+  if (!bytes.empty()) std::memcpy(ranks.data(), bytes.data(), bytes.size());
+  return ranks;
+}
+
+int PageLocale::compare(std::string_view left, std::string_view right) const {
+  const std::string sign = askNow({"compare", name_, std::string(left), std::string(right)}).at(0);
+  if (sign == "0") return 0;
+  return sign == "-1" ? -1 : 1;
+}
+
+std::string PageLocale::toSingleByte(std::string_view given) const {
+  return text("toSingleByte", std::string(given));
+}
+
+std::string PageLocale::fromSingleByte(std::string_view bytes) const {
+  return text("fromSingleByte", std::string(bytes));
+}
+
+}  // namespace awizo::web

@@ -1,0 +1,31 @@
+#include "hosts/web/headless/page_machine.h"
+
+#include "hosts/common/program/chosen.h"
+#include "hosts/web/core/border.h"
+#include "hosts/web/core/page_clock.h"
+#include "hosts/web/core/page_locale.h"
+#include "hosts/web/core/page_settings.h"
+
+namespace awizo::web {
+
+std::unique_ptr<Clock> PageMachine::clock(const Options& options) {
+  return chosenClock(options, std::make_unique<PageClock>());
+}
+
+std::unique_ptr<SettingsStore> PageMachine::settings(const Options& options) {
+  return chosenSettings(options, [](const std::optional<std::string>& file) {
+    return std::make_unique<PageSettings>(file.value_or(""));
+  });
+}
+
+std::string PageMachine::localeName() { return askNow({"localeName"}).at(0); }
+
+std::unique_ptr<Locale> PageMachine::locale(const std::string& name) {
+  return std::make_unique<PageLocale>(name);
+}
+
+std::string PageMachine::absolutePath(const std::string& path) {
+  return askNow({"absolutePath", path}).at(0);
+}
+
+}  // namespace awizo::web

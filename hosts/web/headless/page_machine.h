@@ -1,0 +1,29 @@
+#pragma once
+
+#include "hosts/headless/machine.h"
+#include "hosts/web/core/page_files.h"
+#include "hosts/web/core/page_http.h"
+
+namespace awizo::web {
+
+/// The machine behind the border.
+class PageMachine final : public headless::Machine {
+ public:
+  Http& http() override { return http_; }
+  Files& files() override { return files_; }
+  std::unique_ptr<Clock> clock(const Options& options) override;
+  std::unique_ptr<SettingsStore> settings(const Options& options) override;
+  std::string localeName() override;
+  std::unique_ptr<Locale> locale(const std::string& name) override;
+  std::string readFile(const std::string& path) override { return readPageFile(path); }
+  std::unique_ptr<GrowingFile> newFile(const std::string& path) override {
+    return newPageFile(path);
+  }
+  std::string absolutePath(const std::string& path) override;
+
+ private:
+  PageHttp http_;
+  PageFiles files_;
+};
+
+}  // namespace awizo::web

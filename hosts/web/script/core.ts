@@ -1,0 +1,111 @@
+// The core: loaded, started, and connected with what answers its questions.
+
+import { bytesOf, pack, textOf, unpack, type Field } from "./fields.ts";
+
+/// Answers the core. What the fields share with the core's memory changes once it goes on.
+export interface Surroundings {
+  /// A question that may take time.
+  ask(name: string, fields: Uint8Array[]): Promise<readonly Field[]>;
+  /// A question that is answered at once.
+  askNow(name: string, fields: Uint8Array[]): readonly Field[];
+}
+
+export interface Core {
+  /// From the core's start to its end; its exit status.
+  run(): Promise<number>;
+  /// Bytes of memory that it has taken.
+  memory(): number;
+}
+
+interface Exports {
+  memory: WebAssembly.Memory;
+  malloc(size: number): number;
+  run(): number;
+  _initialize(): void;
+}
+
+/// What is missing from WebAssembly's declarations.
+interface Suspension {
+  Suspending: new (ask: (at: number, size: number) => Promise<number>) => WebAssembly.ImportValue;
+  promising(run: () => number): () => Promise<number>;
+}
+
+const success = 0;
+const badFile = 8;
+const notSupported = 52;
+const complaints = 2;
+const vectorSize = 8;
+
+/// Whether this browser can suspend the core while it waits.
+export function canSuspend(): boolean {
+  return "Suspending" in WebAssembly && "promising" in WebAssembly;
+}
+
+export async function loadCore(module: WebAssembly.Module, surroundings: Surroundings): Promise<Core> {
+  const suspension = WebAssembly as unknown as Suspension;
+  let core: Exports;
+
+  const bytes = (at: number, size: number) => new Uint8Array(core.memory.buffer, at, size);
+  const view = () => new DataView(core.memory.buffer);
+  const question = (at: number, size: number): [string, Uint8Array[]] => {
+    const [name, ...fields] = unpack(bytes(at, size).slice());
+    return [textOf(name), fields];
+  };
+  const answer = (fields: readonly Field[]): number => {
+    const packed = pack(fields);
+    const at = core.malloc(packed.length) >>> 0;
+    if (at === 0) throw new Error("the core is out of memory");
+    bytes(at, packed.length).set(packed);
+    return at;
+  };
+
+  // What the C++ library asks of a system: it only complains, and asks for nothing else.
+  const system: Record<string, (...values: number[]) => number> = {
+    fd_write(file, vectors, count, written) {
+      let size = 0;
+      for (let i = 0; i < count!; ++i) {
+        const vector = vectors! + i * vectorSize;
+        const part = bytes(view().getUint32(vector, true), view().getUint32(vector + 4, true));
+        if (file === complaints) surroundings.askNow("complain", [part.slice()]);
+        size += part.length;
+      }
+      view().setUint32(written!, size, true);
+      return success;
+    },
+    environ_sizes_get(count, size) {
+      view().setUint32(count!, 0, true);
+      view().setUint32(size!, 0, true);
+      return success;
+    },
+    environ_get: () => success,
+    // There is no folder that the core begins with.
+    fd_prestat_get: () => badFile,
+    proc_exit(status) {
+      throw new Error(`the core has ended with ${status}`);
+    },
+  };
+  const systemOrNothing: WebAssembly.ModuleImports = {};
+  for (const wanted of WebAssembly.Module.imports(module)) {
+    if (wanted.module !== "wasi_snapshot_preview1") continue;
+    systemOrNothing[wanted.name] = system[wanted.name] ?? (() => notSupported);
+  }
+
+  const instance = await WebAssembly.instantiate(module, {
+    page: {
+      ask: new suspension.Suspending(async (at, size) => answer(await surroundings.ask(...question(at, size)))),
+      askNow: (at: number, size: number) => answer(surroundings.askNow(...question(at, size))),
+    },
+    wasi_snapshot_preview1: systemOrNothing,
+  });
+  core = instance.exports as unknown as Exports;
+  core._initialize();
+  return {
+    run: suspension.promising(core.run),
+    memory: () => core.memory.buffer.byteLength,
+  };
+}
+
+/// Ranks as the core takes them: the numbers' own bytes.
+export function rankBytes(ranks: Int32Array): Uint8Array {
+  return bytesOf(new Uint8Array(ranks.buffer, ranks.byteOffset, ranks.byteLength));
+}

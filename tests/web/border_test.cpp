@@ -1,0 +1,86 @@
+#include <cstdint>
+
+#include "hosts/web/core/page_files.h"
+#include "hosts/web/core/page_http.h"
+#include "hosts/web/core/page_locale.h"
+#include "platform/run_time_error.h"
+#include "web/played_border.h"
+
+namespace awizo::web::test {
+namespace {
+
+using testing::ElementsAre;
+
+std::int32_t errorNumberOf(const std::function<void()>& work) {
+  try {
+    work();
+  } catch (const RunTimeError& error) {
+    return error.number();
+  }
+  return 0;
+}
+
+TEST(Border, BytesCrossItAsTheyAre) {
+  const std::string bytes("\0\xFF\r\n молоко", 20);
+  PlayedBorder border([](const Fields& question) { return question; });
+  EXPECT_THAT(ask({"a", "", bytes}), ElementsAre("a", "", bytes));
+  EXPECT_THAT(askNow({}), ElementsAre());
+}
+
+TEST(Border, AnAnswerThatBeginsWithAnErrorRaisesIt) {
+  for (const std::int32_t number : {7, 52, 53, 61, 68, 70, 71, 75, 76, -2146697211, -2146697208}) {
+    const Fields answer{std::to_string(number)};
+    EXPECT_EQ(errorNumberOf([&] { checked(answer); }), number);
+  }
+  EXPECT_EQ(errorNumberOf([] { checked({"999"}); }), errors::pathFileAccess().number());
+  EXPECT_THAT(checked({"0", "x"}), ElementsAre("x"));
+}
+
+TEST(PageFiles, AreAskedForByThePathsOfAOneRootSystem) {
+  PlayedBorder border([](const Fields&) { return Fields{"0", "text"}; });
+  PageFiles files;
+  EXPECT_EQ(files.readAll("c:\\home\\anna\\a.xml"), "text");
+  EXPECT_THAT(border.questions, ElementsAre(ElementsAre("read", "/home/anna/a.xml")));
+  EXPECT_EQ(errorNumberOf([&] { files.readAll("d:\\a.xml"); }), 68);
+  EXPECT_FALSE(files.folderExists("d:\\"));
+}
+
+TEST(PageFiles, ATextIsOpenFromItsCreationToItsEnd) {
+  PlayedBorder border([](const Fields&) { return Fields{"0", "5"}; });
+  PageFiles().createText("/a.log")->writeLine("строка");
+  EXPECT_THAT(border.questions,
+              ElementsAre(ElementsAre("open", "/a.log", "create"),
+                          ElementsAre("append", "5", "строка\r\n"), ElementsAre("close", "5")));
+}
+
+TEST(PageHttp, AReplyIsHandedOverOnce) {
+  PlayedBorder border([](const Fields&) { return Fields{"0", "<a/>"}; });
+  const std::unique_ptr<HttpRequest> request = PageHttp().createRequest();
+  request->open("POST", "https://example.org/a");
+  request->setHeader("Cookie", "a=1");
+  EXPECT_EQ(errorNumberOf([&] { request->setHeader("Cookie", "a=1\r\nB: 2"); }), 5);
+  request->send("body");
+  EXPECT_THAT(border.questions, ElementsAre(ElementsAre("http", "POST", "https://example.org/a",
+                                                        "body", "Cookie", "a=1")));
+  EXPECT_EQ(request->responseText(), "<a/>");
+  EXPECT_EQ(errorNumberOf([&] { request->responseText(); }), -2147483638);
+}
+
+TEST(PageLocale, FactsAndRanksAreTakenAsTheyAreTold) {
+  const PlayedBorder border([](const Fields& question) -> Fields {
+    if (question[0] == "facts") return {",", "₽", "dmy", "1", "\u00A0", " "};
+    if (question[0] == "ranks") return {std::string("\1\0\0\0\0\0\0\0", 8)};
+    return {"-1"};
+  });
+  const PageLocale locale("ru_RU");
+  EXPECT_EQ(locale.facts().decimalSeparator, ",");
+  EXPECT_EQ(locale.facts().dateOrder, DateOrder::dayMonthYear);
+  EXPECT_TRUE(locale.facts().dotSeparatesDates);
+  EXPECT_THAT(locale.facts().groupSeparators, ElementsAre("\u00A0", " "));
+  EXPECT_THAT(locale.ranks({"б", "а"}), ElementsAre(1, 0));
+  EXPECT_THROW(locale.ranks({"а"}), std::logic_error);
+  EXPECT_EQ(locale.compare("а", "б"), -1);
+}
+
+}  // namespace
+}  // namespace awizo::web::test
