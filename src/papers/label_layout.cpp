@@ -136,7 +136,7 @@ class LabelLayout {
     for (double size = scale_.comfortableText; size > scale_.smallestText; size -= step) {
       manners.push_back({size, std::min<std::size_t>(all, 1), 0});
     }
-    for (const std::size_t lines : {3, 2, 1}) {
+    for (const std::size_t lines : {3U, 2U, 1U}) {
       manners.push_back({scale_.smallestText, std::min<std::size_t>(all, 1), lines});
     }
     return manners;
