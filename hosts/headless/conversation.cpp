@@ -1,6 +1,5 @@
 #include "hosts/headless/conversation.h"
 
-#include <optional>
 #include <utility>
 
 #include "hosts/protocol/answers.h"
@@ -10,7 +9,7 @@
 namespace awizo::headless {
 
 void Conversation::run() {
-  while (const std::optional<std::string> line = lines_.read()) serve(*line);
+  while (const std::optional<std::string> line = waitForLine()) serve(*line);
 }
 
 Answer Conversation::ask(const MessageBox& box) {
@@ -48,8 +47,13 @@ void Conversation::endProgram() {
   throw ProgramEnded{};
 }
 
+std::optional<std::string> Conversation::waitForLine() {
+  beforeWaiting();
+  return lines_.read();
+}
+
 std::string Conversation::nextLine() {
-  std::optional<std::string> line = lines_.read();
+  std::optional<std::string> line = waitForLine();
   if (!line) {
     givenUp_ = true;
     throw InputEnded{};

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <iosfwd>
+#include <optional>
 #include <string>
 
 #include "hosts/headless/line_stream.h"
@@ -28,6 +29,8 @@ class Conversation : public ScreenFace {
   /// but what a procedure did before its error. While a box is open only lines that get something
   /// come here.
   std::function<protocol::Json(const protocol::Json& line)> act;
+  /// Called whenever all is told and the next line is waited for.
+  std::function<void()> beforeWaiting = [] {};
   /// Nothing is told for now.
   bool silent = false;
 
@@ -47,6 +50,7 @@ class Conversation : public ScreenFace {
   [[noreturn]] void endProgram() override;
 
  private:
+  std::optional<std::string> waitForLine();
   std::string nextLine();
   void serve(const std::string& text);
 

@@ -8,8 +8,10 @@
 #include "hosts/common/given_host.h"
 #include "hosts/common/program/recorded_options.h"
 #include "hosts/headless/conversation.h"
+#include "hosts/headless/desk_records.h"
 #include "hosts/headless/recording.h"
 #include "hosts/protocol/answers.h"
+#include "hosts/protocol/changes/feed_actions.h"
 #include "hosts/protocol/control_access.h"
 #include "hosts/version.h"
 #include "journal/recording.h"
@@ -46,6 +48,7 @@ class Program {
   AwizoWysylki control_;
   journal::Recording recording_;
   protocol::ControlAccess access_;
+  protocol::ChangeFeed feed_;
 };
 
 void reportLostRecord(const std::string& description) {
@@ -82,7 +85,12 @@ Program::Program(const Options& given, const Options& options, journal::Recorded
       session_(taped_.platform),
       control_(taped_.platform, session_),
       recording_(tape_, taped_, control_),
-      access_(control_, bag_) {
+      access_(control_, bag_),
+      feed_(access_.forms(),
+            [this](const protocol::Json& changes) { conversation_.emit(changes); }) {
+  protocol::addFeedActions(access_.dispatcher(), access_.forms(), feed_);
+  addDeskRecords(access_.dispatcher(), control_);
+  conversation_.beforeWaiting = [this] { feed_.flush(); };
   for (Form* dialog : access_.dialogs()) conversation_.watch(*dialog);
   conversation_.act = [this](const protocol::Json& line) { return access_.act(line); };
   access_.dispatcher().noteHostDeed = [this](const protocol::Json& line, const auto& deed) {

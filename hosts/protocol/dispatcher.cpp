@@ -25,6 +25,8 @@ Json Dispatcher::doNoted(const Json& line, const std::function<Json()>& deed) {
 
 void Dispatcher::perform(const Json& line) {
   const std::string action = textMember(line, "do");
+  const auto clientAction = clientActions.find(action);
+  if (clientAction != clientActions.end()) return clientAction->second(line);
   const auto hostAction = hostActions.find(action);
   if (hostAction != hostActions.end()) {
     doNoted(line, [&] {

@@ -20,6 +20,8 @@ class Dispatcher {
 
   /// What the host itself does ("show", "terminate"): by the name of its "do".
   std::map<std::string, std::function<void(const Json& line)>, std::less<>> hostActions;
+  /// What a client says of itself, by the name of its "do": no deed, so nobody notes it.
+  std::map<std::string, std::function<void(const Json& line)>, std::less<>> clientActions;
   /// What "get" answers besides the forms and their controls ("session", "settings").
   std::map<std::string, std::function<Json()>, std::less<>> records;
   Procedures procedures;

@@ -229,5 +229,70 @@ TEST(Nonsense, OfAnyKindGetsAnAnswerAndTheProgramGoesOn) {
   EXPECT_EQ(editor.finish(), 0);
 }
 
+/// The events of changes since the last call, as one object of controls.
+Json changedControls(Conversation& editor) {
+  Json controls = Json::object();
+  for (const Json& event : editor.takeEvents()) {
+    if (event["event"] == "changes" && event.contains("controls")) {
+      for (const auto& [name, facts] : event["controls"].items()) controls[name] = facts;
+    }
+  }
+  return controls;
+}
+
+TEST(Feed, AClientThatSubscribesHearsOfAllThatChanges) {
+  const Supplier supplier;
+  Conversation editor = supplier.startOffLine();
+  editor.show();
+  EXPECT_THAT(changedControls(editor), IsEmpty());
+  editor.act({{"do", "subscribe"}});
+  EXPECT_EQ(changedControls(editor)["btnZapisz"]["kind"], "pictureButton");
+  editor.type("txtNrAwiza", "1");
+  EXPECT_EQ(changedControls(editor)["txtNrAwiza"], Json({{"text", "1"}}));
+  editor.act({{"do", "unsubscribe"}});
+  editor.type("txtNrAwiza", "2");
+  EXPECT_THAT(changedControls(editor), IsEmpty());
+}
+
+TEST(Feed, ChangesAreToldBeforeABoxWaitsForItsAnswer) {
+  const Supplier supplier;
+  Conversation editor = supplier.startOffLine();
+  editor.act({{"do", "subscribe"}});
+  editor.show();
+  editor.type("txtNrAwiza", "1");
+  editor.click("btnZapisz");
+  EXPECT_NE(editor.openBox(), "");
+  EXPECT_TRUE(changedControls(editor).contains("txtNrAwiza"));
+  editor.answerAll();
+}
+
+TEST(Feed, SubscribingIsNoDeedOfARecord) {
+  const Supplier supplier;
+  const std::string record = (supplier.place.documents() / "session.record").string();
+  {
+    Conversation editor = supplier.startOffLine({"--record", record});
+    editor.act({{"do", "subscribe"}});
+    editor.show();
+    editor.type("txtNrAwiza", "1");
+    editor.finish();
+  }
+  Conversation again({"--replay", record, "--acts", "2"});
+  EXPECT_EQ(again.text("txtNrAwiza"), "1");
+  EXPECT_THAT(again.takeEvents(), IsEmpty());
+}
+
+TEST(Commands, AreToldWithTheirButtonsAndKeys) {
+  const Supplier supplier;
+  Conversation editor = supplier.startOffLine();
+  const Json menus = editor.get("commands");
+  EXPECT_EQ(menus[0]["heading"], "&Документ");
+  const Json save{{"words", "Сохранить"},
+                  {"icon", "save"},
+                  {"on", "btnZapisz"},
+                  {"keys", Json::array({{{"code", 'S'}, {"control", true}}})},
+                  {"place", nullptr}};
+  EXPECT_THAT(std::vector<Json>(menus[0]["commands"]), testing::Contains(save));
+}
+
 }  // namespace
 }  // namespace awizo::test

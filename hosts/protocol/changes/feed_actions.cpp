@@ -25,13 +25,13 @@ RowRange rowsIn(const Json& line) {
 }  // namespace
 
 void addFeedActions(Dispatcher& dispatcher, const FormDirectory& forms, ChangeFeed& feed) {
-  dispatcher.hostActions["subscribe"] = [&](const Json& line) {
+  dispatcher.clientActions["subscribe"] = [&](const Json& line) {
     for (Form* form : formsIn(line, forms)) feed.subscribe(*form);
   };
-  dispatcher.hostActions["unsubscribe"] = [&](const Json& line) {
+  dispatcher.clientActions["unsubscribe"] = [&](const Json& line) {
     for (const Form* form : formsIn(line, forms)) feed.unsubscribe(*form);
   };
-  dispatcher.hostActions["see"] = [&](const Json& line) {
+  dispatcher.clientActions["see"] = [&](const Json& line) {
     const Control& control = forms.control(textMember(line, "on"));
     feed.show(control, rowsIn(line));
   };
