@@ -74,7 +74,7 @@ class LargeService {
   void agreeTo(const std::string& page) const {
     Options options;
     options.settingsFile = place_.settings().string();
-    desktop::AgreedAddresses(*makeSettings(options)).add(desktop::originOf(page));
+    AgreedAddresses(*makeSettings(options)).add(originOf(desktop::splitAddress, page));
   }
 
   test::Workplace place_;

@@ -15,7 +15,7 @@ void takeProperty(Options& options, const std::string& entry) {
   const std::size_t equals = entry.find('=');
   const std::string name = entry.substr(0, equals);
   if (equals == std::string::npos ||
-      std::ranges::find(propertyNames, name) == propertyNames.end()) {
+      std::ranges::find(properties::names, name) == properties::names.end()) {
     throw BadArguments("no such property: " + entry);
   }
   options.properties[name] = entry.substr(equals + 1);

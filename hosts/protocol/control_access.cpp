@@ -1,5 +1,8 @@
 #include "hosts/protocol/control_access.h"
 
+#include <functional>
+#include <map>
+
 #include "formats/file_dialog.h"
 #include "hosts/protocol/control_members.h"
 #include "hosts/protocol/procedures/control_procedures.h"
@@ -20,8 +23,9 @@ ControlAccess::ControlAccess(AwizoWysylki& control, const OptionsBag& bag)
 }
 
 std::vector<Form*> ControlAccess::dialogs() const {
-  return {&control_.dlgDodaj, &control_.dlgdodajPule, &control_.dlgSzczegoly, &control_.dlgIsoCodes,
-          &control_.dlgWczytajZapisz};
+  std::vector<Form*> dialogs = control_.forms();
+  std::erase(dialogs, &control_.form);
+  return dialogs;
 }
 
 void ControlAccess::end() {
@@ -29,12 +33,12 @@ void ControlAccess::end() {
 }
 
 void ControlAccess::addForms() {
-  forms_.add(control_.form, [this] { return controlMembers(control_); });
-  forms_.add(control_.dlgDodaj, [this] { return membersOf(control_.dlgDodaj); });
-  forms_.add(control_.dlgdodajPule, [this] { return membersOf(control_.dlgdodajPule); });
-  forms_.add(control_.dlgSzczegoly, [this] { return membersOf(control_.dlgSzczegoly); });
-  forms_.add(control_.dlgIsoCodes, nullptr);
-  forms_.add(control_.dlgWczytajZapisz, nullptr);
+  std::map<const Form*, std::function<Json()>> members{
+      {&control_.form, [this] { return controlMembers(control_); }},
+      {&control_.dlgDodaj, [this] { return membersOf(control_.dlgDodaj); }},
+      {&control_.dlgdodajPule, [this] { return membersOf(control_.dlgdodajPule); }},
+      {&control_.dlgSzczegoly, [this] { return membersOf(control_.dlgSzczegoly); }}};
+  for (Form* form : control_.forms()) forms_.add(*form, members[form]);
 }
 
 void ControlAccess::addRecords(const OptionsBag& bag) {
@@ -76,11 +80,7 @@ void ControlAccess::set(const Json& line) {
   const Json& value = member(line, "value");
   const std::string text =
       value.is_string() ? textOf(value, "value") : std::to_string(integerOf(value, "value"));
-  if (property == "OnLine") {
-    control_.setOnLine(text);
-  } else if (property == "DebugLevel") {
-    control_.setDebugLevel(text);
-  } else {
+  if (!control_.setProperty(property, text)) {
     throw Refused("The property \"" + property + "\" can't be set.");
   }
 }

@@ -1,16 +1,15 @@
 #include "hosts/protocol/control_members.h"
 
+#include "session/record/properties.h"
+
 namespace awizo::protocol {
 
 namespace {
 
-Json properties(const AwizoWysylki& control) {
-  return {{"OnLine", control.OnLine()},
-          {"DebugLevel", control.DebugLevel()},
-          {"PartnerName", control.form.PartnerName},
-          {"PartnerILN", control.form.PartnerILN},
-          {"PartnerURL", control.form.PartnerURL},
-          {"Enabled", control.Enabled()}};
+Json propertiesOf(const AwizoWysylki& control) {
+  Json json{{"Enabled", control.Enabled()}};
+  for (const std::string_view name : properties::names) json[name] = control.property(name);
+  return json;
 }
 
 Json members(const AwizoForm& form) {
@@ -34,7 +33,7 @@ Json members(const AwizoForm& form) {
 }  // namespace
 
 Json controlMembers(const AwizoWysylki& control) {
-  Json json = properties(control);
+  Json json = propertiesOf(control);
   json.update(members(control.form));
   return json;
 }

@@ -3,6 +3,7 @@
 #include "desk/layout_words.h"
 #include "foundation/date_text.h"
 #include "platform/text.h"
+#include "session/record/properties.h"
 
 namespace awizo {
 namespace {
@@ -157,6 +158,11 @@ std::string DocumentWatch::title() const {
   if (changed) title += " *";
   if (!unanswered_.empty()) title += " (мог дойти)";
   return title;
+}
+
+std::string DocumentWatch::address() const {
+  const AwizoForm& form = control_.form;
+  return isOffLine(form.OnLine) ? "" : form.UploadUrl;
 }
 
 void DocumentWatch::tell(std::string words) {

@@ -46,6 +46,8 @@ class DocumentWatch {
   std::string title() const;
   /// What was done last and when: "Сохранено в 23:14: c:\ТН-6.xml"; empty at the start.
   std::string status() const;
+  /// Where documents are sent to; empty off line.
+  std::string address() const;
   /// Says something that isn't the document's, until the next thing is done.
   void tell(std::string words);
   /// Why the start has ended without an editor; empty where it hasn't.

@@ -2,20 +2,20 @@
 
 #include <algorithm>
 
+#include "desk/desk_settings.h"
 #include "platform/run_time_error.h"
 #include "platform/text.h"
 
 namespace awizo {
 namespace {
 
-constexpr std::string_view application = "Awizo";
 constexpr std::string_view section = "Files";
 constexpr std::string_view recentKey = "Recent";
 constexpr std::string_view separator = "|";  ///< no name of a file may hold it on every system
 constexpr std::size_t mostRecent = 6;
 
 std::vector<std::string> recentFiles(SettingsStore& settings) {
-  return split(settings.read(application, section, recentKey, ""), separator);
+  return split(settings.read(deskSettings, section, recentKey, ""), separator);
 }
 
 std::string classicPath(std::string_view path) {
@@ -85,7 +85,7 @@ void keepUsedFile(SettingsStore& settings, std::string_view path) {
     if (!kept.empty()) kept += separator;
     kept += one;
   }
-  settings.write(application, section, recentKey, kept);
+  settings.write(deskSettings, section, recentKey, kept);
 }
 
 }  // namespace awizo

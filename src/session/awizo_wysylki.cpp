@@ -1,6 +1,7 @@
 #include "session/awizo_wysylki.h"
 
 #include "session/record/off_line_path.h"
+#include "session/record/properties.h"
 #include "session/set_up.h"
 #include "session/start_up.h"
 
@@ -40,7 +41,7 @@ std::vector<Form*> AwizoWysylki::forms() {
 
 void AwizoWysylki::setOnLine(std::string_view value) {
   form.OnLine = value;
-  editor.platform.host.propertyChanged("OnLine");
+  editor.platform.host.propertyChanged(properties::onLine);
   showOnLine();
 }
 
@@ -50,21 +51,39 @@ std::string AwizoWysylki::DebugLevel() const {
 
 void AwizoWysylki::setDebugLevel(std::string_view value) {
   form.DebugLevel = value;
-  editor.platform.host.propertyChanged("DebugLevel");
+  editor.platform.host.propertyChanged(properties::debugLevel);
+}
+
+std::string AwizoWysylki::property(std::string_view name) const {
+  if (name == properties::debugLevel) return DebugLevel();
+  if (name == properties::partnerName) return form.PartnerName;
+  if (name == properties::partnerIln) return form.PartnerILN;
+  return name == properties::partnerUrl ? form.PartnerURL : OnLine();
+}
+
+bool AwizoWysylki::setProperty(std::string_view name, std::string_view value) {
+  if (name == properties::onLine) {
+    setOnLine(value);
+  } else if (name == properties::debugLevel) {
+    setDebugLevel(value);
+  } else {
+    return false;
+  }
+  return true;
 }
 
 void AwizoWysylki::UserControl_Initialize() { setUpControl(editor); }
 
 void AwizoWysylki::UserControl_ReadProperties() {
   PropertyBag& bag = editor.platform.bag;
-  ignoreErrors([&] { form.OnLine = bag.read("OnLine"); });
+  ignoreErrors([&] { form.OnLine = bag.read(properties::onLine); });
   ignoreErrors([&] { showOnLine(); });
-  ignoreErrors([&] { form.DebugLevel = bag.read("DebugLevel"); });
-  ignoreErrors([&] { form.PartnerName = bag.read("PartnerName"); });
+  ignoreErrors([&] { form.DebugLevel = bag.read(properties::debugLevel); });
+  ignoreErrors([&] { form.PartnerName = bag.read(properties::partnerName); });
   ignoreErrors([&] { dlgDodaj.LinePartnerName = form.PartnerName; });
-  ignoreErrors([&] { form.PartnerILN = bag.read("PartnerILN"); });
+  ignoreErrors([&] { form.PartnerILN = bag.read(properties::partnerIln); });
   ignoreErrors([&] { editor.session.BuyerILN = form.PartnerILN; });
-  ignoreErrors([&] { form.PartnerURL = bag.read("PartnerURL"); });
+  ignoreErrors([&] { form.PartnerURL = bag.read(properties::partnerUrl); });
 }
 
 void AwizoWysylki::UserControl_Show() {
@@ -89,8 +108,8 @@ bool AwizoWysylki::isDocumentChanged() const {
 
 void AwizoWysylki::UserControl_WriteProperties() {
   PropertyBag& bag = editor.platform.bag;
-  ignoreErrors([&] { bag.write("OnLine", form.OnLine); });
-  ignoreErrors([&] { bag.write("DebugLevel", form.DebugLevel); });
+  ignoreErrors([&] { bag.write(properties::onLine, form.OnLine); });
+  ignoreErrors([&] { bag.write(properties::debugLevel, form.DebugLevel); });
 }
 
 void AwizoWysylki::UserControl_Paint() {
@@ -104,7 +123,7 @@ void AwizoWysylki::UserControl_Terminate() {
 }
 
 void AwizoWysylki::showOnLine() {
-  const bool offLine = form.OnLine == "Off";
+  const bool offLine = isOffLine(form.OnLine);
   form.lblOnLineStatus.setCaption(offLine ? "Off-Line" : "On-Line");
   form.btnPrzeslij.setVisible(!offLine);
 }

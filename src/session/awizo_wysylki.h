@@ -49,6 +49,10 @@ class AwizoWysylki {
   std::string DebugLevel() const;
   /// Changes no open log.
   void setDebugLevel(std::string_view value);
+  /// By one of the names in properties.h.
+  std::string property(std::string_view name) const;
+  /// False, and nothing done, where a host can't set the property.
+  bool setProperty(std::string_view name, std::string_view value);
   /// Whether the control takes input; a failed start-up leaves it disabled for good.
   bool Enabled() const { return form.enabled(); }
 

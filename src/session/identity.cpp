@@ -2,6 +2,7 @@
 
 #include "service/transport.h"
 #include "session/local_folder.h"
+#include "session/record/properties.h"
 
 namespace awizo {
 namespace {
@@ -57,7 +58,7 @@ Refusal readIdentity(Editor& editor) {
   if (!session.UserInfoLoaded) return "Нет или неправильный формат файла XML о пользователе.";
   readSeller(session);
   // On line the service will say who the partner is.
-  if (!readPartner(editor) && editor.form.OnLine == "Off") {
+  if (!readPartner(editor) && isOffLine(editor.form.OnLine)) {
     return "Нет или неправильный формат файла XML о партнёре.";
   }
   return "";

@@ -9,6 +9,7 @@
 #include "session/record/countries.h"
 #include "session/record/header_panel.h"
 #include "session/record/off_line_path.h"
+#include "session/record/properties.h"
 #include "tables/totals.h"
 
 namespace awizo {
@@ -50,7 +51,7 @@ Refusal start(Editor& editor) {
   if (session.OffLinePathValue.empty()) return "Нет определённого пути доступа к запасам.";
   openLog(editor);
   if (const Refusal refusal = readIdentity(editor); !refusal.empty()) return refusal;
-  if (editor.form.OnLine == "Off" || !HasHostDocument(editor.platform.page)) return "";
+  if (isOffLine(editor.form.OnLine) || !HasHostDocument(editor.platform.page)) return "";
   return startOnLine(editor);
 }
 

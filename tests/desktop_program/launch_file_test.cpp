@@ -5,6 +5,7 @@
 
 #include <filesystem>
 
+#include "hosts/desktop/program/addresses.h"
 #include "support/files/files.h"
 #include "support/programs/workplace.h"
 
@@ -15,46 +16,11 @@ constexpr std::string_view page = "page-url=https://portal.example/vird/page/edi
 
 std::string refusalOf(const std::string& text) {
   try {
-    parseLaunchFile(text);
+    parseLaunchFile(text, splitAddress);
   } catch (const BadLaunchFile& error) {
     return error.what();
   }
   return "(taken)";
-}
-
-TEST(LaunchFile, ThatBuildersOfPortalsAreShownIsTaken) {
-  const std::string guide = test::projectFile("docs/integration.md");
-  const std::size_t start = guide.find("# Подтверждение отгрузки\npage-url=");
-  ASSERT_NE(start, std::string::npos);
-  const std::string shown = guide.substr(start, guide.find("```", start) - start);
-  EXPECT_EQ(refusalOf(shown), "(taken)");
-  EXPECT_EQ(parseLaunchFile(shown).properties.size(), 3U);
-}
-
-TEST(LaunchFile, TellsPageCookieAndProperties) {
-  const Options options = parseLaunchFile(
-      "# от портала\r\n\r\npage-url=https://portal.example/vird/page/editor.html\r\n"
-      "cookie=session=1; user=anna\r\nOnLine=On\r\nDebugLevel=4\r\nPartnerName=Магазин\r\n"
-      "PartnerILN=9520002000019\r\nPartnerURL=partner");
-  EXPECT_EQ(options.pageUrl, "https://portal.example/vird/page/editor.html");
-  EXPECT_EQ(options.cookie, "session=1; user=anna");
-  EXPECT_EQ(options.properties.at("OnLine"), "On");
-  EXPECT_EQ(options.properties.at("DebugLevel"), "4");
-  EXPECT_EQ(options.properties.at("PartnerName"), "Магазин");
-  EXPECT_EQ(options.properties.at("PartnerILN"), "9520002000019");
-  EXPECT_EQ(options.properties.at("PartnerURL"), "partner");
-}
-
-TEST(LaunchFile, MayBeginWithAByteOrderMark) {
-  EXPECT_TRUE(parseLaunchFile("\xEF\xBB\xBF" + std::string(page)).pageUrl);
-}
-
-TEST(LaunchFile, WithoutACookieHasAnEmptyOne) { EXPECT_EQ(parseLaunchFile(page).cookie, ""); }
-
-TEST(LaunchFile, NeedsNoPageForOffLineWork) {
-  const Options options = parseLaunchFile("OnLine=Off\n");
-  EXPECT_FALSE(options.pageUrl);
-  EXPECT_FALSE(options.cookie);
 }
 
 TEST(LaunchFile, IsRefusedWhenItsAddressIsNoWebAddress) {
@@ -77,27 +43,6 @@ TEST(LaunchFile, IsRefusedWhenExchangesWouldGoElsewhere) {
   }
 }
 
-TEST(LaunchFile, IsRefusedWhenBroken) {
-  const std::string good(page);
-  EXPECT_EQ(refusalOf(""), "Не указан адрес страницы (page-url).");
-  EXPECT_EQ(refusalOf(good + "что это"), "Строка 2 не вида «имя=значение».");
-  EXPECT_EQ(refusalOf(good + "Другое=1"), "Неизвестное имя: Другое.");
-  EXPECT_EQ(refusalOf(good + good), "Значение page-url указано дважды.");
-  EXPECT_EQ(refusalOf(good + "OnLine=1\nOnLine=Off"), "Значение OnLine указано дважды.");
-  EXPECT_EQ(refusalOf(good + "cookie=\xFF"), "Файл записан не в кодировке UTF-8.");
-  EXPECT_EQ(refusalOf(good + std::string("cookie=a\0b", 10)), "В файле есть недопустимые знаки.");
-  EXPECT_EQ(refusalOf(good + "cookie=a\rX-Header: b"), "В файле есть недопустимые знаки.");
-}
-
-TEST(LaunchFile, IsRefusedWhenAValueCouldLeadOutOfTheFolder) {
-  const std::string good(page);
-  EXPECT_EQ(refusalOf(good + "PartnerILN=../1"), "Недопустимое значение PartnerILN.");
-  EXPECT_EQ(refusalOf(good + "PartnerName=..\\x"), "Недопустимое значение PartnerName.");
-  EXPECT_EQ(refusalOf(good + "PartnerName=a/b"), "Недопустимое значение PartnerName.");
-  EXPECT_EQ(refusalOf(good + "PartnerURL=../../x"), "Недопустимое значение PartnerURL.");
-  EXPECT_EQ(refusalOf(good + "DebugLevel=много"), "Недопустимое значение DebugLevel.");
-}
-
 TEST(LaunchFile, ThatIsMissingOrHugeIsRefused) {
   const test::Workplace place;
   const auto refusal = [](const std::string& path) -> std::string {
@@ -114,18 +59,6 @@ TEST(LaunchFile, ThatIsMissingOrHugeIsRefused) {
   EXPECT_EQ(refusal(file), "Файл слишком велик.");
   test::writeFile(file, page);
   EXPECT_EQ(refusal(file), "(taken)");
-}
-
-TEST(LaunchFile, YieldsToTheCommandLine) {
-  Options line;
-  line.properties["OnLine"] = "Off";
-  line.cookie = "mine";
-  const Options both = merged(line, parseLaunchFile(std::string(page) + "OnLine=On\ncookie=its\n"
-                                                                        "PartnerURL=p"));
-  EXPECT_EQ(both.properties.at("OnLine"), "Off");
-  EXPECT_EQ(both.properties.at("PartnerURL"), "p");
-  EXPECT_EQ(both.cookie, "mine");
-  EXPECT_EQ(both.pageUrl, "https://portal.example/vird/page/editor.html");
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ Options ProgramTest::onLineOptions(const DemoService& service) const {
 
 void ProgramTest::agreeTo(const DemoService& service) const {
   SettingsFile settings(place.settings().string());
-  desktop::AgreedAddresses(settings).add(desktop::originOf(service.pageUrl()));
+  AgreedAddresses(settings).add(originOf(desktop::splitAddress, service.pageUrl()));
 }
 
 void ProgramTest::show(const Options& options) {

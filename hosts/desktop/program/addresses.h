@@ -1,33 +1,12 @@
 #pragma once
 
-#include <string>
 #include <string_view>
-#include <vector>
 
-#include "platform/settings.h"
+#include "desk/addresses.h"
 
 namespace awizo::desktop {
 
-/// Whether it is an http or https address with a host.
-bool isWebAddress(std::string_view url);
-
-/// Scheme, host and port: "https://portal.example:8443"; the text itself where it is no address.
-std::string originOf(std::string_view url);
-
-/// The places that a session on line exchanges data with, each once: those of the addresses that
-/// the control makes of its page's address and the property PartnerURL.
-std::vector<std::string> serviceOrigins(std::string_view pageUrl, std::string_view partnerUrl);
-
-/// The places that the user has agreed to talk to, kept in the settings.
-class AgreedAddresses {
- public:
-  explicit AgreedAddresses(SettingsStore& settings) : settings_(settings) {}
-
-  bool holds(const std::string& origin) const;
-  void add(const std::string& origin);
-
- private:
-  SettingsStore& settings_;
-};
+/// As Qt reads addresses.
+AddressParts splitAddress(std::string_view url);
 
 }  // namespace awizo::desktop

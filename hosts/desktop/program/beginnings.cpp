@@ -11,6 +11,7 @@
 #include "desk/document_watch.h"
 #include "desk/host_boxes.h"
 #include "desk/layout_words.h"
+#include "desk/session_start.h"
 #include "desk/unfinished_question.h"
 #include "hosts/desktop/program/addresses.h"
 #include "hosts/desktop/program/launch_file.h"
@@ -20,7 +21,6 @@
 #include "journal/unfinished_work.h"
 #include "platform/text.h"
 #include "session/awizo_wysylki.h"
-#include "session/record/off_line_path.h"
 
 namespace awizo::desktop {
 namespace {
@@ -32,18 +32,16 @@ QString droppedFile(const QDropEvent& event) {
   return urls.size() == 1 ? urls.front().toLocalFile() : QString();
 }
 
-/// The program's own options without those of a session.
-Options withoutSession(Options options) {
-  options.properties.clear();
-  options.pageUrl.reset();
-  options.cookie.reset();
+/// The program's own options with those of this session.
+Options withSession(Options options, GivenSession given) {
+  static_cast<GivenSession&>(options) = std::move(given);
   return options;
 }
 
 }  // namespace
 
 void MainWindow::begin() {
-  if (nameSession(options_)) {
+  if (namesSession(options_)) {
     makeSession();
   } else {
     showStartPage("");
@@ -131,7 +129,7 @@ void MainWindow::showStartPage(const std::string& why) {
   page.onAgain = [this, later] { later([this] { makeSession(); }); };
   showPart(startPage_);
   setWindowTitle(fromText(page.caption()));
-  page.show(why, nameSession(options_));
+  page.show(why, namesSession(options_));
 }
 
 void MainWindow::startAgain() {
@@ -147,18 +145,16 @@ bool MainWindow::mayBeginAnother() {
 }
 
 void MainWindow::beginOffLine(const Partner& partner) {
-  options_ = withoutSession(launch_);
-  options_.properties = {
-      {"OnLine", "Off"}, {"PartnerILN", partner.iln}, {"PartnerName", partner.name}};
+  options_ = withSession(launch_, offLineSession(partner));
   fromStartPage_ = true;
   makeSession();
 }
 
 void MainWindow::beginByLaunchFile(const QString& path) {
   try {
-    const Options named = merged(withoutSession(launch_), readLaunchFile(toText(path)));
+    const GivenSession named = readLaunchFile(toText(path));
     if (!mayBeginAnother()) return;
-    options_ = named;
+    options_ = withSession(launch_, named);
     fromStartPage_ = false;
     makeSession();
   } catch (const BadLaunchFile& error) {
@@ -188,7 +184,7 @@ void MainWindow::openDocument(const std::string& path) {
     return;
   }
   const FoundPartner found = startPage_->page().partnerOf(path);
-  if (found.partner == nullptr) return startPage_->page().show(found.why, nameSession(options_));
+  if (found.partner == nullptr) return startPage_->page().show(found.why, namesSession(options_));
   beginOffLine(*found.partner);
   afterStart_ = [this, path] { widget_->openDocument(path); };
 }
@@ -205,32 +201,23 @@ void MainWindow::dropEvent(QDropEvent* event) {
 }
 
 bool MainWindow::mayStart() {
-  if (!agreesToAddresses()) {
-    whyNot_ = words::addressNotTrusted;
-    return false;
+  SessionStart start(widget_->control().form, options_, *settings_, splitAddress);
+  for (;;) {
+    const StartStep step = start.next();
+    switch (step.kind) {
+      case StartStep::Kind::ask:
+        start.answer(widget_->ask(step.box));
+        break;
+      case StartStep::Kind::chooseFolder:
+        widget_->askOffLineFolder();
+        break;
+      case StartStep::Kind::start:
+        return true;
+      case StartStep::Kind::refuse:
+        whyNot_ = step.refusal;
+        return false;
+    }
   }
-  whyNot_ = words::folderNotChosen;
-  return hasFolder();
-}
-
-bool MainWindow::hasFolder() {
-  if (!keptOffLinePath(*settings_).empty()) return true;
-  widget_->ask(folderRequest());
-  return widget_->askOffLineFolder();
-}
-
-bool MainWindow::agreesToAddresses() {
-  const bool offLine = widget_->control().OnLine() == "Off";
-  // Without a page's cookie the control works as off line and sends nothing.
-  if (offLine || !options_.cookie) return true;
-  const std::string url = options_.pageUrl.value_or("");
-  AgreedAddresses agreed(*settings_);
-  for (const std::string& origin : serviceOrigins(url, widget_->control().form.PartnerURL)) {
-    if (agreed.holds(origin)) continue;
-    if (widget_->ask(newAddressQuestion(origin)) != Answer::yes) return false;
-    agreed.add(origin);
-  }
-  return true;
 }
 
 }  // namespace awizo::desktop

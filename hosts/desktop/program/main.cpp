@@ -56,8 +56,9 @@ Asked asked(const std::vector<std::string>& arguments) {
   asked.file = QString::fromStdString(files.front());
   if (asked.file.endsWith(".xml", Qt::CaseInsensitive)) return asked;
   try {
-    asked.options = desktop::merged(asked.options, desktop::readLaunchFile(files.front()));
-  } catch (const desktop::BadLaunchFile& error) {
+    static_cast<GivenSession&>(asked.options) =
+        merged(asked.options, desktop::readLaunchFile(files.front()));
+  } catch (const BadLaunchFile& error) {
     desktop::askUser(
         launchFileRefusal(QFileInfo(asked.file).fileName().toStdString(), error.what()), nullptr);
     throw;
@@ -99,7 +100,7 @@ int main(int argumentCount, char** arguments) {
   }
   try {
     return run(application);
-  } catch (const desktop::BadLaunchFile&) {
+  } catch (const BadLaunchFile&) {
     // The user has seen why.
   } catch (const BadArguments& error) {
     std::cerr << "awizo: " << error.what() << '\n' << usage;

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <utility>
 
+#include "desk/desk_settings.h"
 #include "desk/document_watch.h"
 #include "desk/guide_chapter.h"
 #include "desk/host_boxes.h"
@@ -15,7 +16,6 @@
 #include "hosts/desktop/layouts/command_keys.h"
 #include "hosts/desktop/layouts/wrapping.h"
 #include "hosts/desktop/program/guide.h"
-#include "hosts/desktop/program/launch_file.h"
 #include "hosts/desktop/window/commands.h"
 #include "hosts/desktop/window/finder.h"
 #include "hosts/desktop/window/paper_maker.h"
@@ -29,11 +29,6 @@ namespace {
 
 const QSize usualSize(1024, 700);
 
-/// The folder, unless the user wants nothing recorded.
-RecordFolder* wanted(RecordFolder* records, SettingsStore& settings) {
-  return settings.read("Awizo", "Records", "Keep", "yes") == "no" ? nullptr : records;
-}
-
 }  // namespace
 
 MainWindow::MainWindow(Options options, Http* http, RecordFolder* records)
@@ -43,7 +38,7 @@ MainWindow::MainWindow(Options options, Http* http, RecordFolder* records)
       page_(options_),
       settings_(makeSettings(options_)),
       clock_(makeClock(options_)) {
-  records_ = wanted(records, *settings_);
+  if (recordsAreWanted(*settings_)) records_ = records;
   setAcceptDrops(true);
   qApp->installEventFilter(this);
   if (!takesUpUnfinishedWork()) begin();

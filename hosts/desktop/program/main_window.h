@@ -75,8 +75,6 @@ class MainWindow : public QMainWindow {
   QAction* makeTask(const Command& command);
   void perform(HostTask task);
   bool mayStart();
-  bool hasFolder();
-  bool agreesToAddresses();
   /// Whether the window may close now. While an order comes or a document goes, the user is asked
   /// while the work goes on, and a second closing closes.
   bool mayCloseNow();

@@ -20,6 +20,7 @@
 #include "platform/text.h"
 #include "session/awizo_wysylki.h"
 #include "session/record/off_line_path.h"
+#include "session/record/properties.h"
 
 namespace awizo::desktop {
 namespace {
@@ -42,8 +43,8 @@ struct AwizoWysylkiWidget::Parts {
       : content(new QWidget(&widget)),
         surroundings(given, widget,
                      [&widget](std::string_view property) {
-                       if (property == "OnLine") emit widget.onLineChanged();
-                       if (property == "DebugLevel") emit widget.debugLevelChanged();
+                       if (property == properties::onLine) emit widget.onLineChanged();
+                       if (property == properties::debugLevel) emit widget.debugLevelChanged();
                      }),
         record(given.records, [this](const std::string& why) { recordingTrouble = why; }),
         replayedName(given.records.replayedName),
@@ -125,18 +126,18 @@ AwizoWysylkiWidget::~AwizoWysylkiWidget() {
 
 QString AwizoWysylkiWidget::onLine() const { return fromText(parts_->control.OnLine()); }
 
-void AwizoWysylkiWidget::setOnLine(const QString& value) { set("OnLine", toText(value)); }
+void AwizoWysylkiWidget::setOnLine(const QString& value) { set(properties::onLine, toText(value)); }
 
 QString AwizoWysylkiWidget::debugLevel() const { return fromText(parts_->control.DebugLevel()); }
 
-void AwizoWysylkiWidget::setDebugLevel(const QString& value) { set("DebugLevel", toText(value)); }
+void AwizoWysylkiWidget::setDebugLevel(const QString& value) {
+  set(properties::debugLevel, toText(value));
+}
 
-void AwizoWysylkiWidget::set(const std::string& property, const std::string& value) {
+void AwizoWysylkiWidget::set(std::string_view property, const std::string& value) {
   Parts& parts = *parts_;
-  parts.recording.doHostAct({"set", property, value}, [&] {
-    if (property == "OnLine") return parts.control.setOnLine(value);
-    parts.control.setDebugLevel(value);
-  });
+  parts.recording.doHostAct({"set", std::string(property), value},
+                            [&] { parts.control.setProperty(property, value); });
 }
 
 void AwizoWysylkiWidget::showControl() {
@@ -230,10 +231,8 @@ void AwizoWysylkiWidget::start() {
 }
 
 void AwizoWysylkiWidget::showStates() {
-  const AwizoForm& form = parts_->control.form;
   if (parts_->commands != nullptr) parts_->commands->follow();
-  const QString url = form.OnLine == "Off" ? QString() : fromText(form.UploadUrl);
-  showText(*parts_->status.address, url);
+  showText(*parts_->status.address, fromText(parts_->watch.address()));
 }
 
 void AwizoWysylkiWidget::showStandingSoon() {

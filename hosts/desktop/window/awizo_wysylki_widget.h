@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "desk/question.h"
 #include "hosts/desktop/window/surroundings.h"
@@ -101,7 +102,7 @@ class AwizoWysylkiWidget : public QWidget {
   /// What the host does of itself, recorded.
   void showControl();
   void askFolder();
-  void set(const std::string& property, const std::string& value);
+  void set(std::string_view property, const std::string& value);
 
   void showStates();
   /// Shows the document's state, once whatever changes it now is over.

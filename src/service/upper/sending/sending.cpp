@@ -9,6 +9,7 @@
 #include "platform/forms/report_errors.h"
 #include "service/exchanges.h"
 #include "service/transport.h"
+#include "session/record/properties.h"
 #include "tables/upper/editing/in_table_editing.h"
 
 namespace awizo {
@@ -79,7 +80,7 @@ void btnPrzeslij_Click(Editor& editor) {
     editor.form.setEnabled(false);
     const std::unique_ptr<XmlDocument> document = MakeDesAdv(editor);
     // A writer that refused the content has shown the user why.
-    if (editor.form.OnLine != "Off" && document && maySend(editor)) post(editor, *document);
+    if (!isOffLine(editor.form.OnLine) && document && maySend(editor)) post(editor, *document);
   });
   editor.form.setEnabled(true);
   if (earlier) editor.screen().setCursor(*earlier);
