@@ -1,11 +1,16 @@
 #include "desk/commands.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "desk/layout_words.h"
 #include "platform/forms/keys.h"
 #include "platform/text.h"
 
 namespace awizo {
 namespace {
+
+constexpr std::string_view countriesIcon = "countries";
 
 constexpr CommandKey key(std::int16_t code) { return {.code = code}; }
 constexpr CommandKey withControl(char letter) { return {.code = letter, .control = true}; }
@@ -24,13 +29,6 @@ std::vector<Command> findCommands() {
   return {{.words = "&Найти строку…", .task = HostTask::findLine, .keys = {withControl('F')}},
           {.words = "Найти &ещё раз", .task = HostTask::findAgain, .keys = {key(keys::f3)}},
           {.words = "&Что не так…", .task = HostTask::showFaults, .keys = {key(keys::f8)}}};
-}
-
-std::vector<Command> countryCommands(AwizoForm& form) {
-  return {{.words = "Страна из полного &списка…",
-           .icon = "countries",
-           .button = &form.Image2,
-           .keys = {withControl('G')}}};
 }
 
 std::vector<Command> endCommands() {
@@ -58,6 +56,10 @@ std::vector<Command> helpCommands() {
 }  // namespace
 
 std::string Command::plainWords() const { return replaceAll(replaceAll(words, "&", ""), "…", ""); }
+
+std::string Command::tip(std::string_view key) const {
+  return joined({plainWords(), " (", key, ")"});
+}
 
 bool Command::isEnabled() const {
   if (button == nullptr) return true;
@@ -112,13 +114,21 @@ std::vector<Command> packageCommands(AwizoForm& form) {
            .button = &form.btnEdytujOpak,
            .keys = {key(keys::f2), key(keys::enter)},
            .place = &form.grdOpakowania,
-           .onCurrentRow = true},
+           .onCurrentRow = true,
+           .onDoubleClick = true},
           {.words = "Уд&алить упаковку",
            .icon = "remove",
            .button = &form.btnUsunOpak,
            .keys = {key(keys::remove)},
            .place = &form.grdOpakowania,
            .onCurrentRow = true}};
+}
+
+std::vector<Command> countryCommands(AwizoForm& form) {
+  return {{.words = "Страна из полного &списка…",
+           .icon = countriesIcon,
+           .button = &form.Image2,
+           .keys = {withControl('G')}}};
 }
 
 std::vector<CommandMenu> startMenus() {
@@ -140,7 +150,28 @@ std::vector<Command> lineDialogCommands(DlgDodaj& dialog) {
            .keys = {key(keys::f2)},
            .place = &dialog.grdPozycje,
            .onCurrentRow = true},
-          {.words = words::anyCountry, .button = &dialog.btnISOcodes, .keys = {withControl('G')}}};
+          {.words = words::anyCountry,
+           .icon = countriesIcon,
+           .button = &dialog.btnISOcodes,
+           .keys = {withControl('G')}}};
+}
+
+std::vector<Command> countryListCommands(DlgIsoCodes& dialog) {
+  return {{.words = words::anyCountry,
+           .button = &dialog.btnAccept,
+           .place = &dialog.grdISO,
+           .onDoubleClick = true}};
+}
+
+std::vector<Command> buttonCommands(const std::vector<CommandMenu>& menus) {
+  std::vector<Command> commands;
+  for (const CommandMenu& menu : menus) {
+    for (const std::vector<Command>& group : menu.groups) {
+      std::ranges::copy_if(group, std::back_inserter(commands),
+                           [](const Command& command) { return command.button != nullptr; });
+    }
+  }
+  return commands;
 }
 
 std::vector<CommandMenu> commandMenus(AwizoForm& form) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "linedialog/dlg_dodaj.h"
+#include "linedialog/dlg_iso_codes.h"
 #include "session/record/awizo_form.h"
 
 namespace awizo {
@@ -45,9 +46,13 @@ struct Command {
   const Control* place = nullptr;  ///< its keys work while this has the focus; null: anywhere
   /// It acts on the current row of that table, which must be seen before.
   bool onCurrentRow = false;
+  /// A double click in that table does the same, after what the table itself does.
+  bool onDoubleClick = false;
 
   /// The words without the mnemonic's mark and the dots that announce a question: "Открыть".
   std::string plainWords() const;
+  /// Of its button. `key`: the host's name of its first key.
+  std::string tip(std::string_view key) const;
   bool isVisible() const { return button == nullptr || button->visible(); }
   bool isEnabled() const;
 };
@@ -59,16 +64,21 @@ struct CommandMenu {
 };
 
 // The groups that press buttons of the form: the document's ways in and out, its lines, its
-// packages.
+// packages, the country that is written over all lines.
 std::vector<Command> documentCommands(AwizoForm& form);
 std::vector<Command> lineCommands(AwizoForm& form);
 std::vector<Command> packageCommands(AwizoForm& form);
+std::vector<Command> countryCommands(AwizoForm& form);
 
 /// The keys of the line dialog: packages of the line, the list of all countries.
 std::vector<Command> lineDialogCommands(DlgDodaj& dialog);
+/// In the list of all countries, from which a double click chooses as from any list.
+std::vector<Command> countryListCommands(DlgIsoCodes& dialog);
 
 /// The menus, from the left.
 std::vector<CommandMenu> commandMenus(AwizoForm& form);
+/// Those of the menus that press buttons.
+std::vector<Command> buttonCommands(const std::vector<CommandMenu>& menus);
 /// The menus beside the start page.
 std::vector<CommandMenu> startMenus();
 

@@ -75,6 +75,34 @@ TEST_F(CommandsTest, PlainWordsHaveNeitherMarkNorDots) {
   EXPECT_EQ(lineCommands(form).back().plainWords(), "Удалить строку");
 }
 
+TEST_F(CommandsTest, TipTellsTheKey) {
+  EXPECT_EQ(documentCommands(form).front().tip("Ctrl+O"), "Открыть (Ctrl+O)");
+}
+
+TEST_F(CommandsTest, ThatPressButtonsAreThoseOfTheMenus) {
+  std::vector<const Button*> buttons;
+  for (const Command& command : buttonCommands(menus)) buttons.push_back(command.button);
+  EXPECT_THAT(buttons,
+              ElementsAre(&form.btnWczytaj, &form.btnZapisz, &form.btnPrzeslij, &form.btnDodaj,
+                          &form.btnEdytuj, &form.btnUsun, &form.btnDodajOpak, &form.btnEdytujOpak,
+                          &form.btnUsunOpak, &form.Image2));
+}
+
+TEST_F(CommandsTest, ADoubleClickEditsAPackageAndChoosesACountry) {
+  std::vector<Command> commands = buttonCommands(menus);
+  for (const auto& more :
+       {lineDialogCommands(control.dlgDodaj), countryListCommands(control.dlgIsoCodes)}) {
+    commands.insert(commands.end(), more.begin(), more.end());
+  }
+  std::vector<std::string> doubled;
+  for (const Command& command : commands) {
+    if (!command.onDoubleClick) continue;
+    ASSERT_NE(command.place, nullptr);
+    doubled.push_back(command.place->name() + " " + command.button->name());
+  }
+  EXPECT_THAT(doubled, ElementsAre("grdOpakowania btnEdytujOpak", "grdISO btnAccept"));
+}
+
 TEST_F(CommandsTest, AreThereAsTheirButtonsAre) {
   const Command edit = lineCommands(form)[1];
   EXPECT_FALSE(edit.isEnabled()) << "the form isn't shown yet";

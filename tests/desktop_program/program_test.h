@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "hosts/desktop/layouts/command_actions.h"
 #include "hosts/desktop/program/main_window.h"
-#include "hosts/desktop/window/commands.h"
 #include "hosts/desktop/window/waiting.h"
 #include "session/awizo_wysylki.h"
 #include "support/desktop/user.h"
@@ -46,7 +46,7 @@ class ProgramTest : public testing::Test {
   desktop::AwizoWysylkiWidget& widget() { return window_->widget(); }
   AwizoWysylki& control() { return widget().control(); }
   AwizoForm& form() { return control().form; }
-  desktop::Commands& commands() { return widget().commands(); }
+  desktop::CommandActions& commands() { return widget().commands(); }
   desktop::Face& face(const Control& control) { return widget().faces().face(control); }
 
   /// Answers every box that comes while the act runs with the Enter key; returns what was seen.

@@ -4,7 +4,7 @@
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/table_face.h"
-#include "hosts/desktop/layouts/command_keys.h"
+#include "hosts/desktop/layouts/command_actions.h"
 #include "hosts/desktop/layouts/dialog_layouts.h"
 #include "hosts/desktop/layouts/fields.h"
 #include "linedialog/dlg_dodaj.h"
@@ -102,7 +102,6 @@ void layOut(DlgDodaj& form, FormDialog& dialog) {
   large.setPointSizeF(large.pointSizeF() * 1.3);
   large.setBold(true);
   heading->setFont(large);
-  faces.button(form.btnISOcodes).setIcon("countries");
   static_cast<QAbstractButton*>(faces.widget(form.btnISOcodes))->setIconSize({16, 16});
 
   auto* middle = new QHBoxLayout;
@@ -112,7 +111,7 @@ void layOut(DlgDodaj& form, FormDialog& dialog) {
     middle->itemAt(i)->widget()->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
   }
 
-  giveKeys(lineDialogCommands(form), faces);
+  new CommandActions(lineDialogCommands(form), faces, dialog);
   auto* rows = new QVBoxLayout(&dialog);
   rows->setSpacing(10);
   rows->addWidget(heading);

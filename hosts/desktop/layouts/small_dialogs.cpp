@@ -2,6 +2,7 @@
 
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/table_face.h"
+#include "hosts/desktop/layouts/command_actions.h"
 #include "hosts/desktop/layouts/dialog_layouts.h"
 #include "hosts/desktop/layouts/fields.h"
 #include "linedialog/dlg_iso_codes.h"
@@ -33,8 +34,7 @@ void layOut(DlgIsoCodes& form, FormDialog& dialog) {
   table.stretchColumn(0);
   table.moveAsInList(0);
   table.view()->setAccessibleName(fromText(words::countriesTable));
-  // A double click accepts, as in any list to choose from.
-  table.afterDoubleClick = [&form, &faces] { faces.act([&form] { form.btnAccept.userPress(); }); };
+  new CommandActions(countryListCommands(form), faces, dialog);
   const QFontMetrics metrics = dialog.fontMetrics();
   table.view()->setMinimumSize(metrics.averageCharWidth() * 52, metrics.height() * 22);
   auto* rows = new QVBoxLayout(&dialog);

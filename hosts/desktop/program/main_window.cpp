@@ -13,10 +13,9 @@
 #include "desk/host_boxes.h"
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/icons.h"
-#include "hosts/desktop/layouts/command_keys.h"
+#include "hosts/desktop/layouts/command_actions.h"
 #include "hosts/desktop/layouts/wrapping.h"
 #include "hosts/desktop/program/guide.h"
-#include "hosts/desktop/window/commands.h"
 #include "hosts/desktop/window/finder.h"
 #include "hosts/desktop/window/paper_maker.h"
 #include "hosts/version.h"
@@ -84,7 +83,8 @@ void MainWindow::chooseFolder() {
 
 void MainWindow::makeMenus() {
   menuBar()->clear();
-  for (const CommandMenu& menu : widget_ == nullptr ? startMenus() : widget_->commands().menus()) {
+  for (const CommandMenu& menu :
+       widget_ == nullptr ? startMenus() : commandMenus(widget_->control().form)) {
     fill(*menuBar()->addMenu(fromText(menu.heading)), menu);
   }
 }

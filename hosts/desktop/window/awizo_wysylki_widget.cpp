@@ -9,8 +9,8 @@
 #include "desk/document_watch.h"
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/form_face.h"
+#include "hosts/desktop/layouts/command_actions.h"
 #include "hosts/desktop/screen/message_box.h"
-#include "hosts/desktop/window/commands.h"
 #include "hosts/desktop/window/finder.h"
 #include "hosts/desktop/window/kept_record.h"
 #include "hosts/desktop/window/main_layout.h"
@@ -84,7 +84,7 @@ struct AwizoWysylkiWidget::Parts {
   DocumentWatch watch;
   FormFace* faces;
   Status status;
-  Commands* commands = nullptr;
+  CommandActions* commands = nullptr;
   Finder* finder = nullptr;  ///< belongs to `content`
   std::unique_ptr<PaperMaker> paperMaker;
 };
@@ -99,7 +99,9 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
                                                   given.settings, parts.face, *this);
   parts.status = layOutMain(parts.control.editor, *parts.faces, parts.finder->strip());
   parts.faces->showAll();
-  parts.commands = new Commands(parts.control.form, *parts.faces, *this);
+  parts.commands =
+      new CommandActions(buttonCommands(commandMenus(parts.control.form)), *parts.faces, *this);
+  parts.commands->follow();
   parts.faces->onStateShown.add([this](Face&) { showStates(); });
   parts.faces->onChange = [this](const Change&) { showStates(); };
   parts.faces->mayPress = [&parts](const Button& button) { return parts.watch.mayPress(button); };
@@ -176,7 +178,7 @@ void AwizoWysylkiWidget::replayOr(Replay&& replay) {
 
 AwizoWysylki& AwizoWysylkiWidget::control() { return parts_->control; }
 FormFace& AwizoWysylkiWidget::faces() { return *parts_->faces; }
-Commands& AwizoWysylkiWidget::commands() { return *parts_->commands; }
+CommandActions& AwizoWysylkiWidget::commands() { return *parts_->commands; }
 Finder& AwizoWysylkiWidget::finder() { return *parts_->finder; }
 PaperMaker& AwizoWysylkiWidget::paperMaker() { return *parts_->paperMaker; }
 Waiting& AwizoWysylkiWidget::waiting() { return parts_->waiting; }

@@ -17,7 +17,7 @@ class DocumentWatch;
 
 namespace awizo::desktop {
 
-class Commands;
+class CommandActions;
 class Finder;
 class PaperMaker;
 class FormFace;
@@ -76,7 +76,7 @@ class AwizoWysylkiWidget : public QWidget {
 
   AwizoWysylki& control();
   FormFace& faces();
-  Commands& commands();
+  CommandActions& commands();
   Finder& finder();
   PaperMaker& paperMaker();
   Waiting& waiting();

@@ -25,7 +25,6 @@ QLayout* makeRowButtons(FormFace& faces, const std::vector<Command>& commands) {
   auto* column = new QVBoxLayout;
   column->setSpacing(4);
   for (const Command& command : commands) {
-    faces.button(*command.button).setIcon(fromText(command.icon));
     QWidget* widget = faces.widget(*command.button);
     const int side = widget->fontMetrics().height() + 14;
     widget->setFixedSize(side + 6, side);
@@ -84,7 +83,6 @@ QLayout* makeWays(AwizoForm& form, FormFace& faces) {
   row->addStretch(1);
   for (const Command& command : documentCommands(form)) {
     ButtonFace& button = faces.button(*command.button);
-    button.setIcon(fromText(command.icon));
     button.setWords(fromText(command.plainWords()));
     static_cast<QToolButton*>(button.widget())->setAutoRaise(false);
     row->addWidget(button.widget());
@@ -126,7 +124,6 @@ QWidget* makeLines(Editor& editor, FormFace& faces, QWidget& strip) {
   fillRows->addWidget(makeFillRow(faces, faces.widget(form.lblStawkaVAT),
                                   {faces.widget(form.comboStawkaVAT)}, form.btnUzupelnij,
                                   form.btnNadpisz));
-  faces.button(form.Image2).setIcon("countries");
   auto* country = new QLabel(fromText(words::country));
   fillRows->addWidget(makeFillRow(faces, country,
                                   {faces.widget(form.comboCountry), faces.widget(form.Image2)},

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QKeySequence>
 #include <map>
 #include <vector>
 
@@ -9,13 +10,16 @@
 
 namespace awizo::desktop {
 
-/// The commands that press a button of the main form, as actions for menus and keys.
-class Commands : public QObject {
- public:
-  /// The keys reach `window` and what is in it, or the control that they belong to.
-  Commands(AwizoForm& form, FormFace& faces, QWidget& window);
+QKeySequence keysOf(const CommandKey& key);
 
-  const std::vector<CommandMenu>& menus() const { return menus_; }
+/// Commands that press a form's buttons, as actions for menus and keys; the buttons get their icons
+/// and tips.
+class CommandActions : public QObject {
+ public:
+  /// The keys reach `window` and what is in it, or the control that they belong to. It belongs to
+  /// the window.
+  CommandActions(std::vector<Command> commands, FormFace& faces, QWidget& window);
+
   QAction* action(const Button& button) const { return entries_.at(&button).action; }
 
   /// Presses the button as its command does, without the host's question before it.
@@ -31,13 +35,14 @@ class Commands : public QObject {
 
   void add(const Command& command, QWidget& window);
   void giveKeys(const Command& command, QAction& action, QWidget& window);
+  TableFace& tableOf(const Command& command) const;
   void press(const Command& command);
   void pressUnasked(const Command& command);
   /// Scrolls the row that the command acts on into sight.
   void showRow(const Command& command);
 
   FormFace& faces_;
-  std::vector<CommandMenu> menus_;
+  const std::vector<Command> commands_;
   std::map<const Button*, Entry> entries_;
 };
 
