@@ -23,6 +23,8 @@ std::string classicPath(std::string_view path) {
   return classic.starts_with('\\') ? "c:" + classic : classic;
 }
 
+bool choosesFolder(const DlgWczytajZapisz& dialog) { return dialog.lblOffLinePath.visible(); }
+
 /// The root keeps its backslash.
 std::string folderOf(std::string_view path) {
   const std::size_t end = path.find_last_of('\\');
@@ -46,6 +48,26 @@ bool isThere(Files& files, const std::string& folder, std::string_view name) {
 }
 
 }  // namespace
+
+std::string proposedFolder(const DlgWczytajZapisz& dialog, Files& files, SettingsStore& settings,
+                           const UserFolders& user) {
+  // Only the root of the drive is nobody's choice yet.
+  if (!dialog.DirList.path().ends_with('\\')) return "";
+  return choosesFolder(dialog) ? firstOffLineParent(files, user)
+                               : firstFileFolder(files, settings, user);
+}
+
+bool offersFiles(const DlgWczytajZapisz& dialog) {
+  return dialog.ImageWczytaj.visible() && !choosesFolder(dialog);
+}
+
+void userGoTo(DlgWczytajZapisz& dialog, const FilePlace& place) {
+  dialog.DirList.userOpen(place.folder);
+  if (place.file.empty()) return;
+  const std::vector<std::string>& names = dialog.FileList.rows();
+  const auto found = std::ranges::find(names, place.file);
+  if (found != names.end()) dialog.FileList.userChoose(static_cast<int>(found - names.begin()));
+}
 
 std::string firstFileFolder(Files& files, SettingsStore& settings, const UserFolders& user) {
   const std::vector<std::string> recent = recentFiles(settings);

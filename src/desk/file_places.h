@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "formats/file_dialog.h"
 #include "platform/files.h"
 #include "platform/settings.h"
 
@@ -23,6 +24,16 @@ struct FilePlace {
   std::string folder;
   std::string file;
 };
+
+/// Where the dialog that has just come up goes by itself: its user's folder, unless it keeps one
+/// already; empty for nowhere.
+std::string proposedFolder(const DlgWczytajZapisz& dialog, Files& files, SettingsStore& settings,
+                           const UserFolders& user);
+/// Whether the files used last are offered: a new file has a name of its own, and a folder is no
+/// file.
+bool offersFiles(const DlgWczytajZapisz& dialog);
+/// The user goes to the place: opens its folder, and chooses its file.
+void userGoTo(DlgWczytajZapisz& dialog, const FilePlace& place);
 
 /// The folder used last where it is still there, else the user's documents, else the home folder;
 /// empty where there is none of them.

@@ -1,6 +1,8 @@
 #include "desk/find_dialog.h"
 
+#include "desk/layout_words.h"
 #include "desk/line_search.h"
+#include "platform/text.h"
 
 namespace awizo {
 
@@ -33,7 +35,7 @@ void FindDialog::btnFind_Click() {
   if (txtWhat.text().empty()) return;
   found_ = again();
   if (found_) return hide();
-  lblNothing.setCaption("Такой строки нет.");
+  lblNothing.setCaption(joined({words::noSuchLine, "."}));
 }
 
 }  // namespace awizo

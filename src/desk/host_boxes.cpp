@@ -1,11 +1,11 @@
 #include "desk/host_boxes.h"
 
+#include "desk/layout_words.h"
 #include "platform/text.h"
 
 namespace awizo {
 namespace {
 
-constexpr const char* title = "VIRD";
 constexpr std::string_view whatLaunchFilesAre =
     "Файл запуска (*.awizo) даёт страница службы: в нём её адрес. Сохранённые документы (*.xml) "
     "открываются командой «Открыть».";
@@ -17,19 +17,19 @@ MessageBox folderRequest() {
       "Для работы нужна папка с файлами вашей фирмы.\r\n\r\n"
       "Выберите, где она лежит или где её создать: редактор работает в папке VIRD внутри "
       "выбранной. В ней должен быть файл userinfo.xml, который выдал ваш партнёр.",
-      title, BoxIcon::information, BoxButtons::ok};
+      std::string(words::boxTitle), BoxIcon::information, BoxButtons::ok};
 }
 
 MessageBox newAddressQuestion(std::string_view origin) {
   return {joined({"Редактор будет обмениваться документами со службой по адресу:\r\n\r\n", origin,
                   "\r\n\r\nЭтот адрес встречается впервые. Вы ему доверяете?"}),
-          title, BoxIcon::question, BoxButtons::yesNo};
+          std::string(words::boxTitle), BoxIcon::question, BoxButtons::yesNo};
 }
 
 MessageBox launchFileRefusal(std::string_view file, std::string_view why) {
   return {joined({"Файл запуска «", file, "» не годится.\r\n\r\n", why, "\r\n\r\n",
                   whatLaunchFilesAre}),
-          title, BoxIcon::critical, BoxButtons::ok};
+          std::string(words::boxTitle), BoxIcon::critical, BoxButtons::ok};
 }
 
 MessageBox paperRefusal(std::string_view what, const RunTimeError& error) {
@@ -53,7 +53,8 @@ MessageBox paperRefusal(std::string_view what, const RunTimeError& error) {
     default:
       reason = error.description();
   }
-  return {joined({what, ": ", reason, "."}), title, BoxIcon::critical, BoxButtons::ok};
+  return {joined({what, ": ", reason, "."}), std::string(words::boxTitle), BoxIcon::critical,
+          BoxButtons::ok};
 }
 
 MessageBox aboutBox(std::string_view version) {

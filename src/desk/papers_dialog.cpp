@@ -3,6 +3,7 @@
 #include <array>
 #include <charconv>
 
+#include "desk/desk_settings.h"
 #include "papers/label_layout.h"
 #include "papers/labels.h"
 #include "papers/packing_list.h"
@@ -18,7 +19,7 @@ constexpr const char* settingsSection = "Papers";
 enum PackageChoice { allPackages, markedPackages, packagesWithoutLabel };
 
 int keptRow(SettingsStore& settings, const char* key, int fallback, int count) {
-  const std::string kept = settings.read("Awizo", settingsSection, key, "");
+  const std::string kept = settings.read(deskSettings, settingsSection, key, "");
   int row = fallback;
   std::from_chars(kept.data(), kept.data() + kept.size(), row);
   return row >= 0 && row < count ? row : fallback;
@@ -172,9 +173,9 @@ void PapersDialog::finish(const std::function<bool()>& deed) {
 void PapersDialog::keepSettings() {
   const auto keep = [this](const char* key, const DropDownList& list) {
     const std::string row = std::to_string(list.index());
-    if (settings_.read("Awizo", settingsSection, key, "") == row) return;
+    if (settings_.read(deskSettings, settingsSection, key, "") == row) return;
     // What the user has chosen counts for this once even where it can't be kept.
-    caughtError([&] { settings_.write("Awizo", settingsSection, key, row); });
+    caughtError([&] { settings_.write(deskSettings, settingsSection, key, row); });
   };
   keep("Size", cboSize);
   keep("Copies", cboCopies);

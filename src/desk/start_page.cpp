@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "desk/layout_words.h"
 #include "platform/text.h"
 #include "session/record/off_line_path.h"
 
@@ -14,8 +15,9 @@ std::string rowOf(const Partner& partner) {
 
 }  // namespace
 
-StartPage::StartPage(Screen& screen, const Platform& platform)
-    : Form(screen, "StartPage"),
+StartPage::StartPage(const Platform& platform)
+    : OwnScreen(platform.screenFace),
+      Form(ownScreen, "StartPage"),
       lblWhy(*this, "lblWhy"),
       btnAgain(*this, "btnAgain", "П&опробовать ещё раз"),
       frmOffLine(*this, "frmOffLine", "Без связи со службой"),
@@ -31,10 +33,10 @@ StartPage::StartPage(Screen& screen, const Platform& platform)
                 "Сеанс со службой начинает файл запуска (*.awizo), который даёт её страница. "
                 "Откройте его в браузере, выберите здесь или бросьте на это окно."),
       btnLaunchFile(*this, "btnLaunchFile", "Выбрать &файл запуска…"),
-      dlgFolder(screen, platform.files, platform.settings, session_),
+      dlgFolder(ownScreen, platform.files, platform.settings, session_),
       platform_(platform),
       session_(platform) {
-  setCaption("Подтверждение отгрузки");
+  setCaption(words::windowTitle);
   btnAgain.onClick = [this] { raise(onAgain); };
   btnOffLine.onClick = [this] { begin(onOffLine); };
   btnOpen.onClick = [this] { begin(onOpen); };

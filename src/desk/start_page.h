@@ -22,11 +22,17 @@ struct FoundPartner {
   std::string why;
 };
 
+/// A screen of its own, made before the form on it.
+struct OwnScreen {
+  explicit OwnScreen(ScreenFace& face) : ownScreen(face) {}
+  Screen ownScreen;
+};
+
 /// What a window shows while there is no control yet: the ways to begin. It decides nothing about
 /// the control; what the user has chosen goes to the host.
-class StartPage : public Form {
+class StartPage : private OwnScreen, public Form {
  public:
-  StartPage(Screen& screen, const Platform& platform);
+  explicit StartPage(const Platform& platform);
 
   Label lblWhy;  ///< why there is no editor now; hidden where the user knows
   Button btnAgain;

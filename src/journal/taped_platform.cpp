@@ -156,11 +156,13 @@ Answer TapedScreen::ask(const MessageBox& box) {
 }
 
 void TapedScreen::formOpened(Form& form) {
+  if (!isRecorded(form)) return real_.formOpened(form);
   opened_.push_back(&form);
   tape_.passing([&] { real_.formOpened(form); });
 }
 
 void TapedScreen::runModal(Form& form) {
+  if (!isRecorded(form)) return real_.runModal(form);
   tape_.wait(form, [&] {
     while (form.shown() && tape_.replaying()) {
       const Record* deed = tape_.nextDeed();

@@ -112,7 +112,7 @@ class TapedClock : public Clock {
 };
 
 /// During a replay the screen shows nothing. When the user's turn comes, it shows at once what is
-/// open then.
+/// open then. A form that isn't recorded, a host's own, passes by the tape.
 class TapedScreen : public ScreenFace {
  public:
   TapedScreen(Tape& tape, ScreenFace& real) : tape_(tape), real_(real) {}
@@ -134,6 +134,8 @@ class TapedScreen : public ScreenFace {
   void endProgram() override { real_.endProgram(); }
 
  private:
+  bool isRecorded(const Form& form) const { return !tape_.isRecorded || tape_.isRecorded(form); }
+
   Tape& tape_;
   ScreenFace& real_;
   std::vector<Form*> opened_;

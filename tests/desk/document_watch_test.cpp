@@ -252,5 +252,12 @@ TEST_F(WatchOnLine, AsksBeforeClosingOnlyWhileAnOrderComesOrADocumentGoes) {
   EXPECT_THAT(asking, ElementsAre(Exchange::order, Exchange::sending));
 }
 
+TEST_F(WatchOffLine, NamesWhereDocumentsGoOnLineAlone) {
+  desk.form.UploadUrl = "http://firm.example/upload";
+  EXPECT_EQ(watch.address(), "");
+  desk.control.setOnLine("On");
+  EXPECT_EQ(watch.address(), "http://firm.example/upload");
+}
+
 }  // namespace
 }  // namespace awizo::test

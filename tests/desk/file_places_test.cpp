@@ -76,5 +76,47 @@ TEST_F(FilePlaces, OfferNothingWhereNothingIsThere) {
   EXPECT_THAT(offered(), IsEmpty());
 }
 
+struct FileDialogPlaces : FilePlaces {
+  FileDialogPlaces() { keepUsedFile(settings, "c:\\drafts\\a.xml"); }
+  std::string proposed() { return proposedFolder(dialog, files, settings, user); }
+
+  Screen screen{face};
+  SessionState session{platform};
+  DlgWczytajZapisz dialog{screen, files, settings, session};
+};
+
+TEST_F(FileDialogPlaces, AreProposedWhereTheDialogKeepsNoFolderYet) {
+  dialog.setUpForReading();
+  EXPECT_EQ(proposed(), "c:\\drafts");
+  dialog.setUpForOffLineFolder();
+  EXPECT_EQ(proposed(), "c:\\home\\anna");
+  dialog.DirList.setPath("c:\\home");
+  EXPECT_EQ(proposed(), "");
+}
+
+TEST_F(FileDialogPlaces, AreFilesOnlyWhereAFileIsRead) {
+  dialog.setUpForReading();
+  EXPECT_TRUE(offersFiles(dialog));
+  dialog.setUpForSaving("b.xml");
+  EXPECT_FALSE(offersFiles(dialog));
+  dialog.setUpForOffLineFolder();
+  EXPECT_FALSE(offersFiles(dialog));
+}
+
+TEST_F(FileDialogPlaces, AreGoneToAsAUserGoes) {
+  dialog.setUpForReading();
+  face.onModal([&] {
+    userGoTo(dialog, {"", "c:\\drafts", "b.xml"});
+    EXPECT_EQ(dialog.DirList.path(), "c:\\drafts");
+    EXPECT_EQ(dialog.FileList.fileName(), "b.xml");
+    userGoTo(dialog, {"", "c:\\home\\anna", ""});
+    EXPECT_EQ(dialog.DirList.path(), "c:\\home\\anna");
+    userGoTo(dialog, {"", "c:\\drafts", "gone.xml"});
+    EXPECT_EQ(dialog.FileList.fileName(), "");
+    dialog.ImageZamknij.userClick();
+  });
+  dialog.showModal();
+}
+
 }  // namespace
 }  // namespace awizo::test

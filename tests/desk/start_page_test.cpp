@@ -30,8 +30,7 @@ class StartPageTest : public ::testing::Test, public TestSurroundings {
   }
   bool offersWork() const { return page.btnOffLine.enabled() && page.btnOpen.enabled(); }
 
-  Screen screen{face};
-  StartPage page{screen, platform};
+  StartPage page{platform};
 };
 
 TEST_F(StartPageTest, OffersThePartnersWhoseFilesLieInTheFolder) {
@@ -117,6 +116,12 @@ TEST_F(StartPageTest, FindsThePartnerOfASavedDocument) {
   for (const char* path : {"c:\\docs\\b.xml", "c:\\docs\\none.xml"}) {
     EXPECT_THAT(page.partnerOf(path).why, HasSubstr("не подтверждение отгрузки"));
   }
+}
+
+TEST_F(StartPageTest, StandsOnAScreenOfItsOwn) {
+  page.show("", false);
+  EXPECT_EQ(page.screen().top(), &page);
+  EXPECT_TRUE(page.takesInput());
 }
 
 }  // namespace

@@ -264,5 +264,34 @@ TEST_F(Focus, ObserversOfControlAndFormAreToldOfIt) {
                                   "form observed", "second.GotFocus"));
 }
 
+TEST_F(Focus, KeysOfTheFormGoToTheControlThatHasIt) {
+  form.userKey(keys::tab);
+  EXPECT_EQ(form.focus(), &second);
+}
+
+TEST_F(Focus, WithoutItEnterAndEscapePressTheFormsButtonsAndTabLeadsBack) {
+  TextField cover(form, "cover");
+  form.acceptButton = &button;
+  form.closeButton = &picture;
+  first.setEnabled(false);
+  takeEvents();
+  ASSERT_EQ(form.focus(), nullptr);
+  EXPECT_TRUE(form.userKey(keys::enter));
+  EXPECT_TRUE(form.userKey(keys::escape));
+  EXPECT_THAT(takeEvents(), ElementsAre("button.Click", "picture.Click"));
+  EXPECT_FALSE(form.userKey(keys::down)) << "that key means nothing to a form";
+  second.cover = &cover;
+  EXPECT_TRUE(form.userKey(keys::tab));
+  EXPECT_EQ(form.focus(), &button) << "the first that is neither disabled nor covered";
+}
+
+TEST_F(Focus, WithoutItAndWithoutButtonsEnterDoesNothing) {
+  first.setEnabled(false);
+  EXPECT_TRUE(form.userKey(keys::enter));
+  EXPECT_EQ(form.focus(), nullptr);
+  form.setEnabled(false);
+  EXPECT_THROW(form.userKey(keys::tab), Refused);
+}
+
 }  // namespace
 }  // namespace awizo::test

@@ -64,5 +64,13 @@ TEST_F(TableText, TheUserGoesToARowInTheCurrentColumnOrTheFirstShown) {
   EXPECT_THROW(table.userRow(4), Refused);
 }
 
+TEST_F(TableText, IsMissedInARowWhereNoCellHasOne) {
+  EXPECT_TRUE(hasText(table, 2));
+  for (int column = 0; column < 4; ++column) table.setCell(2, column, column == 3 ? "x" : "");
+  EXPECT_TRUE(hasText(table, 2));
+  table.setCell(2, 3, "");
+  EXPECT_FALSE(hasText(table, 2));
+}
+
 }  // namespace
 }  // namespace awizo::test

@@ -7,7 +7,6 @@
 #include "hosts/desktop/faces/key_codes.h"
 #include "hosts/desktop/faces/make_face.h"
 #include "hosts/desktop/faces/table_face.h"
-#include "platform/forms/button.h"
 
 namespace awizo::desktop {
 
@@ -132,22 +131,11 @@ void FormFace::focusCame(Face& face, Qt::FocusReason reason) {
   followFocus();
 }
 
-/// A form without a focus, since its control was hidden or disabled, still has its buttons, and Tab
-/// leads back to its fields.
 bool FormFace::pressKeyWithoutFocus(QKeyEvent& key) {
-  const std::int16_t code = keyCodeOf(key);
-  if (code == keys::enter || code == keys::escape) {
-    Button* pressed = code == keys::enter ? form_.acceptButton : form_.closeButton;
-    if (pressed != nullptr) act([&] { pressed->userPress(); });
-    return true;
-  }
-  if (code != keys::tab) return false;
   const auto byKeyboard = this->byKeyboard();
-  for (Control* control : form_.controls()) {
-    if (!control->isFocusable() || control->covered()) continue;
-    if (act([&] { control->userFocus(); })) break;
-  }
-  return true;
+  bool meant = true;
+  act([&] { meant = form_.userKey(keyCodeOf(key), isShifted(key)); });
+  return meant;
 }
 
 bool FormFace::eventFilter(QObject* watched, QEvent* event) {

@@ -165,14 +165,10 @@ void TableFace::showHeights() {
   }
 }
 
-/// A row without a text is no row of the document: the table only can't have fewer.
 int TableFace::markedRow() const {
   const int row = table_.row();
-  if (stale_ || row < table_.fixedRows() || row >= table_.rows()) return -1;
-  for (int column = 0; column < table_.columns(); ++column) {
-    if (!table_.cell(row, column).empty()) return row - table_.fixedRows();
-  }
-  return -1;
+  if (stale_ || row < table_.firstRow() || row > table_.lastRow()) return -1;
+  return hasText(table_, row) ? row - table_.firstRow() : -1;
 }
 
 void TableFace::bringRowIntoView() {
@@ -261,27 +257,23 @@ bool TableFace::pressCommonKey(const QKeyEvent& key) {
   }
   const bool toStart = key.matches(QKeySequence::MoveToStartOfDocument);
   if (!toStart && !key.matches(QKeySequence::MoveToEndOfDocument)) return false;
-  goToRow(toStart ? table_.fixedRows() : table_.rows() - 1);
+  goToRow(toStart ? table_.firstRow() : table_.lastRow());
   return true;
 }
 
 bool TableFace::pressListKey(const QKeyEvent& key) {
-  if (listColumn_ < 0) return false;
-  const std::int16_t code = keyCodeOf(key);
+  if (!listMoves_) return false;
   const QString typed = typedCharacter(key);
-  if (typed.isEmpty()) typed_.forget();
-  if (code == keys::home || code == keys::end) {
-    goToRow(code == keys::home ? table_.fixedRows() : table_.rows() - 1);
-    return true;
-  }
-  if (typed.isEmpty()) return false;
-  std::vector<std::string> rows;
-  for (int row = table_.fixedRows(); row < table_.rows(); ++row) {
-    rows.push_back(toText(fromText(table_.cell(row, listColumn_)).toUpper()));
-  }
-  const auto found = typed_.add(toText(typed), rows, table_.row() - table_.fixedRows());
-  if (found) goToRow(*found + table_.fixedRows());
-  return true;
+  const bool isTyped = !typed.isEmpty();
+  const std::optional<int> row =
+      isTyped ? listMoves_->rowTyped(toText(typed)) : listMoves_->rowOfKey(keyCodeOf(key));
+  if (row) goToRow(*row);
+  return row || isTyped;
+}
+
+void TableFace::moveAsInList(int column) {
+  listMoves_.emplace(table_, column,
+                     [](std::string_view text) { return toText(fromText(text).toUpper()); });
 }
 
 void TableFace::goToRow(int row) {

@@ -1,13 +1,14 @@
 #pragma once
 
 #include <QPointer>
+#include <optional>
 #include <vector>
 
 #include "hosts/desktop/faces/face.h"
 #include "hosts/desktop/faces/table_rows.h"
 #include "hosts/desktop/faces/table_view.h"
+#include "platform/forms/list_moves.h"
 #include "platform/forms/table.h"
-#include "platform/forms/typed_search.h"
 
 namespace awizo::desktop {
 
@@ -29,7 +30,7 @@ class TableFace : public Face {
   void bringRowIntoView();
   /// Lets the user move in the table as in a list: characters find a row by the beginning of its
   /// text in this column, Home and End go to the first and last row.
-  void moveAsInList(int column) { listColumn_ = column; }
+  void moveAsInList(int column);
   /// Runs after the user has double-clicked a cell, with what the table does by itself done. May
   /// be empty.
   std::function<void()> afterDoubleClick;
@@ -78,8 +79,7 @@ class TableFace : public Face {
   QPointer<Face> editor_;
   std::vector<int> shownWidths_;  ///< twips, as the columns were last laid out
   Cell pressed_;                  ///< where the mouse button went down and is still held
-  int listColumn_ = -1;           ///< -1 where it is no list
-  TypedSearch typed_;
+  std::optional<ListMoves> listMoves_;
   bool stale_ = true;
 };
 

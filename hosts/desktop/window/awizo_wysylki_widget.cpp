@@ -94,9 +94,9 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
   Parts& parts = *parts_;
   connectRecording();
   replayOr([&parts] { parts.recording.create(); });
-  parts.finder = new Finder(parts.control.editor, *parts.faces, parts.face);
+  parts.finder = new Finder(parts.control.editor, *parts.faces);
   parts.paperMaker = std::make_unique<PaperMaker>(parts.control.editor, parts.surroundings.files,
-                                                  given.settings, parts.face, *this);
+                                                  given.settings, *this);
   parts.status = layOutMain(parts.control.editor, *parts.faces, parts.finder->strip());
   parts.faces->showAll();
   parts.commands =

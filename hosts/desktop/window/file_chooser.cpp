@@ -53,13 +53,8 @@ FileChooser::FileChooser(DlgWczytajZapisz& form, FormDialog& dialog, Files& file
 }
 
 void FileChooser::opened() {
-  const bool choosesFolder = form_.lblOffLinePath.visible();
-  // The dialog keeps its folder; only the root of the drive is nobody's choice yet.
-  if (form_.DirList.path().ends_with('\\')) {
-    const std::string folder = choosesFolder ? firstOffLineParent(files_, user_)
-                                             : firstFileFolder(files_, settings_, user_);
-    if (!folder.empty()) goTo({"", folder, ""});
-  }
+  const std::string folder = proposedFolder(form_, files_, settings_, user_);
+  if (!folder.empty()) goTo({"", folder, ""});
   offer(filePlaces(files_, settings_, user_));
 }
 
@@ -88,21 +83,13 @@ void FileChooser::offer(const std::vector<FilePlace>& places) {
     connect(button, &QToolButton::clicked, this, [this, place] { goTo(place); });
     row->addWidget(button);
   }
-  // A new file has a name of its own, and a folder is no file.
-  recent->setVisible(!menu->isEmpty() && form_.ImageWczytaj.visible() &&
-                     !form_.lblOffLinePath.visible());
+  recent->setVisible(!menu->isEmpty() && offersFiles(form_));
   row->addWidget(recent);
   row->addStretch(1);
 }
 
 void FileChooser::goTo(const FilePlace& place) {
-  FormFace& faces = dialog_.faces();
-  faces.act([&] { form_.DirList.userOpen(place.folder); });
-  if (place.file.empty()) return;
-  const std::vector<std::string>& names = form_.FileList.rows();
-  const auto found = std::ranges::find(names, place.file);
-  if (found == names.end()) return;
-  faces.act([&] { form_.FileList.userChoose(static_cast<int>(found - names.begin())); });
+  dialog_.faces().act([&] { userGoTo(form_, place); });
 }
 
 void helpToChooseFiles(HostScreenFace& face, Files& files, SettingsStore& settings) {

@@ -21,14 +21,11 @@ LineStrip::LineStrip(const Editor& editor) : editor_(editor) {
 LineStrip::~LineStrip() { editor_.form.grdPozycje.observers.remove(observation_); }
 
 void LineStrip::say(const QString& words) {
+  saidAtRow_ = -1;
+  if (words.isEmpty()) return showWords();
   saidAtRow_ = editor_.form.grdPozycje.row();
   setText(words);
   setToolTip(words);
-}
-
-void LineStrip::showLine() {
-  saidAtRow_ = -1;
-  showWords();
 }
 
 /// A document comes and goes by thousands of changes in one event; the words are made once.

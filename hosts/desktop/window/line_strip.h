@@ -13,10 +13,8 @@ class LineStrip : public QLabel {
   explicit LineStrip(const Editor& editor);
   ~LineStrip() override;
 
-  /// Says this instead, until the current row changes.
+  /// Says this instead, until the current row changes; the line again where it is empty.
   void say(const QString& words);
-  /// The line again.
-  void showLine();
 
  private:
   void follow(const Change& change);

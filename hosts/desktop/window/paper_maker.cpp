@@ -15,14 +15,12 @@
 
 namespace awizo::desktop {
 
-PaperMaker::PaperMaker(const Editor& editor, Files& files, SettingsStore& settings,
-                       ScreenFace& screenFace, QWidget& window)
+PaperMaker::PaperMaker(const Editor& editor, Files& files, SettingsStore& settings, QWidget& window)
     : editor_(editor),
       files_(files),
       settings_(settings),
       window_(window),
-      screen_(screenFace),
-      dialog_(screen_, measure_, encoder_, settings) {
+      dialog_(editor.screen(), measure_, encoder_, settings) {
   askTarget = [this](const QString& proposed) {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return QFileDialog::getSaveFileName(&window_, fromText(dialog_.title()),
@@ -78,7 +76,7 @@ bool PaperMaker::write() {
 }
 
 void PaperMaker::tell(const std::string& what, const RunTimeError& error) {
-  screen_.messageBox(paperRefusal(what, error));
+  editor_.screen().messageBox(paperRefusal(what, error));
 }
 
 }  // namespace awizo::desktop

@@ -14,9 +14,8 @@ namespace awizo::desktop {
 /// Shows, writes and prints the papers of the document in the window, or of a saved one.
 class PaperMaker {
  public:
-  /// `screenFace` shows the dialog, which is the window's and not the control's.
-  PaperMaker(const Editor& editor, Files& files, SettingsStore& settings, ScreenFace& screenFace,
-             QWidget& window);
+  /// Its dialog is shown on the editor's screen.
+  PaperMaker(const Editor& editor, Files& files, SettingsStore& settings, QWidget& window);
 
   void show(Paper paper);
   void showSaved();
@@ -37,7 +36,6 @@ class PaperMaker {
   Files& files_;
   SettingsStore& settings_;
   QWidget& window_;
-  Screen screen_;
   QtTextMeasure measure_;
   ZintEncoder encoder_;
   PapersDialog dialog_;

@@ -34,8 +34,7 @@ StartPageWidget::StartPageWidget(const GivenParts& given, QWidget* parent)
     : QWidget(parent),
       content_(new QWidget(this)),
       surroundings_(given, *this, [](std::string_view) {}),
-      screen_(surroundings_.face),
-      page_(screen_, surroundings_.platform),
+      page_(surroundings_.platform),
       faces_(new FormFace(page_, *content_)) {
   surroundings_.face.setMainWindow(page_, *this);
   auto* column = new QVBoxLayout(content_);

@@ -21,7 +21,7 @@ class StartPageWidget : public QWidget {
   bool isWorking() const { return surroundings_.face.asksUser(); }
   /// Boxes and dialogs go.
   void endWork() { surroundings_.face.end(); }
-  Answer ask(const MessageBox& box) { return screen_.messageBox(box); }
+  Answer ask(const MessageBox& box) { return page_.screen().messageBox(box); }
 
  private:
   QWidget* makeOffLine();
@@ -30,7 +30,6 @@ class StartPageWidget : public QWidget {
 
   QWidget* content_;
   Surroundings surroundings_;
-  Screen screen_;
   StartPage page_;
   FormFace* faces_;
 };

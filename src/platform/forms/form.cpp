@@ -126,6 +126,24 @@ bool Form::pressKey(const Control& control, std::int16_t code, bool shift) {
   return true;
 }
 
+bool Form::userKey(std::int16_t code, bool shift) {
+  if (focus_ != nullptr) {
+    focus_->userKey(code, shift);
+    return true;
+  }
+  if (code == keys::enter || code == keys::escape) {
+    Button* pressed = code == keys::enter ? acceptButton : closeButton;
+    if (pressed != nullptr) pressed->userPress();
+    return true;
+  }
+  if (code != keys::tab) return false;
+  const auto next = std::ranges::find_if(controls_, [](const Control* control) {
+    return control->canTakeFocus() && !control->covered();
+  });
+  if (next != controls_.end()) (*next)->userFocus();
+  return true;
+}
+
 void Form::tabFrom(const Control& control, bool backwards) {
   const std::size_t count = controls_.size();
   const auto from = static_cast<std::size_t>(

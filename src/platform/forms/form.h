@@ -58,6 +58,11 @@ class Form {
   /// Throws Refused, with a text for people, when no input reaches the form now.
   void requireInput() const;
 
+  /// The user presses a key in the form: it is that of the control with the focus. Without one,
+  /// since it was hidden or disabled, Enter and Escape still press the form's buttons, and Tab
+  /// leads to the first control that can take the focus. Returns whether the key meant something.
+  bool userKey(std::int16_t code, bool shift = false);
+
   /// Buttons that Enter and Escape press; null for none.
   Button* acceptButton = nullptr;
   Button* closeButton = nullptr;

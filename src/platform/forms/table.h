@@ -45,6 +45,9 @@ class Table : public Control {
   int rows() const { return static_cast<int>(lines_.size()); }
   int columns() const { return columns_; }
   int fixedRows() const { return fixedRows_; }
+  // The rows that aren't headings.
+  int firstRow() const { return fixedRows_; }
+  int lastRow() const { return rows() - 1; }
   /// Growing adds empty rows; shrinking drops rows at the end and holds the current row within,
   /// without events of a cell. Below 0 is error 30009, no row but fixed ones error 30016.
   void setRows(int rows);

@@ -41,4 +41,11 @@ std::string markedText(const Table& table) {
   return text;
 }
 
+bool hasText(const Table& table, int row) {
+  for (int column = 0; column < table.columns(); ++column) {
+    if (!table.cell(row, column).empty()) return true;
+  }
+  return false;
+}
+
 }  // namespace awizo

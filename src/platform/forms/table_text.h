@@ -11,4 +11,8 @@ namespace awizo {
 /// are left out; a mark that lies in such columns alone stands for whole rows.
 std::string markedText(const Table& table);
 
+/// Whether the row has a text. One without is no row of the document: the table only can't have
+/// fewer.
+bool hasText(const Table& table, int row);
+
 }  // namespace awizo

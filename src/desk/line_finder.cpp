@@ -1,0 +1,56 @@
+#include "desk/line_finder.h"
+
+#include "desk/layout_words.h"
+#include "platform/forms/keys.h"
+#include "platform/text.h"
+
+namespace awizo {
+
+LineFinder::LineFinder(const Editor& editor)
+    : findDialog(editor.screen(), editor), faultList(editor.screen()), editor_(editor) {}
+
+void LineFinder::tell(std::string_view words) const {
+  if (say) say(words);
+}
+
+void LineFinder::goToRow(std::optional<int> row, std::string_view nothing) {
+  if (!row) return tell(nothing);
+  editor_.form.grdPozycje.userRow(*row);
+}
+
+void LineFinder::find() {
+  if (!editor_.form.takesInput()) return;
+  if (const std::optional<int> row = findDialog.ask()) goToRow(row, "");
+}
+
+void LineFinder::findAgain() {
+  if (findDialog.txtWhat.text().empty()) return find();
+  if (editor_.form.takesInput()) goToRow(findDialog.again(), words::noSuchLine);
+}
+
+void LineFinder::showFaults() {
+  if (!editor_.form.takesInput()) return;
+  if (const auto chosen = faultList.choose(faultsOf(editor_))) goTo(*chosen);
+}
+
+bool LineFinder::takeKey(std::int16_t code) {
+  if (code >= '0' && code <= '9') {
+    code_.add(static_cast<char>(code));
+    tell(joined({words::codeSoFar, code_.digits()}));
+    return true;
+  }
+  if (code_.digits().empty()) return false;
+  tell("");
+  const std::string scanned = code == keys::enter ? code_.end() : "";
+  code_.forget();
+  if (scanned.empty()) return false;
+  goToRow(findScanned(editor_, scanned), joined({words::noSuchCode, scanned}));
+  return true;
+}
+
+void LineFinder::forgetCode() {
+  if (!code_.digits().empty()) tell("");
+  code_.forget();
+}
+
+}  // namespace awizo

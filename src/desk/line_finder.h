@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string_view>
+
+#include "desk/fault_list.h"
+#include "desk/find_dialog.h"
+#include "desk/line_search.h"
+
+namespace awizo {
+
+/// Leads the user to lines and to what is wrong: by a text, by a scanned code typed into the table
+/// of lines, by the list of faults. What the host calls here are the user's acts, which may be
+/// Refused.
+class LineFinder {
+ public:
+  /// Its dialogs are shown on the editor's screen.
+  explicit LineFinder(const Editor& editor);
+
+  FindDialog findDialog;
+  FaultList faultList;
+
+  /// Shows these words in place of the current line's until another line is the current one; the
+  /// line's own again for empty ones.
+  std::function<void(std::string_view words)> say;
+
+  void find();
+  void findAgain();
+  /// What was being typed has been handed over.
+  void showFaults();
+
+  /// A key in the table of lines, before the table has it: the code of a digit or of Enter, 0 for
+  /// any other. Returns whether it is one of a scanned code's.
+  bool takeKey(std::int16_t code);
+  /// The focus has left the table.
+  void forgetCode();
+
+ private:
+  void goToRow(std::optional<int> row, std::string_view nothing);
+  void tell(std::string_view words) const;
+
+  const Editor& editor_;
+  ScannedCode code_;
+};
+
+}  // namespace awizo
