@@ -354,5 +354,22 @@ TEST_F(LineDialogOnDesktop, ADateTypedInTheProductionDateMovesTheExpiryDate) {
   });
 }
 
+TEST_F(LineDialogOnDesktop, KeysBringTheFieldWithTheFocusIntoSight) {
+  addLine([&] {
+    QWidget& window = dialog(line);
+    window.resize(window.width(), 200);
+    settle();
+    const auto isInSight = [](const QWidget* field) {
+      return field->visibleRegion().boundingRect() == field->rect();
+    };
+    EXPECT_FALSE(isInSight(widget(line.btnZamknij)));
+    tabTo(line.btnZamknij);
+    EXPECT_TRUE(isInSight(widget(line.btnZamknij)));
+    tabTo(line.txtIloscPotw);
+    EXPECT_TRUE(isInSight(widget(line.txtIloscPotw)));
+    line.userClose();
+  });
+}
+
 }  // namespace
 }  // namespace awizo::test

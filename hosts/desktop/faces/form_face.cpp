@@ -1,7 +1,9 @@
 #include "hosts/desktop/faces/form_face.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QScrollArea>
 
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/key_codes.h"
@@ -9,6 +11,19 @@
 #include "hosts/desktop/faces/table_face.h"
 
 namespace awizo::desktop {
+namespace {
+
+/// Scrolls what holds the widget until it is seen. Under the mouse nothing moves: what is pressed
+/// there is seen.
+void bringIntoSight(QWidget& widget) {
+  if (QApplication::mouseButtons() != Qt::NoButton) return;
+  for (QWidget* holder = widget.parentWidget(); holder != nullptr;
+       holder = holder->parentWidget()) {
+    if (auto* area = qobject_cast<QScrollArea*>(holder)) area->ensureWidgetVisible(&widget);
+  }
+}
+
+}  // namespace
 
 FormFace::FormFace(Form& form, QWidget& window) : QObject(&window), form_(form), window_(window) {
   for (Control* control : form.controls()) faces_[control] = makeFace(*this, *control, &window);
@@ -91,6 +106,7 @@ void FormFace::followFocus() {
     if (there != nullptr && there != &window_) there->clearFocus();
   } else if (wanted != there) {
     wanted->setFocus(reason_);
+    bringIntoSight(*wanted);
   }
 }
 
@@ -127,7 +143,10 @@ void FormFace::focusCame(Face& face, Qt::FocusReason reason) {
   const bool byUser = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
                       reason == Qt::MouseFocusReason || reason == Qt::ShortcutFocusReason ||
                       reason == Qt::OtherFocusReason;
-  if (byUser && face.control().isFocusable()) moveFocusTo(face);
+  if (byUser && face.control().isFocusable()) {
+    moveFocusTo(face);
+    bringIntoSight(*face.focusWidget());
+  }
   followFocus();
 }
 
