@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "desk/layout_words.h"
+#include "desk/unfinished_question.h"
 #include "platform/text.h"
 #include "session/record/off_line_path.h"
 
@@ -20,6 +21,9 @@ StartPage::StartPage(const Platform& platform)
       Form(ownScreen, "StartPage"),
       lblWhy(*this, "lblWhy"),
       btnAgain(*this, "btnAgain", "П&опробовать ещё раз"),
+      frmUnfinished(*this, "frmUnfinished", "Незаконченная работа"),
+      lblUnfinished(*this, "lblUnfinished"),
+      btnGoOn(*this, "btnGoOn", "Продол&жить"),
       frmOffLine(*this, "frmOffLine", "Без связи со службой"),
       lblFolder(*this, "lblFolder", "", "Папка:"),
       lblSeller(*this, "lblSeller", "", "Ваша фирма:"),
@@ -38,11 +42,15 @@ StartPage::StartPage(const Platform& platform)
       session_(platform) {
   setCaption(words::windowTitle);
   btnAgain.onClick = [this] { raise(onAgain); };
+  btnGoOn.onClick = [this] {
+    if (onGoOn && unfinished_) onGoOn(*unfinished_);
+  };
   btnOffLine.onClick = [this] { begin(onOffLine); };
   btnOpen.onClick = [this] { begin(onOpen); };
   btnFolder.onClick = [this] { chooseFolder(); };
   btnLaunchFile.onClick = [this] { raise(onLaunchFile); };
   acceptButton = &btnOffLine;
+  offer(std::nullopt);
 }
 
 void StartPage::show(std::string_view why, bool mayTryAgain) {
@@ -51,6 +59,16 @@ void StartPage::show(std::string_view why, bool mayTryAgain) {
   btnAgain.setVisible(mayTryAgain);
   refresh();
   showMain();
+}
+
+void StartPage::offer(const std::optional<journal::UnfinishedWork>& work) {
+  unfinished_ = work;
+  if (work) lblUnfinished.setCaption(unfinishedWords(*work));
+  for (Control* control :
+       {static_cast<Control*>(&frmUnfinished), static_cast<Control*>(&lblUnfinished),
+        static_cast<Control*>(&btnGoOn)}) {
+    control->setVisible(work.has_value());
+  }
 }
 
 void StartPage::refresh() {

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "desk/partners.h"
 #include "formats/file_dialog.h"
+#include "journal/unfinished_work.h"
 #include "platform/forms/button.h"
 #include "platform/forms/drop_down_list.h"
 #include "platform/forms/form.h"
@@ -37,6 +39,10 @@ class StartPage : private OwnScreen, public Form {
   Label lblWhy;  ///< why there is no editor now; hidden where the user knows
   Button btnAgain;
 
+  Frame frmUnfinished;  ///< hidden where no work was left behind
+  Label lblUnfinished;
+  Button btnGoOn;
+
   Frame frmOffLine;
   Label lblFolder, lblSeller;
   Label lblMissing;  ///< what keeps from working off line; hidden where nothing does
@@ -55,12 +61,16 @@ class StartPage : private OwnScreen, public Form {
   /// The same, and the user is asked for a file to open.
   std::function<void(const Partner&)> onOpen;
   Event onLaunchFile;
+  /// The work that was left behind is to go on.
+  std::function<void(const journal::UnfinishedWork&)> onGoOn;
   /// What was refused is tried again.
   Event onAgain;
 
   /// Shows the page as the main form. `why`: words for the user, empty for none. `mayTryAgain`:
   /// whether something was tried.
   void show(std::string_view why, bool mayTryAgain);
+  /// Offers to go on with the work that was left behind, if any.
+  void offer(const std::optional<journal::UnfinishedWork>& work);
   /// Reads the folder again.
   void refresh();
   /// The partner in the folder that the saved document of this classic path is for.
@@ -73,6 +83,7 @@ class StartPage : private OwnScreen, public Form {
   const Platform& platform_;
   SessionState session_;  ///< the folder dialog's
   FolderContent content_;
+  std::optional<journal::UnfinishedWork> unfinished_;
 };
 
 }  // namespace awizo

@@ -4,14 +4,17 @@
 
 namespace awizo {
 
-Question unfinishedQuestion(const journal::UnfinishedWork& work) {
+std::string unfinishedWords(const journal::UnfinishedWork& work) {
   const journal::WorkSummary& summary = work.summary;
   const std::string document = summary.number.empty() ? "документ без номера" : summary.number;
+  return joined({document, " от ", summary.time, ", упаковано ",
+                 std::to_string(summary.packedLines), " из ", std::to_string(summary.lines)});
+}
+
+Question unfinishedQuestion(const journal::UnfinishedWork& work) {
   Question question{.choices = {Choice::goOn, Choice::startAfresh, Choice::later},
                     .harmless = Choice::later};
-  question.text =
-      joined({"Продолжить ", document, " от ", summary.time, ", упаковано ",
-              std::to_string(summary.packedLines), " из ", std::to_string(summary.lines), "?"});
+  question.text = joined({"Продолжить ", unfinishedWords(work), "?"});
   if (work.mayHaveArrived) {
     question.text +=
         "\r\n\r\nЕго отправляли, но ответ службы не пришёл: он мог дойти до получателя.";

@@ -118,6 +118,24 @@ TEST_F(StartPageTest, FindsThePartnerOfASavedDocument) {
   }
 }
 
+TEST_F(StartPageTest, OffersToGoOnWithWorkThatWasLeftBehind) {
+  page.show("", false);
+  EXPECT_FALSE(page.frmUnfinished.visible());
+  EXPECT_FALSE(page.btnGoOn.visible());
+  journal::UnfinishedWork work;
+  work.record = "a record";
+  work.summary = {
+      .number = "ТН-6", .orderNumber = "", .time = "23:14", .lines = 25, .packedLines = 12};
+  page.offer(work);
+  EXPECT_EQ(page.lblUnfinished.caption(), "ТН-6 от 23:14, упаковано 12 из 25");
+  std::string wanted;
+  page.onGoOn = [&](const journal::UnfinishedWork& chosen) { wanted = chosen.record; };
+  page.btnGoOn.userClick();
+  EXPECT_EQ(wanted, "a record");
+  page.offer(std::nullopt);
+  EXPECT_FALSE(page.btnGoOn.visible());
+}
+
 TEST_F(StartPageTest, StandsOnAScreenOfItsOwn) {
   page.show("", false);
   EXPECT_EQ(page.screen().top(), &page);

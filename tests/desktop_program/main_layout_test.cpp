@@ -5,8 +5,10 @@
 #include <QLayout>
 #include <QScreen>
 #include <QScrollBar>
+#include <QSplitter>
 
 #include "desktop_program/program_test.h"
+#include "hosts/desktop/layouts/wrapping.h"
 
 namespace awizo::test {
 namespace {
@@ -149,6 +151,25 @@ TEST_F(MainLayoutTest, TheWindowOpensAsLargeAsItNeedsWhereTheScreenHasRoom) {
   openOrder();
   const auto* area = qobject_cast<QAbstractScrollArea*>(window().centralWidget());
   EXPECT_EQ(area->sizeHint(), widget().sizeHint());
+}
+
+TEST_F(MainLayoutTest, AWindowComesBackAsItsUserLeftIt) {
+  open(offLineOptions());
+  window().resize(desktop::roomFor(window()) - QSize(10, 10));
+  letLayoutsSettle();
+  const QSize size = window().size();
+  auto* tables = window().findChild<QSplitter*>("linesAndPackages");
+  ASSERT_NE(tables, nullptr);
+  const QList<int> before = tables->sizes();
+  tables->setSizes({before[0] - 20, before[1] + 20});
+  letLayoutsSettle();
+  const QList<int> left = tables->sizes();
+  ASSERT_NE(left, before);
+  close();
+  open(offLineOptions());
+  letLayoutsSettle();
+  EXPECT_EQ(window().size(), size);
+  EXPECT_EQ(window().findChild<QSplitter*>("linesAndPackages")->sizes(), left);
 }
 
 }  // namespace

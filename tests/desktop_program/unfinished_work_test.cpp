@@ -110,6 +110,27 @@ TEST_F(UnfinishedWorkTest, WaitsWhereItIsPutOff) {
   EXPECT_EQ(form().txtNrAwiza.text(), "ТН-6");
 }
 
+TEST_F(UnfinishedWorkTest, ThatIsPutOffIsOfferedOnTheStartPage) {
+  work();
+  crash();
+  answerNext("О&тложить", &asked);
+  Options bare = onLineOptions(service);
+  bare.properties.clear();
+  bare.pageUrl.reset();
+  bare.cookie.reset();
+  show(bare);
+  StartPage& page = waitForStartPage().page();
+  EXPECT_EQ(page.lblUnfinished.caption(), "ТН-6 от 10:15, упаковано 0 из 25");
+  click(window().startPage().faces().face(page.btnGoOn));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window().hasSession(); }, 10000));
+  follow();
+  waitForStart();
+  EXPECT_EQ(form().txtNrAwiza.text(), "ТН-6");
+  EXPECT_EQ(control().editor.session.LineCount, 25);
+  close();
+  EXPECT_TRUE(folder.records().empty());
+}
+
 TEST_F(UnfinishedWorkTest, IsNoneOnceItsWindowHasClosed) {
   work();
   close();

@@ -75,7 +75,7 @@ void MainWindow::goOnWith(const journal::UnfinishedWork& work) {
 }
 
 void MainWindow::makeSession() {
-  delete takeCentralWidget();
+  dropPart();
   startPage_ = nullptr;
   bag_ = std::make_unique<OptionsBag>(options_);
   widget_ = new AwizoWysylkiWidget(givenParts());
@@ -96,6 +96,7 @@ void MainWindow::lookAtStart() {
   const std::string& refusal = widget_->watch().refusal();
   if (widget_->replayFailed()) {
     options_ = launch_;
+    replayHasFailed_ = true;
     showStartPage(std::string(words::replayFailed));
   } else if (!widget_->hasStarted()) {
     showStartPage(whyNot_);
@@ -107,7 +108,7 @@ void MainWindow::lookAtStart() {
 }
 
 void MainWindow::showStartPage(const std::string& why) {
-  delete takeCentralWidget();
+  dropPart();
   widget_ = nullptr;
   bag_ = std::make_unique<OptionsBag>(options_);
   startPage_ = new StartPageWidget(givenParts());
@@ -126,7 +127,14 @@ void MainWindow::showStartPage(const std::string& why) {
     });
   };
   page.onLaunchFile = [this, later] { later([this] { chooseLaunchFile(); }); };
+  page.onGoOn = [this, later](const journal::UnfinishedWork& work) {
+    later([this, work] {
+      goOnWith(work);
+      fromStartPage_ = true;
+    });
+  };
   page.onAgain = [this, later] { later([this] { makeSession(); }); };
+  if (records_ != nullptr && !replayHasFailed_) page.offer(journal::unfinishedWork(*records_));
   showPart(startPage_);
   setWindowTitle(fromText(page.caption()));
   page.show(why, namesSession(options_));

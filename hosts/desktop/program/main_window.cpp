@@ -16,6 +16,7 @@
 #include "hosts/desktop/layouts/command_actions.h"
 #include "hosts/desktop/layouts/wrapping.h"
 #include "hosts/desktop/program/guide.h"
+#include "hosts/desktop/program/kept_shape.h"
 #include "hosts/desktop/window/finder.h"
 #include "hosts/desktop/window/paper_maker.h"
 #include "hosts/version.h"
@@ -41,8 +42,7 @@ MainWindow::MainWindow(Options options, Http* http, RecordFolder* records)
   setAcceptDrops(true);
   qApp->installEventFilter(this);
   if (!takesUpUnfinishedWork()) begin();
-  // On a smaller screen the form scrolls instead of losing its edges.
-  resize(usualSize.expandedTo(sizeHint()).boundedTo(roomFor(*this)));
+  takeKeptSize(*this, usualSize, *settings_);
 }
 
 /// A dialog takes all keys from the window below; F1 opens its chapter of the guide.
@@ -56,7 +56,20 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-MainWindow::~MainWindow() { delete takeCentralWidget(); }
+MainWindow::~MainWindow() {
+  if (wasShown_) keepSize(*this, *settings_);
+  dropPart();
+}
+
+void MainWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  wasShown_ = true;
+}
+
+void MainWindow::dropPart() {
+  if (wasShown_ && centralWidget() != nullptr) keepParts(*centralWidget(), *settings_);
+  delete takeCentralWidget();
+}
 
 GivenParts MainWindow::givenParts() {
   GivenParts parts{*bag_, page_, *settings_, options_.locale, clock_.get(), http_};
@@ -70,6 +83,7 @@ GivenParts MainWindow::givenParts() {
 
 void MainWindow::showPart(QWidget* part) {
   setCentralWidget(new Scrolled(part));
+  takeKeptParts(*part, *settings_);
   makeMenus();
 }
 

@@ -46,6 +46,7 @@ class MainWindow : public QMainWindow {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
@@ -61,6 +62,8 @@ class MainWindow : public QMainWindow {
   /// `why`: words for the user, empty for none.
   void showStartPage(const std::string& why);
   void showPart(QWidget* part);
+  /// What is in the window goes.
+  void dropPart();
   GivenParts givenParts();
   /// After a start, whatever came of it.
   void lookAtStart();
@@ -92,9 +95,11 @@ class MainWindow : public QMainWindow {
   std::unique_ptr<Clock> clock_;
   AwizoWysylkiWidget* widget_ = nullptr;
   StartPageWidget* startPage_ = nullptr;
-  bool fromStartPage_ = false;        ///< the session was begun there, off line
+  bool fromStartPage_ = false;        ///< the session was begun there
+  bool replayHasFailed_ = false;      ///< the work that was left behind can't go on
   std::string whyNot_;                ///< why the last session wasn't to start
   std::function<void()> afterStart_;  ///< what follows once the session has started
+  bool wasShown_ = false;
   bool mayClose_ = false;
   bool asking_ = false;
   bool askedWhileWorking_ = false;

@@ -8,12 +8,14 @@ namespace awizo::desktop {
 Status layOutMain(Editor& editor, FormFace& faces, QWidget& lineStrip) {
   AwizoForm& form = editor.form;
   auto* below = new QSplitter(Qt::Horizontal);
+  below->setObjectName("packagesAndTotals");
   below->setChildrenCollapsible(false);
   below->addWidget(makePackages(form, faces));
   below->addWidget(makeTotals(form, faces));
   below->setStretchFactor(0, 1);
   below->setStretchFactor(1, 0);
   auto* tables = new QSplitter(Qt::Vertical);
+  tables->setObjectName("linesAndPackages");
   tables->setChildrenCollapsible(false);
   tables->addWidget(makeLines(editor, faces, lineStrip));
   tables->addWidget(below);

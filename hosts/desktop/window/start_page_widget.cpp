@@ -46,6 +46,7 @@ StartPageWidget::StartPageWidget(const GivenParts& given, QWidget* parent)
   heading->setFont(large);
   column->addWidget(heading);
   column->addWidget(makeWhy());
+  column->addWidget(makeUnfinished());
   column->addWidget(makeOffLine());
   column->addWidget(makeOnLine());
   column->addStretch(2);
@@ -73,6 +74,16 @@ QWidget* StartPageWidget::makeWhy() {
   row->addWidget(&why, 1);
   row->addWidget(faces_->widget(page_.btnAgain));
   return holder;
+}
+
+QWidget* StartPageWidget::makeUnfinished() {
+  QWidget* frame = faces_->widget(page_.frmUnfinished);
+  auto* row = new QHBoxLayout(frame);
+  row->setContentsMargins(insideFrame);
+  row->setSpacing(8);
+  row->addWidget(&wrapped(*faces_, page_.lblUnfinished), 1);
+  row->addWidget(faces_->widget(page_.btnGoOn));
+  return frame;
 }
 
 QWidget* StartPageWidget::makeOffLine() {

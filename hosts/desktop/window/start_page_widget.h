@@ -24,6 +24,7 @@ class StartPageWidget : public QWidget {
   Answer ask(const MessageBox& box) { return page_.screen().messageBox(box); }
 
  private:
+  QWidget* makeUnfinished();
   QWidget* makeOffLine();
   QWidget* makeOnLine();
   QWidget* makeWhy();
