@@ -47,6 +47,10 @@ std::vector<Command> paperCommands() {
           {.words = "&Листы в упаковки…", .task = HostTask::showPackageSheets}};
 }
 
+std::vector<Command> numberCommands() {
+  return {{.words = "&Номера упаковок…", .task = HostTask::showNumbers}};
+}
+
 std::vector<Command> helpCommands() {
   return {
       {.words = "&Руководство пользователя", .task = HostTask::showGuide, .keys = {key(keys::f1)}},
@@ -178,7 +182,7 @@ std::vector<CommandMenu> commandMenus(AwizoForm& form) {
   return {{"&Документ", {documentCommands(form), sessionCommands(), endCommands()}},
           {"&Правка",
            {lineCommands(form), packageCommands(form), countryCommands(form), findCommands()}},
-          {"&Бумаги", {paperCommands(), {paperOfFileCommand()}}},
+          {"&Бумаги", {paperCommands(), {paperOfFileCommand()}, numberCommands()}},
           {"&Справка", {helpCommands()}}};
 }
 

@@ -31,6 +31,7 @@ enum class HostTask {
   showPackingList,
   showPackageSheets,
   showPapersOfFile,
+  showNumbers,
   showGuide,
   showAbout
 };

@@ -1,5 +1,7 @@
 #include "desk/line_finder.h"
 
+#include <utility>
+
 #include "desk/layout_words.h"
 #include "platform/forms/keys.h"
 #include "platform/text.h"
@@ -30,7 +32,11 @@ void LineFinder::findAgain() {
 
 void LineFinder::showFaults() {
   if (!editor_.form.takesInput()) return;
-  if (const auto chosen = faultList.choose(faultsOf(editor_))) goTo(*chosen);
+  std::vector<DocumentFault> faults = faultsOf(editor_);
+  if (moreFaults) {
+    for (DocumentFault& fault : moreFaults()) faults.push_back(std::move(fault));
+  }
+  if (const auto chosen = faultList.choose(std::move(faults))) goTo(*chosen);
 }
 
 bool LineFinder::takeKey(std::int16_t code) {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "desk/fault_list.h"
 #include "desk/find_dialog.h"
@@ -21,6 +22,9 @@ class LineFinder {
 
   FindDialog findDialog;
   FaultList faultList;
+
+  /// Faults beside those of the document itself. May be empty.
+  std::function<std::vector<DocumentFault>()> moreFaults;
 
   /// Shows these words in place of the current line's until another line is the current one; the
   /// line's own again for empty ones.

@@ -16,4 +16,10 @@ std::unique_ptr<SettingsStore> makeSettings(const Options& options) {
   });
 }
 
+std::string numbersBeginning(const Options& options) {
+  const bool isInMemory = !options.settingsFile && options.offLinePath;
+  if (isInMemory) return *options.offLinePath + "/numbers-";
+  return options.settingsFile.value_or(SettingsFile::usersOwnPath()) + "-numbers-";
+}
+
 }  // namespace awizo

@@ -10,6 +10,7 @@ class DlgSzczegoly;
 class DlgWczytajZapisz;
 class FaultList;
 class FindDialog;
+class NumberRangeDialog;
 class PapersDialog;
 }  // namespace awizo
 
@@ -23,6 +24,7 @@ void layOut(DlgSzczegoly& form, FormDialog& dialog);
 void layOut(DlgWczytajZapisz& form, FormDialog& dialog);
 void layOut(FaultList& form, FormDialog& dialog);
 void layOut(FindDialog& form, FormDialog& dialog);
+void layOut(NumberRangeDialog& form, FormDialog& dialog);
 void layOut(PapersDialog& form, FormDialog& dialog);
 /// Any other form: its controls one below the other in their order.
 void layOut(Form& form, FormDialog& dialog);

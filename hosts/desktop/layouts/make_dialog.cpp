@@ -4,6 +4,7 @@
 
 #include "desk/fault_list.h"
 #include "desk/find_dialog.h"
+#include "desk/number_range_dialog.h"
 #include "desk/papers_dialog.h"
 #include "formats/file_dialog.h"
 #include "hosts/desktop/layouts/dialog_layouts.h"
@@ -34,7 +35,8 @@ FormDialog* makeDialog(Form& form, QWidget* parent) {
       layOutAs<DlgDodaj>(form, *dialog) || layOutAs<DlgdodajPule>(form, *dialog) ||
       layOutAs<DlgIsoCodes>(form, *dialog) || layOutAs<DlgSzczegoly>(form, *dialog) ||
       layOutAs<DlgWczytajZapisz>(form, *dialog) || layOutAs<FaultList>(form, *dialog) ||
-      layOutAs<FindDialog>(form, *dialog) || layOutAs<PapersDialog>(form, *dialog);
+      layOutAs<FindDialog>(form, *dialog) || layOutAs<PapersDialog>(form, *dialog) ||
+      layOutAs<NumberRangeDialog>(form, *dialog);
   if (!known) layOut(form, *dialog);
   dialog->makeScrollable();
   // A widget with a new parent must be shown again.

@@ -77,6 +77,7 @@ GivenParts MainWindow::givenParts() {
   parts.records.header = headerOf(options_, chosenLocale(options_.locale));
   parts.records.replayed = std::exchange(replayed_, {});
   parts.records.replayedName = std::exchange(replayedName_, "");
+  parts.numbersBeginning = numbersBeginning(options_);
   parts.records.today.page = launch_.pageUrl.has_value();
   return parts;
 }
@@ -149,6 +150,8 @@ void MainWindow::perform(HostTask task) {
       return widget_->paperMaker().show(Paper::packageSheets);
     case HostTask::showPapersOfFile:
       return widget_->paperMaker().showSaved();
+    case HostTask::showNumbers:
+      return widget_->showNumberRange();
     case HostTask::showGuide:
       return openGuide(*this);
     case HostTask::showAbout:

@@ -14,6 +14,7 @@
 #include "hosts/desktop/window/finder.h"
 #include "hosts/desktop/window/kept_record.h"
 #include "hosts/desktop/window/main_layout.h"
+#include "hosts/desktop/window/package_numbers.h"
 #include "hosts/desktop/window/paper_maker.h"
 #include "hosts/desktop/window/surroundings.h"
 #include "journal/unfinished_work.h"
@@ -87,6 +88,7 @@ struct AwizoWysylkiWidget::Parts {
   CommandActions* commands = nullptr;
   Finder* finder = nullptr;  ///< belongs to `content`
   std::unique_ptr<PaperMaker> paperMaker;
+  std::unique_ptr<PackageNumbers> packageNumbers;  ///< null where the firm has none
 };
 
 AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
@@ -97,6 +99,12 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
   parts.finder = new Finder(parts.control.editor, *parts.faces);
   parts.paperMaker = std::make_unique<PaperMaker>(parts.control.editor, parts.surroundings.files,
                                                   given.settings, *this);
+  if (!given.numbersBeginning.empty()) {
+    parts.packageNumbers = std::make_unique<PackageNumbers>(
+        parts.control.editor, parts.control.dlgSzczegoly, given.numbersBeginning,
+        parts.surroundings.platform.clock, parts.face);
+    parts.finder->rules().moreFaults = [&parts] { return parts.packageNumbers->faults(); };
+  }
   parts.status = layOutMain(parts.control.editor, *parts.faces, parts.finder->strip());
   parts.faces->showAll();
   parts.commands =
@@ -181,6 +189,11 @@ FormFace& AwizoWysylkiWidget::faces() { return *parts_->faces; }
 CommandActions& AwizoWysylkiWidget::commands() { return *parts_->commands; }
 Finder& AwizoWysylkiWidget::finder() { return *parts_->finder; }
 PaperMaker& AwizoWysylkiWidget::paperMaker() { return *parts_->paperMaker; }
+
+void AwizoWysylkiWidget::showNumberRange() {
+  if (parts_->packageNumbers) parts_->packageNumbers->showRange();
+}
+
 Waiting& AwizoWysylkiWidget::waiting() { return parts_->waiting; }
 
 bool AwizoWysylkiWidget::hasFailed() const { return parts_->face.programEnded(); }

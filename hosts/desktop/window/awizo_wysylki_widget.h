@@ -79,6 +79,8 @@ class AwizoWysylkiWidget : public QWidget {
   CommandActions& commands();
   Finder& finder();
   PaperMaker& paperMaker();
+  /// Lets the user set the range of package numbers, where the firm has any.
+  void showNumberRange();
   Waiting& waiting();
 
  signals:

@@ -16,6 +16,7 @@ class Finder : public QObject {
   Finder(const Editor& editor, FormFace& faces);
 
   LineStrip& strip() { return *strip_; }
+  LineFinder& rules() { return finder_; }
 
   void find();
   void findAgain();

@@ -38,6 +38,8 @@ struct GivenParts {
   const Clock* clock = nullptr;  ///< null: the machine's
   Http* http = nullptr;          ///< null: the network
   GivenRecords records = {};
+  /// Of the paths of the files that hold the firm's package numbers; empty: it has none.
+  std::string numbersBeginning = {};
 };
 
 /// The platform of the forms in one widget: what the program gave, and the machine for the rest.

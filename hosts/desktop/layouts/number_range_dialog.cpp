@@ -1,0 +1,34 @@
+#include "desk/number_range_dialog.h"
+
+#include <QVBoxLayout>
+
+#include "desk/layout_words.h"
+#include "hosts/desktop/layouts/dialog_layouts.h"
+#include "hosts/desktop/layouts/fields.h"
+
+namespace awizo::desktop {
+
+void layOut(NumberRangeDialog& form, FormDialog& dialog) {
+  FormFace& faces = dialog.faces();
+  auto* rows = new QVBoxLayout(&dialog);
+  rows->setSpacing(10);
+  auto* holder = new QWidget;
+  Fields fields(faces, holder);
+  fields.grid()->setContentsMargins(0, 0, 0, 0);
+  int row = 0;
+  for (const TextField* field :
+       {&form.txtExtension, &form.txtPrefix, &form.txtFirst, &form.txtLast, &form.txtNext}) {
+    fields.add(row++, 0, fromText(field->caption()), *field);
+  }
+  faces.widget(form.txtPrefix)->setMinimumWidth(dialog.fontMetrics().averageCharWidth() * 30);
+  rows->addWidget(holder);
+  for (const Label* label : {&form.lblExample, &form.lblLeft, &form.lblDoubt}) {
+    auto* shown = static_cast<QLabel*>(faces.widget(*label));
+    shown->setWordWrap(true);
+    rows->addWidget(shown);
+  }
+  rows->addStretch(1);
+  rows->addLayout(makeButtonRow(faces, form.btnSave, form.btnClose));
+}
+
+}  // namespace awizo::desktop

@@ -1,0 +1,73 @@
+#include "desk/number_range_dialog.h"
+
+#include "platform/run_time_error.h"
+#include "platform/text.h"
+
+namespace awizo {
+
+NumberRangeDialog::NumberRangeDialog(Screen& screen, GivenNumbers& numbers)
+    : Form(screen, "NumberRangeDialog"),
+      txtExtension(*this, "txtExtension", "Первая цифра (0–9):"),
+      txtPrefix(*this, "txtPrefix", "Префикс фирмы (GS1):"),
+      txtFirst(*this, "txtFirst", "Порядковые номера с:"),
+      txtLast(*this, "txtLast", "по:"),
+      txtNext(*this, "txtNext", "Следующий:"),
+      lblExample(*this, "lblExample"),
+      lblLeft(*this, "lblLeft"),
+      lblDoubt(*this, "lblDoubt"),
+      btnSave(*this, "btnSave", "&Сохранить"),
+      btnClose(*this, "btnClose", "&Закрыть"),
+      numbers_(numbers) {
+  setCaption("Номера упаковок (SSCC)");
+  acceptButton = &btnSave;
+  closeButton = &btnClose;
+  onActivate = [this] { txtPrefix.setFocus(); };
+  for (TextField* field : {&txtExtension, &txtPrefix, &txtFirst, &txtLast, &txtNext}) {
+    field->onChange = [this] { tell(); };
+  }
+  btnSave.onClick = [this] { btnSave_Click(); };
+  btnClose.onClick = [this] { hide(); };
+}
+
+void NumberRangeDialog::show(std::string sellerILN) {
+  sellerILN_ = std::move(sellerILN);
+  fill();
+  tell();
+  showModal();
+}
+
+void NumberRangeDialog::fill() {
+  std::optional<NumberRange> range;
+  caughtError([&] { range = numbers_.range(); });
+  txtExtension.setText(range ? range->extension : "0");
+  txtPrefix.setText(range ? range->prefix : "");
+  txtFirst.setText(range ? std::to_string(range->first) : "1");
+  txtLast.setText(range ? std::to_string(range->last) : "");
+  txtNext.setText(range ? std::to_string(range->next) : "");
+}
+
+std::optional<NumberRange> NumberRangeDialog::typedRange(std::string& refusal) const {
+  const auto text = [](const TextField& field) { return trimmed(field.text()); };
+  return rangeOf(text(txtExtension), text(txtPrefix), text(txtFirst), text(txtLast), text(txtNext),
+                 refusal);
+}
+
+void NumberRangeDialog::tell() {
+  std::string refusal;
+  const std::optional<NumberRange> range = typedRange(refusal);
+  const bool hasNext = range && numbersLeft(*range) > 0;
+  lblExample.setCaption(hasNext ? "Следующий номер: " + containerNumber(*range, range->next) : "");
+  lblLeft.setCaption(range ? leftWords(*range) : "");
+  lblDoubt.setCaption(range ? prefixDoubt(*range, sellerILN_) : refusal);
+}
+
+void NumberRangeDialog::btnSave_Click() {
+  std::string refusal;
+  const std::optional<NumberRange> range = typedRange(refusal);
+  if (!range) return lblDoubt.setCaption(refusal);
+  const auto error = caughtError([&] { numbers_.setRange(*range); });
+  if (error) return lblDoubt.setCaption("Не сохранено: " + error->description() + ".");
+  hide();
+}
+
+}  // namespace awizo

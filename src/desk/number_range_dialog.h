@@ -1,0 +1,35 @@
+#pragma once
+
+#include "numbers/given_numbers.h"
+#include "platform/forms/button.h"
+#include "platform/forms/form.h"
+#include "platform/forms/label.h"
+#include "platform/forms/text_field.h"
+
+namespace awizo {
+
+/// Sets the firm's range of package numbers.
+class NumberRangeDialog : public Form {
+ public:
+  NumberRangeDialog(Screen& screen, GivenNumbers& numbers);
+
+  TextField txtExtension, txtPrefix, txtFirst, txtLast, txtNext;
+  Label lblExample;  ///< the next number, with its check digit
+  Label lblLeft;
+  Label lblDoubt;  ///< what is wrong with the fields, or doubtful
+  Button btnSave, btnClose;
+
+  /// `sellerILN`: the user's firm, "" where it isn't known.
+  void show(std::string sellerILN);
+
+ private:
+  void fill();
+  std::optional<NumberRange> typedRange(std::string& refusal) const;
+  void tell();
+  void btnSave_Click();
+
+  GivenNumbers& numbers_;
+  std::string sellerILN_;
+};
+
+}  // namespace awizo

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "numbers/number_range.h"
+#include "platform/clock.h"
+#include "platform/shared_store.h"
+
+namespace awizo {
+
+/// What the record says of a number.
+struct NumberUse {
+  std::string date;      ///< "yyyy-mm-dd"
+  std::string document;  ///< its number; empty where it had none yet
+};
+
+/// Gives numbers of the firm's range, none of them twice: they are taken while no other program
+/// takes any, and stored as taken before anyone sees them. All that were given or used are on
+/// record with date and document.
+class GivenNumbers {
+ public:
+  GivenNumbers(SharedStore& store, const Clock& clock) : store_(store), clock_(clock) {}
+
+  /// The range; none where none was set, or where the store holds something else.
+  std::optional<NumberRange> range();
+  void setRange(const NumberRange& range);
+
+  /// So many numbers in one step, fewer where the range ends. Those that another document has used
+  /// within twelve months are passed over, and so are `own`, which the document has already.
+  std::vector<std::string> take(std::size_t count, std::string_view document,
+                                const std::set<std::string>& own = {});
+
+  /// Puts on record that the document has these numbers; what is on record for it stays once.
+  void noteUse(const std::vector<std::string>& numbers, std::string_view document);
+
+  /// Which other document has the number, or was given it, within twelve months; the last one.
+  std::optional<NumberUse> useElsewhere(std::string_view number, std::string_view document);
+
+ private:
+  struct Entry {
+    bool isUsed = false;  ///< else it was given only
+    NumberUse use;
+  };
+
+  /// The same of what was read already.
+  std::optional<NumberUse> knownElsewhere(const std::string& number,
+                                          std::string_view document) const;
+  /// Reads what others have added to the record since.
+  void catchUp();
+  void takeLines(std::string_view lines);
+  void record(std::string_view kind, const std::vector<std::string>& numbers,
+              std::string_view document);
+  std::string today() const;
+  bool isWithinTwelveMonths(std::string_view date) const;
+
+  SharedStore& store_;
+  const Clock& clock_;
+  std::unordered_map<std::string, std::vector<Entry>> entries_;
+  std::uint64_t readSoFar_ = 0;
+};
+
+}  // namespace awizo

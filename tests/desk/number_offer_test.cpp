@@ -1,0 +1,192 @@
+#include "desk/number_offer.h"
+
+#include <gmock/gmock.h>
+
+#include "desk/number_range_dialog.h"
+#include "numbers/store_in_memory.h"
+#include "support/control/desk.h"
+
+namespace awizo::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+/// A firm with a range, and a user who adds packages.
+class NumberOfferTest : public ::testing::Test, public Desk {
+ protected:
+  NumberOfferTest() {
+    numbers.setRange(range);
+    form.txtNrAwiza.setText("ТН-6");
+  }
+
+  std::string number(std::uint64_t serial) const { return containerNumber(range, serial); }
+
+  /// Opens the dialog for a new package; the user goes on with this.
+  void adding(const std::function<void()>& act) {
+    face.onModal([&, this] {
+      offer.opened();
+      act();
+    });
+    form.btnDodajOpak.userClick();
+    offer.closed();
+  }
+  void add(const std::string& description) {
+    adding([&, this] {
+      packageDialog.txtPackageDesc.userType(description);
+      packageDialog.cboxILNLokalizacji.userType("9520002001023");
+      packageDialog.btnDodaj.userClick();
+    });
+  }
+  void leave() { packageDialog.btnZamknij.userClick(); }
+  std::string serialOf(int row) const { return packages.cell(row, GRD_OPAK_SERIAL_NUMBER); }
+
+  const NumberRange range{"3", "9520001", 1, 20, 1};
+  StoreInMemory store;
+  GivenNumbers numbers{store, clock};
+  NumberOffer offer{numbers, editor, packageDialog};
+};
+
+TEST_F(NumberOfferTest, ANewPackageHasTheNextNumberAsIfTyped) {
+  adding([this] {
+    EXPECT_EQ(packageDialog.txtSerialNumberN.text(), number(1));
+    EXPECT_NE(packageDialog.focus(), &packageDialog.txtSerialNumberN)
+        << "the user begins where he would have begun";
+    EXPECT_EQ(offer.words(), "осталось номеров: 19");
+    leave();
+  });
+  EXPECT_THAT(takeBoxes(), IsEmpty());
+}
+
+TEST_F(NumberOfferTest, AnAcceptedNumberIsSpentAndALeftOneIsOfferedAgain) {
+  adding([this] { leave(); });
+  add("Коробка 1");
+  EXPECT_EQ(serialOf(1), number(1)) << "it was shown before and not accepted";
+  add("Коробка 2");
+  EXPECT_EQ(serialOf(2), number(2));
+  form.btnUsunOpak.userClick();
+  add("Коробка 3");
+  EXPECT_EQ(serialOf(2), number(3)) << "one taken back isn't used again";
+}
+
+TEST_F(NumberOfferTest, AChangedPackageKeepsItsNumber) {
+  add("Коробка 1");
+  face.onModal([this] {
+    offer.opened();
+    EXPECT_EQ(packageDialog.txtSerialNumberN.text(), number(1));
+    leave();
+  });
+  form.btnEdytujOpak.userClick();
+  offer.closed();
+  EXPECT_EQ(numbers.range()->next, 2U);
+}
+
+TEST_F(NumberOfferTest, TheUsersOwnNumberStandsAndTheOfferedOneWaits) {
+  adding([this] {
+    packageDialog.txtSerialNumberN.userType(number(2));
+    packageDialog.txtPackageDesc.userType("Коробка 1");
+    packageDialog.cboxILNLokalizacji.userType("9520002001023");
+    packageDialog.btnDodaj.userClick();
+  });
+  add("Коробка 2");
+  add("Коробка 3");
+  EXPECT_EQ(serialOf(1), number(2));
+  EXPECT_EQ(serialOf(2), number(1));
+  EXPECT_EQ(serialOf(3), number(3)) << "the document has the second already";
+}
+
+TEST_F(NumberOfferTest, WithoutARangeNothingIsTypedOrKept) {
+  store.texts.clear();
+  adding([this] {
+    EXPECT_EQ(packageDialog.txtSerialNumberN.text(), "");
+    EXPECT_EQ(offer.words(), "");
+    leave();
+  });
+  offer.documentKept();
+  EXPECT_THAT(store.texts, IsEmpty());
+}
+
+TEST_F(NumberOfferTest, TellsOfTheEnd) {
+  numbers.take(20, "А");
+  adding([this] {
+    EXPECT_EQ(packageDialog.txtSerialNumberN.text(), "");
+    EXPECT_THAT(offer.words(), HasSubstr("Номера кончились"));
+    leave();
+  });
+}
+
+TEST_F(NumberOfferTest, TellsOfNumbersThatAnotherDocumentHas) {
+  numbers.noteUse({number(7)}, "ТН-5");
+  adding([this] {
+    packageDialog.txtSerialNumberN.userType(number(7));
+    EXPECT_EQ(offer.words(), "Этот номер уже был 21.11.2026 в документе ТН-5.");
+    packageDialog.txtPackageDesc.userType("Коробка 1");
+    packageDialog.cboxILNLokalizacji.userType("9520002001023");
+    packageDialog.btnDodaj.userClick();
+  });
+  EXPECT_EQ(serialOf(1), number(7)) << "it hinders nothing";
+  const std::vector<DocumentFault> faults = offer.faults();
+  ASSERT_EQ(faults.size(), 1U);
+  EXPECT_EQ(faults[0].where, "Упаковка 1");
+  EXPECT_EQ(faults[0].place, &packages);
+}
+
+TEST_F(NumberOfferTest, AKeptDocumentsNumbersAreOnRecord) {
+  add("Коробка 1");
+  offer.documentKept();
+  EXPECT_FALSE(numbers.useElsewhere(number(1), "ТН-6"));
+  EXPECT_TRUE(numbers.useElsewhere(number(1), "ТН-7"));
+}
+
+TEST_F(NumberOfferTest, AFullDiskGivesNoNumberAndHindersNothing) {
+  store.isFull = true;
+  adding([this] {
+    EXPECT_EQ(packageDialog.txtSerialNumberN.text(), "");
+    EXPECT_EQ(offer.words(), "Номер не выдан: Disk full.");
+    leave();
+  });
+}
+
+class NumberRangeDialogTest : public NumberOfferTest {
+ protected:
+  void shown(const std::function<void()>& act) {
+    face.onModal([&, this] {
+      act();
+      if (dialog.shown()) dialog.btnClose.userClick();
+    });
+    dialog.show("9520001000010");
+  }
+
+  NumberRangeDialog dialog{screen, numbers};
+};
+
+TEST_F(NumberRangeDialogTest, ShowsAndKeepsTheRange) {
+  shown([this] {
+    EXPECT_EQ(dialog.txtPrefix.text(), "9520001");
+    EXPECT_EQ(dialog.lblExample.caption(), "Следующий номер: " + number(1));
+    EXPECT_EQ(dialog.lblLeft.caption(), "осталось номеров: 20");
+    EXPECT_EQ(dialog.lblDoubt.caption(), "");
+    dialog.txtLast.userType("500");
+    dialog.txtNext.userType("100");
+    dialog.btnSave.userClick();
+    EXPECT_FALSE(dialog.shown());
+  });
+  EXPECT_EQ(numbers.range(), (NumberRange{"3", "9520001", 1, 500, 100}));
+}
+
+TEST_F(NumberRangeDialogTest, DoubtsAnothersPrefixAndRefusesABadOne) {
+  shown([this] {
+    dialog.txtPrefix.userType("4600001");
+    EXPECT_THAT(dialog.lblDoubt.caption(), HasSubstr("9520001000010"));
+    dialog.txtPrefix.userType("46");
+    dialog.btnSave.userClick();
+    EXPECT_TRUE(dialog.shown());
+    EXPECT_THAT(dialog.lblDoubt.caption(), HasSubstr("от 4 до 12"));
+    EXPECT_EQ(dialog.lblExample.caption(), "");
+  });
+  EXPECT_EQ(numbers.range(), range) << "nothing was kept";
+}
+
+}  // namespace
+}  // namespace awizo::test
