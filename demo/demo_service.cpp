@@ -14,6 +14,12 @@ constexpr const char* xmlType = "text/xml; charset=utf-8";
 constexpr const char* htmlType = "text/html; charset=utf-8";
 constexpr const char* textType = "text/plain; charset=utf-8";
 constexpr const char* pagePath = "/vird/page/editor.html";
+/// As strict as a portal's may be: the page takes nothing from elsewhere, no style within it
+/// counts.
+constexpr const char* pagePolicy =
+    "default-src 'none'; script-src 'self' 'wasm-unsafe-eval'; style-src 'self'; connect-src "
+    "'self'; "
+    "worker-src 'self'; base-uri 'none'; form-action 'none'";
 constexpr int patienceSeconds = 60;
 
 std::optional<std::string> header(const httplib::Request& request, const char* name) {
@@ -57,6 +63,12 @@ void fillCut(std::string reply, httplib::Response& response) {
         sink.write(reply.data(), reply.size() / 2);
         return false;
       });
+}
+
+std::string typeOf(std::string_view file) {
+  if (file.ends_with(".html")) return htmlType;
+  if (file.ends_with(".mjs")) return "text/javascript";
+  return file.ends_with(".wasm") ? "application/wasm" : "text/xml; charset=utf-8";
 }
 
 bool replacesReply(FaultKind kind) {
@@ -125,14 +137,18 @@ void DemoService::offerPage(const std::filesystem::path& folder) {
   server_.Get("/", [](const httplib::Request&, httplib::Response& response) {
     response.set_redirect(pagePath);
   });
-  server_.Get(R"(/(.*/)?page/editor\.html)",
-              [folder](const httplib::Request&, httplib::Response& response) {
-                std::ifstream file(folder / "editor.html", std::ios::binary);
+  server_.Get(R"(/(?:.*/)?page/([\w-]+\.(?:html|mjs|wasm|xml)))",
+              [folder](const httplib::Request& request, httplib::Response& response) {
+                const std::string name = request.matches[1];
+                std::ifstream file(folder / name, std::ios::binary);
                 std::ostringstream content;
                 if (file) content << file.rdbuf();
                 if (!file) response.status = 404;
-                response.set_header("Set-Cookie", "vird-demo=1; Path=/");
-                response.set_content(content.str(), htmlType);
+                if (name.ends_with(".html")) {
+                  response.set_header("Set-Cookie", "vird-demo=1; Path=/");
+                  response.set_header("Content-Security-Policy", pagePolicy);
+                }
+                response.set_content(content.str(), typeOf(name));
               });
 }
 

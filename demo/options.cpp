@@ -60,7 +60,7 @@ std::string optionsHelp() {
   return "usage: awizo-demo-service [OPTION VALUE]...\n"
          "  --port N               port on the loopback address; 0, the default: any free one\n"
          "  --data DIR             folder of the documents that are handed out\n"
-         "  --page DIR             folder of the host page, editor.html\n"
+         "  --page DIR             folder of the host page, editor.html, and of its files\n"
          "  --posted DIR           folder in which posted documents are kept; default: posted\n"
          "  --fault EXCHANGE=KIND  lets an exchange fail; may be given several times\n"
          "                         EXCHANGE: partner-info, catalogue, places, order, upload\n"

@@ -22,14 +22,14 @@ def run(main):
 
 
 @contextlib.contextmanager
-def running_service(build, posted):
+def running_service(build, posted, *options):
     """Runs the service of a build folder; gives the address of its host page.
 
     A script that is ended from outside takes the service with it.
     """
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(128 + signal.SIGTERM))
     service = subprocess.Popen(
-        [build / "demo/awizo-demo-service", "--port", "0", "--posted", posted],
+        [build / "demo/awizo-demo-service", "--port", "0", "--posted", posted, *options],
         stdout=subprocess.PIPE, encoding="utf-8")
     try:
         service.stdout.readline()

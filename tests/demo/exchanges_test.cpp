@@ -176,6 +176,24 @@ TEST(HostPage, GivesTheAddressOfTheServiceTwoLevelsAbove) {
   EXPECT_THAT(page.body, HasSubstr("<title>Подтверждение отгрузки</title>"));
 }
 
+TEST(HostPage, IsServedUnderAStrictPolicyWithTheFilesBesideIt) {
+  const test::TemporaryFolder folder;
+  test::writeFile(folder.path() / "editor.html", "<p>");
+  test::writeFile(folder.path() / "awizo.mjs", "1");
+  test::writeFile(folder.path() / "awizo.wasm", "2");
+  const RunningService service({"--page", folder.path().string()});
+  httplib::Client client("127.0.0.1", service.port());
+  const auto page = client.Get("/vird/page/editor.html");
+  EXPECT_THAT(page->get_header_value("Content-Security-Policy"),
+              HasSubstr("script-src 'self' 'wasm-unsafe-eval'; style-src 'self'"));
+  EXPECT_EQ(page->get_header_value("Set-Cookie"), "vird-demo=1; Path=/");
+  EXPECT_EQ(service.get("/vird/page/awizo.mjs").body, "1");
+  EXPECT_EQ(service.get("/vird/page/awizo.mjs").contentType, "text/javascript");
+  EXPECT_EQ(service.get("/vird/page/awizo.wasm").contentType, "application/wasm");
+  EXPECT_EQ(service.get("/vird/page/%2e%2e/editor.html").status, 404);
+  EXPECT_EQ(service.get("/vird/page/..%2feditor.html").status, 404);
+}
+
 TEST(Service, KnowsNoOtherPages) {
   const RunningService service;
   EXPECT_EQ(service.post("/vird/Other.aspx", "<a/>").status, 404);

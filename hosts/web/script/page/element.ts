@@ -1,0 +1,253 @@
+// <awizo-wysylki>: the editor as an element of a page.
+
+import { CoreClient, type Line, type Listener } from "./core_client.ts";
+import { focusable, make, plainWords } from "./dom.ts";
+import type { Box, Changes, Closing, ControlFacts, Event as CoreEvent, FormFacts } from "./facts.ts";
+import type { Host } from "./face.ts";
+import { FormView } from "./form_view.ts";
+import { dialogs, mainForm } from "./layouts.ts";
+import { startOf } from "./start.ts";
+import { styles } from "./styles.ts";
+
+interface Command {
+  words: string;
+  on: string;
+  keys: { code: number; control: boolean }[];
+  place: string | null;
+}
+
+const mainName = "AwizoWysylki";
+const answers: Record<Box["buttons"], [string, string][]> = {
+  OK: [["OK", "ОК"]],
+  YesNo: [["Yes", "Да"], ["No", "Нет"]],
+};
+
+export class AwizoWysylki extends HTMLElement {
+  private core: CoreClient | undefined;
+  private readonly root = this.attachShadow({ mode: "open" });
+  private readonly views = new Map<string, FormView>();
+  private readonly kinds: Record<string, ControlFacts> = {};
+  private readonly forms: Record<string, FormFacts> = {};
+  private readonly shown: { name: string; element: HTMLDialogElement }[] = [];
+  private box: HTMLDialogElement | undefined;
+  private commands: Command[] = [];
+
+  connectedCallback(): void {
+    this.root.adoptedStyleSheets = [styles()];
+    this.root.replaceChildren(make("p", { class: "waiting", role: "status" }, ["Редактор запускается…"]));
+    this.root.addEventListener("keydown", (event) => this.pressKey(event as KeyboardEvent));
+    this.root.addEventListener("focusin", (event) => this.followUser(event.target as Element));
+    this.core = new CoreClient(new URL("worker.mjs", import.meta.url), startOf(this), this.listener());
+    void this.begin(this.core);
+  }
+
+  disconnectedCallback(): void {
+    this.core?.end();
+    this.core = undefined;
+    this.views.clear();
+  }
+
+  /// Any line of the editor's own protocol: what a user does, a procedure, a question.
+  async say(line: Line): Promise<unknown> {
+    const closing = await this.closingOf(line);
+    if (!closing.ok) throw new Error(closing.error);
+    return closing.value;
+  }
+
+  private closingOf(line: Line): Promise<Closing> {
+    if (this.core === undefined) return Promise.reject(new Error("the element is in no page"));
+    return this.core.say(line);
+  }
+
+  private async begin(core: CoreClient): Promise<void> {
+    const menus = (await core.say({ get: "commands" })).value as { commands: Command[] }[];
+    this.commands = menus.flatMap((menu) => menu.commands);
+    void core.say({ do: "subscribe" });
+    await core.say({ do: "show" });
+  }
+
+  private listener(): Listener {
+    return {
+      event: (event) => this.take(event),
+      kept: (name, value) => this.keep(name, value),
+      complaint: (text) => console.warn(text),
+      ended: (words) => this.end(words),
+    };
+  }
+
+  private take(event: CoreEvent): void {
+    switch (event.event) {
+      case "changes":
+        return this.takeChanges(event);
+      case "message":
+        return this.openBox(event);
+      case "changed":
+        this.dispatchEvent(new CustomEvent("propertychanged", { detail: event.property, bubbles: true }));
+        return;
+      case "end":
+        return this.end("Редактор не может работать.");
+      default:
+        return;
+    }
+  }
+
+  private takeChanges(changes: Changes): void {
+    for (const [name, facts] of Object.entries(changes.controls ?? {})) {
+      this.kinds[name] = { ...this.kinds[name], ...facts };
+    }
+    if (this.views.size === 0) this.makeViews();
+    for (const [name, facts] of Object.entries(changes.forms ?? {})) this.takeForm(name, facts);
+    for (const [name, facts] of Object.entries(changes.controls ?? {})) {
+      for (const view of this.views.values()) view.showControl(name, facts);
+    }
+    this.followModel();
+  }
+
+  private takeForm(name: string, facts: FormFacts): void {
+    const whole = { ...this.forms[name], ...facts };
+    this.forms[name] = whole;
+    if (facts.shown === true) this.openForm(name);
+    if (facts.shown === false) this.closeForm(name);
+    this.views.get(name)?.showForm(whole);
+    const dialog = this.shown.find((shown) => shown.name === name);
+    const title = dialog?.element.querySelector("h2");
+    if (title) title.textContent = whole.caption ?? "";
+  }
+
+  /// All at once: each hears of every change from the first on.
+  private makeViews(): void {
+    const words = Object.fromEntries(this.commands.map((command) => [command.on, command.words]));
+    for (const [name, layout] of Object.entries({ [mainName]: mainForm, ...dialogs })) {
+      const view = new FormView(name, layout, this.kinds, this.host(), name === mainName ? words : {});
+      for (const [control, facts] of Object.entries(this.kinds)) view.showControl(control, facts);
+      this.views.set(name, view);
+    }
+  }
+
+  private openForm(name: string): void {
+    const view = this.views.get(name);
+    if (view === undefined) return;
+    if (name === mainName) {
+      this.root.replaceChildren(make("main", { lang: "ru" }, [view.element]));
+      return;
+    }
+    const title = make("h2", { id: `title-${name}` });
+    const closer = make("button", { type: "button", class: "closer", "aria-label": "Закрыть" }, ["×"]);
+    const element = make("dialog", { lang: "ru", "aria-labelledby": `title-${name}` }, [
+      make("header", {}, [title, closer]), view.element,
+    ]);
+    closer.addEventListener("click", () => void this.closingOf({ do: "close", on: name }));
+    element.addEventListener("cancel", (event) => {
+      event.preventDefault();
+      void this.host().act(view.focus, { do: "key", code: 27, shift: false });
+    });
+    this.root.append(element);
+    element.showModal();
+    this.shown.push({ name, element });
+  }
+
+  private closeForm(name: string): void {
+    const at = this.shown.findIndex((shown) => shown.name === name);
+    if (at < 0) return;
+    this.shown.splice(at, 1)[0]!.element.remove();
+  }
+
+  private openBox(box: Box): void {
+    const buttons = answers[box.buttons].map(([answer, words]) => {
+      const button = make("button", { type: "button", "data-answer": answer }, [words]);
+      button.addEventListener("click", () => this.answer(answer));
+      return button;
+    });
+    const element = make("dialog", { role: "alertdialog", class: `box ${box.icon}`, lang: "ru", "aria-labelledby": "box-title", "aria-describedby": "box-text" }, [
+      make("header", {}, [make("h2", { id: "box-title" }, [box.title])]),
+      make("p", { id: "box-text" }, [box.text.replaceAll("\r\n", "\n").replaceAll("\r", "\n")]),
+      make("div", { class: "beside buttons" }, buttons),
+    ]);
+    element.addEventListener("cancel", (event) => {
+      event.preventDefault();
+      if (box.buttons === "OK") this.answer("OK");
+    });
+    this.box = element;
+    this.root.append(element);
+    element.showModal();
+    buttons[0]!.focus();
+  }
+
+  private answer(answer: string): void {
+    this.box?.remove();
+    this.box = undefined;
+    void this.closingOf({ answer });
+  }
+
+  private host(): Host {
+    return {
+      act: async (on, line) => {
+        // What a user can't do now changes nothing.
+        const closing = await this.closingOf({ ...line, on });
+        if (!closing.ok) this.followModel();
+      },
+    };
+  }
+
+  /// The view that the user acts on.
+  private top(): FormView | undefined {
+    return this.views.get(this.shown.at(-1)?.name ?? mainName);
+  }
+
+  private followModel(): void {
+    if (this.box !== undefined) return;
+    const top = this.top();
+    const face = top?.face(top.focus);
+    const target = face === undefined ? null : focusable(face.element);
+    if (target !== null && this.root.activeElement !== target && this.root.host.isConnected) target.focus();
+  }
+
+  /// The user has put the focus somewhere: the model says whether it stays there.
+  private followUser(target: Element): void {
+    const name = target.closest<HTMLElement>("[data-name]")?.dataset["name"];
+    const top = this.top();
+    if (name === undefined || top === undefined || name === top.focus || top.face(name) === undefined) return;
+    void this.host().act(name, { do: "focus" });
+  }
+
+  private pressKey(event: KeyboardEvent): void {
+    const top = this.top();
+    if (this.box !== undefined || top === undefined) return;
+    const command = top.name !== mainName ? undefined : this.commands.find((one) =>
+      one.keys.some((key) => key.code === event.keyCode && key.control === event.ctrlKey) &&
+      (one.place === null || one.place === top.focus));
+    if (command !== undefined) {
+      event.preventDefault();
+      void this.host().act(command.on, { do: "click" });
+      return;
+    }
+    const isButton = (event.target as Element).closest("button") !== null;
+    const isModels = event.key === "Tab" || (event.key === "Enter" && !isButton) || event.key === "Escape";
+    if (!isModels || top.focus === "") return;
+    event.preventDefault();
+    void this.host().act(top.focus, { do: "key", code: event.keyCode, shift: event.shiftKey });
+  }
+
+  private keep(name: string, value: string): void {
+    try {
+      localStorage.setItem(`awizo/${name}`, value);
+    } catch {
+      // The browser keeps nothing: the next session begins with the element's folder.
+    }
+  }
+
+  private end(words?: string): void {
+    this.core?.end();
+    this.core = undefined;
+    if (words === undefined) return;
+    const again = make("button", { type: "button" }, ["Начать заново"]);
+    again.addEventListener("click", () => this.connectedCallback());
+    this.views.clear();
+    this.shown.length = 0;
+    this.root.replaceChildren(make("div", { class: "stack dead", role: "alert", lang: "ru" }, [
+      make("p", {}, [plainWords(words)]), again,
+    ]));
+  }
+}
+
+customElements.define("awizo-wysylki", AwizoWysylki);

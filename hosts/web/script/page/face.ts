@@ -1,0 +1,30 @@
+// A control in the page. A face shows what the core says and passes on what the user does; it
+// decides nothing.
+
+import type { Line } from "./core_client.ts";
+import type { ControlFacts } from "./facts.ts";
+
+export interface Host {
+  /// Passes on what the user does to a control. The promise ends when the core has taken it.
+  act(on: string, line: Line): Promise<void>;
+}
+
+export abstract class Face {
+  protected facts: ControlFacts = {};
+
+  constructor(readonly name: string, readonly element: HTMLElement, protected readonly host: Host) {
+    element.dataset["name"] = name;
+  }
+
+  show(changes: ControlFacts): void {
+    this.facts = { ...this.facts, ...changes };
+    this.element.hidden = this.facts.visible === false || (this.facts.cover ?? null) !== null;
+    this.showFacts(changes);
+  }
+
+  protected abstract showFacts(changes: ControlFacts): void;
+
+  protected act(line: Line): Promise<void> {
+    return this.host.act(this.name, line);
+  }
+}

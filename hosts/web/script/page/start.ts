@@ -1,0 +1,41 @@
+// What the element's attributes and its page say at the start.
+
+import type { Start } from "./messages.ts";
+
+const properties: Record<string, string> = {
+  online: "OnLine", "debug-level": "DebugLevel", "partner-name": "PartnerName", "partner-iln": "PartnerILN",
+  "partner-url": "PartnerURL",
+};
+const settingPrefix = "awizo/";
+const defaultFolder = "/VIRD";
+
+function keptSettings(): [string, string][] {
+  try {
+    return Object.entries(localStorage)
+      .filter(([name]) => name.startsWith(settingPrefix))
+      .map(([name, value]) => [name.slice(settingPrefix.length), String(value)]);
+  } catch {
+    return [];
+  }
+}
+
+export function startOf(element: HTMLElement): Start {
+  const folder = element.getAttribute("folder") ?? defaultFolder;
+  const given: string[] = [];
+  for (const [attribute, property] of Object.entries(properties)) {
+    const value = element.getAttribute(attribute);
+    if (value !== null) given.push("--property", `${property}=${value}`);
+  }
+  // A "/" in the query would move the base of the service's addresses.
+  given.push("--page-url", location.origin + location.pathname, "--cookie", document.cookie);
+  given.push("--locale", (element.closest("[lang]")?.getAttribute("lang") ?? "ru-RU").replace("-", "_"));
+  given.push("--offline-path", folder);
+  const now = element.getAttribute("now");
+  if (now !== null) given.push("--now", now);
+  const files: [string, string][] = [];
+  const userInfo = element.getAttribute("user-info");
+  if (userInfo !== null) files.push([`${folder}/userinfo.xml`, new URL(userInfo, document.baseURI).href]);
+  return {
+    arguments: given, settings: keptSettings(), files, folder, wasm: new URL("awizo.wasm", import.meta.url).href,
+  };
+}

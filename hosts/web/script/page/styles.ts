@@ -1,0 +1,90 @@
+// The element's look. Its colours and its font are custom properties, which a page may set.
+
+const text = /* css */ `
+:host {
+  --awizo-font: system-ui, sans-serif;
+  --awizo-accent: light-dark(#0b5cad, #7db7f2);
+  --awizo-paper: light-dark(#ffffff, #1b1e22);
+  --awizo-ground: light-dark(#f4f5f7, #121417);
+  --awizo-ink: light-dark(#1c2024, #e8eaed);
+  --awizo-pale: light-dark(#5a6270, #a5adb8);
+  --awizo-line: light-dark(#cfd4db, #3c434c);
+  display: block; color-scheme: light dark; font: 15px/1.4 var(--awizo-font);
+  color: var(--awizo-ink); background: var(--awizo-ground); container-type: inline-size;
+}
+* { box-sizing: border-box; }
+[hidden] { display: none !important; }
+main { padding: 12px; }
+.stack { display: flex; flex-direction: column; gap: 10px; min-width: 0; }
+.beside { display: flex; flex-wrap: wrap; gap: 10px 14px; align-items: end; }
+.beside:has(> fieldset), .beside:has(> .stack) { align-items: start; }
+.beside > .field, .beside > fieldset, .beside > .stack { flex: 1 1 200px; min-width: 0; }
+.beside > .stack { gap: 4px; flex-basis: 180px; }
+.beside .beside > .field { flex-basis: 130px; }
+fieldset { border: 1px solid var(--awizo-line); border-radius: 8px; padding: 10px 12px 12px; margin: 0;
+  background: var(--awizo-paper); min-width: 0; }
+fieldset fieldset { border: 0; padding: 0; }
+legend { font-weight: 600; padding: 0 4px; }
+fieldset fieldset > legend { padding: 0 0 4px; }
+.field { display: flex; flex-direction: column; gap: 3px; min-width: 0; position: relative; }
+.field > label { display: flex; flex-direction: column; gap: 3px; min-width: 0; }
+.caption { color: var(--awizo-pale); font-size: 13px; overflow-wrap: anywhere; }
+.value { min-height: 1.4em; overflow-wrap: anywhere; }
+input, select { font: inherit; color: inherit; background: var(--awizo-paper); width: 100%; min-width: 0;
+  border: 1px solid var(--awizo-line); border-radius: 6px; padding: 5px 8px; min-height: 34px; }
+input:disabled, select:disabled { color: var(--awizo-pale); background: var(--awizo-ground); }
+button { font: inherit; color: var(--awizo-ink); background: var(--awizo-paper); cursor: pointer;
+  border: 1px solid var(--awizo-line); border-radius: 6px; padding: 5px 14px; min-height: 34px; }
+button:hover:not(:disabled) { border-color: var(--awizo-accent); color: var(--awizo-accent); }
+button:disabled { color: var(--awizo-pale); cursor: default; }
+:focus-visible { outline: 2px solid var(--awizo-accent); outline-offset: 1px; }
+.list .opener { position: absolute; right: 1px; bottom: 1px; border: 0; padding: 0 10px; min-height: 32px; background: none; }
+.list input { padding-right: 32px; }
+.popup { position: absolute; z-index: 5; top: 100%; left: 0; right: 0; overflow: auto; background: var(--awizo-paper);
+  border: 1px solid var(--awizo-line); border-radius: 6px; box-shadow: 0 6px 20px #0003; }
+.space { position: relative; }
+[role=option] { position: absolute; left: 0; right: 0; height: 28px; padding: 3px 8px; white-space: nowrap;
+  overflow: hidden; text-overflow: ellipsis; }
+[role=option]:hover, [role=option][aria-selected=true] { background: color-mix(in srgb, var(--awizo-accent) 18%, transparent); }
+.table { overflow: auto; max-height: 50vh; min-height: 96px; border: 1px solid var(--awizo-line); border-radius: 6px;
+  background: var(--awizo-paper); }
+.head { position: sticky; top: 0; z-index: 2; background: var(--awizo-ground); width: max-content; min-width: 100%; }
+.rows { position: relative; width: max-content; min-width: 100%; }
+.row { display: flex; height: 30px; }
+.rows .row { position: absolute; left: 0; right: 0; }
+.cell { flex: none; padding: 4px 6px; border-right: 1px solid var(--awizo-line); border-bottom: 1px solid var(--awizo-line);
+  white-space: nowrap; overflow: hidden; text-overflow: ellipsis; }
+.cell.widest { flex-grow: 1; }
+.heading .cell { font-size: 13px; font-weight: 600; }
+.cell.right { text-align: right; }
+.cell.centre { text-align: center; }
+.cell.bold { font-weight: 600; }
+.cell.coloured { background: color-mix(in srgb, var(--cell) 70%, var(--awizo-paper)); }
+.row.current .cell { background: color-mix(in srgb, var(--awizo-accent) 14%, transparent); }
+.cell.current { outline: 2px solid var(--awizo-accent); outline-offset: -2px; }
+.over { position: absolute; z-index: 1; }
+.over .caption { position: absolute; clip-path: inset(50%); }
+.over input { padding: 2px 6px; min-height: 30px; }
+dialog { color: inherit; background: var(--awizo-ground); border: 1px solid var(--awizo-line); border-radius: 10px;
+  padding: 0 16px 16px; width: min(900px, calc(100vw - 16px)); max-height: calc(100dvh - 16px); }
+dialog.box { width: min(480px, calc(100vw - 16px)); }
+dialog.box p { white-space: pre-line; overflow-wrap: anywhere; }
+dialog.critical { border-top: 4px solid light-dark(#b3261e, #f2b8b5); }
+::backdrop { background: #0007; }
+header { display: flex; justify-content: space-between; align-items: center; gap: 10px; }
+h2 { font-size: 17px; margin: 12px 0; }
+.closer { border: 0; background: none; font-size: 20px; padding: 0 8px; }
+.buttons { justify-content: end; }
+.waiting, .dead { padding: 24px; }
+`;
+
+let made: CSSStyleSheet | undefined;
+
+/// One sheet for all elements of the page.
+export function styles(): CSSStyleSheet {
+  if (made === undefined) {
+    made = new CSSStyleSheet();
+    made.replaceSync(text);
+  }
+  return made;
+}

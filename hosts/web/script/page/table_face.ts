@@ -1,0 +1,154 @@
+// A table: of its rows only those that are seen are in the page, each as high as the others.
+
+import { make } from "./dom.ts";
+import { Face, type Host } from "./face.ts";
+import type { ControlFacts, Row } from "./facts.ts";
+
+const rowHeight = 30;
+const surplus = 10;
+/// At the size of letters that pages have.
+const twipsOfPixel = 11;
+const narrowest = 60;
+const keys = new Set([
+  "ArrowUp", "ArrowDown", "ArrowLeft", "ArrowRight", "PageUp", "PageDown", "Home", "End", "Enter", "Insert", "Delete",
+  "F2", " ",
+]);
+let lastNumber = 0;
+
+export class TableFace extends Face {
+  private readonly body: HTMLElement;
+  private readonly heading: HTMLElement;
+  private readonly rows = new Map<number, Row>();
+  private readonly id = `table-${++lastNumber}`;
+
+  constructor(name: string, host: Host, label: string, private readonly overCell?: HTMLElement) {
+    const heading = make("div", { class: "row heading", role: "row", "aria-rowindex": 1 });
+    const body = make("div", { class: "rows", role: "rowgroup" });
+    super(name, make("div", { class: "table", role: "grid", tabindex: 0, "aria-label": label }, [
+      make("div", { role: "rowgroup", class: "head" }, [heading]), body,
+    ]), host);
+    this.heading = heading;
+    this.body = body;
+    this.element.addEventListener("scroll", () => this.seeRows());
+    this.element.addEventListener("mousedown", (event) => this.click(event));
+    this.element.addEventListener("dblclick", () => void this.act({ do: "doubleClick" }));
+    this.element.addEventListener("keydown", (event) => this.pressKey(event));
+    new ResizeObserver(() => this.seeRows()).observe(this.element);
+  }
+
+  protected override showFacts(changes: ControlFacts): void {
+    this.element.setAttribute("aria-rowcount", String(this.count));
+    this.element.setAttribute("aria-colcount", String(this.facts.cols ?? 0));
+    this.element.setAttribute("aria-disabled", String(this.facts.enabled === false));
+    if (changes.count !== undefined) {
+      for (const row of this.rows.keys()) if (row >= changes.count) this.rows.delete(row);
+    }
+    for (const line of changes.lines ?? []) this.rows.set(line.row, line);
+    this.body.style.height = `${Math.max(this.count - this.fixed, 0) * rowHeight}px`;
+    if (changes.row !== undefined || changes.top !== undefined) this.scrollToCurrent();
+    this.draw();
+  }
+
+  private get count(): number {
+    return this.facts.count ?? 0;
+  }
+
+  private get fixed(): number {
+    return this.facts.fixed ?? 1;
+  }
+
+  /// The first row in the page, and the one after the last.
+  private range(): [number, number] {
+    const first = Math.floor(this.element.scrollTop / rowHeight) - surplus;
+    const seen = Math.ceil(this.element.clientHeight / rowHeight) + 2 * surplus;
+    const from = Math.max(first, 0) + this.fixed;
+    return [from, Math.min(from + seen, this.count)];
+  }
+
+  private seeRows(): void {
+    const [from, to] = this.range();
+    if (this.facts.kind !== undefined) void this.act({ do: "see", first: from, count: Math.max(to - from, 1) });
+    this.draw();
+  }
+
+  private scrollToCurrent(): void {
+    const top = ((this.facts.row ?? this.fixed) - this.fixed) * rowHeight;
+    const seen = this.element.clientHeight - rowHeight;
+    if (top < this.element.scrollTop) this.element.scrollTop = top;
+    else if (seen > 0 && top + rowHeight > this.element.scrollTop + seen) {
+      this.element.scrollTop = top + rowHeight - seen;
+    }
+  }
+
+  private columnsShown(): number[] {
+    const widths = this.facts.widths ?? [];
+    return widths.flatMap((width, column) => (width === 0 ? [] : [column]));
+  }
+
+  private cell(row: Row, column: number, role: string): HTMLElement {
+    const look = row.looks?.find((one) => one.col === column);
+    const cell = make("div", {
+      role, class: "cell", "data-col": column, "aria-colindex": column + 1, id: `${this.id}-${row.row}-${column}`,
+    }, [row.cells?.[column] ?? ""]);
+    const widths = this.facts.widths ?? [];
+    const width = Math.abs(widths[column] ?? 0);
+    cell.style.width = `${Math.max(Math.round(width / twipsOfPixel), narrowest)}px`;
+    // What room is left is the widest column's.
+    if (width === Math.max(...widths)) cell.classList.add("widest");
+    if (look?.alignment === "right") cell.classList.add("right");
+    if (look?.alignment === "centre") cell.classList.add("centre");
+    if (look?.bold) cell.classList.add("bold");
+    if (look !== undefined && look.colour !== "#ffffff") cell.style.setProperty("--cell", look.colour);
+    if (look !== undefined && look.colour !== "#ffffff") cell.classList.add("coloured");
+    return cell;
+  }
+
+  private draw(): void {
+    const columns = this.columnsShown();
+    const heading = this.rows.get(0);
+    if (heading !== undefined) {
+      this.heading.replaceChildren(...columns.map((column) => this.cell(heading, column, "columnheader")));
+    }
+    const [from, to] = this.range();
+    const drawn: HTMLElement[] = [];
+    for (let number = from; number < to; ++number) {
+      const row = this.rows.get(number);
+      const isCurrent = number === this.facts.row;
+      const element = make("div", {
+        role: "row", class: isCurrent ? "row current" : "row", "data-row": number, "aria-rowindex": number + 1,
+        "aria-selected": String(isCurrent),
+      }, row === undefined ? [] : columns.map((column) => this.cell(row, column, "gridcell")));
+      element.style.top = `${(number - this.fixed) * rowHeight}px`;
+      if (isCurrent) element.querySelector(`[data-col="${this.facts.col}"]`)?.classList.add("current");
+      drawn.push(element);
+    }
+    this.body.replaceChildren(...drawn, ...(this.overCell === undefined ? [] : [this.overCell]));
+    this.placeOverCell();
+    this.element.setAttribute("aria-activedescendant", `${this.id}-${this.facts.row}-${this.facts.col}`);
+  }
+
+  /// The field that is edited in a cell's place.
+  private placeOverCell(): void {
+    const cell = this.body.querySelector<HTMLElement>(".cell.current");
+    if (this.overCell === undefined || cell === null) return;
+    const row = cell.parentElement!;
+    Object.assign(this.overCell.style, {
+      left: `${cell.offsetLeft}px`, top: row.style.top, width: `${cell.offsetWidth}px`, height: `${rowHeight}px`,
+    });
+  }
+
+  private click(event: MouseEvent): void {
+    const cell = (event.target as Element).closest<HTMLElement>(".cell");
+    const row = Number(cell?.parentElement?.dataset["row"] ?? -1);
+    if (cell === null || row < 0) return;
+    event.preventDefault();
+    void this.act({ do: "cell", row, col: Number(cell.dataset["col"]) });
+  }
+
+  private pressKey(event: KeyboardEvent): void {
+    if (!keys.has(event.key) || event.target !== this.element) return;
+    event.preventDefault();
+    event.stopPropagation();
+    void this.act({ do: "key", code: event.keyCode, shift: event.shiftKey });
+  }
+}

@@ -1,0 +1,94 @@
+// The core in a worker of its own, so that the page never waits for it.
+
+import { localMoment } from "../clock.ts";
+import { canSuspend, loadCore, type Surroundings } from "../core.ts";
+import { textOf, type Field } from "../fields.ts";
+import { good } from "../errors.ts";
+import { Locales } from "../locale.ts";
+import { exchange } from "./http.ts";
+import type { FromWorker, Start, ToWorker } from "./messages.ts";
+import { answerAboutFiles, answerAboutOpenFiles, makeFolders, putFile } from "./opfs.ts";
+
+const lines: string[] = [];
+let wake: (() => void) | undefined;
+
+function tell(message: FromWorker): void {
+  postMessage(message);
+}
+
+async function nextLine(): Promise<string> {
+  while (lines.length === 0) await new Promise<void>((resolve) => (wake = resolve));
+  return lines.shift()!;
+}
+
+function unknown(question: string): readonly Field[] {
+  throw new Error(`the core has asked for ${question}`);
+}
+
+function browser(start: Start): Surroundings {
+  const locales = new Locales();
+  const settings = new Map(start.settings);
+  const nameOf = (fields: Uint8Array[]) => fields.slice(1, 4).map(textOf).join("/");
+  return {
+    async ask(question, fields) {
+      if (question === "line") return [await nextLine()];
+      if (question === "http") return exchange(fields);
+      return answerAboutFiles(question, fields) ?? unknown(question);
+    },
+    askNow(question, fields) {
+      switch (question) {
+        case "say":
+          tell({ said: textOf(fields[0]) });
+          return [];
+        case "complain":
+          tell({ complaint: textOf(fields[0]) });
+          return [];
+        case "arguments":
+          return start.arguments;
+        case "clock":
+          return localMoment();
+        case "localeName":
+          return [navigator.language.replace("-", "_")];
+        case "absolutePath":
+          return [textOf(fields[0])];
+        case "setting":
+          return [settings.get(nameOf(fields)) ?? textOf(fields[4])];
+        case "keep":
+          settings.set(nameOf(fields), textOf(fields[4]));
+          tell({ kept: [nameOf(fields), textOf(fields[4])] });
+          return [good];
+        default:
+          return locales.answer(question, fields) ?? answerAboutOpenFiles(question, fields) ?? unknown(question);
+      }
+    },
+  };
+}
+
+async function prepareFiles(start: Start): Promise<void> {
+  await makeFolders(start.folder);
+  for (const [path, address] of start.files) {
+    const response = await fetch(address);
+    if (!response.ok) throw new Error(`${address}: ${response.status}`);
+    await putFile(path, new Uint8Array(await response.arrayBuffer()));
+  }
+}
+
+async function run(start: Start): Promise<void> {
+  try {
+    if (!canSuspend()) throw new Error("Этот браузер не умеет приостанавливать WebAssembly. Нужен Chrome, Edge 137 или Firefox 153 и новее.");
+    const [module] = await Promise.all([WebAssembly.compileStreaming(fetch(start.wasm)), prepareFiles(start)]);
+    const core = await loadCore(module, browser(start));
+    tell({ ended: await core.run() });
+  } catch (error) {
+    tell({ failed: error instanceof Error ? error.message : String(error) });
+  }
+}
+
+addEventListener("message", (event: MessageEvent<ToWorker>) => {
+  if ("start" in event.data) {
+    void run(event.data.start);
+  } else {
+    lines.push(event.data.line);
+    wake?.();
+  }
+});
