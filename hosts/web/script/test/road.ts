@@ -8,7 +8,7 @@ import assert from "node:assert/strict";
 import { chromium, type Locator, type Page } from "playwright-core";
 
 const address = process.argv.at(-1) ?? "";
-const pictures = process.env["AWIZO_PICTURES"];
+const pictures = process.env["AWIZO_PICTURES"] || undefined;
 const browserFile = "/usr/bin/chromium";
 const service = new URL(address).origin;
 const patience = 60_000;
