@@ -7,6 +7,14 @@
 #include "platform/forms/table.h"
 
 namespace awizo::journal {
+namespace {
+
+// Names of a host's acts.
+constexpr const char* showName = "show";
+constexpr const char* setName = "set";
+constexpr const char* offLineFolderName = "offlineFolder";
+
+}  // namespace
 
 Recording::Recording(Tape& tape, TapedPlatform& taped, AwizoWysylki& control)
     : tape_(tape), control_(control) {
@@ -47,8 +55,12 @@ void Recording::perform(const Record& deed) {
   try {
     if (deed.kind == RecordKind::act) {
       journal::perform(control_.forms(), deed);
-    } else if (deed.kind == RecordKind::hostAct && performHostAct) {
-      performHostAct(deed.texts);
+    } else if (deed.kind == RecordKind::hostAct) {
+      if (performHostAct) {
+        performHostAct(deed.texts);
+      } else {
+        performOwn(deed.texts);
+      }
     } else {
       tape_.differs("an answer where no box is open");
     }
@@ -58,6 +70,26 @@ void Recording::perform(const Record& deed) {
   } catch (const std::exception& error) {
     tape_.differs(error.what());
   }
+}
+
+void Recording::performOwn(const std::vector<std::string>& texts) {
+  const std::string& name = texts.at(0);
+  if (name == showName) return show();
+  if (name == offLineFolderName) return askOffLineFolder();
+  if (name != setName) return tape_.differs("an act of another kind of host");
+  setProperty(texts.at(1), texts.at(2));
+}
+
+void Recording::show() {
+  doHostAct({showName}, [this] { control_.UserControl_Show(); });
+}
+
+void Recording::setProperty(const std::string& name, const std::string& value) {
+  doHostAct({setName, name, value}, [&] { control_.setProperty(name, value); });
+}
+
+void Recording::askOffLineFolder() {
+  doHostAct({offLineFolderName}, [this] { awizo::askOffLineFolder(control_.dlgWczytajZapisz); });
 }
 
 void Recording::setViewHeight(const std::string& form, const std::string& table, int height) {

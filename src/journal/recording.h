@@ -21,8 +21,14 @@ class Recording {
   Recording(const Recording&) = delete;
   Recording& operator=(const Recording&) = delete;
 
-  /// Does what the host once did, by its name and the rest of the texts.
+  /// Does what the host once did, by its name and the rest of the texts. Without it the acts below
+  /// are done, and a host has no others.
   std::function<void(const std::vector<std::string>& texts)> performHostAct;
+
+  // What every host does of the control, recorded.
+  void show();
+  void setProperty(const std::string& name, const std::string& value);
+  void askOffLineFolder();
 
   /// Told when a replay is over and the user's turn comes, with all on the screen that is open
   /// then.
@@ -42,6 +48,7 @@ class Recording {
 
  private:
   void perform(const Record& deed);
+  void performOwn(const std::vector<std::string>& texts);
   void setViewHeight(const std::string& form, const std::string& table, int height);
 
   Tape& tape_;

@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 
+#include "linedialog/captions.h"
 #include "linedialog/dlg_dodaj.h"
 #include "platform/text.h"
 #include "tables/package_references.h"
@@ -146,7 +147,7 @@ void LinePackages::Command3_Click() {
   const int row = table.rows() == 2 ? 1 : table.row();
   const Row assignment(table, row);
   DlgdodajPule& small = quantityDialog_;
-  small.btnDodaj.setCaption("&Подтвердить");
+  small.btnDodaj.setCaption(captions::confirm);
   small.setCaption("Изменить упаковку, к которой приписан товар");
   small.UpDown1.setMin(1);
   const double quantity = work_.conversions.toDouble(assignment.cell(4));

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "linedialog/captions.h"
+
 namespace awizo::desktop {
 namespace {
 
@@ -104,8 +106,9 @@ QHBoxLayout* makeButtonRow(FormFace& faces, const Control& accept, const Control
   row->addStretch(1);
   for (const Control* button : {&accept, &close}) {
     QWidget* widget = faces.widget(*button);
-    // "&Подтвердить" takes the place of "&Добавить" without the row's moving.
-    widget->setMinimumWidth(widget->fontMetrics().horizontalAdvance("Подтвердить") + 32);
+    // The longest caption that comes in place of another doesn't move the row.
+    const QString longest = fromText(captions::confirm).remove('&');
+    widget->setMinimumWidth(widget->fontMetrics().horizontalAdvance(longest) + 32);
     row->addWidget(widget);
   }
   return row;

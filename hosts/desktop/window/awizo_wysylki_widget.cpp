@@ -136,31 +136,18 @@ AwizoWysylkiWidget::~AwizoWysylkiWidget() {
 
 QString AwizoWysylkiWidget::onLine() const { return fromText(parts_->control.OnLine()); }
 
-void AwizoWysylkiWidget::setOnLine(const QString& value) { set(properties::onLine, toText(value)); }
+void AwizoWysylkiWidget::setOnLine(const QString& value) {
+  parts_->recording.setProperty(std::string(properties::onLine), toText(value));
+}
 
 QString AwizoWysylkiWidget::debugLevel() const { return fromText(parts_->control.DebugLevel()); }
 
 void AwizoWysylkiWidget::setDebugLevel(const QString& value) {
-  set(properties::debugLevel, toText(value));
-}
-
-void AwizoWysylkiWidget::set(std::string_view property, const std::string& value) {
-  Parts& parts = *parts_;
-  parts.recording.doHostAct({"set", std::string(property), value},
-                            [&] { parts.control.setProperty(property, value); });
-}
-
-void AwizoWysylkiWidget::showControl() {
-  parts_->recording.doHostAct({"show"}, [this] { parts_->control.UserControl_Show(); });
+  parts_->recording.setProperty(std::string(properties::debugLevel), toText(value));
 }
 
 void AwizoWysylkiWidget::connectRecording() {
   Parts& parts = *parts_;
-  parts.recording.performHostAct = [this](const std::vector<std::string>& act) {
-    if (act.front() == "show") return showControl();
-    if (act.front() == "offlineFolder") return askFolder();
-    if (act.size() > 2) set(act[1], act[2]);
-  };
   parts.tape.summary = [&parts] {
     const auto& clock = parts.surroundings.platform.clock;
     return journal::textsOf(journal::summaryOf(parts.control, clock));
@@ -208,14 +195,9 @@ Answer AwizoWysylkiWidget::ask(const MessageBox& box) {
   return parts_->control.screen.messageBox(box);
 }
 
-void AwizoWysylkiWidget::askFolder() {
-  parts_->recording.doHostAct(
-      {"offlineFolder"}, [this] { awizo::askOffLineFolder(parts_->control.dlgWczytajZapisz); });
-}
-
 bool AwizoWysylkiWidget::askOffLineFolder() {
   Parts& parts = *parts_;
-  askFolder();
+  parts.recording.askOffLineFolder();
   return !keptOffLinePath(parts.surroundings.platform.settings).empty();
 }
 
@@ -238,7 +220,7 @@ void AwizoWysylkiWidget::start() {
   if (parts_->tape.replaying()) {
     replayOr([this] { parts_->recording.replay(); });
   } else {
-    showControl();
+    parts_->recording.show();
   }
   if (!parts_->recordingTrouble.empty()) tellOfRecording(parts_->recordingTrouble);
   showStates();

@@ -5,7 +5,6 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <string_view>
 
 #include "desk/question.h"
 #include "hosts/desktop/window/surroundings.h"
@@ -101,10 +100,6 @@ class AwizoWysylkiWidget : public QWidget {
   void tellOfRecording(const std::string& why);
   template <class Replay>
   void replayOr(Replay&& replay);
-  /// What the host does of itself, recorded.
-  void showControl();
-  void askFolder();
-  void set(std::string_view property, const std::string& value);
 
   void showStates();
   /// Shows the document's state, once whatever changes it now is over.

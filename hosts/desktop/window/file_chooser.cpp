@@ -11,6 +11,7 @@
 #include <memory>
 #include <utility>
 
+#include "adapters/posix/paths/paths.h"
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/text.h"
 
@@ -19,7 +20,7 @@ namespace {
 
 std::string classicFolder(QStandardPaths::StandardLocation location) {
   const QString path = QStandardPaths::writableLocation(location);
-  return path.isEmpty() ? "" : toText("c:" + QString(path).replace('/', '\\'));
+  return path.isEmpty() ? "" : posix::classicPath(toText(path));
 }
 
 QToolButton* makeButton(const QString& words, QWidget* parent) {

@@ -1,6 +1,7 @@
 #include "tables/upper/editing/line_dialog_fill.h"
 
 #include "formats/customs_number.h"
+#include "linedialog/captions.h"
 #include "platform/narrow.h"
 #include "platform/text.h"
 #include "session/record/countries.h"
@@ -137,7 +138,7 @@ void fillDialogForNewLine(Editor& editor, DlgDodaj& dialog) {
 
 void fillDialogForEdit(Editor& editor, DlgDodaj& dialog, std::int16_t row) {
   dialog.setCaption("Издание продукта");
-  dialog.btnDodaj.setCaption("&Подтвердить");
+  dialog.btnDodaj.setCaption(captions::confirm);
   for (int column = 0; column < dialog.grdPozycje.columns(); ++column) {
     dialog.grdPozycje.setLook(0, column, wrappedHeading);
   }

@@ -1,6 +1,7 @@
 #include "tables/upper/editing/package_commit.h"
 
 #include "formats/row_check.h"
+#include "linedialog/captions.h"
 #include "packagedialog/package_types.h"
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
@@ -113,7 +114,7 @@ void btnEdytujOpak_Click(Editor& editor, DlgSzczegoly& dialog) {
     dialog.touch();
     dialog.AddMode = false;
     dialog.setCaption("Изменить упаковку");
-    dialog.btnDodaj.setCaption("&Подтвердить");
+    dialog.btnDodaj.setCaption(captions::confirm);
     PreparePackageArrays(editor);
     dialog.PreparePackages(true);
     fillForEdit(editor, dialog, packageRow(editor, row));
