@@ -2,6 +2,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 #include <string>
@@ -9,6 +10,7 @@
 #include "adapters/posix/posix_growing_file.h"
 #include "benchmarks/support/compare.h"
 #include "benchmarks/support/full_size.h"
+#include "journal/history.h"
 #include "journal/loading.h"
 #include "journal/record_file.h"
 #include "tests/support/control/taped_control.h"
@@ -20,6 +22,8 @@ namespace {
 
 constexpr double secondsAllowedAnAct = 0.0002;
 constexpr double secondsAllowedForAReplay = 2;
+constexpr double secondsAllowedForTakingBack = 2;
+constexpr std::size_t actsOfADay = 5000;
 constexpr int lineCommits = 250;
 constexpr int packages = 125;
 constexpr int headerFields = 125;
@@ -72,6 +76,8 @@ void RecordingAnAct(benchmark::State& state) {
     const test::TemporaryFolder folder;
     PosixGrowingFile file((folder.path() / "record").string());
     test::TapedControl recorded(&file);
+    // What is needed to take acts back is part of the cost.
+    const journal::History history(recorded.tape, recorded.desk.control);
     test::TapedControl bare(nullptr);
     start(recorded);
     start(bare);
@@ -110,8 +116,34 @@ void ReplayingADay(benchmark::State& state) {
       cost / static_cast<double>(state.iterations()) / secondsAllowedForAReplay;
 }
 
+/// The last step after a day's work, taken back and done again: the longer of the two.
+void TakingBackAfterADay(benchmark::State& state) {
+  test::TapedControl session(nullptr);
+  journal::History history(session.tape, session.desk.control);
+  start(session);
+  while (session.tape.deeds() < actsOfADay) work(session);
+  const auto secondsOfAct = [&](void (journal::History::*act)()) {
+    return secondsOf([&] { (history.*act)(); });
+  };
+  double longest = 0;
+  for ([[maybe_unused]] const auto turn : state) {
+    // Back over packages and lines, and on again.
+    double seconds = 0;
+    for (const auto act : {&journal::History::takeBack, &journal::History::doAgain}) {
+      for (int step = 0; step < lineCommits; ++step) {
+        seconds = std::max(seconds, secondsOfAct(act));
+      }
+    }
+    state.SetIterationTime(seconds);
+    longest = std::max(longest, seconds);
+  }
+  if (history.toDoAgain() != nullptr) std::abort();
+  state.counters["ratio"] = longest / secondsAllowedForTakingBack;
+}
+
 BENCHMARK(RecordingAnAct)->UseManualTime()->Iterations(3);
 BENCHMARK(ReplayingADay)->UseManualTime()->Iterations(3);
+BENCHMARK(TakingBackAfterADay)->UseManualTime()->Iterations(3);
 
 }  // namespace
 }  // namespace awizo::benchmarks

@@ -25,6 +25,12 @@ std::vector<Command> sessionCommands() {
           {.words = "&Начать сеанс заново", .icon = "again", .task = HostTask::startAgain}};
 }
 
+/// Their words go on with the name of the step: see step_words.h.
+std::vector<Command> stepCommands() {
+  return {{.words = words::takeBack, .task = HostTask::takeBack, .keys = {withControl('Z')}},
+          {.words = words::doAgain, .task = HostTask::doAgain, .keys = {withControl('Y')}}};
+}
+
 std::vector<Command> findCommands() {
   return {{.words = "&Найти строку…", .task = HostTask::findLine, .keys = {withControl('F')}},
           {.words = "Найти &ещё раз", .task = HostTask::findAgain, .keys = {key(keys::f3)}},
@@ -181,7 +187,8 @@ std::vector<Command> buttonCommands(const std::vector<CommandMenu>& menus) {
 std::vector<CommandMenu> commandMenus(AwizoForm& form) {
   return {{"&Документ", {documentCommands(form), sessionCommands(), endCommands()}},
           {"&Правка",
-           {lineCommands(form), packageCommands(form), countryCommands(form), findCommands()}},
+           {stepCommands(), lineCommands(form), packageCommands(form), countryCommands(form),
+            findCommands()}},
           {"&Бумаги", {paperCommands(), {paperOfFileCommand()}, numberCommands()}},
           {"&Справка", {helpCommands()}}};
 }

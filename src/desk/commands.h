@@ -24,6 +24,8 @@ enum class HostTask {
   chooseFolder,
   startAgain,
   quit,
+  takeBack,
+  doAgain,
   findLine,
   findAgain,
   showFaults,

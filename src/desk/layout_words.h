@@ -20,6 +20,12 @@ inline constexpr std::string_view continued = "Продолжена работа
 /// Followed by what is wrong with the disk.
 inline constexpr std::string_view notRecorded =
     "Работа больше не записывается и при сбое пропадёт: ";
+// Each followed by ": " and the name of a step.
+inline constexpr std::string_view takeBack = "&Отменить";
+inline constexpr std::string_view doAgain = "&Повторить";
+// Each followed by the name of a step.
+inline constexpr std::string_view takenBack = "Отменено: ";
+inline constexpr std::string_view doneAgain = "Повторено: ";
 inline constexpr std::string_view launchFileTitle = "Файл запуска";
 inline constexpr std::string_view launchFileKind = "Файлы запуска (*.awizo);;Все файлы (*)";
 

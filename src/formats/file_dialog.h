@@ -17,6 +17,11 @@ namespace awizo {
 /// answers through LastFilePath, which its caller empties before showing it, and keeps its folder
 /// from one use to the next.
 class DlgWczytajZapisz : public Form {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(common(self), std::tie(self.loaded_));
+  }
+
  public:
   DlgWczytajZapisz(Screen& screen, Files& files, SettingsStore& settings, SessionState& session);
 
@@ -43,6 +48,9 @@ class DlgWczytajZapisz : public Form {
   void setUpForSaving(std::string_view proposedName);
   /// "&Ustaw": the folder of off-line work is chosen.
   void setUpForOffLineFolder();
+
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
 
  private:
   void Form_Load();

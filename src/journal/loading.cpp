@@ -1,6 +1,7 @@
 #include "journal/loading.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "journal/record_file.h"
 #include "platform/run_time_error.h"
@@ -40,6 +41,10 @@ bool isSound(const Record& record) {
       return numbers == 2 && texts == 2;
     case RecordKind::digest:
       return numbers == 1;
+    case RecordKind::returned:
+      return numbers == 2;
+    case RecordKind::stepBegins:
+      return texts == 1;
     default:
       return true;
   }
@@ -66,6 +71,58 @@ Records doneRecords(Records&& all) {
     }
   }
   return done;
+}
+
+/// Records one after another, to which others lead: those of a deed, and those since the state was
+/// put back.
+struct Stretch {
+  std::size_t first;
+  std::size_t before;  ///< the stretch that leads here; its own number for the beginning
+};
+
+/// What the records part into, in their order.
+std::vector<Stretch> stretchesOf(const Records& records) {
+  std::vector<Stretch> stretches{{0, 0}};
+  std::vector<std::size_t> ofDeeds{0};
+  std::size_t current = 0;
+  const auto begin = [&](std::size_t at) {
+    stretches.push_back({at, current});
+    current = stretches.size() - 1;
+  };
+  for (std::size_t at = 0; at < records.size(); ++at) {
+    const Record& record = records[at];
+    if (record.kind == RecordKind::returned) {
+      const auto deed = static_cast<std::uint64_t>(record.numbers[0]);
+      if (deed >= ofDeeds.size()) throw errors::typeMismatch();
+      current = ofDeeds[deed];
+      begin(at);
+    } else if (record.kind == RecordKind::stepBegins) {
+      begin(at);
+    } else if (isDeed(record)) {
+      begin(at);
+      ofDeeds.push_back(current);
+    }
+  }
+  return stretches;
+}
+
+/// Leaves out the acts that were taken back: what stays led to the state at the end.
+Records standingRecords(Records&& all) {
+  const bool anyReturn = std::ranges::any_of(
+      all, [](const Record& record) { return record.kind == RecordKind::returned; });
+  if (!anyReturn) return std::move(all);
+  const std::vector<Stretch> stretches = stretchesOf(all);
+  std::vector<std::size_t> standing{stretches.size() - 1};
+  while (standing.back() != 0) standing.push_back(stretches[standing.back()].before);
+  Records records;
+  records.reserve(all.size());
+  for (auto stretch = standing.rbegin(); stretch != standing.rend(); ++stretch) {
+    const std::size_t next = *stretch + 1;
+    const std::size_t end = next < stretches.size() ? stretches[next].first : all.size();
+    std::move(all.begin() + static_cast<std::ptrdiff_t>(stretches[*stretch].first),
+              all.begin() + static_cast<std::ptrdiff_t>(end), std::back_inserter(records));
+  }
+  return records;
 }
 
 /// Cuts before the deed after the last one that is wanted.
@@ -107,7 +164,7 @@ RecordedSession recordedSession(std::string_view bytes, std::size_t mostDeeds) {
   session.header = headerOf(all.front());
   all.erase(all.begin());
   if (!std::ranges::all_of(all, isSound)) throw errors::typeMismatch();
-  session.records = doneRecords(std::move(all));
+  session.records = standingRecords(doneRecords(std::move(all)));
   cutAfter(session.records, mostDeeds);
   cutUnfinished(session);
   const auto last =

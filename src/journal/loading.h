@@ -14,8 +14,8 @@ namespace awizo::journal {
 /// A session as a file has kept it, ready to be replayed.
 struct RecordedSession {
   std::map<std::string, std::string> header;
-  /// Up to the last moment at which the control waited for the user, acts that were refused left
-  /// out.
+  /// Up to the last moment at which the control waited for the user, acts that were refused or
+  /// taken back left out.
   std::vector<Record> records;
   std::size_t deeds = 0;
   std::vector<std::string> summary;  ///< the last one

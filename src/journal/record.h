@@ -22,6 +22,11 @@ enum class RecordKind : std::uint8_t {
   request = 11,  ///< goes out now; without an outcome nobody knows whether it arrived
   summary = 12,  ///< what a person wants to know of the work so far
   closed = 13,   ///< the host hid the modal form that waited, without an act of the user
+  /// The state is again what it was after an act, counted over the whole file, acts that were taken
+  /// back too; 0: before the first. Then whether a file was written since.
+  returned = 14,
+  stepBegins = 15,  ///< what comes is taken back as one: its name
+  stepEnds = 16,
 };
 
 /// One thing that happened. Which numbers and texts it has is said where its kind is written.

@@ -69,14 +69,57 @@ void Tape::request() {
   commit();
 }
 
-void Tape::beginsCreation() { running_ = true; }
+void Tape::countDeed() {
+  placeBefore_ = place_;
+  place_ = {++written_, place_.deeds + 1};
+}
+
+/// A replay has counted the deed when it took it from the tape.
+template <class Tell>
+void Tape::tellBeginning(Tell&& tell) {
+  if (listener == nullptr) return;
+  const TapePlace place = place_;
+  if (replaying_) place_ = placeBefore_;
+  tell();
+  place_ = place;
+}
+
+void Tape::returnTo(TapePlace place, bool pastWriting) {
+  place_ = place;
+  // What was asked and seen since is of no account any more.
+  facts_.clear();
+  summaryWritten_.clear();
+  write(
+      {RecordKind::returned, {static_cast<std::int64_t>(place.written), pastWriting ? 1 : 0}, {}});
+  for (const auto& [table, height] : viewHeights_) {
+    write({RecordKind::viewHeight, {height, 0}, {table.first, table.second}});
+  }
+  writeDigest();
+  ready();
+}
+
+void Tape::beginStep(const std::string& name) {
+  if (!replaying_) write({RecordKind::stepBegins, {}, {name}});
+}
+
+void Tape::endStep() {
+  if (replaying_) return;
+  write({RecordKind::stepEnds, {}, {}});
+  ready();
+}
+
+void Tape::beginsCreation() {
+  running_ = true;
+  tellBeginning([this] { listener->hostActs(); });
+}
 
 void Tape::begins(const Act& act) {
   aside_ = isRecorded && !isRecorded(*act.form);
   if (aside_) return;
   running_ = true;
+  tellBeginning([&] { listener->userActs(act.control); });
   if (replaying_) return;
-  ++deeds_;
+  countDeed();
   passed_ = 0;
   Record record{RecordKind::act, {static_cast<std::int64_t>(act.kind)}, {act.form->name()}};
   record.numbers.insert(record.numbers.end(), act.numbers.begin(), act.numbers.end());
@@ -87,8 +130,9 @@ void Tape::begins(const Act& act) {
 
 void Tape::beginsHostAct(const std::vector<std::string>& texts) {
   running_ = true;
+  tellBeginning([this] { listener->hostActs(); });
   if (replaying_) return;
-  ++deeds_;
+  countDeed();
   passed_ = 0;
   write({RecordKind::hostAct, {}, texts});
 }
@@ -97,12 +141,19 @@ void Tape::refused() {
   if (std::exchange(aside_, false)) return;
   running_ = false;
   if (replaying_) differs("an act that is refused now");
-  --deeds_;
+  place_ = placeBefore_;
+  --written_;
   write({RecordKind::undone, {}, {}});
+  if (listener != nullptr) listener->deedEnds();
 }
 
 void Tape::ends(bool whole) {
   if (std::exchange(aside_, false)) return;
+  end(whole);
+  if (listener != nullptr) listener->deedEnds();
+}
+
+void Tape::end(bool whole) {
   running_ = false;
   if (replaying_ || !whole) return;
   // The act that has hidden a dialog leaves the one that opened it to be finished.
@@ -116,10 +167,12 @@ void Tape::ends(bool whole) {
 
 void Tape::viewHeightSet(const Control& table, int height) {
   if (replaying_) return;
-  write({RecordKind::viewHeight, {height, passed_}, {table.form().name(), table.name()}});
+  const std::string& form = table.form().name();
+  viewHeights_[{form, table.name()}] = height;
+  write({RecordKind::viewHeight, {height, passed_}, {form, table.name()}});
 }
 
-void Tape::differs(const std::string& what) const { throw ReplayDiffers{deeds_, what}; }
+void Tape::differs(const std::string& what) const { throw ReplayDiffers{place_.deeds, what}; }
 
 void Tape::checkDigest(const Record& record) const {
   // One that was taken while a form waits would say nothing about the acts before it.
@@ -136,6 +189,8 @@ void Tape::absorb() {
         break;
       case RecordKind::viewHeight:
         if (running_ && record.numbers.at(1) > passed_) return;
+        viewHeights_[{record.texts.at(0), record.texts.at(1)}] =
+            static_cast<int>(record.numbers.at(0));
         if (setViewHeight) {
           setViewHeight(record.texts.at(0), record.texts.at(1),
                         static_cast<int>(record.numbers.at(0)));
@@ -143,6 +198,15 @@ void Tape::absorb() {
         break;
       case RecordKind::digest:
         checkDigest(record);
+        break;
+      case RecordKind::returned:
+        absorbReturn(record);
+        continue;
+      case RecordKind::stepBegins:
+        if (listener != nullptr) listener->stepBegins(record.texts.at(0));
+        break;
+      case RecordKind::stepEnds:
+        if (listener != nullptr) listener->stepEnds();
         break;
       case RecordKind::outcome:
       case RecordKind::act:
@@ -155,6 +219,15 @@ void Tape::absorb() {
     }
     write(record);
   }
+}
+
+/// What was taken back isn't on this tape any more, so that its places are others.
+void Tape::absorbReturn(const Record& record) {
+  const bool pastWriting = record.numbers.at(1) != 0;
+  if (pastWriting && listener != nullptr) listener->returnedPastWriting();
+  write({RecordKind::returned,
+         {static_cast<std::int64_t>(place_.written), record.numbers.at(1)},
+         {}});
 }
 
 Record Tape::takeOutcome(Source source) {
@@ -182,7 +255,7 @@ const Record* Tape::nextDeed() {
   const bool closed = record.kind == RecordKind::closed;
   if (!isDeed(record) && !closed) differs("less that is asked");
   ++next_;
-  if (!closed) ++deeds_;
+  if (!closed) countDeed();
   passed_ = 0;
   write(record);
   return &record;
@@ -191,6 +264,7 @@ const Record* Tape::nextDeed() {
 void Tape::goLive() {
   replaying_ = false;
   commit();
+  if (listener != nullptr) listener->replayEnds();
   // The records stay: the acts that are under way hold their texts.
   if (onLive) onLive();
 }

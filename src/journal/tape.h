@@ -50,6 +50,28 @@ struct ReplayDiffers {
   std::string what;
 };
 
+/// Where a state stands: after how many deeds that were written, and how many that lead to it.
+struct TapePlace {
+  std::size_t written = 0;
+  std::size_t deeds = 0;
+};
+
+/// Learns of all that is done to the control, in a replay too.
+class DeedListener {
+ public:
+  virtual ~DeedListener() = default;
+  /// The user acts on the control; null for a form's frame.
+  virtual void userActs(const Control* control) = 0;
+  virtual void hostActs() = 0;
+  /// What began last is over, done or refused.
+  virtual void deedEnds() = 0;
+  virtual void stepBegins(const std::string& name) = 0;
+  virtual void stepEnds() = 0;
+  /// The work was taken back to where it was before a file was written.
+  virtual void returnedPastWriting() = 0;
+  virtual void replayEnds() = 0;
+};
+
 /// Stands between a control and all that reaches it. It writes down what comes in; and while it has
 /// records to replay, it hands out what they hold instead of asking the surroundings. After the
 /// last record it goes on as if it had only written.
@@ -58,6 +80,8 @@ class Tape : public ActObserver {
   /// Nothing is written where `file` is null.
   Tape(std::vector<Record> replayed, GrowingFile* file);
 
+  /// Null for nobody.
+  DeedListener* listener = nullptr;
   /// Digest of the whole state.
   std::function<std::uint64_t()> digest;
   /// What a person wants to know of the work so far, asked whenever the control waits; none:
@@ -75,7 +99,9 @@ class Tape : public ActObserver {
   bool replaying() const { return replaying_; }
   /// Whether what is asked now is part of an act. Between acts only hosts ask, for themselves.
   bool running() const { return running_; }
-  std::size_t deeds() const { return deeds_; }
+  std::size_t deeds() const { return place_.deeds; }
+  /// Where the state stands; while a deed is about to begin, where it stood before.
+  TapePlace place() const { return place_; }
   /// Whether all that came in so far is in the file, or on its way there.
   bool recording() const { return file_ != nullptr; }
 
@@ -103,6 +129,12 @@ class Tape : public ActObserver {
   template <class Call>
   void passing(Call&& call);
 
+  /// The state is again what it was at that place, between two acts.
+  void returnTo(TapePlace place, bool pastWriting);
+  // All between is taken back as one.
+  void beginStep(const std::string& name);
+  void endStep();
+
   /// The control is made now, which is nobody's act. ends() comes when it is done.
   void beginsCreation();
   /// The host does something. ends() or refused() comes when it is done.
@@ -127,12 +159,17 @@ class Tape : public ActObserver {
   Value recordedValue(const Record& record, std::size_t skipped) const;
   void write(const Record& record);
   void commit();
+  void countDeed();
+  template <class Tell>
+  void tellBeginning(Tell&& tell);
+  void end(bool whole);
   void ready();
   void writeDigest();
   void goLive();
   /// Takes what stands before the next outcome or deed.
   void absorb();
   Record takeOutcome(Source source);
+  void absorbReturn(const Record& record);
   void checkDigest(const Record& record) const;
 
   std::vector<Record> replayed_;
@@ -147,10 +184,14 @@ class Tape : public ActObserver {
   std::vector<const Form*> waiting_;
   /// Passing calls since the last deed: where within an act a host laid out its views.
   std::int64_t passed_ = 0;
-  std::size_t deeds_ = 0;
+  TapePlace place_;
+  TapePlace placeBefore_;    ///< the last deed
+  std::size_t written_ = 0;  ///< deeds, those too that were taken back
   int actsSinceDigest_ = 0;
   std::vector<std::string> summaryWritten_;
   std::map<std::pair<Source, std::string>, Record> facts_;
+  /// The last of each table, by form and name.
+  std::map<std::pair<std::string, std::string>, int> viewHeights_;
 };
 
 template <class Call>
@@ -211,7 +252,7 @@ int Tape::answer(Ask&& ask) {
   const int given = ask();
   waiting_.pop_back();
   running_ = running;
-  ++deeds_;
+  countDeed();
   write({RecordKind::answer, {given}, {}});
   return given;
 }

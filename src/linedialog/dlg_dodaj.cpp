@@ -72,7 +72,7 @@ DlgDodaj::DlgDodaj(Work& work, DlgIsoCodes& isoCodes, DlgdodajPule& quantityDial
       work_(work),
       isoCodes_(isoCodes),
       sorter_(work.screen(), work.conversions),
-      choice_(work, *this, products_),
+      choice_(work, *this),
       packages_(work, *this, quantityDialog) {
   acceptButton = &btnDodaj;
   closeButton = &btnZamknij;
@@ -172,11 +172,13 @@ void DlgDodaj::readCatalogue() {
   const XmlNode catalogue =
       work_.session.ProductCatalogDom->node().selectSingle("Document-ProductCatalogue");
   if (catalogue) {
-    products_.read(catalogue, work_.conversions, sorter_, screen(), formLoadTitle);
-    cboxNazwaProd.setRows(products_.rowsByName());
-    cboxEANProd.setRows(products_.rowsByEAN());
-    cboxKodSprzed.setRows(products_.rowsBySupplierCode());
-    cboxKodAPP.setRows(products_.rowsByBuyerCode());
+    const auto products = std::make_shared<ProductDictionary>();
+    products_ = products;
+    products->read(catalogue, work_.conversions, sorter_, screen(), formLoadTitle);
+    cboxNazwaProd.setRows(products->rowsByName());
+    cboxEANProd.setRows(products->rowsByEAN());
+    cboxKodSprzed.setRows(products->rowsBySupplierCode());
+    cboxKodAPP.setRows(products->rowsByBuyerCode());
   }
   log.trace("Form_Load przetworzono slownik produktow");
 }

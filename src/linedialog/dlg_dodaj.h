@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -25,6 +26,15 @@ namespace awizo {
 /// The modal dialog of one line. It is hidden and never unloaded, so its fields keep their last
 /// values. The main form fills it, shows it, and reads it when DlgResult is 1.
 class DlgDodaj : public Form {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(
+        common(self),
+        std::tie(self.DlgResult, self.LinePartnerName, self.LinePeriod, self.LinePeriodFormat,
+                 self.LineFromOrder, self.LineOrderNumber, self.LineWeight,
+                 self.choice_.ProductChangeSource, self.products_, self.loaded_));
+  }
+
  public:
   DlgDodaj(Work& work, DlgIsoCodes& isoCodes, DlgdodajPule& quantityDialog);
 
@@ -129,8 +139,11 @@ class DlgDodaj : public Form {
   std::string GridToString() const;
 
   Sorter& sorter() { return sorter_; }
-  const ProductDictionary& dictionary() const { return products_; }
+  const ProductDictionary& dictionary() const { return *products_; }
   ProductChoice& productChoice() { return choice_; }
+
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
 
  private:
   void wireFields();
@@ -147,7 +160,8 @@ class DlgDodaj : public Form {
   Work& work_;
   DlgIsoCodes& isoCodes_;
   Sorter sorter_;
-  ProductDictionary products_;
+  /// Shared with what was kept of the dialog.
+  std::shared_ptr<const ProductDictionary> products_ = std::make_shared<ProductDictionary>();
   ProductChoice choice_;
   LinePackages packages_;
   bool mayLoad_ = false;

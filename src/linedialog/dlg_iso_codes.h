@@ -15,6 +15,12 @@ namespace awizo {
 
 /// The modal list of all countries. Its table is also what a typed country is checked against.
 class DlgIsoCodes : public Form {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(common(self),
+                          std::tie(self.PickedIndex, self.ShiftHeld, self.MouseHeld, self.loaded_));
+  }
+
  public:
   DlgIsoCodes(Screen& screen, SessionState& session);
 
@@ -35,6 +41,9 @@ class DlgIsoCodes : public Form {
   std::int16_t PickedIndex = 0;  ///< flat index of the code picked last
   bool ShiftHeld = false;
   bool MouseHeld = false;
+
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
 
  private:
   void Form_Load();

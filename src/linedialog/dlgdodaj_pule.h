@@ -14,6 +14,11 @@ namespace awizo {
 
 /// The small modal dialog that asks which package takes how much of a line.
 class DlgdodajPule : public Form {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(common(self), std::tie(self.DlgResult));
+  }
+
  public:
   DlgdodajPule(Screen& screen, const Conversions& conversions);
 
@@ -28,6 +33,9 @@ class DlgdodajPule : public Form {
 
   /// Whether a package and a quantity are given; shows the user what is missing.
   bool Walidacja();
+
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
 
  private:
   void btnDodaj_Click();

@@ -60,7 +60,7 @@ void ProductChoice::lead(DropDownList& list, const std::string& text) {
 
 void ProductChoice::cboxEANProd_Change() {
   followList(dialog_.cboxEANProd, fromEAN, dialog_.txtlEANProdWart, [&] {
-    const ProductDictionary& p = products_;
+    const ProductDictionary& p = dialog_.dictionary();
     if (!inList(dialog_.cboxEANProd, p.IdxEAN)) return;
     const std::size_t line = lineOf(dialog_.cboxEANProd.index(), p.IdxEAN);
     if (ProductChangeSource != fromBuyerCode) lead(dialog_.cboxKodAPP, p.ProdBuyerCode[line]);
@@ -74,32 +74,35 @@ void ProductChoice::cboxEANProd_Change() {
 /// The other lists lead to the name, and the name to the EAN, from which the fields are filled.
 void ProductChoice::cboxKodAPP_Change() {
   followList(dialog_.cboxKodAPP, fromBuyerCode, dialog_.txtKodKup, [&] {
-    const std::vector<std::int32_t>& order = products_.IdxBuyerCode;
+    const std::vector<std::int32_t>& order = dialog_.dictionary().IdxBuyerCode;
     if (!inList(dialog_.cboxKodAPP, order) || ProductChangeSource == fromName) return;
-    lead(dialog_.cboxNazwaProd, products_.ProdName[lineOf(dialog_.cboxKodAPP.index(), order)]);
+    lead(dialog_.cboxNazwaProd,
+         dialog_.dictionary().ProdName[lineOf(dialog_.cboxKodAPP.index(), order)]);
   });
 }
 
 void ProductChoice::cboxKodSprzed_Change() {
   followList(dialog_.cboxKodSprzed, fromSupplierCode, dialog_.txtKodSprzed, [&] {
-    const std::vector<std::int32_t>& order = products_.IdxSupplierCode;
+    const std::vector<std::int32_t>& order = dialog_.dictionary().IdxSupplierCode;
     if (!inList(dialog_.cboxKodSprzed, order) || ProductChangeSource == fromName) return;
-    lead(dialog_.cboxNazwaProd, products_.ProdName[lineOf(dialog_.cboxKodSprzed.index(), order)]);
+    lead(dialog_.cboxNazwaProd,
+         dialog_.dictionary().ProdName[lineOf(dialog_.cboxKodSprzed.index(), order)]);
   });
 }
 
 void ProductChoice::cboxNazwaProd_Change() {
   followList(dialog_.cboxNazwaProd, fromName, dialog_.txtNazwaProdWart, [&] {
-    const std::vector<std::int32_t>& order = products_.IdxName;
+    const std::vector<std::int32_t>& order = dialog_.dictionary().IdxName;
     if (!inList(dialog_.cboxNazwaProd, order)) return;
-    lead(dialog_.cboxEANProd, products_.ProdEAN[lineOf(dialog_.cboxNazwaProd.index(), order)]);
+    lead(dialog_.cboxEANProd,
+         dialog_.dictionary().ProdEAN[lineOf(dialog_.cboxNazwaProd.index(), order)]);
   });
 }
 
 void ProductChoice::setFieldsValues(int index) {
   reportErrors(work_.screen(), "Произошла ошибка в  setFieldsValues()", [&] {
     if (index >= 0) {
-      takeProduct(lineOf(index, products_.IdxEAN));
+      takeProduct(lineOf(index, dialog_.dictionary().IdxEAN));
     } else {
       forgetProduct();
     }
@@ -107,7 +110,7 @@ void ProductChoice::setFieldsValues(int index) {
 }
 
 void ProductChoice::takeProduct(std::size_t line) {
-  const ProductDictionary& p = products_;
+  const ProductDictionary& p = dialog_.dictionary();
   dialog_.txtKodSprzed.setText(p.ProdSupplierCode[line]);
   dialog_.txtKodKup.setText(p.ProdBuyerCode[line]);
   const std::int16_t unit = dialog_.indexJednostkiMiary(p.ProdUnit[line]);

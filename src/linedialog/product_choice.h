@@ -4,7 +4,6 @@
 #include <functional>
 #include <string>
 
-#include "linedialog/product_dictionary.h"
 #include "platform/forms/drop_down_list.h"
 #include "platform/forms/text_field.h"
 #include "session/record/work.h"
@@ -18,8 +17,7 @@ class DlgDodaj;
 /// the EAN, and from the EAN's catalogue line the rest is filled.
 class ProductChoice {
  public:
-  ProductChoice(Work& work, DlgDodaj& dialog, const ProductDictionary& products)
-      : work_(work), dialog_(dialog), products_(products) {}
+  ProductChoice(Work& work, DlgDodaj& dialog) : work_(work), dialog_(dialog) {}
 
   // What the lists' Change events do.
   void cboxEANProd_Change();
@@ -42,7 +40,6 @@ class ProductChoice {
 
   Work& work_;
   DlgDodaj& dialog_;
-  const ProductDictionary& products_;
   bool inChain_ = false;         ///< a change event of a linked list is running
   bool chainIsEndless_ = false;  ///< the chain is breaking off up to its first event
 };

@@ -83,9 +83,11 @@ void DlgSzczegoly::LoadLocalizationDictionary() {
 void DlgSzczegoly::offerLocalizations(const std::vector<XmlNode>& entries) {
   if (entries.size() > 1) cboxLokalizacja.setStyle(ListStyle::matchRequired);
   Sorter sorter(screen(), work_.conversions);
-  localizations_.read(entries, sorter);
-  for (const std::string& number : localizations_.numberRows()) cboxLokalizacja.addRow(number);
-  for (const std::string& iln : localizations_.ilnRows()) cboxILNLokalizacji.addRow(iln);
+  const auto read = std::make_shared<LocalizationDictionary>();
+  localizations_ = read;
+  read->read(entries, sorter);
+  for (const std::string& number : read->numberRows()) cboxLokalizacja.addRow(number);
+  for (const std::string& iln : read->ilnRows()) cboxILNLokalizacji.addRow(iln);
 }
 
 void DlgSzczegoly::PreparePackages(bool editMode) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,13 @@ namespace awizo {
 /// The modal dialog of one package. It holds no document data: the main form fills it before it
 /// opens and reads its fields after it closed.
 class DlgSzczegoly : public Form {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(common(self),
+                          std::tie(self.DialogResult, self.ParentSerial, self.AddMode,
+                                   self.LocalizationsFilled, self.localizations_, self.loaded_));
+  }
+
  public:
   explicit DlgSzczegoly(Work& work);
 
@@ -51,11 +59,14 @@ class DlgSzczegoly : public Form {
   bool Walidacja();
   /// Fills the two delivery lists from the session's catalogue.
   void LoadLocalizationDictionary();
-  const LocalizationDictionary& localizations() const { return localizations_; }
+  const LocalizationDictionary& localizations() const { return *localizations_; }
   /// For code that has set an ILN: shows its place too.
   void cboxILNLokalizacji_Change_PublicWrapper() { cboxILNLokalizacji_Change(); }
   /// A required field by its tag "Mandatory"; no rule of the dialog uses it.
   bool CheckMandatory(std::string_view caption, TextField& field);
+
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
 
  private:
   void Form_Load();
@@ -69,7 +80,9 @@ class DlgSzczegoly : public Form {
   bool isKnown(const std::vector<std::string>& entries, std::string_view text) const;
 
   Work& work_;
-  LocalizationDictionary localizations_;
+  /// Shared with what was kept of the dialog.
+  std::shared_ptr<const LocalizationDictionary> localizations_ =
+      std::make_shared<LocalizationDictionary>();
   bool loaded_ = false;
 };
 

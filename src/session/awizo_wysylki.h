@@ -70,6 +70,8 @@ class AwizoWysylki {
   /// Whether the document holds what was neither saved nor sent: the user's changes, or an order
   /// that the service has handed out for good. A host asks before it lets such a document go.
   bool isDocumentChanged() const;
+  /// What was saved or sent isn't this document any more.
+  void forgetKeptDocument() { keptDocument_.reset(); }
 
   // Methods that the system itself doesn't call and a host may. Where an error is named, it reaches
   // the host as RunTimeError; the others raise none.

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "journal/loading.h"
-#include "journal/record_file.h"
 #include "journal/state_digest.h"
 #include "platform/forms/keys.h"
 #include "support/control/taped_control.h"
@@ -11,47 +9,14 @@
 namespace awizo::test {
 namespace {
 
-/// A file in memory; after so many bytes the disk is full.
-struct MemoryRecord : GrowingFile {
-  std::string bytes;
-  std::size_t room = std::string::npos;
-  int flushes = 0;
-
-  void append(std::string_view more) override {
-    if (bytes.size() + more.size() > room) {
-      bytes += more.substr(0, room - bytes.size());
-      throw errors::diskFull();
-    }
-    bytes += more;
-  }
-  void flush() override { ++flushes; }
-};
-
-/// Starts off line.
-void start(TapedControl& session) {
-  session.desk.prepareFolder();
-  session.desk.files.put(TestControl::partnerFile, TestControl::partnerInfo("ООО Покупатель"));
-  session.desk.bag.values["OnLine"] = "Off";
-  session.recording->start();
-  session.show();
-}
-
 std::uint64_t digestOf(TapedControl& session) { return journal::stateDigest(session.desk.control); }
-
-std::string withHeader(const MemoryRecord& record) {
-  return journal::fileBeginning() + journal::framed(journal::headerRecord({})) + record.bytes;
-}
-
-journal::RecordedSession session(const MemoryRecord& record) {
-  return journal::recordedSession(withHeader(record));
-}
 
 TEST(Tape, AReplayNeedsNeitherFilesNorSettings) {
   MemoryRecord record;
   TapedControl recorded(&record);
-  start(recorded);
+  startOffLine(recorded);
   recorded.desk.form.txtNrAwiza.userType("ТН/1");
-  TapedControl replayed(nullptr, session(record).records);
+  TapedControl replayed(nullptr, sessionIn(record).records);
   replayed.recording->start();
   EXPECT_EQ(replayed.desk.form.txtNrAwiza.text(), "ТН/1");
   EXPECT_EQ(replayed.desk.session.SellerName, "ООО Поставщик");
@@ -61,11 +26,11 @@ TEST(Tape, AReplayNeedsNeitherFilesNorSettings) {
 TEST(Tape, ActsThatWereRefusedAreNoActs) {
   MemoryRecord record;
   TapedControl recorded(&record);
-  start(recorded);
+  startOffLine(recorded);
   EXPECT_THROW(recorded.doHostAct({"refused"}), Refused);
   EXPECT_THROW(recorded.doHostAct({"error"}), RunTimeError);
-  EXPECT_EQ(session(record).deeds, 2U);
-  TapedControl replayed(nullptr, session(record).records);
+  EXPECT_EQ(sessionIn(record).deeds, 2U);
+  TapedControl replayed(nullptr, sessionIn(record).records);
   replayed.recording->start();
   EXPECT_EQ(replayed.tape.deeds(), 2U);
 }
@@ -73,7 +38,7 @@ TEST(Tape, ActsThatWereRefusedAreNoActs) {
 TEST(Tape, AFullDiskEndsTheRecordWithOneWordAndNotTheWork) {
   MemoryRecord record;
   TapedControl recorded(&record);
-  start(recorded);
+  startOffLine(recorded);
   std::vector<std::string> words;
   recorded.tape.onTrouble = [&](const std::string& word) { words.push_back(word); };
   record.room = record.bytes.size() + 100;
@@ -83,7 +48,7 @@ TEST(Tape, AFullDiskEndsTheRecordWithOneWordAndNotTheWork) {
   EXPECT_EQ(words, std::vector<std::string>{"Disk full"});
   EXPECT_EQ(recorded.desk.form.txtNrAwiza.text(), "55555");
 
-  TapedControl replayed(nullptr, session(record).records);
+  TapedControl replayed(nullptr, sessionIn(record).records);
   replayed.recording->start();
   EXPECT_EQ(replayed.desk.form.txtNrAwiza.text(), "1");
 }
@@ -91,11 +56,11 @@ TEST(Tape, AFullDiskEndsTheRecordWithOneWordAndNotTheWork) {
 TEST(Tape, AReplayOfAnotherStateStops) {
   MemoryRecord record;
   TapedControl recorded(&record);
-  start(recorded);
+  startOffLine(recorded);
   for (int act = 0; act < 70; ++act) {
     recorded.desk.form.txtNrAwiza.userType(std::to_string(act));
   }
-  auto records = session(record).records;
+  auto records = sessionIn(record).records;
   for (journal::Record& act : records) {
     if (act.kind == journal::RecordKind::act && act.texts.back() == "40") act.texts.back() = "x";
     if (act.kind == journal::RecordKind::digest) act.numbers.front() ^= 1;
@@ -113,8 +78,8 @@ TEST(Tape, AReplayOfAnotherStateStops) {
 TEST(Tape, ARecordThatAsksSomethingElseStops) {
   MemoryRecord record;
   TapedControl recorded(&record);
-  start(recorded);
-  auto records = session(record).records;
+  startOffLine(recorded);
+  auto records = sessionIn(record).records;
   std::erase_if(records, [](const journal::Record& outcome) {
     return outcome.kind == journal::RecordKind::outcome &&
            outcome.numbers.front() == static_cast<int>(journal::Source::readFile);
@@ -126,7 +91,7 @@ TEST(Tape, ARecordThatAsksSomethingElseStops) {
 TEST(Tape, TheHeightOfAViewIsReplayed) {
   MemoryRecord record;
   TapedControl recorded(&record);
-  start(recorded);
+  startOffLine(recorded);
   Table& countries = recorded.desk.control.dlgIsoCodes.grdISO;
   countries.setViewHeight(1200);
   recorded.desk.face.onModal([&] {
@@ -135,7 +100,7 @@ TEST(Tape, TheHeightOfAViewIsReplayed) {
   });
   recorded.desk.form.Image2.userClick();
 
-  TapedControl replayed(nullptr, session(record).records);
+  TapedControl replayed(nullptr, sessionIn(record).records);
   replayed.recording->start();
   EXPECT_EQ(replayed.desk.control.dlgIsoCodes.grdISO.row(), countries.row());
   EXPECT_GT(countries.row(), 1);
@@ -144,13 +109,13 @@ TEST(Tape, TheHeightOfAViewIsReplayed) {
 TEST(Tape, AFormThatItsHostHidIsHiddenAgain) {
   MemoryRecord record;
   TapedControl recorded(&record);
-  start(recorded);
+  startOffLine(recorded);
   DlgIsoCodes& countries = recorded.desk.control.dlgIsoCodes;
   recorded.desk.face.onModal([&] { countries.hide(); });
   recorded.desk.form.Image2.userClick();
   recorded.desk.form.txtNrAwiza.userType("ТН/1");
 
-  TapedControl replayed(nullptr, session(record).records);
+  TapedControl replayed(nullptr, sessionIn(record).records);
   replayed.recording->start();
   EXPECT_FALSE(replayed.desk.control.dlgIsoCodes.shown());
   EXPECT_EQ(replayed.desk.form.txtNrAwiza.text(), "ТН/1");
@@ -160,7 +125,7 @@ TEST(Tape, AFormThatItsHostHidIsHiddenAgain) {
 TEST(Tape, WhatTheHostDoesForItselfStandsOnNoTape) {
   MemoryRecord record;
   TapedControl recorded(&record);
-  start(recorded);
+  startOffLine(recorded);
   const std::size_t before = record.bytes.size();
   recorded.platform->platform.files.folderExists("c:\\VIRD");
   recorded.platform->platform.clock.now();
@@ -171,10 +136,10 @@ TEST(Tape, TheLogGoesOnAfterAReplay) {
   MemoryRecord record;
   TapedControl recorded(&record);
   recorded.desk.bag.values["DebugLevel"] = "4";
-  start(recorded);
+  startOffLine(recorded);
   ASSERT_TRUE(recorded.desk.files.has(TestControl::logFile));
 
-  TapedControl replayed(nullptr, session(record).records);
+  TapedControl replayed(nullptr, sessionIn(record).records);
   replayed.desk.files.putFolder("c:\\VIRD");
   replayed.desk.files.put(TestControl::logFile, "before\r\n");
   replayed.recording->start();

@@ -1,4 +1,4 @@
-// The choice with a dictionary of its own, and the dialog's events led to it.
+// The choice with a dictionary that no catalogue filled, and the dialog's events led to it.
 
 #include "line_dialog.h"
 
@@ -11,8 +11,9 @@ using ::testing::IsEmpty;
 struct ProductChoiceAlone : ::testing::Test {
   LineDialog test;
   DlgDodaj& dialog = test.dialog;
-  ProductDictionary products;
-  ProductChoice choice{test.editor, dialog, products};
+  /// The dialog's, which nothing else fills here.
+  ProductDictionary& products = const_cast<ProductDictionary&>(dialog.dictionary());
+  ProductChoice choice{test.editor, dialog};
 
   ProductChoiceAlone() {
     test.load();

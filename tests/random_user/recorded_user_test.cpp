@@ -15,11 +15,13 @@
 #include <thread>
 
 #include "adapters/posix/posix_growing_file.h"
+#include "journal/history.h"
 #include "journal/loading.h"
 #include "journal/record_file.h"
 #include "journal/recording.h"
 #include "journal/state_digest.h"
 #include "random_user/user.h"
+#include "support/control/taped_control.h"
 #include "support/environment.h"
 #include "support/files/files.h"
 #include "support/files/temporary_folder.h"
@@ -58,6 +60,14 @@ struct Recorded {
   }
 };
 
+/// Takes steps back and does some of them again, now and then.
+void takeBackByChance(Dice& dice, journal::History& history) {
+  if (!dice.percent(20)) return;
+  const int steps = 1 + dice.below(4);
+  for (int step = 0; step < steps; ++step) history.takeBack();
+  for (int step = dice.below(steps + 1); step > 0; --step) history.doAgain();
+}
+
 /// The work that is killed: it notes each state before the user goes on.
 [[noreturn]] void workForEver(const std::string& file, int notes, unsigned seed,
                               const std::string& locale) {
@@ -71,6 +81,7 @@ struct Recorded {
   beginning.onLine = dice.percent(60);
   Listener listener;
   AwizoWysylki* made = nullptr;
+  std::optional<journal::History> history;
   const auto note = [&] {
     const Note noted{recorded.tape.deeds(), journal::stateDigest(*made)};
     if (write(notes, &noted, sizeof noted) != sizeof noted) _exit(1);
@@ -85,10 +96,14 @@ struct Recorded {
       return std::vector<std::string>();
     };
     recorded.attach(control).start();
+    history.emplace(recorded.tape, control);
     recorded.show(control);
   };
   RandomUser user(dice, beginning, listener);
-  while (true) user.act();
+  while (true) {
+    user.act();
+    takeBackByChance(dice, *history);
+  }
 }
 
 /// Where a replay has come to its end.
@@ -173,6 +188,46 @@ TEST_P(RecordedUser, KilledAtAnyMomentLosesNoFinishedAct) {
   }
   EXPECT_GT(acts, static_cast<std::uint64_t>(kills));
   std::printf("%d kills, %llu acts replayed\n", kills, static_cast<unsigned long long>(acts));
+}
+
+TEST_P(RecordedUser, WhoTakesActsBackLeavesTheStateOfOneWhoNeverDidThem) {
+  const int seed = fromEnvironment("AWIZO_RANDOM_SEED", 20261122);
+  SCOPED_TRACE("AWIZO_RANDOM_SEED=" + std::to_string(seed));
+  Dice dice(static_cast<unsigned>(seed));
+  int takenBack = 0;
+  for (int acts = fromEnvironment("AWIZO_RANDOM_ACTIONS", 1500); acts > 0;) {
+    MemoryRecord record;
+    Recorded recorded({}, &record);
+    Beginning beginning;
+    beginning.localeName = GetParam();
+    beginning.onLine = dice.percent(60);
+    std::optional<journal::History> history;
+    AwizoWysylki* made = nullptr;
+    Listener listener;
+    listener.between = [&](const Platform& real) -> const Platform& {
+      return recorded.between(real);
+    };
+    listener.start = [&](AwizoWysylki& control) {
+      made = &control;
+      recorded.attach(control).start();
+      history.emplace(recorded.tape, control);
+      recorded.show(control);
+    };
+    RandomUser user(dice, beginning, listener);
+    const auto length = static_cast<std::size_t>(20 + dice.below(300));
+    while (recorded.tape.deeds() < length) {
+      user.act();
+      const std::size_t before = recorded.tape.deeds();
+      takeBackByChance(dice, *history);
+      if (recorded.tape.deeds() < before) ++takenBack;
+    }
+    acts -= user.actions();
+    const Note end = replayed(sessionIn(record), GetParam());
+    ASSERT_EQ(end.deeds, recorded.tape.deeds());
+    ASSERT_EQ(end.digest, journal::stateDigest(*made)) << user.history();
+    history.reset();
+  }
+  EXPECT_GT(takenBack, 20);
 }
 
 }  // namespace

@@ -2,12 +2,22 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 
 #include "hosts/desktop/faces/form_face.h"
 #include "hosts/desktop/faces/key_codes.h"
 
 namespace awizo::desktop {
+namespace {
+
+bool doesTextAgain(const QObject* watched, const QEvent& event) {
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  return qobject_cast<const QLineEdit*>(watched) != nullptr && key.key() == Qt::Key_Y &&
+         key.modifiers() == Qt::ControlModifier;
+}
+
+}  // namespace
 
 Face::Face(FormFace& form, Control& control, QWidget* widget)
     : QObject(widget), form_(form), control_(control), widget_(widget) {
@@ -85,7 +95,16 @@ bool Face::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonDblClick:
       if (control_.isFocusable() && !form_.moveFocusTo(*this)) return true;
       return pressMouse(static_cast<QMouseEvent&>(*event));
+    case QEvent::ShortcutOverride:
+      // In a text the key is the text's own, as the one that takes back is.
+      if (!doesTextAgain(watched, *event)) break;
+      event->accept();
+      return true;
     case QEvent::KeyPress: {
+      if (doesTextAgain(watched, *event)) {
+        static_cast<QLineEdit*>(watched)->redo();
+        return true;
+      }
       // A key that a part of the widget left alone comes by here on its way up.
       if (watched != widget_->window()->focusWidget()) break;
       auto& key = static_cast<QKeyEvent&>(*event);

@@ -86,6 +86,7 @@ void MainWindow::makeSession() {
   // The widget may go then, which it can't within its own call.
   connect(widget_, &AwizoWysylkiWidget::startEnded, this, &MainWindow::lookAtStart,
           Qt::QueuedConnection);
+  connect(widget_, &AwizoWysylkiWidget::historyChanged, this, &MainWindow::nameSteps);
   setWindowTitle(fromText(words::windowTitle));
   showPart(widget_);
 }

@@ -12,6 +12,7 @@
 #include "desk/guide_chapter.h"
 #include "desk/host_boxes.h"
 #include "desk/layout_words.h"
+#include "desk/step_words.h"
 #include "hosts/desktop/faces/icons.h"
 #include "hosts/desktop/layouts/command_actions.h"
 #include "hosts/desktop/layouts/wrapping.h"
@@ -102,6 +103,17 @@ void MainWindow::makeMenus() {
        widget_ == nullptr ? startMenus() : commandMenus(widget_->control().form)) {
     fill(*menuBar()->addMenu(fromText(menu.heading)), menu);
   }
+  nameSteps();
+}
+
+void MainWindow::nameSteps() {
+  if (widget_ == nullptr || takeBack_ == nullptr || doAgain_ == nullptr) return;
+  const journal::History& history = widget_->history();
+  AwizoForm& form = widget_->control().form;
+  takeBack_->setText(fromText(takeBackWords(form, history)));
+  takeBack_->setEnabled(history.toTakeBack() != nullptr);
+  doAgain_->setText(fromText(doAgainWords(form, history)));
+  doAgain_->setEnabled(history.toDoAgain() != nullptr);
 }
 
 void MainWindow::fill(QMenu& menu, const CommandMenu& commands) {
@@ -116,6 +128,8 @@ void MainWindow::fill(QMenu& menu, const CommandMenu& commands) {
 
 QAction* MainWindow::makeTask(const Command& command) {
   auto* action = new QAction(fromText(command.words), menuBar());
+  if (command.task == HostTask::takeBack) takeBack_ = action;
+  if (command.task == HostTask::doAgain) doAgain_ = action;
   if (!command.icon.empty()) action->setIcon(iconNamed(fromText(command.icon)));
   for (const CommandKey& key : command.keys) action->setShortcut(keysOf(key));
   // What may take the menu away waits until it has closed.
@@ -136,6 +150,10 @@ void MainWindow::perform(HostTask task) {
     case HostTask::quit:
       close();
       return;
+    case HostTask::takeBack:
+      return widget_->takeBack();
+    case HostTask::doAgain:
+      return widget_->doAgain();
     case HostTask::findLine:
       return widget_->finder().find();
     case HostTask::findAgain:

@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <QMenu>
+#include <QPointer>
 #include <functional>
 #include <memory>
 
@@ -76,6 +77,8 @@ class MainWindow : public QMainWindow {
   void makeMenus();
   void fill(QMenu& menu, const CommandMenu& commands);
   QAction* makeTask(const Command& command);
+  /// Names what can be taken back and done again.
+  void nameSteps();
   void perform(HostTask task);
   bool mayStart();
   /// Whether the window may close now. While an order comes or a document goes, the user is asked
@@ -95,6 +98,8 @@ class MainWindow : public QMainWindow {
   std::unique_ptr<Clock> clock_;
   AwizoWysylkiWidget* widget_ = nullptr;
   StartPageWidget* startPage_ = nullptr;
+  QPointer<QAction> takeBack_;
+  QPointer<QAction> doAgain_;
   bool fromStartPage_ = false;        ///< the session was begun there
   bool replayHasFailed_ = false;      ///< the work that was left behind can't go on
   std::string whyNot_;                ///< why the last session wasn't to start

@@ -8,6 +8,7 @@
 #include "desk/choose_path.h"
 #include "desk/document_watch.h"
 #include "desk/layout_words.h"
+#include "desk/step_words.h"
 #include "hosts/desktop/faces/form_face.h"
 #include "hosts/desktop/layouts/command_actions.h"
 #include "hosts/desktop/screen/message_box.h"
@@ -17,6 +18,7 @@
 #include "hosts/desktop/window/package_numbers.h"
 #include "hosts/desktop/window/paper_maker.h"
 #include "hosts/desktop/window/surroundings.h"
+#include "journal/history.h"
 #include "journal/unfinished_work.h"
 #include "platform/text.h"
 #include "session/awizo_wysylki.h"
@@ -54,6 +56,7 @@ struct AwizoWysylkiWidget::Parts {
         session(taped.platform),
         control(taped.platform, session),
         recording(tape, taped, control),
+        history(tape, control),
         watch(control, surroundings.platform.clock),
         faces(nullptr) {
     // Dates and times are written as the control writes them.
@@ -82,6 +85,7 @@ struct AwizoWysylkiWidget::Parts {
   SessionState session;
   AwizoWysylki control;
   journal::Recording recording;
+  journal::History history;
   DocumentWatch watch;
   FormFace* faces;
   Status status;
@@ -152,6 +156,7 @@ void AwizoWysylkiWidget::connectRecording() {
     const auto& clock = parts.surroundings.platform.clock;
     return journal::textsOf(journal::summaryOf(parts.control, clock));
   };
+  parts.history.onChange = [this] { emit historyChanged(); };
   parts.tape.onTrouble = [this](const std::string& why) { tellOfRecording(why); };
   parts.recording.onLive = [&parts] {
     if (parts.tape.recording()) parts.record.forgetReplayed(parts.replayedName);
@@ -206,6 +211,30 @@ void AwizoWysylkiWidget::openDocument(const std::string& path) {
   parts.face.actOnNextForm([&parts, path] { choosePath(parts.control.dlgWczytajZapisz, path); });
   parts.commands->pressUnasked(parts.control.form.btnWczytaj);
   parts.face.actOnNextForm(nullptr);
+}
+
+const journal::History& AwizoWysylkiWidget::history() const { return parts_->history; }
+
+void AwizoWysylkiWidget::takeBack() {
+  if (Face* face = parts_->faces->focusedFace()) face->finishTyping();
+  if (const journal::StepName* step = parts_->history.toTakeBack()) {
+    travel(&journal::History::takeBack,
+           joined({words::takenBack, stepWords(parts_->control.form, *step)}));
+  }
+}
+
+void AwizoWysylkiWidget::doAgain() {
+  if (const journal::StepName* step = parts_->history.toDoAgain()) {
+    travel(&journal::History::doAgain,
+           joined({words::doneAgain, stepWords(parts_->control.form, *step)}));
+  }
+}
+
+void AwizoWysylkiWidget::travel(void (journal::History::*act)(), const std::string& done) {
+  Parts& parts = *parts_;
+  if (isWorking()) return;
+  parts.faces->act([&] { (parts.history.*act)(); });
+  parts.watch.tell(done);
 }
 
 void AwizoWysylkiWidget::start() {

@@ -14,6 +14,10 @@ class AwizoWysylki;
 class DocumentWatch;
 }  // namespace awizo
 
+namespace awizo::journal {
+class History;
+}
+
 namespace awizo::desktop {
 
 class CommandActions;
@@ -73,6 +77,11 @@ class AwizoWysylkiWidget : public QWidget {
   /// was there is gone.
   void openDocument(const std::string& path);
 
+  /// What of the work can be taken back and done again.
+  const journal::History& history() const;
+  void takeBack();
+  void doAgain();
+
   AwizoWysylki& control();
   FormFace& faces();
   CommandActions& commands();
@@ -85,6 +94,8 @@ class AwizoWysylkiWidget : public QWidget {
  signals:
   /// The title of the window that shows the document, and what was done last.
   void standingChanged();
+  /// What can be taken back or done again may be something else now.
+  void historyChanged();
   void onLineChanged();
   void debugLevelChanged();
   /// The start is over, whatever came of it.
@@ -101,6 +112,7 @@ class AwizoWysylkiWidget : public QWidget {
   template <class Replay>
   void replayOr(Replay&& replay);
 
+  void travel(void (journal::History::*act)(), const std::string& done);
   void showStates();
   /// Shows the document's state, once whatever changes it now is over.
   void showStandingSoon();

@@ -8,6 +8,11 @@ namespace awizo {
 
 /// A button with a caption ("&" before the mnemonic letter). Takes the focus when clicked.
 class Button : public Control {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(common(self), std::tie(self.caption_));
+  }
+
  public:
   Button(Form& form, std::string name, std::string_view caption = "")
       : Button(form, std::move(name), ControlKind::button, caption) {}
@@ -26,6 +31,9 @@ class Button : public Control {
   void userPress();
   /// Click first, then the double click, unless `doubleClickAlone`.
   void userDoubleClick();
+
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
 
  protected:
   Button(Form& form, std::string name, ControlKind kind, std::string_view caption)

@@ -82,6 +82,13 @@ Acting Control::acting(ActKind kind, std::string_view text,
   return {form_.screen(), {kind, text, numbers, &form_, this}};
 }
 
+void Control::tellAll() {
+  for (const Aspect aspect : {Aspect::visible, Aspect::enabled, Aspect::place, Aspect::rows,
+                              Aspect::layout, Aspect::content, Aspect::selection, Aspect::scroll}) {
+    changed(aspect);
+  }
+}
+
 void Control::raise(const Event& event) { form_.raise(event); }
 
 bool Control::takeUserFocus() {

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "platform/forms/acting.h"
+#include "platform/forms/kept.h"
 #include "platform/observers.h"
 
 namespace awizo {
@@ -74,6 +75,13 @@ using Event = std::function<void()>;
 /// What every visible part has. Events are raised with raise(): an error that leaves the event
 /// procedure shows a critical box with its description under the title "VIRD" and ends the event.
 class Control {
+ protected:
+  /// The members that every kind keeps.
+  template <class Self>
+  static auto common(Self& self) {
+    return std::tie(self.visible_, self.enabled_, self.place_);
+  }
+
  public:
   Control(Form& form, std::string name, ControlKind kind);
   virtual ~Control() = default;
@@ -122,6 +130,14 @@ class Control {
   Observers<const Change&> observers;
 
   void raise(const Event& event);
+
+  /// All that it holds now; `earlier`, kept of this control too, where nothing has changed since.
+  /// How much of it a host shows isn't part of it.
+  virtual KeptPart keep(const KeptPart& earlier) const { return keptOf(earlier, common(*this)); }
+  /// Puts that back. No event is raised and nobody is told before tellAll().
+  virtual void putBack(const Kept& kept) { putBackInto(common(*this), kept); }
+  /// Tells the observers that anything may have changed.
+  void tellAll();
 
   /// Whether the user may move the focus elsewhere.
   virtual bool mayBeLeft() const { return true; }

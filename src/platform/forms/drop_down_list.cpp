@@ -16,20 +16,20 @@ void DropDownList::setStyle(ListStyle style) {
 }
 
 void DropDownList::addRow(std::string_view text) {
-  rows_.emplace_back(text);
+  if (rows_.use_count() > 1) rows_ = std::make_shared<Rows>(*rows_);
+  rows_->emplace_back(text);
   changed(Aspect::rows);
 }
 
 void DropDownList::setRows(std::vector<std::string> rows) {
-  rows_ = std::move(rows);
-  const bool fits =
-      index_ >= 0 && index_ < count() && rows_[static_cast<std::size_t>(index_)] == text_;
+  rows_ = std::make_shared<Rows>(std::move(rows));
+  const bool fits = index_ >= 0 && index_ < count() && row(index_) == text_;
   if (!fits) index_ = -1;
   changed(Aspect::rows);
 }
 
 void DropDownList::clear() {
-  rows_.clear();
+  rows_ = std::make_shared<Rows>();
   changed(Aspect::rows);
   become(-1, "");
 }
@@ -46,7 +46,7 @@ void DropDownList::setIndex(int index) {
     if (index_ != -1) become(-1, "");
     return;
   }
-  become(index, rows_[static_cast<std::size_t>(index)]);
+  become(index, row(index));
   raise(onClick);
 }
 
@@ -70,7 +70,7 @@ void DropDownList::userChoose(int row) {
   // An event procedure of the focus may have taken rows away.
   if (!takeUserFocus() || row >= count()) return;
   if (row == -1) return become(-1, "");
-  become(row, rows_[static_cast<std::size_t>(row)]);
+  become(row, this->row(row));
   raise(onClick);
 }
 
@@ -85,8 +85,8 @@ bool DropDownList::mayBeLeft() const {
 }
 
 int DropDownList::find(std::string_view text) const {
-  const auto found = std::find(rows_.begin(), rows_.end(), text);
-  return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+  const auto found = std::find(rows_->begin(), rows_->end(), text);
+  return found == rows_->end() ? -1 : static_cast<int>(found - rows_->begin());
 }
 
 void DropDownList::become(int index, std::string_view text) {

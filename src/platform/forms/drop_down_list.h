@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -18,6 +19,11 @@ enum class ListStyle {
 /// A drop-down list with a text of its own. The text's value decides about Change: it is raised
 /// when the text really changes, by user or code, never for an equal text.
 class DropDownList : public Control {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(common(self), std::tie(self.style_, self.rows_, self.text_, self.index_));
+  }
+
  public:
   DropDownList(Form& form, std::string name, std::string_view caption = "",
                ListStyle style = ListStyle::freeTyping)
@@ -29,8 +35,8 @@ class DropDownList : public Control {
   ListStyle style() const { return style_; }
   void setStyle(ListStyle style);
 
-  const std::vector<std::string>& rows() const { return rows_; }
-  int count() const { return static_cast<int>(rows_.size()); }
+  const std::vector<std::string>& rows() const { return *rows_; }
+  int count() const { return static_cast<int>(rows_->size()); }
   /// Raises nothing and selects nothing.
   void addRow(std::string_view text);
   /// Replaces all rows. Raises nothing; the text stays, and the index if its row has that text.
@@ -64,16 +70,23 @@ class DropDownList : public Control {
   /// False when a match is required and the text, unless it is empty, is no row.
   bool mayBeLeft() const override;
 
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+
  private:
   /// KeyPress for a key that stands for a character.
   void pressKey(std::int16_t code, bool shift) override;
 
+  using Rows = std::vector<std::string>;
+
+  const std::string& row(int number) const { return (*rows_)[static_cast<std::size_t>(number)]; }
   int find(std::string_view text) const;
   void become(int index, std::string_view text);
 
   std::string caption_;
   ListStyle style_;
-  std::vector<std::string> rows_;
+  /// A long list is shared with what was kept of it, until it changes.
+  std::shared_ptr<Rows> rows_ = std::make_shared<Rows>();
   std::string text_;
   int index_ = -1;
 };

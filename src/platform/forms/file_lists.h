@@ -11,6 +11,11 @@ namespace awizo {
 
 /// A list of the machine's drives, one of which is chosen.
 class DriveList : public Control {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(common(self), std::tie(self.drive_));
+  }
+
  public:
   DriveList(Form& form, std::string name, Files& files)
       : Control(form, std::move(name), ControlKind::driveList), files_(files) {}
@@ -26,6 +31,9 @@ class DriveList : public Control {
 
   void userChoose(std::string_view drive);
 
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+
  private:
   /// The row of this drive, case ignored; empty if there is none.
   std::string find(std::string_view drive) const;
@@ -37,6 +45,11 @@ class DriveList : public Control {
 
 /// A list of the folders in one folder.
 class FolderList : public Control {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(common(self), std::tie(self.path_));
+  }
+
  public:
   FolderList(Form& form, std::string name, Files& files)
       : Control(form, std::move(name), ControlKind::folderList), files_(files) {}
@@ -55,6 +68,9 @@ class FolderList : public Control {
   /// The user opens a folder by its whole path. Refused: a folder that isn't there.
   void userOpen(std::string_view path);
 
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+
  private:
   void assign(std::string path);
 
@@ -64,6 +80,11 @@ class FolderList : public Control {
 
 /// A list of the files in a folder that fit a pattern; at most one is selected.
 class FileList : public Control {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(common(self), std::tie(self.path_, self.rows_, self.index_));
+  }
+
  public:
   FileList(Form& form, std::string name, Files& files, std::string_view ending)
       : Control(form, std::move(name), ControlKind::fileList), files_(files), ending_(ending) {}
@@ -86,6 +107,9 @@ class FileList : public Control {
   void userChoose(int row);
   /// Double-clicks the selected row: Click first, then the double click. Refused without one.
   void userDoubleClick();
+
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
 
  private:
   Files& files_;

@@ -82,6 +82,13 @@ void Form::activate() {
   }
 }
 
+void Form::tellAll() {
+  changed(Aspect::content);
+  changed(Aspect::enabled);
+  for (Control* control : controls_) control->changed(Aspect::focus);
+  changed(Aspect::focus);
+}
+
 bool Form::validateFocus() {
   Control& left = *focus_;
   if (!left.mayBeLeft()) {

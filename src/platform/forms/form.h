@@ -14,6 +14,13 @@ class Button;
 
 /// A form: the controls on it, which of them has the focus, whether it is shown.
 class Form {
+ protected:
+  /// The members that every form keeps.
+  template <class Self>
+  static auto common(Self& self) {
+    return std::tie(self.caption_, self.enabled_, self.focus_);
+  }
+
  public:
   Form(Screen& screen, std::string name);
   virtual ~Form();
@@ -72,6 +79,12 @@ class Form {
 
   /// Runs an event procedure, if there is one, as Screen::runEvent does.
   void raise(const Event& event);
+
+  // What the form holds besides its controls, as Control has it; whether it is shown isn't part of
+  // it. A form with members of its own keeps these too.
+  virtual KeptPart keep(const KeptPart& earlier) const { return keptOf(earlier, common(*this)); }
+  virtual void putBack(const Kept& kept) { putBackInto(common(*this), kept); }
+  void tellAll();
 
  private:
   friend class Control;

@@ -8,6 +8,11 @@ namespace awizo {
 
 /// A text that the user can't change. Value labels are set by code, others keep their caption.
 class Label : public Control {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(common(self), std::tie(self.caption_));
+  }
+
  public:
   /// `heading`: the fixed words before a value label.
   Label(Form& form, std::string name, std::string_view caption = "", std::string_view heading = "")
@@ -16,6 +21,9 @@ class Label : public Control {
   const std::string& caption() const { return caption_; }
   const std::string& heading() const { return heading_; }
   void setCaption(std::string_view caption);
+
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
 
  private:
   std::string caption_;

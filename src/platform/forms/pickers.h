@@ -13,6 +13,11 @@ enum class DateForm { shortDate, longDate };
 
 /// A date picker. Change is raised for what the user does, not for an assignment by code.
 class DatePicker : public Control {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(common(self), std::tie(self.date_, self.lastDate_));
+  }
+
  public:
   /// A picker that nothing has set shows `today`.
   DatePicker(Form& form, std::string name, Date today, NoValue noValue,
@@ -41,6 +46,9 @@ class DatePicker : public Control {
   /// The user puts the focus here and sets a date. Refused what code would be refused.
   void userSet(std::optional<Date> date);
 
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+
  private:
   std::string caption_;
   NoValue noValue_;
@@ -51,6 +59,11 @@ class DatePicker : public Control {
 
 /// A time picker that may hold no time.
 class TimePicker : public Control {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(common(self), std::tie(self.time_));
+  }
+
  public:
   TimePicker(Form& form, std::string name, TimeOfDay now, std::string_view caption = "")
       : Control(form, std::move(name), ControlKind::timePicker), caption_(caption), time_(now) {}
@@ -62,6 +75,9 @@ class TimePicker : public Control {
   Event onChange;
 
   void userSet(std::optional<TimeOfDay> time);
+
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
 
  private:
   std::string caption_;

@@ -7,6 +7,11 @@ namespace awizo {
 /// Spin buttons bound to a text field: a press moves the field's whole number within the limits.
 /// They take no focus of their own.
 class SpinButtons : public Control {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(common(self), std::tie(self.min_, self.max_, self.value_));
+  }
+
  public:
   SpinButtons(Form& form, std::string name, TextField& field)
       : Control(form, std::move(name), ControlKind::spinButtons), field_(field) {}
@@ -21,6 +26,9 @@ class SpinButtons : public Control {
   /// the last press if it holds none, moves by that much, is held within the limits, and becomes
   /// the field's text.
   void userSpin(int by);
+
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
 
  private:
   TextField& field_;

@@ -25,14 +25,27 @@ Table::Table(Form& form, std::string name, int columns, int rows, int fixedRows)
   while (this->rows() < rows) lines_.push_back(makeLine());
 }
 
-std::unique_ptr<Table::Line> Table::makeLine() const {
-  auto made = std::make_unique<Line>();
+std::shared_ptr<Table::Line> Table::makeLine() const {
+  auto made = std::make_shared<Line>();
   made->texts.resize(slot(columns_));
   made->looks.resize(slot(columns_));
   for (std::size_t column = 0; column < made->looks.size(); ++column) {
     made->looks[column].alignment = columnAlignments_[column];
   }
   return made;
+}
+
+Table::Line& Table::ownLine(int row) {
+  std::shared_ptr<Line>& line = lines_[slot(row)];
+  if (line.use_count() > 1) line = std::make_shared<Line>(*line);
+  return *line;
+}
+
+bool Table::holdsTextsOf(const Kept& kept) const {
+  const auto& lines = std::get<decltype(lines_)>(valuesIn(kept, members(*this)));
+  return std::ranges::equal(lines_, lines, [](const auto& now, const auto& then) {
+    return now == then || now->texts == then->texts;
+  });
 }
 
 void Table::setRows(int rows) {
@@ -97,11 +110,12 @@ void Table::removeItems(const std::vector<int>& rows) {
 }
 
 void Table::clear() {
-  for (const auto& line : lines_) {
-    for (std::size_t column = 0; column < line->texts.size(); ++column) {
-      line->texts[column].clear();
-      line->looks[column] = CellLook{};
-      line->looks[column].alignment = columnAlignments_[column];
+  for (int row = 0; row < rows(); ++row) {
+    Line& line = ownLine(row);
+    for (std::size_t column = 0; column < line.texts.size(); ++column) {
+      line.texts[column].clear();
+      line.looks[column] = CellLook{};
+      line.looks[column].alignment = columnAlignments_[column];
     }
   }
   changed(Aspect::rows);
@@ -146,9 +160,8 @@ void Table::setCell(int row, int column, std::string_view text) {
 }
 
 void Table::assign(Corner corner, std::string_view text) {
-  std::string& held = line(corner.row).texts[slot(corner.column)];
-  if (held == text) return;
-  held = text;
+  if (line(corner.row).texts[slot(corner.column)] == text) return;
+  ownLine(corner.row).texts[slot(corner.column)] = text;
   changed(Aspect::cell, corner.row, corner.column);
 }
 
@@ -157,36 +170,33 @@ const CellLook& Table::look(int row, int column) const {
   return line(row).looks[slot(column)];
 }
 
-CellLook& Table::lookOf(int row, int column) {
-  requireCell(row, column);
-  return line(row).looks[slot(column)];
+void Table::assign(Corner corner, const CellLook& look) {
+  if (line(corner.row).looks[slot(corner.column)] == look) return;
+  ownLine(corner.row).looks[slot(corner.column)] = look;
+  changed(Aspect::cell, corner.row, corner.column);
 }
 
 void Table::setLook(int row, int column, const CellLook& look) {
-  CellLook& held = lookOf(row, column);
-  if (held == look) return;
-  held = look;
-  changed(Aspect::cell, row, column);
+  requireCell(row, column);
+  assign({row, column}, look);
 }
 
 void Table::setBackground(int row, int column, Colour colour) {
-  CellLook& held = lookOf(row, column);
-  if (held.background == colour) return;
-  held.background = colour;
-  changed(Aspect::cell, row, column);
+  CellLook changed = look(row, column);
+  changed.background = colour;
+  assign({row, column}, changed);
 }
 
 void Table::setAlignment(int row, int column, Alignment alignment) {
-  CellLook& held = lookOf(row, column);
-  if (held.alignment == alignment) return;
-  held.alignment = alignment;
-  changed(Aspect::cell, row, column);
+  CellLook changed = look(row, column);
+  changed.alignment = alignment;
+  assign({row, column}, changed);
 }
 
 void Table::setColumnAlignment(int column, Alignment alignment) {
   requireColumn(column);
   columnAlignments_[slot(column)] = alignment;
-  for (const auto& line : lines_) line->looks[slot(column)].alignment = alignment;
+  for (int row = 0; row < rows(); ++row) ownLine(row).looks[slot(column)].alignment = alignment;
   changed(Aspect::rows);
 }
 
@@ -203,7 +213,7 @@ int Table::rowHeight(int row) const {
 void Table::setRowHeight(int row, int height) {
   requireRow(row);
   if (line(row).height == height) return;
-  line(row).height = height;
+  ownLine(row).height = height;
   changed(Aspect::layout);
 }
 

@@ -35,6 +35,14 @@ struct CellLook {
 /// A table of text cells with heading rows, a current cell and a marked range. Row, column and
 /// cell numbers start at 0; sizes are in twips. A cell's flat index is row x columns + column.
 class Table : public Control {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(common(self),
+                          std::tie(self.selectsRows, self.fixedRows_, self.lines_, self.widths_,
+                                   self.columnAlignments_, self.row_, self.column_, self.rowSel_,
+                                   self.columnSel_, self.topRow_, self.redraw_));
+  }
+
  public:
   static constexpr int normalRowHeight = 240;
   static constexpr int normalColumnWidth = 960;
@@ -151,6 +159,12 @@ class Table : public Control {
   /// Scrolls without taking the focus. Refused: a row that can't be scrolled to.
   void userScroll(int topRow);
 
+  /// Whether all its cells hold the texts that they held then.
+  bool holdsTextsOf(const Kept& kept) const;
+
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+
  private:
   /// A key in the table: KeyDown, then the move of arrows, Home, End and page keys over the shown
   /// columns, then KeyPress for keys that stand for a character, then KeyUp. With the Shift key
@@ -170,7 +184,9 @@ class Table : public Control {
   };
   enum class Scrolling { none, intoView };
 
-  Line& line(int row) const { return *lines_[static_cast<std::size_t>(row)]; }
+  const Line& line(int row) const { return *lines_[static_cast<std::size_t>(row)]; }
+  /// A row of the table's own: what is kept of a table shares its rows until they change.
+  Line& ownLine(int row);
   /// Row and column of a flat index; error 381.
   Corner at(int index) const;
   void requireCell(int row, int column) const;
@@ -179,7 +195,7 @@ class Table : public Control {
   void requireColumn(int column) const;
   void requireClickable(int row, int column) const;
   bool hasCell(Corner corner) const;
-  CellLook& lookOf(int row, int column);
+  void assign(Corner corner, const CellLook& look);
   void assign(Corner corner, std::string_view text);
 
   /// One change of the current cell, which ends the marked range.
@@ -195,12 +211,12 @@ class Table : public Control {
   int heightOf(int from, int to) const;
   void showRow(int row);
   void holdWithin();
-  std::unique_ptr<Line> makeLine() const;
+  std::shared_ptr<Line> makeLine() const;
 
   int columns_;
   int fixedRows_;
   /// Rows by handle, so that taking one out moves no cells.
-  std::vector<std::unique_ptr<Line>> lines_;
+  std::vector<std::shared_ptr<Line>> lines_;
   std::vector<int> widths_;
   std::vector<Alignment> columnAlignments_;
   int row_ = 0;

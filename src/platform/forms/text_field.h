@@ -11,6 +11,11 @@ enum class Alignment { left, centre, right };
 
 /// A one-line text field.
 class TextField : public Control {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(common(self), std::tie(self.tag, self.text_, self.caret_));
+  }
+
  public:
   /// `limit`: most characters that the field takes, 0 for no limit.
   TextField(Form& form, std::string name, std::string_view caption = "", int limit = 0,
@@ -43,6 +48,9 @@ class TextField : public Control {
   /// The user puts the focus here and replaces the whole text: one change. Line breaks and other
   /// control characters don't enter the one-line field.
   void userType(std::string_view text);
+
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
 
  private:
   /// The user presses a key in the field (it takes the focus if it hasn't it): KeyDown, then, for

@@ -17,6 +17,17 @@ namespace awizo {
 
 /// The control's main form: its visible parts, and the members of the control instance.
 class AwizoForm : public Form {
+  template <class Self>
+  static auto members(Self& self) {
+    return std::tuple_cat(
+        common(self),
+        std::tie(self.HeaderBuyerILN, self.HeaderBuyerName, self.HeaderSellerILN,
+                 self.HeaderSellerName, self.ValidLineCount, self.GridRowHeight,
+                 self.LastSentNumber, self.LastPackageSerial, self.OrderAnswer, self.DeliveryILN,
+                 self.BadColumnName, self.WeightComplete, self.OnLine, self.DebugLevel,
+                 self.PartnerName, self.PartnerILN, self.PartnerURL));
+  }
+
  public:
   AwizoForm(Screen& screen, const Clock& clock);
 
@@ -84,6 +95,9 @@ class AwizoForm : public Form {
 
   /// The host's properties as they came; empty for one that the host doesn't have.
   std::string OnLine, DebugLevel, PartnerName, PartnerILN, PartnerURL;
+
+  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
+  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
 };
 
 }  // namespace awizo

@@ -5,10 +5,36 @@
 #include <string_view>
 #include <vector>
 
+#include "journal/loading.h"
+#include "journal/record_file.h"
 #include "journal/recording.h"
+#include "platform/growing_file.h"
+#include "platform/run_time_error.h"
 #include "support/control/test_control.h"
 
 namespace awizo::test {
+
+/// A record in memory; after so many bytes the disk is full.
+struct MemoryRecord : GrowingFile {
+  std::string bytes;
+  std::size_t room = std::string::npos;
+  int flushes = 0;
+
+  void append(std::string_view more) override {
+    if (bytes.size() + more.size() > room) {
+      bytes += more.substr(0, room - bytes.size());
+      throw errors::diskFull();
+    }
+    bytes += more;
+  }
+  void flush() override { ++flushes; }
+};
+
+/// What a tape has written there, without a header of its own.
+inline journal::RecordedSession sessionIn(const MemoryRecord& record) {
+  return journal::recordedSession(journal::fileBeginning() +
+                                  journal::framed(journal::headerRecord({})) + record.bytes);
+}
 
 /// A control whose surroundings go over a tape. Its user links awizo_journal.
 struct TapedControl {
@@ -38,5 +64,13 @@ struct TapedControl {
   TestControl desk;
   std::unique_ptr<journal::Recording> recording;
 };
+
+inline void startOffLine(TapedControl& session) {
+  session.desk.prepareFolder();
+  session.desk.files.put(TestControl::partnerFile, TestControl::partnerInfo("ООО Покупатель"));
+  session.desk.bag.values["OnLine"] = "Off";
+  session.recording->start();
+  session.show();
+}
 
 }  // namespace awizo::test

@@ -1,0 +1,396 @@
+#include "journal/history.h"
+
+#include <gtest/gtest.h>
+
+#include "journal/state_digest.h"
+#include "platform/forms/keys.h"
+#include "support/control/taped_control.h"
+#include "tables/columns/columns.h"
+
+namespace awizo::test {
+namespace {
+
+/// A user off line with some lines and packages, whose acts can be taken back.
+struct Session {
+  MemoryRecord record;
+  TapedControl taped{&record};
+  journal::History history{taped.tape, taped.desk.control};
+  AwizoWysylki& control = taped.desk.control;
+  AwizoForm& form = control.form;
+
+  Session() {
+    startOffLine(taped);
+    for (const char* name : {"Чай", "Кофе", "Сахар"}) addLine(name);
+    for (const char* description : {"Паллета", "Короб"}) addPackage(description);
+    form.txtNrAwiza.userType("ТН-6");
+    form.grdPozycje.userCell(2, 4);
+  }
+
+  void inDialog(const std::function<void()>& act, Button& opens) {
+    taped.desk.face.onModal(act);
+    opens.userClick();
+  }
+  void addLine(const std::string& name) {
+    inDialog(
+        [&] {
+          DlgDodaj& line = control.dlgDodaj;
+          line.txtlEANProdWart.userType("4607000000116");
+          line.txtNazwaProdWart.userType(name);
+          line.txtIloscZam.userType("7");
+          line.txtIloscPotw.userType("5");
+          line.btnDodaj.userClick();
+        },
+        form.btnDodaj);
+  }
+  void addPackage(const std::string& description) {
+    inDialog(
+        [&] {
+          DlgSzczegoly& package = control.dlgSzczegoly;
+          package.txtPackageDesc.userType(description);
+          package.cboxILNLokalizacji.userType("9520002000026");
+          package.txtSerialNumberN.userType("106141412345678908");
+          package.btnDodaj.userClick();
+        },
+        form.btnDodajOpak);
+  }
+  void save() {
+    form.txtNrZam.userType("417");
+    form.txtCodeByBuyer.userType("417");
+    taped.desk.face.answer(Answer::yes);
+    inDialog([&] { control.dlgWczytajZapisz.ImageZapisz.userClick(); }, form.btnZapisz);
+  }
+  void editQuantity(const std::string& quantity) {
+    form.grdPozycje.userDoubleClick();
+    form.txtEdycja.userType(quantity);
+  }
+
+  std::uint64_t digest() { return journal::stateDigest(control); }
+  /// The state that a replay of the record comes to.
+  std::uint64_t digestOfReplay() {
+    TapedControl replayed(nullptr, sessionIn(record).records);
+    journal::History again(replayed.tape, replayed.desk.control);
+    replayed.recording->start();
+    return journal::stateDigest(replayed.desk.control);
+  }
+  std::string nameOfTakeBack() {
+    const journal::StepName* name = history.toTakeBack();
+    if (name == nullptr) return "none";
+    return name->control == nullptr ? name->text : name->control->name();
+  }
+};
+
+/// An act on the document, and the control that gives it its name.
+struct Act {
+  const char* name;
+  std::function<void(Session&)> perform;
+  /// What is chosen before, which is no act on the document.
+  std::function<void(Session&)> prepare = [](Session&) {};
+};
+
+void PrintTo(const Act& act, std::ostream* out) { *out << act.name; }
+
+const std::vector<Act> acts{
+    {"btnUsun", [](Session& s) { s.form.btnUsun.userClick(); }},
+    {"btnDodaj", [](Session& s) { s.addLine("Рис"); }},
+    {"btnEdytuj",
+     [](Session& s) {
+       s.inDialog(
+           [&] {
+             s.control.dlgDodaj.txtIloscPotw.userType("3");
+             s.control.dlgDodaj.btnDodaj.userClick();
+           },
+           s.form.btnEdytuj);
+     }},
+    {"btnDodajOpak", [](Session& s) { s.addPackage("Ящик"); }},
+    {"btnEdytujOpak",
+     [](Session& s) {
+       s.inDialog(
+           [&] {
+             s.control.dlgSzczegoly.txtPackageWeight.userType("12");
+             s.control.dlgSzczegoly.btnDodaj.userClick();
+           },
+           s.form.btnEdytujOpak);
+     }},
+    {"btnUsunOpak", [](Session& s) { s.form.btnUsunOpak.userClick(); }},
+    {"btnNadpisz2",
+     [](Session& s) {
+       s.taped.desk.face.answer(Answer::yes);
+       s.form.btnNadpisz2.userClick();
+     },
+     [](Session& s) { s.form.comboCountry.userType("RU"); }},
+    {"grdPozycje",
+     [](Session& s) {
+       s.editQuantity("2");
+       s.form.txtEdycja.userKey(keys::enter);
+     }},
+    {"txtNrZam",
+     [](Session& s) {
+       s.form.txtNrZam.userType("З");
+       s.form.txtNrZam.userType("ЗК");
+     }},
+    {"txtDataAwiza", [](Session& s) { s.form.txtDataAwiza.userSet(makeDate(2026, 12, 24)); }},
+    {"cboxPackageDescription", [](Session& s) { s.form.cboxPackageDescription.userChoose(1); }},
+};
+
+class TakeBack : public testing::TestWithParam<Act> {};
+
+INSTANTIATE_TEST_SUITE_P(Acts, TakeBack, testing::ValuesIn(acts),
+                         [](const auto& act) { return std::string(act.param.name); });
+
+TEST_P(TakeBack, LeavesTheStateAsIfTheActNeverWas) {
+  Session without;
+  GetParam().prepare(without);
+  Session session;
+  GetParam().prepare(session);
+  GetParam().perform(session);
+  session.form.txtGoodsIdentity.userFocus();
+  session.form.grdPozycje.userScroll(2);
+  ASSERT_EQ(session.nameOfTakeBack(), GetParam().name);
+  ASSERT_NE(session.digest(), without.digest());
+  session.history.takeBack();
+  EXPECT_EQ(session.digest(), without.digest());
+  EXPECT_EQ(session.digestOfReplay(), without.digest());
+}
+
+TEST_P(TakeBack, CanBeDoneAgain) {
+  Session session;
+  GetParam().prepare(session);
+  GetParam().perform(session);
+  const std::uint64_t done = session.digest();
+  session.form.txtGoodsIdentity.userFocus();
+  session.history.takeBack();
+  session.form.grdPozycje.userScroll(2);
+  session.history.doAgain();
+  EXPECT_EQ(session.digest(), done);
+  EXPECT_EQ(session.digestOfReplay(), done);
+  EXPECT_EQ(session.nameOfTakeBack(), GetParam().name);
+  EXPECT_EQ(session.history.toDoAgain(), nullptr);
+}
+
+TEST_P(TakeBack, GoesOnAsIfTheActNeverWas) {
+  Session without;
+  GetParam().prepare(without);
+  Session session;
+  GetParam().prepare(session);
+  GetParam().perform(session);
+  session.history.takeBack();
+  for (const Act& act : acts) {
+    for (Session* each : {&session, &without}) {
+      act.prepare(*each);
+      act.perform(*each);
+    }
+    EXPECT_EQ(session.digest(), without.digest()) << act.name;
+  }
+  EXPECT_EQ(session.digestOfReplay(), session.digest());
+}
+
+TEST(History, GoesBackStepByStepToTheStartAndOnToTheEnd) {
+  Session session;
+  std::vector<std::uint64_t> digests;
+  for (const Act& act : acts) {
+    act.prepare(session);
+    digests.push_back(session.digest());
+    act.perform(session);
+  }
+  const std::uint64_t end = session.digest();
+  for (auto digest = digests.rbegin(); digest != digests.rend(); ++digest) {
+    session.history.takeBack();
+    EXPECT_EQ(session.digest(), *digest);
+    EXPECT_EQ(session.digestOfReplay(), *digest);
+  }
+  // Three lines, two packages and the number were there before.
+  for (int step = 0; step < 6; ++step) session.history.takeBack();
+  EXPECT_EQ(session.history.toTakeBack(), nullptr);
+  EXPECT_EQ(session.taped.desk.session.LineCount, 0);
+  EXPECT_EQ(session.form.LastPackageSerial, 1);
+  while (session.history.toDoAgain() != nullptr) session.history.doAgain();
+  EXPECT_EQ(session.digest(), end);
+  EXPECT_EQ(session.digestOfReplay(), end);
+}
+
+TEST(History, OfANewActForgetsWhatCouldBeDoneAgain) {
+  Session session;
+  session.form.btnUsun.userClick();
+  session.history.takeBack();
+  session.form.grdPozycje.userCell(1, 1);
+  EXPECT_NE(session.history.toDoAgain(), nullptr);
+  session.form.txtNrZam.userType("1");
+  EXPECT_EQ(session.history.toDoAgain(), nullptr);
+}
+
+TEST(History, OfADialogThatIsLeftHasNoStep) {
+  Session session;
+  const std::string before = session.nameOfTakeBack();
+  session.inDialog([&] { session.control.dlgDodaj.btnZamknij.userClick(); },
+                   session.form.btnEdytuj);
+  session.inDialog([&] { session.control.dlgIsoCodes.userClose(); }, session.form.Image2);
+  session.form.grdPozycje.userCell(3, 2);
+  session.form.grdPozycje.userDoubleClick();
+  EXPECT_EQ(session.nameOfTakeBack(), before);
+}
+
+TEST(History, OfAFieldThatIsAsItWasHasNoStep) {
+  Session session;
+  const std::string before = session.nameOfTakeBack();
+  session.form.txtNrZam.userType("З");
+  EXPECT_EQ(session.nameOfTakeBack(), "txtNrZam");
+  session.form.txtNrZam.userType("");
+  EXPECT_EQ(session.nameOfTakeBack(), before);
+}
+
+TEST(History, OfOneFieldTwiceHasTwoSteps) {
+  Session session;
+  session.form.txtNrZam.userType("1");
+  session.form.txtCodeByBuyer.userFocus();
+  session.form.txtNrZam.userType("2");
+  session.history.takeBack();
+  EXPECT_EQ(session.form.txtNrZam.text(), "1");
+}
+
+TEST(History, WaitsWhileTheUserIsAtSomethingElse) {
+  Session session;
+  session.inDialog(
+      [&] {
+        EXPECT_EQ(session.history.toTakeBack(), nullptr);
+        session.history.takeBack();
+        session.control.dlgDodaj.btnZamknij.userClick();
+      },
+      session.form.btnEdytuj);
+  session.editQuantity("2");
+  EXPECT_EQ(session.history.toTakeBack(), nullptr);
+  session.form.txtEdycja.userKey(keys::escape);
+  EXPECT_EQ(session.nameOfTakeBack(), "txtNrAwiza");
+}
+
+TEST(History, OfAButtonPressedInAnEditGoesBackIntoTheEdit) {
+  Session session;
+  session.editQuantity("2");
+  session.form.btnUsun.userPress();
+  session.history.takeBack();
+  EXPECT_TRUE(session.form.txtEdycja.visible());
+  EXPECT_EQ(session.form.txtEdycja.text(), "2");
+  EXPECT_EQ(session.form.grdPozycje.cell(2, GRD_POZ_QTY_DESPATCHED), "5,000");
+  session.form.txtEdycja.userKey(keys::enter);
+  session.history.takeBack();
+  EXPECT_FALSE(session.form.txtEdycja.visible());
+  EXPECT_EQ(session.digestOfReplay(), session.digest());
+}
+
+TEST(History, EndsAtWhatTheHostDoes) {
+  Session session;
+  EXPECT_THROW(session.taped.doHostAct({"error"}), RunTimeError);
+  EXPECT_EQ(session.history.toTakeBack(), nullptr);
+}
+
+TEST(History, EndsAtAFileThatIsRead) {
+  Session session;
+  session.inDialog(
+      [&] {
+        session.control.dlgWczytajZapisz.DirList.userOpen("c:\\VIRD");
+        session.control.dlgWczytajZapisz.FileList.userChoose(0);
+        session.control.dlgWczytajZapisz.ImageWczytaj.userClick();
+      },
+      session.form.btnWczytaj);
+  EXPECT_EQ(session.history.toTakeBack(), nullptr);
+}
+
+TEST(History, PastASavingSaysThatTheDocumentIsNotSaved) {
+  Session session;
+  session.save();
+  EXPECT_FALSE(session.control.isDocumentChanged());
+  session.history.takeBack();
+  EXPECT_EQ(session.form.txtCodeByBuyer.text(), "");
+  EXPECT_TRUE(session.control.isDocumentChanged());
+  EXPECT_EQ(session.digestOfReplay(), session.digest());
+  session.history.doAgain();
+  EXPECT_TRUE(session.control.isDocumentChanged());
+}
+
+TEST(History, TakesBackAsOneStepWhatIsDoneAsOne) {
+  Session session;
+  const std::uint64_t before = session.digest();
+  {
+    const auto step = session.history.asOneStep("упаковка по одной");
+    session.addPackage("Третья");
+    session.form.btnUsun.userClick();
+    EXPECT_EQ(session.history.toTakeBack(), nullptr);
+  }
+  EXPECT_EQ(session.nameOfTakeBack(), "упаковка по одной");
+  const std::uint64_t after = session.digest();
+  EXPECT_EQ(session.digestOfReplay(), after);
+  session.history.takeBack();
+  EXPECT_EQ(session.digest(), before);
+  EXPECT_EQ(session.digestOfReplay(), before);
+  session.history.doAgain();
+  EXPECT_EQ(session.digest(), after);
+  EXPECT_EQ(session.digestOfReplay(), after);
+}
+
+TEST(History, KnowsItsStepsAfterAReplayToo) {
+  Session session;
+  {
+    const auto step = session.history.asOneStep("всё сразу");
+    session.addPackage("Третья");
+    session.addPackage("Четвёртая");
+  }
+  session.form.btnUsun.userClick();
+  MemoryRecord next;
+  TapedControl replayed(&next, sessionIn(session.record).records);
+  journal::History history(replayed.tape, replayed.desk.control);
+  replayed.recording->start();
+  EXPECT_EQ(journal::stateDigest(replayed.desk.control), session.digest());
+  ASSERT_NE(history.toTakeBack(), nullptr);
+  EXPECT_EQ(history.toTakeBack()->control->name(), "btnUsun");
+  history.takeBack();
+  EXPECT_EQ(history.toTakeBack()->text, "всё сразу");
+  history.takeBack();
+  session.history.takeBack();
+  session.history.takeBack();
+  EXPECT_EQ(journal::stateDigest(replayed.desk.control), session.digest());
+  TapedControl third(nullptr, sessionIn(next).records);
+  third.recording->start();
+  EXPECT_EQ(journal::stateDigest(third.desk.control), session.digest());
+}
+
+TEST(History, CutAtEveryByteOfATakingBackIsBeforeOrAfterIt) {
+  Session session;
+  session.form.btnUsun.userClick();
+  const std::uint64_t before = session.digest();
+  const std::size_t start = session.record.bytes.size();
+  session.history.takeBack();
+  const std::uint64_t after = session.digest();
+  const std::string whole = session.record.bytes;
+  std::size_t later = 0;
+  for (std::size_t length = start; length <= whole.size(); ++length) {
+    session.record.bytes = whole.substr(0, length);
+    const std::uint64_t replayed = session.digestOfReplay();
+    if (replayed == after) ++later;
+    ASSERT_EQ(replayed, later == 0 ? before : after) << length;
+  }
+  EXPECT_GT(later, 0U);
+}
+
+TEST(History, NumbersOnlyTheActsThatStand) {
+  Session session;
+  const std::size_t before = session.taped.tape.deeds();
+  session.form.btnUsun.userClick();
+  session.history.takeBack();
+  EXPECT_EQ(session.taped.tape.deeds(), before);
+  session.form.txtNrZam.userType("1");
+  EXPECT_EQ(sessionIn(session.record).deeds, before + 1);
+}
+
+TEST(History, KeepsOnlySoManySteps) {
+  Session session;
+  for (std::size_t step = 0; step < journal::History::mostSteps + 3; ++step) {
+    session.form.txtNrZam.userType(std::to_string(step));
+    session.form.txtCodeByBuyer.userFocus();
+  }
+  std::size_t steps = 0;
+  for (; session.history.toTakeBack() != nullptr; ++steps) session.history.takeBack();
+  EXPECT_EQ(steps, journal::History::mostSteps);
+  EXPECT_EQ(session.form.txtNrZam.text(), "2");
+}
+
+}  // namespace
+}  // namespace awizo::test
