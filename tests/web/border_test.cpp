@@ -21,7 +21,7 @@ std::int32_t errorNumberOf(const std::function<void()>& work) {
 }
 
 TEST(Border, BytesCrossItAsTheyAre) {
-  const std::string bytes("\0\xFF\r\n молоко", 20);
+  const std::string bytes = std::string("\0\xFF\r\n", 4) + "молоко";
   PlayedBorder border([](const Fields& question) { return question; });
   EXPECT_THAT(ask({"a", "", bytes}), ElementsAre("a", "", bytes));
   EXPECT_THAT(askNow({}), ElementsAre());
