@@ -94,7 +94,7 @@ std::vector<Stretch> stretchesOf(const Records& records) {
     if (record.kind == RecordKind::returned) {
       const auto deed = static_cast<std::uint64_t>(record.numbers[0]);
       if (deed >= ofDeeds.size()) throw errors::typeMismatch();
-      current = ofDeeds[deed];
+      current = ofDeeds[static_cast<std::size_t>(deed)];
       begin(at);
     } else if (record.kind == RecordKind::stepBegins) {
       begin(at);
