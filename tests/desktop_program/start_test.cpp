@@ -20,11 +20,11 @@ TEST_F(StartTest, OffLineSendsNothingAndAsksNothing) {
 TEST_F(StartTest, OnLineShowsTheAddressFirstAndRemembersTheAgreement) {
   const DemoService service(place.posted());
   show(onLineOptions(service));
-  std::string question;
-  answerNext("&Да", &question);
+  std::string agreement;
+  answerNext("&Да", &agreement);
   waitForStart();
   const std::string origin = service.pageUrl().substr(0, service.pageUrl().find('/', 7));
-  EXPECT_EQ(question,
+  EXPECT_EQ(agreement,
             "question|VIRD|Редактор будет обмениваться документами со службой по адресу:"
             "\n\n" +
                 origin + "\n\nЭтот адрес встречается впервые. Вы ему доверяете?|&Да,&Нет");
