@@ -4,6 +4,7 @@ import contextlib
 import signal
 import subprocess
 import sys
+import traceback
 
 
 def fail(words):
@@ -19,6 +20,10 @@ def run(main):
         sys.exit(128 + signal.SIGINT)
     except OSError as error:
         fail(f"{error}. Устраните причину и повторите.")
+    except Exception as error:  # A script has faults too: where it is must be told, and that it is one.
+        place = traceback.extract_tb(error.__traceback__)[-1]
+        fail(f"{place.filename}, строка {place.lineno}: {type(error).__name__}: {error}. "
+             "Это ошибка сценария; сообщите о ней.")
 
 
 @contextlib.contextmanager

@@ -3,6 +3,7 @@
 import signal
 import subprocess
 import sys
+import traceback
 
 
 def fail(words):
@@ -32,3 +33,7 @@ def run(main):
              " Mend that, then call again.")
     except OSError as error:
         fail(f"{error}. Mend that, then call again.")
+    except Exception as error:  # A script has faults too: where it is must be told, and that it is one.
+        place = traceback.extract_tb(error.__traceback__)[-1]
+        fail(f"{place.filename}, line {place.lineno}: {type(error).__name__}: {error}. "
+             "This is a fault of the script; please report it.")

@@ -12,6 +12,7 @@ import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 NOBODY = 65534
+GROUPS = re.findall(r"^\[(.+)\]$", (ROOT / "tools/packages.txt").read_text(encoding="utf-8"), re.MULTILINE)
 
 # Knows the packages that are named in $KNOWN, and answers 1 as soon as it is asked for another.
 DPKG_QUERY = """
@@ -44,8 +45,7 @@ class Scripts(unittest.TestCase):
         self.place.chmod(0o777)
         shutil.copytree(ROOT / "tools", self.place / "tools")
         self.paths = [self.place / "bin", os.environ["PATH"]]
-        self.known = " ".join(packages("build", "tests", "fuzz", "checks", "package", "trials", "wasm",
-                                        "pages", "npm"))
+        self.known = " ".join(packages(*GROUPS))
         self.program("bin/dpkg-query", DPKG_QUERY)
         self.program("bin/apt-get", APT_GET)
 
@@ -88,7 +88,7 @@ class InstallPackages(Scripts):
     def test_without_a_group_all_are_installed(self):
         self.known = ""
         self.assert_passes(self.call("tools/install-packages"))
-        for group in ("build", "tests", "fuzz", "checks", "package", "trials", "wasm", "pages", "npm"):
+        for group in GROUPS:
             for name in packages(group):
                 self.assertIn(f" {name}", self.apt_calls()[-1])
 
@@ -97,6 +97,16 @@ class InstallPackages(Scripts):
         done = self.call("tools/install-packages", "--missing", "tests")
         self.assertEqual(done.stdout.split(), [name for name in packages("tests") if name != "libssl-dev"])
         self.assertEqual(self.apt_calls(), [])
+
+    def test_where_nobody_knows_all_may_be_missing(self):
+        for name in ("bash", "dirname", "awk", "sort", "grep", "mktemp"):
+            (self.place / "bin" / name).symlink_to(shutil.which(name))
+        for name in ("dpkg-query", "apt-get"):
+            (self.place / "bin" / name).unlink()
+        self.paths = [self.place / "bin"]
+        done = self.call(shutil.which("bash"), "tools/install-packages", "--missing", "tests")
+        self.assert_passes(done)
+        self.assertEqual(done.stdout.split(), packages("tests"))
 
     def test_a_group_that_the_list_lacks_is_refused(self):
         self.assert_last_word(self.call("tools/install-packages", "planted"), "has no group 'planted'")
@@ -200,6 +210,20 @@ class LastWord(Scripts):
         (self.place / "hosts/web/node_modules").mkdir()
         (self.place / "build/wasm").mkdir(parents=True)
         (self.place / "build/wasm/awizo-headless.wasm").write_bytes(b"wasm")
+
+    def test_a_fault_of_the_script_itself(self):
+        (self.place / "tools/planted").write_text(
+            "#!/usr/bin/env python3\nimport last_word\nlast_word.run(lambda: {}[1])\n")
+        (self.place / "tools/planted").chmod(0o755)
+        self.assert_last_word(self.call("tools/planted"), "line 3: KeyError: 1. This is a fault of the script")
+
+    def test_changes_that_cannot_be_tried(self):
+        subprocess.run(["git", "init", "-q"], cwd=self.place, check=True)
+        self.program("tools/install-packages", "echo 'no packages' >&2\nexit 1\n")
+        (self.place / "src").mkdir()
+        self.assert_last_word(self.call("tools/mutate"), "nothing to change below src")
+        (self.place / "src/planted.cpp").write_text("int one() { return 1 < 2 ? 1 : 2; }\n")
+        self.assert_last_word(self.call("tools/mutate", "--count", "1"), "no packages")
 
     def test_a_crash_of_the_fuzzer(self):
         (self.place / "fuzz/corpus/order").mkdir(parents=True)

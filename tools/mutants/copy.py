@@ -3,7 +3,10 @@
 import os
 import pathlib
 import re
+import resource
 import subprocess
+
+import last_word
 
 LIBRARY = re.compile(r"^(src/\S+)/libawizo_\w+\.a$", re.MULTILINE)
 
@@ -17,7 +20,7 @@ class Copy:
         self._log = project.root / "build/mutate/log.txt"
         self._update(project)
         self._run(["cmake", "-S", self.root, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
-                   "-DCMAKE_CXX_FLAGS=-w", "-DCMAKE_CXX_FLAGS_DEBUG=-O0", "-DAWIZO_BENCHMARKS=OFF",
+                   "-DCMAKE_CXX_FLAGS=-w", "-DCMAKE_CXX_FLAGS_DEBUG=-O0",
                    "-DAWIZO_JOIN=OFF"],
                   "the copy could not be configured")
         self._libraries = self._libraries_of_tests(tests)
@@ -35,16 +38,17 @@ class Copy:
                 target.write_bytes(source.read_bytes())
                 target.chmod(source.stat().st_mode)
 
-    def _run(self, command, failure=None, seconds=None, environment=()):
-        """Whether the command ended well. If `failure` is given, all ends with it where it didn't."""
+    def _run(self, command, failure=None, seconds=resource.RLIM_INFINITY, environment=()):
+        """Whether the command ended well; each of its processes may use so many seconds of the
+        processor. If `failure` is given, all ends with it where it didn't."""
+        def limited():
+            resource.setrlimit(resource.RLIMIT_CPU, (seconds, seconds))
+
         with self._log.open("w") as log:
-            try:
-                done = subprocess.run(command, stdin=subprocess.DEVNULL, stdout=log, stderr=log,
-                                      timeout=seconds, env=os.environ | dict(environment))
-            except subprocess.TimeoutExpired:
-                return False
+            done = subprocess.run(command, stdin=subprocess.DEVNULL, stdout=log, stderr=log,
+                                  preexec_fn=limited, env=os.environ | dict(environment))
         if failure and done.returncode != 0:
-            raise SystemExit(f"mutate: {failure}: see {self._log}")
+            last_word.fail(f"{failure}; {self._log} says why. Mend it, then call again.")
         return done.returncode == 0
 
     def _libraries_of_tests(self, tests):
@@ -73,7 +77,8 @@ class Copy:
                          environment=environment)
 
     def passes(self, program, seconds):
-        """Whether the test program passes; one that doesn't end in time fails."""
+        """Whether the test program passes. One that doesn't end fails: by the time of the processor,
+        which other work on the machine doesn't use up, or where it only waits, by the clock."""
         name = re.escape(pathlib.PurePosixPath(program).name)
         return self._run(["ctest", "--test-dir", self.build, "-R", f"^{name}$", "--fixture-exclude-any", ".",
-                          "--no-tests=error", "--timeout", str(seconds)])
+                          "--no-tests=error", "--timeout", str(10 * seconds)], seconds=seconds)
