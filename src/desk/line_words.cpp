@@ -1,5 +1,6 @@
 #include "desk/line_words.h"
 
+#include <array>
 #include <string_view>
 
 #include "formats/row_check.h"
@@ -24,18 +25,14 @@ std::optional<RowFault> faultOf(const Editor& editor, int row) {
   }
 }
 
-std::string_view customsNumberWords(std::string_view field) {
-  switch (field.back()) {
-    case '1':
-      return "первая часть номера ГТД — не 8 цифр";
-    case '2':
-      return "дата в номере ГТД — не 6 цифр";
-    case '3':
-      return "третья часть номера ГТД — не 7 цифр";
-    default:
-      return "последняя часть номера ГТД длиннее 3 знаков";
-  }
-}
+/// Of the fields of a customs number, by their numbers.
+constexpr std::array<std::string_view, 5> customsNumberWords{
+    "",
+    "первая часть номера ГТД — не 8 цифр",
+    "дата в номере ГТД — не 6 цифр",
+    "третья часть номера ГТД — не 7 цифр",
+    "последняя часть номера ГТД длиннее 3 знаков",
+};
 
 std::string_view wordsOf(const RowFault& fault, bool isEmpty) {
   switch (fault.column) {
@@ -49,8 +46,10 @@ std::string_view wordsOf(const RowFault& fault, bool isEmpty) {
       return "цена не число";
     case GRD_POZ_NET_AMOUNT:
       return "сумма не число";
+    case GRD_POZ_CDN:
+      return customsNumberWords[static_cast<std::size_t>(fault.customsField)];
     default:
-      return customsNumberWords(fault.name);
+      return fault.name;
   }
 }
 

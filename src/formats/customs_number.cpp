@@ -44,15 +44,13 @@ std::optional<CustomsNumberFields> fieldsOf(const std::vector<std::string>& piec
   }
 }
 
-std::string faultyField(const Conversions& conversions, const CustomsNumberFields& fields) {
-  if (fields[0].empty() && fields[2].empty()) return "";
-  if (!hasDigits(conversions, fields[0], 8)) return "CustomsDeclarationNumber_1";
-  if (!conversions.isNumeric(fields[1]) || countCharacters(fields[1]) != 6) {
-    return "CustomsDeclarationNumber_2";
-  }
-  if (!hasDigits(conversions, fields[2], 7)) return "CustomsDeclarationNumber_3";
-  if (countCharacters(fields[3]) >= 4) return "CustomsDeclarationNumber_4";
-  return "";
+int faultyField(const Conversions& conversions, const CustomsNumberFields& fields) {
+  if (fields[0].empty() && fields[2].empty()) return 0;
+  if (!hasDigits(conversions, fields[0], 8)) return 1;
+  if (!conversions.isNumeric(fields[1]) || countCharacters(fields[1]) != 6) return 2;
+  if (!hasDigits(conversions, fields[2], 7)) return 3;
+  if (countCharacters(fields[3]) >= 4) return 4;
+  return 0;
 }
 
 }  // namespace
@@ -98,11 +96,11 @@ std::string PadCDNPart(const Conversions& conversions, std::string_view text, in
   return onPaper ? std::string(paperLetter) + digits : digits;
 }
 
-std::string faultyCustomsNumberField(Work& work, std::string_view cdn) {
+int faultyCustomsNumberField(Work& work, std::string_view cdn) {
   return faultyField(work.conversions, SplitCDN(work, cdn));
 }
 
-std::string faultyCustomsNumberField(const Conversions& conversions, std::string_view cdn) {
+int faultyCustomsNumberField(const Conversions& conversions, std::string_view cdn) {
   return faultyField(conversions, fieldsOf(split(cdn, "/")).value_or(CustomsNumberFields{}));
 }
 

@@ -34,10 +34,10 @@ bool IsCDNPartNumeric(const Conversions& conversions, std::string_view text);
 /// that letter included, and is at least 1. A text that is no number gets no zeros.
 std::string PadCDNPart(const Conversions& conversions, std::string_view text, int width);
 
-/// The first field of the composite that has a wrong form, as "CustomsDeclarationNumber_1" to
-/// "CustomsDeclarationNumber_4"; the empty text where all are right or there is no number at all.
-std::string faultyCustomsNumberField(Work& work, std::string_view cdn);
+/// The first field of the composite that has a wrong form, from 1 to 4; 0 where all are right or
+/// there is no number at all.
+int faultyCustomsNumberField(Work& work, std::string_view cdn);
 /// The same without a word in the log.
-std::string faultyCustomsNumberField(const Conversions& conversions, std::string_view cdn);
+int faultyCustomsNumberField(const Conversions& conversions, std::string_view cdn);
 
 }  // namespace awizo

@@ -96,7 +96,7 @@ std::optional<RunTimeError> readOrder(Editor& editor, std::unique_ptr<XmlDocumen
 void Wczytaj_Zamowienie(Editor& editor, std::unique_ptr<XmlDocument>& order) {
   const Cursor earlier = editor.screen().setCursor(editor.session.WaitCursor);
   if (const std::optional<RunTimeError> error = readOrder(editor, order)) {
-    editor.screen().showCritical(error->description(), "Произошла ошибка в Wczytaj_Zamowienie()");
+    editor.screen().showError(*error, "Произошла ошибка в Wczytaj_Zamowienie()");
     editor.form.setEnabled(true);
   }
   editor.screen().setCursor(earlier);

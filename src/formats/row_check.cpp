@@ -27,8 +27,9 @@ std::optional<RowFault> firstFault(const Conversions& conversions, const Row& li
   if (!isEmptyOrNumber(GRD_POZ_NET_AMOUNT)) {
     return RowFault{GRD_POZ_NET_AMOUNT, "Wartosc netto"};
   }
-  const std::string faulty = faultyField(line.cell(GRD_POZ_CDN));
-  return faulty.empty() ? std::optional<RowFault>() : RowFault{GRD_POZ_CDN, faulty};
+  const int faulty = faultyField(line.cell(GRD_POZ_CDN));
+  if (faulty == 0) return std::nullopt;
+  return RowFault{GRD_POZ_CDN, "CustomsDeclarationNumber_" + std::to_string(faulty), faulty};
 }
 
 }  // namespace

@@ -11,7 +11,8 @@ namespace awizo {
 /// A cell for which a line can't leave in a document.
 struct RowFault {
   int column;
-  std::string name;  ///< as BadColumnName takes it; of a customs number, its field
+  std::string name;      ///< as BadColumnName takes it
+  int customsField = 0;  ///< of a customs number, its field from 1 to 4
 };
 
 /// The first fault of the line in this row of grdPozycje. Error 6 beyond the last row that the cell

@@ -15,7 +15,7 @@ constexpr std::string_view errorTitle = "Bі№d w SendXMLDOMRequest()!";
 void reportStep(Work& work, const RunTimeError& error) {
   DebugLog& log = work.session.log;
   if (log.writes(2)) log.WriteDebugLine(joined({errorLogText, error.description()}), 2);
-  work.screen().showCritical(error.description(), errorTitle);
+  work.screen().showError(error, errorTitle);
 }
 
 /// Runs one step. An error in it is shown to the user, and the exchange goes on with the next step.

@@ -3,9 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "platform/forms/report_errors.h"
 #include "platform/run_time_error.h"
-#include "service/transport.h"
-#include "support/test_editor.h"
+#include "support/scripted_screen.h"
 
 namespace awizo::test {
 namespace {
@@ -18,26 +18,32 @@ std::string adviceOn(std::string text, BoxIcon icon = BoxIcon::critical) {
   return awizo::adviceOn({std::move(text), "VIRD", icon, BoxButtons::ok});
 }
 
+/// The advice on the box that a procedure's error handler shows.
+std::string adviceOn(const RunTimeError& error) {
+  ScriptedScreen face;
+  Screen screen(face);
+  reportErrors(screen, "VIRD", [&] { throw error; });
+  return awizo::adviceOn(face.lastBox());
+}
+
 TEST(BoxAdvice, SaysWhetherADocumentMayHaveArrived) {
-  EXPECT_THAT(adviceOn("The download of the specified resource has failed."),
-              HasSubstr("он мог дойти"));
+  EXPECT_THAT(adviceOn(errors::downloadFailed()), HasSubstr("он мог дойти"));
   EXPECT_THAT(adviceOn("Произошла ошибка:-1"), HasSubstr("он мог дойти"));
   EXPECT_THAT(adviceOn("Произошла ошибка:ERR"), HasSubstr("не приняла"));
-  EXPECT_THAT(adviceOn("The system cannot locate the resource specified."),
-              HasSubstr("Ничего не отправлено"));
+  EXPECT_THAT(adviceOn(errors::hostNotFound()), HasSubstr("Ничего не отправлено"));
 }
 
 TEST(BoxAdvice, KnowsTheErrorsOfFiles) {
   for (const RunTimeError& error : {errors::permissionDenied(), errors::pathNotFound(),
                                     errors::fileNotFound(), errors::diskFull()}) {
-    EXPECT_THAT(adviceOn(error.description()), Not(IsEmpty())) << error.description();
+    EXPECT_THAT(adviceOn(error), Not(IsEmpty())) << error.description();
   }
 }
 
 TEST(BoxAdvice, SaysNothingOfBoxesThatSpeakForThemselves) {
   EXPECT_EQ(adviceOn("Документ отправлен.", BoxIcon::information), "");
-  EXPECT_EQ(adviceOn("Permission denied", BoxIcon::exclamation), "");
-  EXPECT_EQ(adviceOn("Overflow"), "");
+  EXPECT_EQ(adviceOn("Permission denied"), "") << "words alone are no error";
+  EXPECT_EQ(adviceOn(errors::overflow()), "");
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ namespace awizo {
 template <std::invocable Title, class Body>
 bool reportErrors(Screen& screen, Title&& title, Body&& body) {
   const std::optional<RunTimeError> error = caughtError(std::forward<Body>(body));
-  if (error) screen.showCritical(error->description(), title());
+  if (error) screen.showError(*error, title());
   return !error;
 }
 

@@ -27,6 +27,11 @@ void Screen::showCritical(std::string_view text, std::string_view title) {
   messageBox({std::string(text), std::string(title), BoxIcon::critical, BoxButtons::ok});
 }
 
+void Screen::showError(const RunTimeError& error, std::string_view title) {
+  messageBox(
+      {error.description(), std::string(title), BoxIcon::critical, BoxButtons::ok, error.number()});
+}
+
 void Screen::showExclamation(std::string_view text, std::string_view title) {
   messageBox({std::string(text), std::string(title), BoxIcon::exclamation, BoxButtons::ok});
 }

@@ -7,6 +7,7 @@
 
 #include "platform/forms/act.h"
 #include "platform/forms/screen_face.h"
+#include "platform/run_time_error.h"
 
 namespace awizo {
 
@@ -21,6 +22,8 @@ class Screen {
 
   Answer messageBox(MessageBox box);
   void showCritical(std::string_view text, std::string_view title);
+  /// A critical box with the error's description.
+  void showError(const RunTimeError& error, std::string_view title);
   void showExclamation(std::string_view text, std::string_view title);
 
   /// Puts the main form on the screen and returns at once.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -35,9 +36,10 @@ struct MessageBox {
   std::string title;
   BoxIcon icon = BoxIcon::none;
   BoxButtons buttons = BoxButtons::ok;
+  std::int32_t error = 0;  ///< number of the run-time error that the box tells of; 0 for none
 };
 
-/// A mouse cursor's handle.
+/// What the mouse pointer looks like.
 enum class Cursor { normal, wait };
 
 /// What a host does to show forms, boxes and the cursor. The calls that wait return when the user

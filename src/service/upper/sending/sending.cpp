@@ -47,9 +47,6 @@ bool maySend(Editor& editor) {
   return isConfirmed(editor.screen(), "Выслать составленный документ подтверждения отгрузки?");
 }
 
-/// The status where the reply has none.
-constexpr std::string_view noStatus = "-1";
-
 void post(Editor& editor, XmlDocument& document) {
   AwizoForm& form = editor.form;
   const auto reply = runExchange(editor, Exchange::sending, form.UploadUrl, document);
@@ -65,7 +62,7 @@ void post(Editor& editor, XmlDocument& document) {
     if (!hasAnswer && editor.session.RequestMayHaveArrived) {
       form.deeds.tell({Deed::Kind::unanswered});
     }
-    editor.screen().showCritical("Произошла ошибка:" + status, "VIRD");
+    editor.screen().showCritical(std::string(refusalWords) + status, "VIRD");
   }
 }
 
