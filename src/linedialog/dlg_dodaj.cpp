@@ -6,6 +6,7 @@
 #include "platform/forms/report_errors.h"
 #include "platform/text.h"
 #include "session/record/countries.h"
+#include "tables/columns/columns.h"
 #include "tables/flat_index.h"
 #include "tables/package_references.h"
 
@@ -62,8 +63,8 @@ DlgDodaj::DlgDodaj(Work& work, DlgIsoCodes& isoCodes, DlgdodajPule& quantityDial
       Label4(*this, "Label4", "Секция упаковки"),
       lblPackedQuantity(*this, "lblPackedQuantity", "Упакованное количество:"),
       lblPackedQuantityValue(*this, "lblPackedQuantityValue", "", "Упакованное количество:"),
-      grdPozycje(*this, "grdPozycje", 5),
-      grdPozycjeN(*this, "grdPozycjeN", 5),
+      grdPozycje(*this, "grdPozycje", static_cast<int>(packageOfLineColumns.size())),
+      grdPozycjeN(*this, "grdPozycjeN", grdPozycje.columns()),
       Command1(*this, "Command1", "+"),
       Command2(*this, "Command2", "-"),
       Command3(*this, "Command3", "•"),

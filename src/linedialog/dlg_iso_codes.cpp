@@ -1,21 +1,36 @@
 #include "linedialog/dlg_iso_codes.h"
 
+#include <array>
+
 #include "linedialog/iso_countries.h"
 #include "platform/forms/keys.h"
 #include "platform/narrow.h"
 #include "platform/text.h"
 #include "session/record/countries.h"
+#include "tables/columns/column.h"
 
 namespace awizo {
 namespace {
 
-constexpr int rowCount = 237;
+constexpr int nameColumn = 0;
+constexpr int codeColumn = 1;
+constexpr std::array countryColumns{
+    Column{nameColumn, "Название", 3000},
+    Column{codeColumn, "код ISO", Table::normalColumnWidth, Alignment::centre},
+};
+static_assert(areInOrder(countryColumns));
+
+/// Flat indexes of the codes of the list's countries.
+constexpr int columnCount = static_cast<int>(countryColumns.size());
+constexpr int firstCode = columnCount + codeColumn;
+
+int rowCount() { return static_cast<int>(isoCountries().size()) + 1; }
 
 }  // namespace
 
 DlgIsoCodes::DlgIsoCodes(Screen& screen, SessionState& session)
     : Form(screen, "DlgIsoCodes"),
-      grdISO(*this, "grdISO", 2, rowCount),
+      grdISO(*this, "grdISO", columnCount, rowCount()),
       btnAccept(*this, "btnAccept", "&Добавить"),
       btnCancel(*this, "btnCancel", "&Назад"),
       session_(session) {
@@ -45,27 +60,24 @@ DlgIsoCodes& DlgIsoCodes::touch() {
 void DlgIsoCodes::Form_Load() {
   session_.IsoResult.clear();
   grdISO.selectsRows = true;
-  grdISO.setColumnWidth(0, 3000);
-  grdISO.setColumnAlignment(1, Alignment::centre);
-  grdISO.setCell(0, "Название");
-  grdISO.setCell(1, "код ISO");
-  for (int column = 0; column < grdISO.columns(); ++column) {
-    CellLook look = grdISO.look(0, column);
+  setUpColumns(grdISO, countryColumns);
+  for (const Column& column : countryColumns) {
+    grdISO.setCell(0, column.number, column.heading);
+    CellLook look = grdISO.look(0, column.number);
     look.bold = true;
-    grdISO.setLook(0, column, look);
+    grdISO.setLook(0, column.number, look);
   }
-  int index = firstCode;
+  int row = 0;
   for (const IsoCountry& country : isoCountries()) {
-    grdISO.setCell(index - 1, country.name);
-    grdISO.setCell(index, country.code);
-    index += 2;
+    grdISO.setCell(++row, nameColumn, country.name);
+    grdISO.setCell(row, codeColumn, country.code);
   }
 }
 
 std::optional<int> DlgIsoCodes::findCode(
     const std::function<bool(const std::string& code)>& matches) {
   touch();
-  for (int index = firstCode; index <= lastCode; index += 2) {
+  for (int index = firstCode; index < columnCount * grdISO.rows(); index += columnCount) {
     if (matches(grdISO.cell(index))) return index;
   }
   return std::nullopt;
@@ -73,7 +85,7 @@ std::optional<int> DlgIsoCodes::findCode(
 
 void DlgIsoCodes::btnAccept_Click() {
   session_.IsoResult.clear();
-  PickedIndex = narrow16(grdISO.row() * 2 + 1);
+  PickedIndex = narrow16(grdISO.row() * columnCount + codeColumn);
   const std::string code = replaceAll(grdISO.cell(PickedIndex), " ", "");
   session_.IsoResult = countryEntry(code, grdISO.cell(PickedIndex - 1));
   hide();

@@ -31,11 +31,8 @@ class DlgIsoCodes : public Form {
   DlgIsoCodes& touch();
   bool loaded() const { return loaded_; }
 
-  /// Flat indexes of the codes in grdISO: the odd cells from the first to the last, the country's
-  /// name in the cell before each.
-  static constexpr int firstCode = 3;
-  static constexpr int lastCode = 473;
-  /// Flat index of the first code that matches; nothing where none does.
+  /// Flat index in grdISO of the first code that matches; nothing where none does. The country's
+  /// name stands in the cell before it.
   std::optional<int> findCode(const std::function<bool(const std::string& code)>& matches);
 
   std::int16_t PickedIndex = 0;  ///< flat index of the code picked last

@@ -1,11 +1,11 @@
 #include "linedialog/line_packages.h"
 
-#include <array>
 #include <cmath>
 
 #include "linedialog/captions.h"
 #include "linedialog/dlg_dodaj.h"
 #include "platform/text.h"
+#include "tables/columns/columns.h"
 #include "tables/package_references.h"
 #include "tables/row.h"
 
@@ -24,15 +24,8 @@ std::int32_t wholeNumber(double value) {
 }  // namespace
 
 void LinePackages::setUpTable() {
-  constexpr std::array<int, 5> widths{0, 0, 4605, 950, 2200};
-  Table& table = dialog_.grdPozycje;
-  for (int column = 0; column < table.columns(); ++column) {
-    table.setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
-  }
-  table.setColumnAlignment(1, Alignment::centre);
-  table.setColumnAlignment(3, Alignment::centre);
-  table.setColumnAlignment(4, Alignment::right);
-  writePackageHeadings(table, boldHeading);
+  setUpColumns(dialog_.grdPozycje, packageOfLineColumns);
+  writePackageHeadings(dialog_.grdPozycje, boldHeading);
 }
 
 double LinePackages::GetMaxQuantity() {
@@ -48,7 +41,7 @@ void LinePackages::UpdatePackedQuantity() {
   const Conversions& conversions = work_.conversions;
   double sum = 0;
   for (int row = 1; row < dialog_.grdPozycje.rows(); ++row) {
-    sum += conversions.MyDouble(dialog_.grdPozycje.cell(row, 4));
+    sum += conversions.MyDouble(dialog_.grdPozycje.cell(row, GRD_PACKAGES_QUANTITY));
   }
   dialog_.lblPackedQuantityValue.setCaption(
       conversions.NormalizeDecimal(conversions.plainNumber(sum), 3));
@@ -101,7 +94,7 @@ void LinePackages::addAssignment() {
   Table& table = dialog_.grdPozycje;
   table.setRedraw(false);
   int row = 1;
-  if (table.rows() != 2 || !Row(table, 1).cell(1).empty()) {
+  if (table.rows() != 2 || !Row(table, 1).cell(GRD_PACKAGES_SERIAL).empty()) {
     row = table.rows();
     table.addItem(std::to_string(row));
   }
@@ -117,11 +110,11 @@ void LinePackages::writeAssignment(int row) {
   const auto package = static_cast<std::size_t>(quantityDialog_.cboxPackages.index());
   if (package >= session.ParentSerials.size()) throw errors::subscriptOutOfRange();
   const Row assignment(dialog_.grdPozycje, row);
-  assignment.set(1, session.ParentSerials[package]);
-  assignment.set(2, session.ParentDescriptions[package]);
-  assignment.set(3, std::to_string(session.ParentLevels[package]));
-  assignment.set(
-      4, work_.conversions.NormalizeDecimal(trimmed(quantityDialog_.txtQuantity.text()), 3));
+  assignment.set(GRD_PACKAGES_SERIAL, session.ParentSerials[package]);
+  assignment.set(GRD_PACKAGES_DESC, session.ParentDescriptions[package]);
+  assignment.set(GRD_PACKAGES_LEVEL, std::to_string(session.ParentLevels[package]));
+  assignment.set(GRD_PACKAGES_QUANTITY, work_.conversions.NormalizeDecimal(
+                                            trimmed(quantityDialog_.txtQuantity.text()), 3));
 }
 
 void LinePackages::Command2_Click() {
@@ -150,10 +143,10 @@ void LinePackages::Command3_Click() {
   small.btnDodaj.setCaption(captions::confirm);
   small.setCaption("Изменить упаковку, к которой приписан товар");
   small.UpDown1.setMin(1);
-  const double quantity = work_.conversions.toDouble(assignment.cell(4));
+  const double quantity = work_.conversions.toDouble(assignment.cell(GRD_PACKAGES_QUANTITY));
   small.UpDown1.setMax(wholeNumber(GetMaxQuantity() + quantity));
   small.txtQuantity.setText(work_.conversions.plainNumber(quantity));
-  small.cboxPackages.setText(assignment.cell(2));
+  small.cboxPackages.setText(assignment.cell(GRD_PACKAGES_DESC));
   small.showModal();
   if (small.DlgResult == 1) {
     writeAssignment(row);
@@ -167,7 +160,7 @@ void LinePackages::tellWhatIsUnpacked() {
   const Conversions& conversions = work_.conversions;
   double packed = 0;
   for (int row = 1; row < dialog_.grdPozycje.rows(); ++row) {
-    const std::string& cell = dialog_.grdPozycje.cell(row, 4);
+    const std::string& cell = dialog_.grdPozycje.cell(row, GRD_PACKAGES_QUANTITY);
     if (cell.empty()) continue;
     packed += conversions.toDouble(conversions.NormalizeDecimal(Conversions::CommaToDot(cell), 2));
   }

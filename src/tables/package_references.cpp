@@ -6,6 +6,7 @@
 #include "platform/forms/report_errors.h"
 #include "platform/narrow.h"
 #include "platform/text.h"
+#include "tables/columns/columns.h"
 #include "tables/row.h"
 
 namespace awizo {
@@ -15,9 +16,6 @@ constexpr std::string_view referenceSeparator = "$";
 constexpr std::string_view fieldSeparator = "@";
 constexpr std::size_t fieldCount = 4;
 constexpr std::size_t quantityField = 3;
-constexpr int quantityColumn = 4;
-constexpr std::array<std::string_view, 5> headings{"№ п.п", "ID упаковки", "Описание упаковки",
-                                                   "Уровень", "Количество"};
 
 std::vector<std::string> referencesOf(std::string_view text) {
   return split(text, referenceSeparator);
@@ -39,7 +37,7 @@ std::string gridText(const Table& table) {
   const std::int16_t last = narrow16(table.rows() - 1);
   for (std::int16_t row = 1; row <= last; ++row) {
     if (row > 1) text.append(referenceSeparator);
-    for (int column = 1; column <= quantityColumn; ++column) {
+    for (int column = 1; column <= GRD_PACKAGES_QUANTITY; ++column) {
       if (column > 1) text.append(fieldSeparator);
       text.append(table.cell(flatIndex(table, row, column)));
     }
@@ -58,7 +56,7 @@ void fillGrid(Table& table, std::string_view text) {
   for (const std::string& reference : references) {
     const Row row(table, ++number);
     const std::vector<std::string> fields = fieldsOf(reference);
-    row.set(1, serialOf(fields));
+    row.set(GRD_PACKAGES_SERIAL, serialOf(fields));
     const std::size_t count = std::min(fields.size(), fieldCount);
     for (std::size_t i = 1; i < count; ++i) row.set(static_cast<int>(i) + 1, fields[i]);
   }
@@ -134,10 +132,9 @@ std::string emptyOnError(Body&& body) {
 }  // namespace
 
 void writePackageHeadings(Table& table, const CellLook& look) {
-  int column = 0;
-  for (const std::string_view heading : headings) {
-    Row(table, 0).set(column, heading);
-    table.setLook(0, column++, look);
+  for (const Column& column : packageOfLineColumns) {
+    Row(table, 0).set(column.number, column.heading);
+    table.setLook(0, column.number, look);
   }
 }
 

@@ -8,16 +8,6 @@
 namespace awizo {
 namespace {
 
-void setUpColumns(Table& table, std::span<const Column> columns) {
-  for (const Column& column : columns) {
-    table.setColumnWidth(column.number, column.width);
-    table.setColumnAlignment(column.number, column.alignment);
-  }
-  // What isn't used is hidden.
-  const int used = static_cast<int>(columns.size());
-  for (int column = used; column < table.columns(); ++column) table.setColumnWidth(column, 0);
-}
-
 void writeHeadings(Table& table, std::span<const Column> columns) {
   table.setRow(0);
   for (const Column& column : columns) {

@@ -70,9 +70,8 @@ TEST_F(IsoList, HoldsEveryCodeInTheOrderOfTheNames) {
   const std::vector<std::string> codes = split(codesInOrder, " ");
   ASSERT_EQ(codes.size(), 236U);
   for (std::size_t i = 0; i < codes.size(); ++i) {
-    EXPECT_EQ(table.cell(DlgIsoCodes::firstCode + 2 * static_cast<int>(i)), codes[i]);
+    EXPECT_EQ(table.cell(3 + 2 * static_cast<int>(i)), codes[i]);
   }
-  EXPECT_EQ(DlgIsoCodes::lastCode, 473);
   EXPECT_EQ(table.cell(473), "JP");
 }
 

@@ -1,12 +1,13 @@
 #pragma once
 
+#include <span>
 #include <string_view>
 
-#include "platform/forms/text_field.h"
+#include "platform/forms/table.h"
 
 namespace awizo {
 
-/// One column of a table of the document. A column of no width is a hidden field of its rows.
+/// One column of a table. A column of no width is a hidden field of its rows.
 struct Column {
   int number;
   std::string_view heading;
@@ -23,5 +24,8 @@ constexpr bool areInOrder(const Columns& columns) {
   }
   return true;
 }
+
+/// Gives the table's columns their widths and alignments; columns that aren't described are hidden.
+void setUpColumns(Table& table, std::span<const Column> columns);
 
 }  // namespace awizo

@@ -106,8 +106,25 @@ inline constexpr std::array totalColumns{
 };
 static_assert(areInOrder(totalColumns));
 
-// How many columns the tables have: those of lines and packages one more than are used, without
-// heading and width. A row's cells are addressed by this count, so it decides how many rows fit.
+// Columns of the line dialog's grdPozycje, the packages of the line.
+inline constexpr int GRD_PACKAGES_LP = 0;
+inline constexpr int GRD_PACKAGES_SERIAL = 1;
+inline constexpr int GRD_PACKAGES_DESC = 2;
+inline constexpr int GRD_PACKAGES_LEVEL = 3;
+inline constexpr int GRD_PACKAGES_QUANTITY = 4;
+
+inline constexpr std::array packageOfLineColumns{
+    Column{GRD_PACKAGES_LP, "№ п.п"},
+    Column{GRD_PACKAGES_SERIAL, "ID упаковки", 0, Alignment::centre},
+    Column{GRD_PACKAGES_DESC, "Описание упаковки", 4605},
+    Column{GRD_PACKAGES_LEVEL, "Уровень", 950, Alignment::centre},
+    Column{GRD_PACKAGES_QUANTITY, "Количество", 2200, Alignment::right},
+};
+static_assert(areInOrder(packageOfLineColumns));
+
+// How many columns the main form's tables have: those of lines and packages one more than are used,
+// without heading and width. A row's cells are addressed by this count, so it decides how many rows
+// fit.
 inline constexpr int lineColumnCount = static_cast<int>(lineColumns.size()) + 1;
 inline constexpr int packageColumnCount = static_cast<int>(packageColumns.size()) + 1;
 inline constexpr int totalColumnCount = static_cast<int>(totalColumns.size());
