@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 const std::string self = fs::read_symlink("/proc/self/exe").string();
 // What the full-size start may take, as a multiple of a bare window and of bare parsing of the same
 // bytes.
-constexpr double windowsAllowed = 2.0;
+constexpr double windowsAllowed = 1.5;
 constexpr double parsesAllowed = 1.3;
 
 void put(const fs::path& file, const std::string& text) { std::ofstream(file) << text; }

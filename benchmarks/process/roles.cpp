@@ -10,12 +10,13 @@
 namespace awizo::benchmarks {
 namespace {
 
-/// Qt as a program has it, on a screen that isn't there.
+/// Qt as a program has it, on a screen that isn't there but is as large as most are.
 struct QtProgram {
   int count = 1;
   char name[8] = "program";
   char* arguments[2] = {name, nullptr};
-  QApplication application{(qputenv("QT_QPA_PLATFORM", "offscreen"), count), arguments};
+  QApplication application{
+      (qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" AWIZO_SCREEN), count), arguments};
 };
 
 void paint() {
