@@ -19,7 +19,7 @@ struct Options : GivenSession {
   std::optional<Moment> now;
   std::optional<std::string> recordFile;   ///< new: what reaches the control is written into it
   std::optional<std::string> replayFile;   ///< a record that is done first
-  std::optional<std::size_t> acts;         ///< no more of it than so many acts
+  std::optional<std::size_t> acts;         ///< only this many of its acts
   std::optional<std::string> checkedFile;  ///< the file is to be checked, and nothing else done
 };
 

@@ -24,7 +24,7 @@ journal::RecordedSession sessionToReplay(const Options& options, Machine& machin
 std::unique_ptr<GrowingFile> newRecord(const Options& options, const std::string& localeName,
                                        Machine& machine);
 
-/// A line of the host's as a record's texts, and back. A line that isn't the host's gives none.
+/// A line of the host's as a record's texts, and back. Empty for a line that isn't the host's.
 std::vector<std::string> hostActOf(const protocol::Json& line);
 protocol::Json lineOf(const std::vector<std::string>& hostAct);
 

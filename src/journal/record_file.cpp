@@ -13,7 +13,7 @@ constexpr std::string_view firstLine = "awizo record 1\n";
 constexpr std::size_t lengthSize = 4;
 constexpr std::size_t sumSize = 8;
 
-/// Writes a number of so many bytes over those that are there.
+/// Writes a number of `size` bytes over those that are there.
 void putNumber(std::string& bytes, std::size_t place, std::uint64_t number, std::size_t size) {
   for (std::size_t at = 0; at < size; ++at) {
     bytes[place + at] = static_cast<char>((number >> (8 * at)) & 0xFF);

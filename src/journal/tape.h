@@ -105,7 +105,7 @@ class Tape : public ActObserver {
   /// Whether all that came in so far is in the file, or on its way there.
   bool recording() const { return file_ != nullptr; }
 
-  /// What `call` gives, or gave when this was recorded, its run-time error included.
+  /// What `call` returns, or returned when this was recorded; its run-time error included.
   template <class Call>
   auto outcome(Source source, Call&& call, Asked asked = Asked::asRecorded);
   /// The same for a question that anybody may ask any number of times.

@@ -40,7 +40,7 @@ struct UnfinishedWork {
 /// removed on the way, and one that can't be read is left alone.
 std::optional<UnfinishedWork> unfinishedWork(RecordFolder& folder);
 
-/// Removes the oldest records until no more than so many bytes are kept; never one in use.
+/// Removes the oldest records until at most `mostBytes` are kept; never one in use.
 void keepWithin(RecordFolder& folder, std::uint64_t mostBytes);
 
 }  // namespace awizo::journal

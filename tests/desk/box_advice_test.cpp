@@ -18,12 +18,21 @@ std::string adviceOn(std::string text, BoxIcon icon = BoxIcon::critical) {
   return awizo::adviceOn({std::move(text), "VIRD", icon, BoxButtons::ok});
 }
 
+class AdvisingFace : public ScriptedScreen {
+ public:
+  std::string advice;
+  Answer ask(const MessageBox& box) override {
+    advice = awizo::adviceOn(box);
+    return Answer::ok;
+  }
+};
+
 /// The advice on the box that a procedure's error handler shows.
 std::string adviceOn(const RunTimeError& error) {
-  ScriptedScreen face;
+  AdvisingFace face;
   Screen screen(face);
   reportErrors(screen, "VIRD", [&] { throw error; });
-  return awizo::adviceOn(face.lastBox());
+  return face.advice;
 }
 
 TEST(BoxAdvice, SaysWhetherADocumentMayHaveArrived) {

@@ -29,8 +29,7 @@ TEST_F(ScreenOnDesktop, AnErrorOfTheServiceIsExplainedBesideItsOwnText) {
     EXPECT_TRUE(box->informativeText().contains("он мог дойти"));
     press(Qt::Key_Return);
   });
-  control.screen.showCritical("The download of the specified resource has failed.",
-                              "Bі№d w SendXMLDOMRequest()!");
+  control.screen.showError(errors::downloadFailed(), "Bі№d w SendXMLDOMRequest()!");
 }
 
 TEST_F(ScreenOnDesktop, AQuestionIsAnsweredYesOrNo) {

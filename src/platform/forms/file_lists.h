@@ -29,6 +29,7 @@ class DriveList : public Control {
 
   Event onChange;
 
+  /// The user puts the focus here and chooses a drive. Refused: one that isn't there.
   void userChoose(std::string_view drive);
 
   KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }

@@ -70,10 +70,12 @@ class TimePicker : public Control {
 
   const std::string& caption() const { return caption_; }
   const std::optional<TimeOfDay>& time() const { return time_; }
+  /// Nothing for no time. Error 380 for what is no time of day.
   void setTime(std::optional<TimeOfDay> time);
 
   Event onChange;
 
+  /// The user puts the focus here and sets a time, as by code.
   void userSet(std::optional<TimeOfDay> time);
 
   KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }

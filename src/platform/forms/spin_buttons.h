@@ -18,7 +18,7 @@ class SpinButtons : public Control {
 
   int min() const { return min_; }
   int max() const { return max_; }
-  /// Setting a limit changes no text.
+  /// Limits of the whole number that the buttons count up and down. Setting one changes no text.
   void setMin(int min);
   void setMax(int max);
 

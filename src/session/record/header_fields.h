@@ -20,6 +20,7 @@ struct HeaderField {
 /// All of them. Whatever goes over the whole header goes over this list.
 std::vector<HeaderField> headerFields(AwizoForm& form);
 
+/// Empties a field, or gives it what it has in an empty header, such as today.
 void emptyField(const HeaderField& field, Date today);
 
 /// The text, "yyyy-mm-dd" or "hh:mm"; the empty text for no value.
