@@ -120,7 +120,8 @@ TEST(LabelPages, TheNumbersSymbolIsLowestAndBothAreHighEnough) {
 TEST(LabelPages, BarsAreWholeDotsFromThePagesEdge) {
   for (const int dots : {203, 300, 600}) {
     const double dot = dots == 203 ? 0.125 : 25.4 / dots;
-    for (const Rectangle& bar : pagesOf(oneProduct(), {.dotsPerInch = dots})[0].rectangles) {
+    const Page page = pagesOf(oneProduct(), {.dotsPerInch = dots})[0];
+    for (const Rectangle& bar : page.rectangles) {
       if (bar.height != barHeight) continue;
       EXPECT_NEAR(bar.x / dot, std::round(bar.x / dot), 1e-6);
       EXPECT_NEAR(bar.width / dot, std::round(bar.width / dot), 1e-6);
