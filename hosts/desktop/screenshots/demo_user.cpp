@@ -113,15 +113,16 @@ void DemoUser::showOtherForms() {
 }
 
 void DemoUser::showPapers() {
-  for (const auto& [paper, name] :
-       {std::pair{Paper::labels, "labels"}, std::pair{Paper::packingList, "packing-list"}}) {
-    PaperMaker& maker = widget_.paperMaker();
+  PaperMaker& maker = widget_.paperMaker();
+  const auto showPaper = [&](Paper paper, const char* name) {
     during([&] { maker.show(paper); },
            [&] {
              take(name);
              maker.dialog().btnClose.userClick();
            });
-  }
+  };
+  showPaper(Paper::labels, "labels");
+  showPaper(Paper::packingList, "packing-list");
 }
 
 void DemoUser::work() {
