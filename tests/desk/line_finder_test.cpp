@@ -3,8 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "journal/loading.h"
-#include "journal/record_file.h"
 #include "platform/forms/keys.h"
 #include "support/control/taped_control.h"
 #include "support/documents.h"
@@ -91,15 +89,8 @@ TEST_F(LineFinderTest, WhatIsNoCodeIsTheTablesAndForgotten) {
   EXPECT_FALSE(finder.takeKey(keys::enter)) << "too few digits without those before";
 }
 
-/// A record in memory.
-struct KeptBytes : GrowingFile {
-  std::string bytes;
-  void append(std::string_view more) override { bytes += more; }
-  void flush() override {}
-};
-
 TEST(LineFinderOnTape, ItsDialogsAreNoPartOfTheRecord) {
-  KeptBytes record;
+  MemoryRecord record;
   TapedControl recorded(&record);
   recorded.desk.prepareFolder();
   recorded.desk.files.put(TestControl::partnerFile, TestControl::partnerInfo("ООО Покупатель"));
@@ -116,9 +107,7 @@ TEST(LineFinderOnTape, ItsDialogsAreNoPartOfTheRecord) {
   finder.find();
   EXPECT_EQ(record.bytes, before);
   recorded.desk.form.txtNrAwiza.userType("ТН/1");
-  const std::string whole =
-      journal::fileBeginning() + journal::framed(journal::headerRecord({})) + record.bytes;
-  TapedControl replayed(nullptr, journal::recordedSession(whole).records);
+  TapedControl replayed(nullptr, sessionIn(record).records);
   replayed.recording->start();
   EXPECT_EQ(replayed.desk.form.txtNrAwiza.text(), "ТН/1");
 }

@@ -1,22 +1,13 @@
 #include <gtest/gtest.h>
 
-#include "journal/loading.h"
-#include "journal/record_file.h"
 #include "journal/state_digest.h"
 #include "support/control/taped_control.h"
 
 namespace awizo::test {
 namespace {
 
-/// A record in memory.
-struct RecordedBytes : GrowingFile {
-  std::string bytes = journal::fileBeginning() + journal::framed(journal::headerRecord({}));
-  void append(std::string_view more) override { bytes += more; }
-  void flush() override {}
-};
-
 TEST(HostActs, AreDoneAgainByAReplayOfItself) {
-  RecordedBytes record;
+  MemoryRecord record;
   TapedControl recorded(&record);
   recorded.desk.prepareFolder();
   recorded.desk.files.put(TestControl::partnerFile, TestControl::partnerInfo("ООО Покупатель"));
@@ -29,7 +20,7 @@ TEST(HostActs, AreDoneAgainByAReplayOfItself) {
   recorded.recording->askOffLineFolder();
   recorded.recording->setProperty("OnLine", "On");
 
-  TapedControl replayed(nullptr, journal::recordedSession(record.bytes).records);
+  TapedControl replayed(nullptr, sessionIn(record).records);
   replayed.recording->performHostAct = nullptr;
   replayed.recording->start();
   EXPECT_TRUE(replayed.desk.form.shown());
@@ -40,11 +31,11 @@ TEST(HostActs, AreDoneAgainByAReplayOfItself) {
 }
 
 TEST(HostActs, OfAnotherKindOfHostEndTheReplay) {
-  RecordedBytes record;
+  MemoryRecord record;
   TapedControl recorded(&record);
   recorded.recording->start();
   recorded.recording->doHostAct({"call", "{}"}, [] {});
-  TapedControl replayed(nullptr, journal::recordedSession(record.bytes).records);
+  TapedControl replayed(nullptr, sessionIn(record).records);
   replayed.recording->performHostAct = nullptr;
   EXPECT_THROW(replayed.recording->start(), journal::ReplayDiffers);
 }
