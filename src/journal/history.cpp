@@ -131,7 +131,10 @@ void History::settle() {
   if (field_ != nullptr && !done_.empty()) {
     // The field goes on being changed: that is one step, or none where it is as it was.
     done_.back().to = now();
-    if (!isChangedSince(done_.back().from.moment)) done_.pop_back();
+    if (!isChangedSince(done_.back().from.moment)) {
+      done_.pop_back();
+      field_ = nullptr;
+    }
     undone_.clear();
     return;
   }

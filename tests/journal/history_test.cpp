@@ -238,6 +238,21 @@ TEST(History, OfAFieldThatIsAsItWasHasNoStep) {
   EXPECT_EQ(session.nameOfTakeBack(), before);
 }
 
+TEST(History, OfAFieldThatWasAsItWasInBetweenIsStillItsOwn) {
+  Session session;
+  AwizoForm& form = session.form;
+  form.grdPozycje.userCell(2, 4);
+  form.btnUsun.userPress();
+  const int lines = form.grdPozycje.rows();
+  const std::string before = form.txtCodeByBuyer.text();
+  for (const std::string& typed : {std::string("1"), before, std::string("12")}) {
+    form.txtCodeByBuyer.userType(typed);
+  }
+  session.history.takeBack();
+  EXPECT_EQ(form.txtCodeByBuyer.text(), before);
+  EXPECT_EQ(form.grdPozycje.rows(), lines) << "the removal before is another step";
+}
+
 TEST(History, OfOneFieldTwiceHasTwoSteps) {
   Session session;
   session.form.txtNrZam.userType("1");
