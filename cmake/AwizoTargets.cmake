@@ -21,7 +21,9 @@ target_compile_options(awizo_options INTERFACE
   # Clang's -Wconversion holds more than GCC's: what only pages' builds would refuse, no developer sees.
   $<$<CXX_COMPILER_ID:Clang>:-Wno-sign-conversion>
   # GCC 12 warns of overlapping copies inside its own std::string when it optimises; there are none.
-  $<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release>>:-Wno-restrict>)
+  $<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release>>:-Wno-restrict>
+  # GCC counts its own rubbish from 512 MB on (as KB here): a tenth of the time for a tenth of memory.
+  $<$<CXX_COMPILER_ID:GNU>:--param=ggc-min-heapsize=524288>)
 if(AWIZO_SANITIZE OR AWIZO_FUZZ)
   # Line numbers are all that a finding needs; the whole of them doubles the time of building.
   set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g1")

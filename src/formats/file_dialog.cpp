@@ -138,4 +138,10 @@ void askOffLineFolder(DlgWczytajZapisz& dialog) {
   dialog.showModal();
 }
 
+KeptPart DlgWczytajZapisz::keep(const KeptPart& earlier) const {
+  return keptOf(earlier, members(*this));
+}
+
+void DlgWczytajZapisz::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
 }  // namespace awizo

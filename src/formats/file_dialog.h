@@ -49,8 +49,8 @@ class DlgWczytajZapisz : public Form {
   /// "&Ustaw": the folder of off-line work is chosen.
   void setUpForOffLineFolder();
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 
  private:
   void Form_Load();

@@ -253,4 +253,8 @@ void DlgDodaj::btnZamknij_Click() {
   hide();
 }
 
+KeptPart DlgDodaj::keep(const KeptPart& earlier) const { return keptOf(earlier, members(*this)); }
+
+void DlgDodaj::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
 }  // namespace awizo

@@ -142,8 +142,8 @@ class DlgDodaj : public Form {
   const ProductDictionary& dictionary() const { return *products_; }
   ProductChoice& productChoice() { return choice_; }
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 
  private:
   void wireFields();

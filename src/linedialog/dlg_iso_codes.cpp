@@ -132,4 +132,10 @@ void CheckIsoCountry(SessionState& session, DlgIsoCodes& dialog, const Locale& l
   session.IsoCheckCode = code;
 }
 
+KeptPart DlgIsoCodes::keep(const KeptPart& earlier) const {
+  return keptOf(earlier, members(*this));
+}
+
+void DlgIsoCodes::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
 }  // namespace awizo

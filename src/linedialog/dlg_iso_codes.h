@@ -39,8 +39,8 @@ class DlgIsoCodes : public Form {
   bool ShiftHeld = false;
   bool MouseHeld = false;
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 
  private:
   void Form_Load();

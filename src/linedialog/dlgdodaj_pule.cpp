@@ -73,4 +73,10 @@ void DlgdodajPule::showRange() {
                         "VIRD");
 }
 
+KeptPart DlgdodajPule::keep(const KeptPart& earlier) const {
+  return keptOf(earlier, members(*this));
+}
+
+void DlgdodajPule::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
 }  // namespace awizo

@@ -34,8 +34,8 @@ class DlgdodajPule : public Form {
   /// Whether a package and a quantity are given; shows the user what is missing.
   bool Walidacja();
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 
  private:
   void btnDodaj_Click();

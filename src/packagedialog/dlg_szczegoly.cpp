@@ -173,4 +173,10 @@ bool DlgSzczegoly::CheckMandatory(std::string_view caption, TextField& field) {
   return false;
 }
 
+KeptPart DlgSzczegoly::keep(const KeptPart& earlier) const {
+  return keptOf(earlier, members(*this));
+}
+
+void DlgSzczegoly::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
 }  // namespace awizo

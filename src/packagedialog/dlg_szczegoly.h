@@ -65,8 +65,8 @@ class DlgSzczegoly : public Form {
   /// A required field by its tag "Mandatory"; no rule of the dialog uses it.
   bool CheckMandatory(std::string_view caption, TextField& field);
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 
  private:
   void Form_Load();

@@ -206,18 +206,15 @@ TEST(Sizes, AHundredMegabytesOfNonsenseAreRefused) {
   expectRefusedWithinBounds("<a><!--" + std::string(100'000'000, 'x') + "--></a>");
 }
 
-TEST(Sizes, AHundredMegabytesOfNothingButTagsAreRefused) {
+TEST(Sizes, MoreThanAHundredMegabytesOfNothingButTagsAreRefused) {
   const auto repeated = [](const std::string& piece) {
-    std::string text = "<a>";
-    while (text.size() < 100'000'000) text += piece;
-    return text + "</a>";
+    std::string text = piece;
+    while (text.size() < 100'000'000) text += text;
+    return "<a>" + text + "</a>";
   };
   expectRefusedWithinBounds(repeated("<b/>"));
-  expectRefusedWithinBounds(repeated("<b>x</b>"));
   expectRefusedWithinBounds(repeated("<b c='' d=''/>"));
-  expectRefusedWithinBounds(repeated("<!---->"));
-  expectRefusedWithinBounds(repeated("<?p?>"));
-  expectRefusedWithinBounds(repeated("x<![CDATA[y]]>"));
+  expectRefusedWithinBounds(repeated("x<!----><?p?>x<![CDATA[y]]>"));
 }
 
 TEST(Sizes, AMillionElementsAreFine) {

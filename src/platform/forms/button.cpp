@@ -39,4 +39,8 @@ void Button::pressKey(std::int16_t code, bool shift) {
   if (takeUserFocus()) raise(onClick);
 }
 
+KeptPart Button::keep(const KeptPart& earlier) const { return keptOf(earlier, members(*this)); }
+
+void Button::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
 }  // namespace awizo

@@ -32,8 +32,8 @@ class Button : public Control {
   /// Click first, then the double click, unless `doubleClickAlone`.
   void userDoubleClick();
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 
  protected:
   Button(Form& form, std::string name, ControlKind kind, std::string_view caption)

@@ -100,4 +100,8 @@ bool Control::takeUserKey(std::int16_t code, bool shift) {
   return takeUserFocus() && !form_.pressKey(*this, code, shift);
 }
 
+KeptPart Control::keep(const KeptPart& earlier) const { return keptOf(earlier, common(*this)); }
+
+void Control::putBack(const Kept& kept) { putBackInto(common(*this), kept); }
+
 }  // namespace awizo

@@ -133,9 +133,9 @@ class Control {
 
   /// All that it holds now; `earlier`, kept of this control too, where nothing has changed since.
   /// How much of it a host shows isn't part of it.
-  virtual KeptPart keep(const KeptPart& earlier) const { return keptOf(earlier, common(*this)); }
+  virtual KeptPart keep(const KeptPart& earlier) const;
   /// Puts that back. No event is raised and nobody is told before tellAll().
-  virtual void putBack(const Kept& kept) { putBackInto(common(*this), kept); }
+  virtual void putBack(const Kept& kept);
   /// Tells the observers that anything may have changed.
   void tellAll();
 

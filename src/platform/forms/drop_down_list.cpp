@@ -99,4 +99,10 @@ void DropDownList::become(int index, std::string_view text) {
   raise(onChange);
 }
 
+KeptPart DropDownList::keep(const KeptPart& earlier) const {
+  return keptOf(earlier, members(*this));
+}
+
+void DropDownList::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
 }  // namespace awizo

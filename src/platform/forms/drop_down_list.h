@@ -70,8 +70,8 @@ class DropDownList : public Control {
   /// False when a match is required and the text, unless it is empty, is no row.
   bool mayBeLeft() const override;
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 
  private:
   /// KeyPress for a key that stands for a character.

@@ -156,4 +156,16 @@ void FileList::userDoubleClick() {
   if (takesInput()) raise(onDoubleClick);
 }
 
+KeptPart DriveList::keep(const KeptPart& earlier) const { return keptOf(earlier, members(*this)); }
+
+void DriveList::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
+KeptPart FolderList::keep(const KeptPart& earlier) const { return keptOf(earlier, members(*this)); }
+
+void FolderList::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
+KeptPart FileList::keep(const KeptPart& earlier) const { return keptOf(earlier, members(*this)); }
+
+void FileList::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
 }  // namespace awizo

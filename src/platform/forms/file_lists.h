@@ -32,8 +32,8 @@ class DriveList : public Control {
   /// The user puts the focus here and chooses a drive. Refused: one that isn't there.
   void userChoose(std::string_view drive);
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 
  private:
   /// The row of this drive, case ignored; empty if there is none.
@@ -69,8 +69,8 @@ class FolderList : public Control {
   /// The user opens a folder by its whole path. Refused: a folder that isn't there.
   void userOpen(std::string_view path);
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 
  private:
   void assign(std::string path);
@@ -109,8 +109,8 @@ class FileList : public Control {
   /// Double-clicks the selected row: Click first, then the double click. Refused without one.
   void userDoubleClick();
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 
  private:
   Files& files_;

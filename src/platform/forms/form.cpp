@@ -161,4 +161,8 @@ void Form::tabFrom(const Control& control, bool backwards) {
   }
 }
 
+KeptPart Form::keep(const KeptPart& earlier) const { return keptOf(earlier, common(*this)); }
+
+void Form::putBack(const Kept& kept) { putBackInto(common(*this), kept); }
+
 }  // namespace awizo

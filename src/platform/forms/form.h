@@ -82,8 +82,8 @@ class Form {
 
   // What the form holds besides its controls, as Control has it; whether it is shown isn't part of
   // it. A form with members of its own keeps these too.
-  virtual KeptPart keep(const KeptPart& earlier) const { return keptOf(earlier, common(*this)); }
-  virtual void putBack(const Kept& kept) { putBackInto(common(*this), kept); }
+  virtual KeptPart keep(const KeptPart& earlier) const;
+  virtual void putBack(const Kept& kept);
   void tellAll();
 
  private:

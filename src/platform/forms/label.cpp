@@ -8,4 +8,8 @@ void Label::setCaption(std::string_view caption) {
   changed(Aspect::content);
 }
 
+KeptPart Label::keep(const KeptPart& earlier) const { return keptOf(earlier, members(*this)); }
+
+void Label::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
 }  // namespace awizo

@@ -22,8 +22,8 @@ class Label : public Control {
   const std::string& heading() const { return heading_; }
   void setCaption(std::string_view caption);
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 
  private:
   std::string caption_;

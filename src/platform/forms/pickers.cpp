@@ -61,4 +61,12 @@ void TimePicker::userSet(std::optional<TimeOfDay> time) {
   raise(onChange);
 }
 
+KeptPart DatePicker::keep(const KeptPart& earlier) const { return keptOf(earlier, members(*this)); }
+
+void DatePicker::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
+KeptPart TimePicker::keep(const KeptPart& earlier) const { return keptOf(earlier, members(*this)); }
+
+void TimePicker::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
 }  // namespace awizo

@@ -46,8 +46,8 @@ class DatePicker : public Control {
   /// The user puts the focus here and sets a date. Refused what code would be refused.
   void userSet(std::optional<Date> date);
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 
  private:
   std::string caption_;
@@ -78,8 +78,8 @@ class TimePicker : public Control {
   /// The user puts the focus here and sets a time, as by code.
   void userSet(std::optional<TimeOfDay> time);
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 
  private:
   std::string caption_;

@@ -40,4 +40,10 @@ void SpinButtons::userSpin(int by) {
   field_.setText(std::to_string(value_));
 }
 
+KeptPart SpinButtons::keep(const KeptPart& earlier) const {
+  return keptOf(earlier, members(*this));
+}
+
+void SpinButtons::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
 }  // namespace awizo

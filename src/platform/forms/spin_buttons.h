@@ -27,8 +27,8 @@ class SpinButtons : public Control {
   /// the field's text.
   void userSpin(int by);
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 
  private:
   TextField& field_;

@@ -237,4 +237,8 @@ void Table::setRedraw(bool redraw) {
 
 void Table::refresh() { changed(Aspect::redraw); }
 
+KeptPart Table::keep(const KeptPart& earlier) const { return keptOf(earlier, members(*this)); }
+
+void Table::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
 }  // namespace awizo

@@ -162,8 +162,8 @@ class Table : public Control {
   /// Whether all its cells hold the texts that they held then.
   bool holdsTextsOf(const Kept& kept) const;
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 
  private:
   /// A key in the table: KeyDown, then the move of arrows, Home, End and page keys over the shown

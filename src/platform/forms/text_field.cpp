@@ -48,4 +48,8 @@ void TextField::pressKey(std::int16_t code, bool shift) {
   raise([&] { onKeyPress(character); });
 }
 
+KeptPart TextField::keep(const KeptPart& earlier) const { return keptOf(earlier, members(*this)); }
+
+void TextField::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
 }  // namespace awizo

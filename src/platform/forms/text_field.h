@@ -49,8 +49,8 @@ class TextField : public Control {
   /// control characters don't enter the one-line field.
   void userType(std::string_view text);
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 
  private:
   /// The user presses a key in the field (it takes the focus if it hasn't it): KeyDown, then, for

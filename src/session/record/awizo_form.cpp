@@ -61,4 +61,8 @@ AwizoForm::AwizoForm(Screen& screen, const Clock& clock)
   txtEdycjaSuma.setVisible(false);
 }
 
+KeptPart AwizoForm::keep(const KeptPart& earlier) const { return keptOf(earlier, members(*this)); }
+
+void AwizoForm::putBack(const Kept& kept) { putBackInto(members(*this), kept); }
+
 }  // namespace awizo

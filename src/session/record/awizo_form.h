@@ -96,8 +96,8 @@ class AwizoForm : public Form {
   /// The host's properties as they came; empty for one that the host doesn't have.
   std::string OnLine, DebugLevel, PartnerName, PartnerILN, PartnerURL;
 
-  KeptPart keep(const KeptPart& earlier) const override { return keptOf(earlier, members(*this)); }
-  void putBack(const Kept& kept) override { putBackInto(members(*this), kept); }
+  KeptPart keep(const KeptPart& earlier) const override;
+  void putBack(const Kept& kept) override;
 };
 
 }  // namespace awizo
