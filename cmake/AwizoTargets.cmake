@@ -80,10 +80,12 @@ endfunction()
 # it compiles in half the time.
 function(awizo_quick_to_compile name)
   target_compile_options(${name} PRIVATE -O0)
-  # Qt asks for another kind of code, for which the precompiled headers are of no use.
+  target_link_libraries(${name} PRIVATE GTest::gmock)
+  # Qt asks for another kind of code.
   get_target_property(links ${name} LINK_LIBRARIES)
-  if(NOT "Qt6::Test" IN_LIST links)
-    target_link_libraries(${name} PRIVATE GTest::gmock)
+  if("Qt6::Test" IN_LIST links)
+    target_precompile_headers(${name} REUSE_FROM awizo_desktop_test_headers)
+  else()
     target_precompile_headers(${name} REUSE_FROM awizo_test_headers)
   endif()
 endfunction()
