@@ -31,6 +31,11 @@ std::vector<Command> stepCommands() {
           {.words = words::doAgain, .task = HostTask::doAgain, .keys = {withControl('Y')}}};
 }
 
+std::vector<Command> packingCommands() {
+  return {
+      {.words = "Несколько упа&ковок…", .task = HostTask::addPackages, .keys = {withControl('N')}}};
+}
+
 std::vector<Command> findCommands() {
   return {{.words = "&Найти строку…", .task = HostTask::findLine, .keys = {withControl('F')}},
           {.words = "Найти &ещё раз", .task = HostTask::findAgain, .keys = {key(keys::f3)}},
@@ -187,8 +192,8 @@ std::vector<Command> buttonCommands(const std::vector<CommandMenu>& menus) {
 std::vector<CommandMenu> commandMenus(AwizoForm& form) {
   return {{"&Документ", {documentCommands(form), sessionCommands(), endCommands()}},
           {"&Правка",
-           {stepCommands(), lineCommands(form), packageCommands(form), countryCommands(form),
-            findCommands()}},
+           {stepCommands(), lineCommands(form), packageCommands(form), packingCommands(),
+            countryCommands(form), findCommands()}},
           {"&Бумаги", {paperCommands(), {paperOfFileCommand()}, numberCommands()}},
           {"&Справка", {helpCommands()}}};
 }

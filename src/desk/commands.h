@@ -34,6 +34,7 @@ enum class HostTask {
   showPackageSheets,
   showPapersOfFile,
   showNumbers,
+  addPackages,
   showGuide,
   showAbout
 };

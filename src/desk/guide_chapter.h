@@ -9,7 +9,9 @@ constexpr std::string_view guideChapter(std::string_view form) {
   if (form == "DlgDodaj" || form == "DlgdodajPule" || form == "DlgIsoCodes") {
     return "Товарные позиции";
   }
-  if (form == "DlgSzczegoly" || form == "NumberRangeDialog") return "Упаковки";
+  if (form == "DlgSzczegoly" || form == "NumberRangeDialog" || form == "PackagesDialog") {
+    return "Упаковки";
+  }
   if (form == "DlgWczytajZapisz") return "Сохранить, открыть, отправить";
   if (form == "FaultList" || form == "FindDialog") return "Найти и проверить";
   if (form == "PapersDialog") return "Этикетки и упаковочный лист";

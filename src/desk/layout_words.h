@@ -40,6 +40,11 @@ inline constexpr std::string_view savedDocumentTitle = "Сохранённый �
 inline constexpr std::string_view savedDocumentKind = "Документы (*.xml);;Все файлы (*)";
 inline constexpr std::string_view noPapers = "Этикеток и листов нет";
 
+/// What the button that stops an assistant says.
+inline constexpr std::string_view stop = "&Остановить";
+/// How many are done, and how many there are.
+inline constexpr std::string_view packagesAdded = "Добавлено упаковок: %1 из %2";
+
 // Main form: groups of the header's fields, the country that is written over all lines.
 inline constexpr std::string_view documentGroup = "Документ";
 inline constexpr std::string_view orderGroup = "Заказ";

@@ -37,24 +37,47 @@ void NumberOffer::opened() {
   }
 }
 
-void NumberOffer::offer() {
+void NumberOffer::takeFor(std::size_t count) {
   const std::vector<std::string> shown = numbersInTable();
   const std::set<std::string> own(shown.begin(), shown.end());
-  if (own.contains(offered_)) offered_.clear();
-  if (offered_.empty()) {
-    const std::vector<std::string> taken = numbers_.take(1, document(), own);
-    if (taken.empty()) return;
-    offered_ = taken.front();
-  }
+  std::erase_if(waiting_, [&](const std::string& number) { return own.contains(number); });
+  if (waiting_.size() >= count) return;
+  const std::vector<std::string> taken = numbers_.take(count - waiting_.size(), document(), own);
+  waiting_.insert(waiting_.end(), taken.begin(), taken.end());
+}
+
+void NumberOffer::prepare(std::size_t count) {
+  // Where none can be taken now, each package tells why.
+  caughtError([&] { takeFor(count); });
+}
+
+std::string NumberOffer::wordsFor(std::size_t count) {
+  std::string told;
+  caughtError([&] {
+    const std::optional<NumberRange> range = numbers_.range();
+    if (!range) {
+      told = "Номера упаковок не заданы, а без номера упаковку не добавить.";
+    } else if (const std::uint64_t left = numbersLeft(*range) + waiting_.size(); left < count) {
+      told = joined({"Номеров не хватит: осталось ", std::to_string(left), "."});
+    } else {
+      told = leftWords(*range);
+    }
+  });
+  return told;
+}
+
+void NumberOffer::offer() {
+  takeFor(1);
+  if (waiting_.empty()) return;
   Control* const place = dialog_.focus();
-  dialog_.txtSerialNumberN.userType(offered_);
+  dialog_.txtSerialNumberN.userType(waiting_.front());
   // The user begins where he would have begun.
   if (place != nullptr && place->takesInput()) place->userFocus();
 }
 
 void NumberOffer::closed() {
   const bool isAccepted = dialog_.DialogResult == 1;
-  if (isAccepted && dialog_.txtSerialNumberN.text() == offered_) offered_.clear();
+  if (isAccepted && isOffered(dialog_.txtSerialNumberN.text())) waiting_.pop_front();
 }
 
 void NumberOffer::documentKept() {
@@ -72,11 +95,10 @@ std::string NumberOffer::words() {
   std::string told;
   caughtError([&] {
     const std::optional<NumberRange> range = numbers_.range();
-    const bool isOffered = !number.empty() && number == offered_;
     const bool isMissed = number.empty() && dialog_.AddMode;
     if (const auto use = numbers_.useElsewhere(number, document())) {
       told = useWords(*use);
-    } else if (range && (isOffered || (isMissed && numbersLeft(*range) == 0))) {
+    } else if (range && (isOffered(number) || (isMissed && numbersLeft(*range) == 0))) {
       told = leftWords(*range);
     }
   });

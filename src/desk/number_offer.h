@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +25,10 @@ class NumberOffer {
   void opened();
   /// It has gone.
   void closed();
+  /// So many packages will be added one after the other: their numbers are taken in one step.
+  void prepare(std::size_t count);
+  /// Whether there are numbers for so many packages.
+  std::string wordsFor(std::size_t count);
   /// The document was read, saved or sent: its numbers are on record from now on.
   void documentKept();
 
@@ -35,12 +41,18 @@ class NumberOffer {
   std::string document() const;
   /// Of all rows of packages that are shown.
   std::vector<std::string> numbersInTable() const;
+  bool isOffered(std::string_view number) const {
+    return !waiting_.empty() && waiting_.front() == number;
+  }
+  /// So many numbers wait to be accepted, fewer where there are no more.
+  void takeFor(std::size_t count);
   void offer();
 
   GivenNumbers& numbers_;
   const Editor& editor_;
   DlgSzczegoly& dialog_;
-  std::string offered_;  ///< shown, and not accepted yet; empty for none
+  /// Taken, and not accepted yet; the first is offered next.
+  std::deque<std::string> waiting_;
   std::string trouble_;  ///< why none could be taken
 };
 

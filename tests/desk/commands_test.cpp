@@ -51,7 +51,7 @@ TEST_F(CommandsTest, EachDoesOneThingAndNoTwoTheSame) {
     EXPECT_TRUE(isNew) << command->words;
   }
   EXPECT_EQ(buttons.size(), 10U);
-  EXPECT_EQ(tasks.size(), 15U);
+  EXPECT_EQ(tasks.size(), 16U);
 }
 
 TEST_F(CommandsTest, NoTwoOfAMenuShareALetterAndNoTwoOfAPlaceAKey) {

@@ -11,6 +11,7 @@ class DlgWczytajZapisz;
 class FaultList;
 class FindDialog;
 class NumberRangeDialog;
+class PackagesDialog;
 class PapersDialog;
 }  // namespace awizo
 
@@ -25,6 +26,7 @@ void layOut(DlgWczytajZapisz& form, FormDialog& dialog);
 void layOut(FaultList& form, FormDialog& dialog);
 void layOut(FindDialog& form, FormDialog& dialog);
 void layOut(NumberRangeDialog& form, FormDialog& dialog);
+void layOut(PackagesDialog& form, FormDialog& dialog);
 void layOut(PapersDialog& form, FormDialog& dialog);
 /// Any other form: its controls one below the other in their order.
 void layOut(Form& form, FormDialog& dialog);

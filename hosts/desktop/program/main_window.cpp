@@ -18,6 +18,7 @@
 #include "hosts/desktop/layouts/wrapping.h"
 #include "hosts/desktop/program/guide.h"
 #include "hosts/desktop/program/kept_shape.h"
+#include "hosts/desktop/window/assistants.h"
 #include "hosts/desktop/window/finder.h"
 #include "hosts/desktop/window/paper_maker.h"
 #include "hosts/version.h"
@@ -170,6 +171,8 @@ void MainWindow::perform(HostTask task) {
       return widget_->paperMaker().showSaved();
     case HostTask::showNumbers:
       return widget_->showNumberRange();
+    case HostTask::addPackages:
+      return widget_->assistants().addPackages();
     case HostTask::showGuide:
       return openGuide(*this);
     case HostTask::showAbout:

@@ -12,6 +12,7 @@
 #include "hosts/desktop/faces/form_face.h"
 #include "hosts/desktop/layouts/command_actions.h"
 #include "hosts/desktop/screen/message_box.h"
+#include "hosts/desktop/window/assistants.h"
 #include "hosts/desktop/window/finder.h"
 #include "hosts/desktop/window/kept_record.h"
 #include "hosts/desktop/window/main_layout.h"
@@ -93,6 +94,7 @@ struct AwizoWysylkiWidget::Parts {
   Finder* finder = nullptr;  ///< belongs to `content`
   std::unique_ptr<PaperMaker> paperMaker;
   std::unique_ptr<PackageNumbers> packageNumbers;  ///< null where the firm has none
+  std::unique_ptr<Assistants> assistants;
 };
 
 AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
@@ -109,6 +111,10 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
         parts.surroundings.platform.clock, parts.face);
     parts.finder->rules().moreFaults = [&parts] { return parts.packageNumbers->faults(); };
   }
+  parts.assistants = std::make_unique<Assistants>(
+      Assistance{parts.surroundings.assistedFace, parts.control, parts.history,
+                 parts.packageNumbers ? &parts.packageNumbers->offer() : nullptr},
+      parts.face, parts.waiting, *this);
   parts.status = layOutMain(parts.control.editor, *parts.faces, parts.finder->strip());
   parts.faces->showAll();
   parts.commands =
@@ -186,6 +192,7 @@ void AwizoWysylkiWidget::showNumberRange() {
   if (parts_->packageNumbers) parts_->packageNumbers->showRange();
 }
 
+Assistants& AwizoWysylkiWidget::assistants() { return *parts_->assistants; }
 Waiting& AwizoWysylkiWidget::waiting() { return parts_->waiting; }
 
 bool AwizoWysylkiWidget::hasFailed() const { return parts_->face.programEnded(); }

@@ -20,6 +20,7 @@ class History;
 
 namespace awizo::desktop {
 
+class Assistants;
 class CommandActions;
 class Finder;
 class PaperMaker;
@@ -89,6 +90,7 @@ class AwizoWysylkiWidget : public QWidget {
   PaperMaker& paperMaker();
   /// Lets the user set the range of package numbers, where the firm has any.
   void showNumberRange();
+  Assistants& assistants();
   Waiting& waiting();
 
  signals:

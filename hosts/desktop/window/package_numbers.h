@@ -19,6 +19,7 @@ class PackageNumbers {
                  const Clock& clock, HostScreenFace& face);
 
   void showRange();
+  NumberOffer& offer() { return offer_; }
   std::vector<DocumentFault> faults() { return offer_.faults(); }
 
  private:

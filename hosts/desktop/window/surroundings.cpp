@@ -11,6 +11,7 @@ Surroundings::Surroundings(const GivenParts& given, QWidget& widget,
                            std::function<void(std::string_view)> propertyChanged)
     : waiting(widget),
       face(waiting),
+      assistedFace(face),
       locale(chosenLocale(given.locale)),
       network({[this] {
                  waiting.goOn();
@@ -27,7 +28,7 @@ Surroundings::Surroundings(const GivenParts& given, QWidget& widget,
                .files = files,
                .clock = given.clock != nullptr ? *given.clock : machineClock,
                .locale = locale,
-               .screenFace = face,
+               .screenFace = assistedFace,
                .version = programVersion} {
   helpToChooseFiles(face, files, given.settings);
 }

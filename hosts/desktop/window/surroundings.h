@@ -9,6 +9,7 @@
 #include "adapters/libxml2/libxml2.h"
 #include "adapters/posix/clocks.h"
 #include "adapters/posix/posix_files.h"
+#include "assistants/assisted_face.h"
 #include "hosts/common/given_host.h"
 #include "hosts/common/program/recorded_options.h"
 #include "hosts/desktop/window/host_screen_face.h"
@@ -52,6 +53,7 @@ struct Surroundings {
 
   Waiting waiting;
   HostScreenFace face;
+  AssistedFace assistedFace;  ///< over the other; it is the platform's
   Libxml2 xml;
   IcuLocale locale;
   CurlHttp network;

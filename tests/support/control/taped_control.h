@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -38,11 +39,28 @@ inline journal::RecordedSession sessionIn(const MemoryRecord& record) {
 
 /// A control whose surroundings go over a tape. Its user links awizo_journal.
 struct TapedControl {
+  /// What stands between the tape and the screen.
+  using Between = std::function<ScreenFace&(ScreenFace& real)>;
+
   /// Nothing is written where `file` is null.
-  explicit TapedControl(GrowingFile* file, std::vector<journal::Record> replayed = {})
+  explicit TapedControl(
+      GrowingFile* file, std::vector<journal::Record> replayed = {},
+      const Between& between = [](ScreenFace& real) -> ScreenFace& { return real; },
+      std::string_view localeName = "ru_RU")
       : tape(std::move(replayed), file),
-        desk("ru_RU", [this](const Platform& real) -> const Platform& {
-          platform = std::make_unique<journal::TapedPlatform>(tape, real);
+        desk(localeName, [this, &between](const Platform& real) -> const Platform& {
+          const Platform under{.xml = real.xml,
+                               .http = real.http,
+                               .page = real.page,
+                               .bag = real.bag,
+                               .host = real.host,
+                               .settings = real.settings,
+                               .files = real.files,
+                               .clock = real.clock,
+                               .locale = real.locale,
+                               .screenFace = between(real.screenFace),
+                               .version = real.version};
+          platform = std::make_unique<journal::TapedPlatform>(tape, under);
           return platform->platform;
         }) {
     recording = std::make_unique<journal::Recording>(tape, *platform, desk.control);

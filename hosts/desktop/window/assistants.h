@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QWidget>
+
+#include "assistants/assistance.h"
+#include "assistants/packages_dialog.h"
+#include "hosts/desktop/window/host_screen_face.h"
+
+namespace awizo::desktop {
+
+/// The assistants in the window: each asks in a dialog what to do, and does it while the window
+/// shows how far it is and lets the user stop it.
+class Assistants {
+ public:
+  Assistants(const Assistance& with, HostScreenFace& face, Waiting& waiting, QWidget& window);
+
+  void addPackages();
+
+  PackagesDialog& packagesDialog() { return packagesDialog_; }
+
+ private:
+  /// Runs what can be stopped by the user, and by the window's end. `words`: before the numbers.
+  AssistantReport run(const QString& words,
+                      const std::function<AssistantReport(const GoOn& goOn)>& work);
+  void tell(const std::string& words);
+
+  Assistance with_;
+  HostScreenFace& face_;
+  Waiting& waiting_;
+  QWidget& window_;
+  PackagesDialog packagesDialog_;
+};
+
+}  // namespace awizo::desktop
