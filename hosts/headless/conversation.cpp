@@ -2,14 +2,46 @@
 
 #include <utility>
 
+#include "hosts/headless/question_lines.h"
 #include "hosts/protocol/answers.h"
 #include "platform/forms/control.h"
 #include "platform/forms/form.h"
 
 namespace awizo::headless {
 
+namespace {
+
+bool isAnswer(const std::string& text) {
+  try {
+    return protocol::parseLine(text).contains("answer");
+  } catch (const protocol::BadLine&) {
+    return false;
+  }
+}
+
+}  // namespace
+
 void Conversation::run() {
   while (const std::optional<std::string> line = waitForLine()) serve(*line);
+}
+
+Choice Conversation::choose(const Question& question) {
+  emit(questionEvent(question));
+  std::optional<Choice> choice;
+  std::deque<std::string> early;
+  while (!choice) {
+    std::string text = nextLine();
+    if (!isAnswer(text)) {
+      early.push_back(std::move(text));
+      continue;
+    }
+    lines_.write(protocol::closingLineOf(text, [&](const protocol::Json& line) {
+      choice = choiceIn(line, question);
+      return protocol::Json::object();
+    }));
+  }
+  early_ = std::move(early);
+  return *choice;
 }
 
 Answer Conversation::ask(const MessageBox& box) {
@@ -49,7 +81,10 @@ void Conversation::endProgram() {
 
 std::optional<std::string> Conversation::waitForLine() {
   beforeWaiting();
-  return lines_.read();
+  if (early_.empty()) return lines_.read();
+  std::string line = std::move(early_.front());
+  early_.pop_front();
+  return line;
 }
 
 std::string Conversation::nextLine() {

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <iosfwd>
 #include <optional>
 #include <string>
 
+#include "desk/question.h"
 #include "hosts/headless/line_stream.h"
 #include "hosts/protocol/values/json.h"
 #include "platform/forms/screen_face.h"
@@ -42,6 +44,9 @@ class Conversation : public ScreenFace {
   /// form.
   void emit(const protocol::Json& event);
 
+  /// Asks before there is a control. Lines that come before the answer are served after it.
+  Choice choose(const Question& question);
+
   Answer ask(const MessageBox& box) override;
   /// Serves lines until the form has hidden.
   void runModal(Form& form) override;
@@ -55,6 +60,7 @@ class Conversation : public ScreenFace {
   void serve(const std::string& text);
 
   LineStream lines_;
+  std::deque<std::string> early_;  ///< lines that came before a question was answered
   bool givenUp_ = false;
 };
 

@@ -5,16 +5,23 @@
 #include <utility>
 
 #include "adapters/libxml2/libxml2.h"
+#include "desk/layout_words.h"
 #include "hosts/common/given_host.h"
+#include "hosts/common/program/kept_record.h"
 #include "hosts/common/program/recorded_options.h"
 #include "hosts/headless/conversation.h"
 #include "hosts/headless/desk_records.h"
+#include "hosts/headless/kept_work.h"
 #include "hosts/headless/recording.h"
+#include "hosts/headless/step_lines.h"
 #include "hosts/protocol/answers.h"
 #include "hosts/protocol/changes/feed_actions.h"
 #include "hosts/protocol/control_access.h"
 #include "hosts/version.h"
+#include "journal/history.h"
 #include "journal/recording.h"
+#include "journal/unfinished_work.h"
+#include "platform/text.h"
 
 namespace awizo::headless {
 
@@ -23,25 +30,32 @@ namespace {
 /// The control in its surroundings, with a client that speaks lines to it.
 class Program {
  public:
-  /// The options as they were given, and with what the replayed session adds.
-  Program(const Options& given, const Options& options, journal::RecordedSession&& replayed,
-          Machine& machine, std::istream& in, std::ostream& out);
+  Program(Beginning&& beginning, Machine& machine, Conversation& conversation);
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
 
   /// From the control's creation to its end.
   void run();
 
  private:
+  void addLines();
   void tellWhatIsOpen();
+  void tell(const std::string& words);
+  void tellOfTrouble(const std::string& why);
+  void tellSteps();
 
-  Conversation conversation_;
+  Conversation& conversation_;
+  Options options_;
   Libxml2 xml_;
-  std::unique_ptr<GrowingFile> record_;
   std::unique_ptr<Locale> locale_;
   OptionsPage page_;
   OptionsBag bag_;
   ReportingHost host_;
   std::unique_ptr<SettingsStore> settings_;
   std::unique_ptr<Clock> clock_;
+  std::unique_ptr<GrowingFile> record_;  ///< that the options ask for
+  KeptRecord kept_;                      ///< that the machine keeps
   journal::Tape tape_;
   journal::TapedPlatform taped_;
   SessionState session_;
@@ -49,26 +63,26 @@ class Program {
   journal::Recording recording_;
   protocol::ControlAccess access_;
   protocol::ChangeFeed feed_;
+  journal::History history_;
+  protocol::Json steps_;  ///< as they were told last; null for a client that isn't told
 };
 
-void reportLostRecord(const std::string& description) {
-  std::cerr << "awizo-headless: the record can't be written any more: " << description
-            << ". The work goes on without it.\n";
-}
-
-Program::Program(const Options& given, const Options& options, journal::RecordedSession&& replayed,
-                 Machine& machine, std::istream& in, std::ostream& out)
-    : conversation_(in, out),
-      record_(newRecord(options, localeName(options, machine), machine)),
-      locale_(machine.locale(localeName(options, machine))),
-      page_(options),
-      bag_(options),
+Program::Program(Beginning&& beginning, Machine& machine, Conversation& conversation)
+    : conversation_(conversation),
+      options_(std::move(beginning.options)),
+      locale_(machine.locale(localeName(options_, machine))),
+      page_(options_),
+      bag_(options_),
       host_([this](std::string_view property) {
         conversation_.emit(protocol::propertyEvent(property));
       }),
-      settings_(machine.settings(options)),
-      clock_(machine.clock(options)),
-      tape_(std::move(replayed.records), record_.get()),
+      settings_(machine.settings(options_)),
+      clock_(machine.clock(options_)),
+      record_(newRecord(options_, localeName(options_, machine), machine)),
+      kept_(machine.records(), headerOf(options_, localeName(options_, machine)),
+            [this](const std::string& why) { tellOfTrouble(why); }),
+      tape_(std::move(beginning.replayed.records),
+            record_ == nullptr ? kept_.file() : record_.get()),
       taped_(tape_,
              {.xml = xml_,
               .http = machine.http(),
@@ -81,27 +95,53 @@ Program::Program(const Options& given, const Options& options, journal::Recorded
               .locale = *locale_,
               .screenFace = conversation_,
               .version = programVersion},
-             askedToday(given)),
+             std::move(beginning.today)),
       session_(taped_.platform),
       control_(taped_.platform, session_),
       recording_(tape_, taped_, control_),
       access_(control_, bag_),
       feed_(access_.forms(),
-            [this](const protocol::Json& changes) { conversation_.emit(changes); }) {
-  protocol::addFeedActions(access_.dispatcher(), access_.forms(), feed_);
-  addDeskRecords(access_.dispatcher(), control_);
-  conversation_.beforeWaiting = [this] { feed_.flush(); };
+            [this](const protocol::Json& changes) { conversation_.emit(changes); }),
+      history_(tape_, control_) {
+  addLines();
   for (Form* dialog : access_.dialogs()) conversation_.watch(*dialog);
   conversation_.act = [this](const protocol::Json& line) { return access_.act(line); };
-  access_.dispatcher().noteHostDeed = [this](const protocol::Json& line, const auto& deed) {
-    return recording_.doHostAct(hostActOf(line), deed);
+  conversation_.beforeWaiting = [this] {
+    feed_.flush();
+    tellSteps();
   };
   recording_.performHostAct = [this](const std::vector<std::string>& texts) {
     access_.act(lineOf(texts));
   };
-  tape_.onTrouble = reportLostRecord;
-  recording_.onLive = [this] { tellWhatIsOpen(); };
+  tape_.onTrouble = [this](const std::string& why) { tellOfTrouble(why); };
+  if (kept_.file() != nullptr) {
+    tape_.summary = [this] { return journal::textsOf(journal::summaryOf(control_, *clock_)); };
+  }
+  recording_.onLive = [this, record = std::move(beginning.record), time = beginning.time] {
+    tellWhatIsOpen();
+    if (record.empty()) return;
+    if (tape_.recording()) kept_.forgetReplayed(record);
+    tell(joined({words::continued, time}));
+  };
   conversation_.silent = tape_.replaying();
+}
+
+Program::~Program() {
+  conversation_.act = nullptr;
+  conversation_.beforeWaiting = nullptr;
+}
+
+void Program::addLines() {
+  protocol::Dispatcher& dispatcher = access_.dispatcher();
+  protocol::addFeedActions(dispatcher, access_.forms(), feed_);
+  addDeskRecords(dispatcher, control_);
+  addStepLines(dispatcher, control_, history_, [this](const std::string& words) { tell(words); });
+  dispatcher.clientActions["followSteps"] = [this](const protocol::Json&) {
+    steps_ = protocol::Json::object();
+  };
+  dispatcher.noteHostDeed = [this](const protocol::Json& line, const auto& deed) {
+    return recording_.doHostAct(hostActOf(line), deed);
+  };
 }
 
 void Program::tellWhatIsOpen() {
@@ -109,6 +149,25 @@ void Program::tellWhatIsOpen() {
   for (const Form* form : taped_.screen.opened()) {
     if (form != &control_.form) conversation_.emit(protocol::formEvent(*form));
   }
+}
+
+void Program::tell(const std::string& words) {
+  conversation_.emit({{"event", "told"}, {"text", words}});
+}
+
+void Program::tellOfTrouble(const std::string& why) {
+  std::cerr << "awizo-headless: the record can't be written any more: " << why
+            << ". The work goes on without it.\n";
+  if (record_ == nullptr) tell(joined({words::notRecorded, why}));
+}
+
+void Program::tellSteps() {
+  if (steps_.is_null()) return;
+  protocol::Json now{{"event", "steps"}};
+  now.update(stepCommands(control_, history_));
+  if (now == steps_) return;
+  conversation_.emit(now);
+  steps_ = std::move(now);
 }
 
 void Program::run() {
@@ -120,11 +179,9 @@ void Program::run() {
 }  // namespace
 
 int runHeadless(const Options& options, Machine& machine, std::istream& in, std::ostream& out) {
-  journal::RecordedSession replayed = sessionToReplay(options, machine);
-  const Options whole = withRecorded(options, replayed.header);
-  Program program(options, whole, std::move(replayed), machine, in, out);
+  Conversation conversation(in, out);
   try {
-    program.run();
+    Program(beginningOf(options, machine, conversation), machine, conversation).run();
   } catch (const journal::ReplayDiffers& differs) {
     std::cerr << "awizo-headless: the replay differs at act " << differs.deed << ": "
               << differs.what << '\n';

@@ -9,6 +9,7 @@
 #include "platform/growing_file.h"
 #include "platform/http.h"
 #include "platform/locale.h"
+#include "platform/record_folder.h"
 #include "platform/settings.h"
 
 namespace awizo::headless {
@@ -29,6 +30,9 @@ class Machine {
   virtual std::string readFile(const std::string& path) = 0;
   /// A file that isn't there yet.
   virtual std::unique_ptr<GrowingFile> newFile(const std::string& path) = 0;
+  /// Where sessions are recorded, so that nothing of them is lost; null where the machine's user
+  /// says by the options what is recorded.
+  virtual RecordFolder* records() { return nullptr; }
   virtual std::string absolutePath(const std::string& path) = 0;
 };
 

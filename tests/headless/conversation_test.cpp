@@ -166,5 +166,35 @@ TEST_F(ConversationTest, OutputThatNobodyReadsIsLostInSilence) {
   EXPECT_EQ(talk.form.label.caption(), "Clicked");
 }
 
+const Question goOnQuestion{.text = "Go on?", .choices = {Choice::goOn, Choice::later}};
+
+TEST_F(ConversationTest, QuestionIsAnsweredByAChoiceOfItsOwn) {
+  talk.in.str("{\"id\":1,\"answer\":\"save\"}\n{\"id\":2,\"answer\":\"later\"}\n");
+  EXPECT_EQ(talk.conversation.choose(goOnQuestion), Choice::later);
+  EXPECT_EQ(texts(talk.output()),
+            (std::vector<std::string>{
+                R"({"event":"question","text":"Go on?","icon":"question","harmless":"cancel",)"
+                R"("choices":[{"choice":"goOn","words":"&Продолжить"},)"
+                R"({"choice":"later","words":"О&тложить"}]})",
+                R"({"ok":false,"id":1,"error":"The question has no such choice."})",
+                R"({"ok":true,"id":2})"}));
+}
+
+TEST_F(ConversationTest, LinesBeforeAQuestionsAnswerAreServedAfterIt) {
+  talk.in.str("{\"id\":1,\"get\":\"focus\"}\nno line\n{\"id\":2,\"answer\":\"goOn\"}\n");
+  EXPECT_EQ(talk.conversation.choose(goOnQuestion), Choice::goOn);
+  EXPECT_EQ(talk.output().size(), 2U);
+  talk.conversation.run();
+  const std::vector<Json> lines = talk.output();
+  ASSERT_EQ(lines.size(), 4U);
+  EXPECT_EQ(lines[2].value("id", 0), 1);
+  EXPECT_FALSE(lines[3].value("ok", true));
+}
+
+TEST_F(ConversationTest, InputThatEndsUnderAQuestionEndsAll) {
+  talk.in.str("{\"get\":\"focus\"}\n");
+  EXPECT_THROW(talk.conversation.choose(goOnQuestion), InputEnded);
+}
+
 }  // namespace
 }  // namespace awizo::headless::test

@@ -3,6 +3,7 @@
 #include "hosts/web/core/page_files.h"
 #include "hosts/web/core/page_http.h"
 #include "hosts/web/core/page_locale.h"
+#include "hosts/web/core/page_records.h"
 #include "platform/run_time_error.h"
 #include "web/played_border.h"
 
@@ -51,6 +52,40 @@ TEST(PageFiles, ATextIsOpenFromItsCreationToItsEnd) {
   EXPECT_THAT(border.questions,
               ElementsAre(ElementsAre("open", "/a.log", "create"),
                           ElementsAre("append", "5", "строка\r\n"), ElementsAre("close", "5")));
+}
+
+TEST(PageRecords, AreListedMadeReadAndRemoved) {
+  PlayedBorder border([](const Fields& question) -> Fields {
+    if (question[0] == "records") return {"0", "a", "7", "1763766000", "0", "b", "8", "2", "1"};
+    if (question[0] == "newRecord") return {"0", "c", "5"};
+    return {"0", "bytes"};
+  });
+  PageRecords records("/.VIRD.records");
+  const std::vector<FoundRecord> found = records.records();
+  ASSERT_EQ(found.size(), 2U);
+  EXPECT_EQ(found[0].name, "a");
+  EXPECT_EQ(found[0].size, 7U);
+  EXPECT_EQ(found[0].changed, 1763766000);
+  EXPECT_FALSE(found[0].inUse);
+  EXPECT_TRUE(found[1].inUse);
+  {
+    const NewRecord made = records.create();
+    EXPECT_EQ(made.name, "c");
+    made.file->append("x");
+  }
+  EXPECT_EQ(records.read("a"), "bytes");
+  records.remove("b");
+  EXPECT_THAT(
+      border.questions,
+      ElementsAre(ElementsAre("records", "/.VIRD.records"),
+                  ElementsAre("newRecord", "/.VIRD.records"), ElementsAre("append", "5", "x"),
+                  ElementsAre("close", "5"), ElementsAre("readRecord", "/.VIRD.records", "a"),
+                  ElementsAre("removeRecord", "/.VIRD.records", "b")));
+}
+
+TEST(PageRecords, OneOfAnotherTabCantBeRead) {
+  PlayedBorder border([](const Fields&) { return Fields{"70"}; });
+  EXPECT_EQ(errorNumberOf([] { PageRecords("/r").read("a"); }), 70);
 }
 
 TEST(PageHttp, AReplyIsHandedOverOnce) {

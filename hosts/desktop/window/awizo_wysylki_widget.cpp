@@ -9,17 +9,18 @@
 #include "desk/document_watch.h"
 #include "desk/layout_words.h"
 #include "desk/step_words.h"
+#include "hosts/common/program/kept_record.h"
 #include "hosts/desktop/faces/form_face.h"
 #include "hosts/desktop/layouts/command_actions.h"
 #include "hosts/desktop/screen/message_box.h"
 #include "hosts/desktop/window/assistants.h"
 #include "hosts/desktop/window/finder.h"
-#include "hosts/desktop/window/kept_record.h"
 #include "hosts/desktop/window/main_layout.h"
 #include "hosts/desktop/window/package_numbers.h"
 #include "hosts/desktop/window/paper_maker.h"
 #include "hosts/desktop/window/surroundings.h"
 #include "journal/history.h"
+#include "journal/recording.h"
 #include "journal/unfinished_work.h"
 #include "platform/text.h"
 #include "session/awizo_wysylki.h"
@@ -50,7 +51,8 @@ struct AwizoWysylkiWidget::Parts {
                        if (property == properties::onLine) emit widget.onLineChanged();
                        if (property == properties::debugLevel) emit widget.debugLevelChanged();
                      }),
-        record(given.records, [this](const std::string& why) { recordingTrouble = why; }),
+        record(given.records.folder, given.records.header,
+               [this](const std::string& why) { recordingTrouble = why; }),
         replayedName(given.records.replayedName),
         tape(given.records.replayed.records, record.file()),
         taped(tape, surroundings.platform, given.records.today),

@@ -15,9 +15,7 @@ using posix::systemPath;
 /// A file that stays open on the other side as long as this lives.
 class OpenFile {
  public:
-  /// `how` is "create", "continue" or "new".
-  OpenFile(const std::string& path, const std::string& how)
-      : handle_(checked(ask({"open", path, how})).at(0)) {}
+  explicit OpenFile(std::string handle) : handle_(std::move(handle)) {}
   ~OpenFile() { askNow({"close", handle_}); }
   OpenFile(const OpenFile&) = delete;
   OpenFile& operator=(const OpenFile&) = delete;
@@ -29,9 +27,14 @@ class OpenFile {
   std::string handle_;
 };
 
+/// `how` is "create", "continue" or "new".
+std::string handleOf(const std::string& path, const std::string& how) {
+  return checked(ask({"open", path, how})).at(0);
+}
+
 class PageText final : public TextStream {
  public:
-  PageText(const std::string& path, const std::string& how) : file_(path, how) {}
+  explicit PageText(std::string handle) : file_(std::move(handle)) {}
   void writeLine(std::string_view bytes) override { file_.append(std::string(bytes) + "\r\n"); }
 
  private:
@@ -40,7 +43,7 @@ class PageText final : public TextStream {
 
 class PageGrowingFile final : public GrowingFile {
  public:
-  explicit PageGrowingFile(const std::string& path) : file_(path, "new") {}
+  explicit PageGrowingFile(std::string handle) : file_(std::move(handle)) {}
   void append(std::string_view bytes) override { file_.append(std::string(bytes)); }
   void flush() override { file_.flush(); }
 
@@ -57,11 +60,11 @@ void PageFiles::replace(std::string_view path, std::string_view bytes) {
 }
 
 std::unique_ptr<TextStream> PageFiles::createText(std::string_view path) {
-  return std::make_unique<PageText>(systemPath(path), "create");
+  return std::make_unique<PageText>(handleOf(systemPath(path), "create"));
 }
 
 std::unique_ptr<TextStream> PageFiles::continueText(std::string_view path) {
-  return std::make_unique<PageText>(systemPath(path), "continue");
+  return std::make_unique<PageText>(handleOf(systemPath(path), "continue"));
 }
 
 bool PageFiles::folderExists(std::string_view path) {
@@ -91,7 +94,11 @@ std::string readPageFile(const std::string& path) {
 }
 
 std::unique_ptr<GrowingFile> newPageFile(const std::string& path) {
-  return std::make_unique<PageGrowingFile>(path);
+  return std::make_unique<PageGrowingFile>(handleOf(path, "new"));
+}
+
+std::unique_ptr<GrowingFile> openedPageFile(const std::string& handle) {
+  return std::make_unique<PageGrowingFile>(handle);
 }
 
 }  // namespace awizo::web

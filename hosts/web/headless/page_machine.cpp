@@ -8,6 +8,11 @@
 
 namespace awizo::web {
 
+PageMachine::PageMachine() {
+  const Fields folder = askNow({"recordFolder"});
+  if (!folder.empty()) records_.emplace(folder[0]);
+}
+
 std::unique_ptr<Clock> PageMachine::clock(const Options& options) {
   return chosenClock(options, std::make_unique<PageClock>());
 }

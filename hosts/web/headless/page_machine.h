@@ -1,14 +1,19 @@
 #pragma once
 
+#include <optional>
+
 #include "hosts/headless/machine.h"
 #include "hosts/web/core/page_files.h"
 #include "hosts/web/core/page_http.h"
+#include "hosts/web/core/page_records.h"
 
 namespace awizo::web {
 
 /// The machine behind the border.
 class PageMachine final : public headless::Machine {
  public:
+  PageMachine();
+
   Http& http() override { return http_; }
   Files& files() override { return files_; }
   std::unique_ptr<Clock> clock(const Options& options) override;
@@ -19,11 +24,13 @@ class PageMachine final : public headless::Machine {
   std::unique_ptr<GrowingFile> newFile(const std::string& path) override {
     return newPageFile(path);
   }
+  RecordFolder* records() override { return records_ ? &*records_ : nullptr; }
   std::string absolutePath(const std::string& path) override;
 
  private:
   PageHttp http_;
   PageFiles files_;
+  std::optional<PageRecords> records_;
 };
 
 }  // namespace awizo::web

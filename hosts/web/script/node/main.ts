@@ -62,6 +62,9 @@ const computer: Surroundings = {
       case "complain":
         write(standardError, bytesOf(fields[0]));
         return [];
+      // What is recorded there the options say.
+      case "recordFolder":
+        return [];
       case "arguments":
         return given;
       case "clock":

@@ -1,7 +1,8 @@
 // The element's talk with its core: lines out, closing lines and events in.
 
 import type { Closing, Event, Output } from "./facts.ts";
-import type { FromWorker, Start } from "./messages.ts";
+import * as words from "#words";
+import { replayDiffers, type FromWorker, type Start } from "./messages.ts";
 
 export type Line = Record<string, unknown>;
 
@@ -43,7 +44,8 @@ export class CoreClient {
     if ("said" in message) this.takeText(message.said);
     else if ("kept" in message) this.listener.kept(...message.kept);
     else if ("complaint" in message) this.listener.complaint(message.complaint);
-    else this.listener.ended("failed" in message ? message.failed : undefined);
+    else if ("failed" in message) this.listener.ended(message.failed);
+    else this.listener.ended(message.ended === replayDiffers ? words.replayFailed : undefined);
   }
 
   private takeText(text: string): void {

@@ -1,13 +1,16 @@
 // <awizo-wysylki>: the editor as an element of a page.
 
+import * as deskWords from "#words";
 import { CoreClient, type Line, type Listener } from "./core_client.ts";
 import { focusable, make, plainWords } from "./dom.ts";
-import type { Box, Changes, Closing, ControlFacts, Event as CoreEvent, FormFacts } from "./facts.ts";
+import { DeskStrip } from "./desk_strip.ts";
+import type { Box, Changes, Closing, ControlFacts, Event as CoreEvent, FormFacts, Question } from "./facts.ts";
 import type { Host } from "./face.ts";
 import { FormView } from "./form_view.ts";
 import { dialogs, mainForm } from "./layouts.ts";
 import { startOf } from "./start.ts";
 import { styles } from "./styles.ts";
+import { TypingWatch } from "./typing_watch.ts";
 
 interface Command {
   words: string;
@@ -22,6 +25,12 @@ const answers: Record<Box["buttons"], [string, string][]> = {
   YesNo: [["Yes", "Да"], ["No", "Нет"]],
 };
 
+function stepOf(event: KeyboardEvent): "takeBack" | "doAgain" | undefined {
+  if (!event.ctrlKey || event.altKey) return undefined;
+  if (event.code === "KeyZ") return event.shiftKey ? "doAgain" : "takeBack";
+  return event.code === "KeyY" ? "doAgain" : undefined;
+}
+
 export class AwizoWysylki extends HTMLElement {
   private core: CoreClient | undefined;
   private readonly root = this.attachShadow({ mode: "open" });
@@ -31,12 +40,18 @@ export class AwizoWysylki extends HTMLElement {
   private readonly shown: { name: string; element: HTMLDialogElement }[] = [];
   private box: HTMLDialogElement | undefined;
   private commands: Command[] = [];
+  private readonly strip = new DeskStrip((step) => void this.goStep(step));
+  private readonly typing = new TypingWatch(this.root);
 
-  connectedCallback(): void {
+  constructor() {
+    super();
     this.root.adoptedStyleSheets = [styles()];
-    this.root.replaceChildren(make("p", { class: "waiting", role: "status" }, ["Редактор запускается…"]));
     this.root.addEventListener("keydown", (event) => this.pressKey(event as KeyboardEvent));
     this.root.addEventListener("focusin", (event) => this.followUser(event.target as Element));
+  }
+
+  connectedCallback(): void {
+    this.root.replaceChildren(make("p", { class: "waiting", role: "status" }, ["Редактор запускается…"]));
     this.core = new CoreClient(new URL("worker.mjs", import.meta.url), startOf(this), this.listener());
     void this.begin(this.core);
   }
@@ -44,7 +59,16 @@ export class AwizoWysylki extends HTMLElement {
   disconnectedCallback(): void {
     this.core?.end();
     this.core = undefined;
+    this.forget();
+  }
+
+  /// What was known of the core that has ended: the next one begins anew.
+  private forget(): void {
     this.views.clear();
+    for (const known of [this.kinds, this.forms]) for (const name of Object.keys(known)) delete known[name];
+    this.shown.length = 0;
+    this.box = undefined;
+    this.strip.clear();
   }
 
   /// Any line of the editor's own protocol: what a user does, a procedure, a question.
@@ -62,8 +86,10 @@ export class AwizoWysylki extends HTMLElement {
   private async begin(core: CoreClient): Promise<void> {
     const menus = (await core.say({ get: "commands" })).value as { commands: Command[] }[];
     this.commands = menus.flatMap((menu) => menu.commands);
-    void core.say({ do: "subscribe" });
-    await core.say({ do: "show" });
+    void core.say({ do: "followSteps" });
+    await core.say({ do: "subscribe" });
+    // Work that was gone on with is shown already.
+    if (this.forms[mainName]?.shown !== true) await core.say({ do: "show" });
   }
 
   private listener(): Listener {
@@ -81,6 +107,12 @@ export class AwizoWysylki extends HTMLElement {
         return this.takeChanges(event);
       case "message":
         return this.openBox(event);
+      case "question":
+        return this.openQuestion(event);
+      case "steps":
+        return this.strip.showSteps(event);
+      case "told":
+        return this.strip.tell(event.text);
       case "changed":
         this.dispatchEvent(new CustomEvent("propertychanged", { detail: event.property, bubbles: true }));
         return;
@@ -128,7 +160,7 @@ export class AwizoWysylki extends HTMLElement {
     const view = this.views.get(name);
     if (view === undefined) return;
     if (name === mainName) {
-      this.root.replaceChildren(make("main", { lang: "ru" }, [view.element]));
+      this.root.replaceChildren(make("main", { lang: "ru" }, [this.strip.element, view.element]));
       return;
     }
     const title = make("h2", { id: `title-${name}` });
@@ -153,30 +185,47 @@ export class AwizoWysylki extends HTMLElement {
   }
 
   private openBox(box: Box): void {
-    const buttons = answers[box.buttons].map(([answer, words]) => {
+    this.ask(box.title, box.text, box.icon, answers[box.buttons], box.buttons === "OK" ? "OK" : undefined);
+  }
+
+  private openQuestion(question: Question): void {
+    const choices = question.choices.map(({ choice, words }): [string, string] => [choice, plainWords(words)]);
+    this.ask(deskWords.boxTitle, question.text, question.icon, choices, question.harmless);
+  }
+
+  /// `harmless`: the answer that Escape gives; none where the user must choose.
+  private ask(title: string, text: string, icon: string, choices: [string, string][], harmless?: string): void {
+    const buttons = choices.map(([answer, words]) => {
       const button = make("button", { type: "button", "data-answer": answer }, [words]);
       button.addEventListener("click", () => this.answer(answer));
       return button;
     });
-    const element = make("dialog", { role: "alertdialog", class: `box ${box.icon}`, lang: "ru", "aria-labelledby": "box-title", "aria-describedby": "box-text" }, [
-      make("header", {}, [make("h2", { id: "box-title" }, [box.title])]),
-      make("p", { id: "box-text" }, [box.text.replaceAll("\r\n", "\n").replaceAll("\r", "\n")]),
+    const element = make("dialog", { role: "alertdialog", class: `box ${icon}`, lang: "ru", "aria-labelledby": "box-title", "aria-describedby": "box-text" }, [
+      make("header", {}, [make("h2", { id: "box-title" }, [title])]),
+      make("p", { id: "box-text" }, [text.replaceAll("\r\n", "\n").replaceAll("\r", "\n")]),
       make("div", { class: "beside buttons" }, buttons),
     ]);
     element.addEventListener("cancel", (event) => {
       event.preventDefault();
-      if (box.buttons === "OK") this.answer("OK");
+      if (harmless !== undefined) this.answer(harmless);
     });
     this.box = element;
     this.root.append(element);
     element.showModal();
-    buttons[0]!.focus();
+    const first = choices.findIndex(([answer]) => answer === harmless);
+    buttons[Math.max(first, 0)]!.focus();
   }
 
   private answer(answer: string): void {
     this.box?.remove();
     this.box = undefined;
     void this.closingOf({ answer });
+  }
+
+  private async goStep(step: "takeBack" | "doAgain"): Promise<void> {
+    this.typing.forget();
+    await this.closingOf({ do: step });
+    this.followModel();
   }
 
   private host(): Host {
@@ -213,6 +262,12 @@ export class AwizoWysylki extends HTMLElement {
   private pressKey(event: KeyboardEvent): void {
     const top = this.top();
     if (this.box !== undefined || top === undefined) return;
+    const step = stepOf(event);
+    if (step !== undefined && top.name === mainName && !this.typing.ownsKey(event)) {
+      event.preventDefault();
+      void this.goStep(step);
+      return;
+    }
     const command = top.name !== mainName ? undefined : this.commands.find((one) =>
       one.keys.some((key) => key.code === event.keyCode && key.control === event.ctrlKey) &&
       (one.place === null || one.place === top.focus));
@@ -242,8 +297,7 @@ export class AwizoWysylki extends HTMLElement {
     if (words === undefined) return;
     const again = make("button", { type: "button" }, ["Начать заново"]);
     again.addEventListener("click", () => this.connectedCallback());
-    this.views.clear();
-    this.shown.length = 0;
+    this.forget();
     this.root.replaceChildren(make("div", { class: "stack dead", role: "alert", lang: "ru" }, [
       make("p", {}, [plainWords(words)]), again,
     ]));

@@ -59,9 +59,27 @@ export interface Box {
   buttons: "OK" | "YesNo";
 }
 
+/// A question of the desk, with the words of its own answers.
+export interface Question {
+  event: "question";
+  text: string;
+  icon: string;
+  harmless: string;
+  choices: { choice: string; words: string }[];
+}
+
+/// The commands that take a step back and do it again; null where there is none.
+export interface Steps {
+  takeBack: string | null;
+  doAgain: string | null;
+}
+
 export type Event =
   | Changes
   | Box
+  | Question
+  | ({ event: "steps" } & Steps)
+  | { event: "told"; text: string }
   | { event: "modal" | "hidden"; form: string; caption?: string }
   | { event: "changed"; property: string }
   | { event: "end" };

@@ -9,8 +9,13 @@ export interface Start {
   files: [string, string][];
   /// The local folder.
   folder: string;
+  /// Where sessions are recorded.
+  records: string;
   wasm: string;
 }
+
+/// The core's exit status where kept work couldn't be done again.
+export const replayDiffers = 4;
 
 export type ToWorker = { start: Start } | { line: string };
 

@@ -29,7 +29,8 @@ function errorName(error: unknown): RunTimeErrorName {
   throw error;
 }
 
-async function done(work: () => Promise<readonly Field[] | void>): Promise<readonly Field[]> {
+/// The answer to a question that takes time: what the work returns, or its error.
+export async function done(work: () => Promise<readonly Field[] | void>): Promise<readonly Field[]> {
   try {
     return [good, ...((await work()) ?? [])];
   } catch (error) {
@@ -37,7 +38,7 @@ async function done(work: () => Promise<readonly Field[] | void>): Promise<reado
   }
 }
 
-function namesOf(path: string): string[] {
+export function namesOf(path: string): string[] {
   const names: string[] = [];
   for (const name of path.split("/")) {
     if (name === "..") names.pop();
@@ -46,7 +47,7 @@ function namesOf(path: string): string[] {
   return names;
 }
 
-async function folderOf(names: readonly string[], create = false): Promise<FileSystemDirectoryHandle> {
+export async function folderOf(names: readonly string[], create = false): Promise<FileSystemDirectoryHandle> {
   let folder = await navigator.storage.getDirectory();
   for (const name of names) folder = await folder.getDirectoryHandle(name, { create });
   return folder;
@@ -71,6 +72,10 @@ async function replace(path: string, bytes: Uint8Array): Promise<void> {
   await writable.close();
 }
 
+export async function readFile(path: string): Promise<Uint8Array> {
+  return new Uint8Array(await (await (await fileOf(path, false)).getFile()).arrayBuffer());
+}
+
 async function exists(path: string): Promise<boolean> {
   try {
     await fileOf(path, false);
@@ -81,7 +86,8 @@ async function exists(path: string): Promise<boolean> {
   }
 }
 
-async function open(path: string, how: string): Promise<string> {
+/// The name by which the open file is known. `how` is "create", "continue" or "new".
+export async function openFile(path: string, how: string): Promise<string> {
   if (how === "new" && (await exists(path))) throw new Taken();
   const file = await (await fileOf(path, true)).createSyncAccessHandle();
   if (how !== "continue") file.truncate(0);
@@ -131,11 +137,11 @@ export function answerAboutFiles(question: string, fields: Uint8Array[]): Promis
   const path = () => textOf(fields[0]);
   switch (question) {
     case "read":
-      return done(async () => [new Uint8Array(await (await (await fileOf(path(), false)).getFile()).arrayBuffer())]);
+      return done(async () => [await readFile(path())]);
     case "replace":
       return done(() => replace(path(), bytesOf(fields[1])));
     case "open":
-      return done(async () => [await open(path(), textOf(fields[1]))]);
+      return done(async () => [await openFile(path(), textOf(fields[1]))]);
     case "isFolder":
       return done(async () => [(await isFolder(path())) ? "1" : "0"]);
     case "makeFolder":

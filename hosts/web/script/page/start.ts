@@ -19,6 +19,11 @@ function keptSettings(): [string, string][] {
   }
 }
 
+/// Beside the folder. A name that begins so is in no list of folders.
+function recordsBeside(folder: string): string {
+  return folder.replace(/([^/]*)\/*$/, ".$1.records");
+}
+
 export function startOf(element: HTMLElement): Start {
   const folder = element.getAttribute("folder") ?? defaultFolder;
   const given: string[] = [];
@@ -36,6 +41,7 @@ export function startOf(element: HTMLElement): Start {
   const userInfo = element.getAttribute("user-info");
   if (userInfo !== null) files.push([`${folder}/userinfo.xml`, new URL(userInfo, document.baseURI).href]);
   return {
-    arguments: given, settings: keptSettings(), files, folder, wasm: new URL("awizo.wasm", import.meta.url).href,
+    arguments: given, settings: keptSettings(), files, folder, records: recordsBeside(folder),
+    wasm: new URL("awizo.wasm", import.meta.url).href,
   };
 }

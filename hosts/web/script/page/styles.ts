@@ -21,6 +21,8 @@ main { padding: 12px; }
 .beside > .field, .beside > fieldset, .beside > .stack { flex: 1 1 200px; min-width: 0; }
 .beside > .stack { gap: 4px; flex-basis: 180px; }
 .beside .beside > .field { flex-basis: 130px; }
+.strip { display: flex; flex-wrap: wrap; gap: 8px; align-items: center; margin-bottom: 10px; }
+.strip output { color: var(--awizo-pale); overflow-wrap: anywhere; }
 fieldset { border: 1px solid var(--awizo-line); border-radius: 8px; padding: 10px 12px 12px; margin: 0;
   background: var(--awizo-paper); min-width: 0; }
 fieldset fieldset { border: 0; padding: 0; }

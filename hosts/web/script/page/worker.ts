@@ -7,13 +7,21 @@ import { good } from "../errors.ts";
 import { Locales } from "../locale.ts";
 import { exchange } from "./http.ts";
 import type { FromWorker, Start, ToWorker } from "./messages.ts";
+import { answerAboutRecords } from "./records.ts";
 import { answerAboutFiles, answerAboutOpenFiles, makeFolders, putFile } from "./opfs.ts";
 
 const lines: string[] = [];
+let said = "";
 let wake: (() => void) | undefined;
 
 function tell(message: FromWorker): void {
   postMessage(message);
+}
+
+/// A line's answer and the changes behind it arrive together, so that nobody acts on what was.
+function tellSaid(): void {
+  if (said !== "") tell({ said });
+  said = "";
 }
 
 async function nextLine(): Promise<string> {
@@ -31,20 +39,23 @@ function browser(start: Start): Surroundings {
   const nameOf = (fields: Uint8Array[]) => fields.slice(1, 4).map(textOf).join("/");
   return {
     async ask(question, fields) {
+      tellSaid();
       if (question === "line") return [await nextLine()];
       if (question === "http") return exchange(fields);
-      return answerAboutFiles(question, fields) ?? unknown(question);
+      return answerAboutFiles(question, fields) ?? answerAboutRecords(question, fields) ?? unknown(question);
     },
     askNow(question, fields) {
       switch (question) {
         case "say":
-          tell({ said: textOf(fields[0]) });
+          said += textOf(fields[0]);
           return [];
         case "complain":
           tell({ complaint: textOf(fields[0]) });
           return [];
         case "arguments":
           return start.arguments;
+        case "recordFolder":
+          return [start.records];
         case "clock":
           return localMoment();
         case "localeName":
@@ -78,7 +89,9 @@ async function run(start: Start): Promise<void> {
     if (!canSuspend()) throw new Error("Этот браузер не умеет приостанавливать WebAssembly. Нужен Chrome, Edge 137 или Firefox 153 и новее.");
     const [module] = await Promise.all([WebAssembly.compileStreaming(fetch(start.wasm)), prepareFiles(start)]);
     const core = await loadCore(module, browser(start));
-    tell({ ended: await core.run() });
+    const status = await core.run();
+    tellSaid();
+    tell({ ended: status });
   } catch (error) {
     tell({ failed: error instanceof Error ? error.message : String(error) });
   }

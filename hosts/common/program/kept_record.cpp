@@ -1,12 +1,13 @@
-#include "hosts/desktop/window/kept_record.h"
+#include "hosts/common/program/kept_record.h"
 
 #include <cstdint>
 
+#include "journal/loading.h"
 #include "journal/record_file.h"
 #include "journal/unfinished_work.h"
 #include "platform/run_time_error.h"
 
-namespace awizo::desktop {
+namespace awizo {
 namespace {
 
 /// Some ten sessions with the largest catalogue.
@@ -14,15 +15,14 @@ constexpr std::uint64_t mostBytesKept = 250'000'000;
 
 }  // namespace
 
-KeptRecord::KeptRecord(const GivenRecords& given,
+KeptRecord::KeptRecord(RecordFolder* folder, const RecordHeader& header,
                        const std::function<void(const std::string&)>& onTrouble)
-    : folder_(given.folder) {
+    : folder_(folder) {
   if (folder_ == nullptr) return;
   try {
     journal::keepWithin(*folder_, mostBytesKept);
     record_ = folder_->create();
-    record_.file->append(journal::fileBeginning() +
-                         journal::framed(journal::headerRecord(given.header)));
+    record_.file->append(journal::fileBeginning() + journal::framed(journal::headerRecord(header)));
   } catch (const RunTimeError& error) {
     record_.file.reset();
     onTrouble(error.description());
@@ -54,4 +54,4 @@ void KeptRecord::remove(const std::string& name) {
   }
 }
 
-}  // namespace awizo::desktop
+}  // namespace awizo

@@ -3,17 +3,18 @@
 #include <functional>
 #include <string>
 
-#include "hosts/desktop/window/surroundings.h"
-#include "journal/recording.h"
+#include "hosts/common/program/recorded_options.h"
+#include "platform/record_folder.h"
 
-namespace awizo::desktop {
+namespace awizo {
 
 /// The record of one session in the user's folder. It stays there when the program ends without
 /// having ended the session.
 class KeptRecord {
  public:
   /// Makes a new record, unless there is no folder. What goes wrong is told to `onTrouble` once.
-  KeptRecord(const GivenRecords& given, const std::function<void(const std::string&)>& onTrouble);
+  KeptRecord(RecordFolder* folder, const RecordHeader& header,
+             const std::function<void(const std::string&)>& onTrouble);
   /// The session has ended as its user wanted: nothing of it is left.
   ~KeptRecord();
   KeptRecord(const KeptRecord&) = delete;
@@ -30,4 +31,4 @@ class KeptRecord {
   NewRecord record_;
 };
 
-}  // namespace awizo::desktop
+}  // namespace awizo

@@ -1,0 +1,137 @@
+// A user of the page in a real browser: clicks and keys alone.
+
+import assert from "node:assert/strict";
+
+import { chromium, type Locator, type Page } from "playwright-core";
+
+const pictures = process.env["AWIZO_PICTURES"] || undefined;
+const browserFile = "/usr/bin/chromium";
+const patience = 60_000;
+
+/// Of the page; the service stands beside it.
+export const address = process.argv.at(-1) ?? "";
+const service = new URL(address).origin;
+
+export interface Request {
+  exchange: string;
+  cookie: string;
+  body: string;
+}
+
+export async function requests(): Promise<Request[]> {
+  return (await (await fetch(`${service}/_requests`)).json()) as Request[];
+}
+
+export class User {
+  readonly editor: Locator;
+  private readonly page: Page;
+
+  constructor(page: Page) {
+    this.page = page;
+    this.editor = page.locator("awizo-wysylki");
+    page.setDefaultTimeout(patience);
+  }
+
+  control(name: string): Locator {
+    return this.editor.locator(`[data-name="${name}"]`);
+  }
+
+  field(name: string): Locator {
+    return this.control(name).locator("input");
+  }
+
+  dialog(name: string): Locator {
+    return this.editor.locator(`dialog[aria-labelledby="title-${name}"]`);
+  }
+
+  async open(): Promise<void> {
+    await this.page.goto(address);
+    await this.isReady();
+  }
+
+  async isReady(): Promise<void> {
+    await this.control("grdPozycje").getByRole("row").nth(1).waitFor();
+  }
+
+  /// Whether to go on with work that was left behind.
+  question(): Locator {
+    return this.editor.getByRole("alertdialog").filter({ has: this.editor.page().locator("[data-answer=goOn]") });
+  }
+
+  /// Answers the box that is open, and returns its text.
+  async answer(answer: string): Promise<string> {
+    const box = this.editor.getByRole("alertdialog");
+    await box.waitFor();
+    const text = await box.locator("p").innerText();
+    await box.locator(`[data-answer=${answer}]`).click();
+    return text;
+  }
+
+  async addPackage(description: string, serial: string): Promise<void> {
+    await this.control("btnDodajOpak").click();
+    await this.field("DlgSzczegoly.txtPackageDesc").fill(description);
+    await this.field("DlgSzczegoly.cboxILNLokalizacji").fill("9520002001016");
+    await this.field("DlgSzczegoly.txtSerialNumberN").fill(serial);
+    await this.control("DlgSzczegoly.btnDodaj").click();
+    await this.dialog("DlgSzczegoly").waitFor({ state: "detached" });
+  }
+
+  async goToFirstLine(): Promise<void> {
+    const lines = this.control("grdPozycje");
+    await lines.press("Home");
+    await lines.evaluate((table) => (table.scrollTop = 0));
+    await lines.locator('[data-row="1"] [data-col="1"]').click();
+  }
+
+  async packFirstLine(): Promise<void> {
+    await this.goToFirstLine();
+    await this.control("btnEdytuj").click();
+    await this.control("DlgDodaj.Command1").click();
+    await this.control("DlgdodajPule.cboxPackages").locator(".opener").click();
+    await this.control("DlgdodajPule.cboxPackages").getByRole("option").first().click();
+    await this.control("DlgdodajPule.btnDodaj").click();
+    await this.dialog("DlgdodajPule").waitFor({ state: "detached" });
+    await this.picture("line-dialog");
+    await this.control("DlgDodaj.btnDodaj").click();
+    await this.dialog("DlgDodaj").waitFor({ state: "detached" });
+  }
+
+  /// Sends the document, answering all that is asked on the way, and returns what the service got.
+  async send(): Promise<Request> {
+    await this.control("btnPrzeslij").click();
+    const seen: string[] = [];
+    while (!seen.at(-1)?.includes("отправлен")) {
+      const box = this.editor.getByRole("alertdialog");
+      await box.waitFor();
+      seen.push(await this.answer((await box.locator("[data-answer=Yes]").count()) > 0 ? "Yes" : "OK"));
+      assert.ok(seen.length < 10, seen.join(" | "));
+    }
+    return (await requests()).at(-1)!;
+  }
+
+  async picture(name: string): Promise<void> {
+    if (pictures === undefined) return;
+    for (const width of [360, 800, 1920]) {
+      await this.page.setViewportSize({ width, height: 900 });
+      await this.page.screenshot({ path: `${pictures}/${name}-${width}.png`, fullPage: true });
+    }
+    await this.page.setViewportSize({ width: 1280, height: 900 });
+  }
+}
+
+/// Does the work in a browser of its own, whose page may complain of nothing.
+export async function withPage(work: (page: Page) => Promise<void>): Promise<void> {
+  const browser = await chromium.launch({ executablePath: browserFile, args: ["--no-sandbox"] });
+  const complaints: string[] = [];
+  try {
+    const context = await browser.newContext({ locale: "ru-RU", viewport: { width: 1280, height: 900 } });
+    const page = await context.newPage();
+    page.on("pageerror", (error) => complaints.push(error.message));
+    page.on("console", (message) => message.type() === "error" && complaints.push(message.text()));
+    await fetch(`${service}/_reset`, { method: "POST" });
+    await work(page);
+    assert.deepEqual(complaints, []);
+  } finally {
+    await browser.close();
+  }
+}
