@@ -1,6 +1,7 @@
 // <awizo-wysylki>: the editor as an element of a page.
 
 import * as deskWords from "#words";
+import { ControlElement } from "./control_element.ts";
 import { CoreClient, type Line, type Listener } from "./core_client.ts";
 import { focusable, make, plainWords } from "./dom.ts";
 import { DeskStrip } from "./desk_strip.ts";
@@ -31,7 +32,7 @@ function stepOf(event: KeyboardEvent): "takeBack" | "doAgain" | undefined {
   return event.code === "KeyY" ? "doAgain" : undefined;
 }
 
-export class AwizoWysylki extends HTMLElement {
+export class AwizoWysylki extends ControlElement {
   private core: CoreClient | undefined;
   private readonly root = this.attachShadow({ mode: "open" });
   private readonly views = new Map<string, FormView>();
@@ -52,6 +53,7 @@ export class AwizoWysylki extends HTMLElement {
 
   connectedCallback(): void {
     this.root.replaceChildren(make("p", { class: "waiting", role: "status" }, ["Редактор запускается…"]));
+    this.takeAttributes();
     this.core = new CoreClient(new URL("worker.mjs", import.meta.url), startOf(this), this.listener());
     void this.begin(this.core);
   }
@@ -69,16 +71,10 @@ export class AwizoWysylki extends HTMLElement {
     this.shown.length = 0;
     this.box = undefined;
     this.strip.clear();
+    this.forgetProperties();
   }
 
-  /// Any line of the editor's own protocol: what a user does, a procedure, a question.
-  async say(line: Line): Promise<unknown> {
-    const closing = await this.closingOf(line);
-    if (!closing.ok) throw new Error(closing.error);
-    return closing.value;
-  }
-
-  private closingOf(line: Line): Promise<Closing> {
+  protected override closingOf(line: Line): Promise<Closing> {
     if (this.core === undefined) return Promise.reject(new Error("the element is in no page"));
     return this.core.say(line);
   }
@@ -86,6 +82,7 @@ export class AwizoWysylki extends HTMLElement {
   private async begin(core: CoreClient): Promise<void> {
     const menus = (await core.say({ get: "commands" })).value as { commands: Command[] }[];
     this.commands = menus.flatMap((menu) => menu.commands);
+    await this.readProperties();
     void core.say({ do: "followSteps" });
     await core.say({ do: "subscribe" });
     // Work that was gone on with is shown already.
@@ -114,7 +111,7 @@ export class AwizoWysylki extends HTMLElement {
       case "told":
         return this.strip.tell(event.text);
       case "changed":
-        this.dispatchEvent(new CustomEvent("propertychanged", { detail: event.property, bubbles: true }));
+        void this.tellChange(event.property);
         return;
       case "end":
         return this.end("Редактор не может работать.");

@@ -88,6 +88,8 @@ export interface Closing {
   ok: boolean;
   id?: number;
   value?: unknown;
+  /// A procedure's arguments as it left them.
+  args?: unknown[];
   error?: string;
 }
 
