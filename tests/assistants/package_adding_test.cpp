@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include <chrono>
+#include <ctime>
 
 #include "assistants/assisted_session.h"
 
@@ -181,11 +181,12 @@ TEST_F(PackageAdding, OfFiveHundredBoxesTakesLessThanThreeSeconds) {
   addPackages(assistance, pallet(), {});
   PackagePlan plan = boxes(500);
   plan.parent = 0;
-  const auto start = std::chrono::steady_clock::now();
+  // The processor's time, since other tests run beside this one.
+  const std::clock_t start = std::clock();
   EXPECT_EQ(addPackages(assistance, plan, {}).done, 500);
-  const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-  RecordProperty("seconds", std::to_string(taken.count()));
-  EXPECT_LT(taken.count(), 3.0);
+  const double taken = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+  RecordProperty("seconds", std::to_string(taken));
+  EXPECT_LT(taken, 3.0);
 }
 
 }  // namespace
