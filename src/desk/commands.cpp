@@ -33,7 +33,10 @@ std::vector<Command> stepCommands() {
 
 std::vector<Command> packingCommands() {
   return {
-      {.words = "Несколько упа&ковок…", .task = HostTask::addPackages, .keys = {withControl('N')}}};
+      {.words = "Несколько упа&ковок…", .task = HostTask::addPackages, .keys = {withControl('N')}},
+      {.words = "Разло&жить по упаковкам…",
+       .task = HostTask::distribute,
+       .keys = {withControl('D')}}};
 }
 
 std::vector<Command> findCommands() {

@@ -35,6 +35,7 @@ enum class HostTask {
   showPapersOfFile,
   showNumbers,
   addPackages,
+  distribute,
   showGuide,
   showAbout
 };

@@ -6,7 +6,8 @@ namespace awizo {
 
 /// The heading of the user guide's chapter about the form of this name; empty for its beginning.
 constexpr std::string_view guideChapter(std::string_view form) {
-  if (form == "DlgDodaj" || form == "DlgdodajPule" || form == "DlgIsoCodes") {
+  if (form == "DlgDodaj" || form == "DlgdodajPule" || form == "DlgIsoCodes" ||
+      form == "DistributionDialog") {
     return "Товарные позиции";
   }
   if (form == "DlgSzczegoly" || form == "NumberRangeDialog" || form == "PackagesDialog") {

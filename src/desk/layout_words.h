@@ -44,6 +44,7 @@ inline constexpr std::string_view noPapers = "Этикеток и листов �
 inline constexpr std::string_view stop = "&Остановить";
 /// How many are done, and how many there are.
 inline constexpr std::string_view packagesAdded = "Добавлено упаковок: %1 из %2";
+inline constexpr std::string_view linesPacked = "Разложено строк: %1 из %2";
 
 // Main form: groups of the header's fields, the country that is written over all lines.
 inline constexpr std::string_view documentGroup = "Документ";
@@ -64,6 +65,7 @@ inline constexpr std::string_view quantityEditor = "Отгруженное ко�
 inline constexpr std::string_view linePackagesTable = "Упаковки этой строки";
 inline constexpr std::string_view countriesTable = "Страны";
 inline constexpr std::string_view faultsTable = "Что не так";
+inline constexpr std::string_view partsTable = "Что куда ляжет";
 inline constexpr std::string_view customsNumber = "Номер ГТД, первые 8 цифр";
 inline constexpr std::string_view customsDate = "Номер ГТД, дата";
 inline constexpr std::string_view customsSerial = "Номер ГТД, последние 7 цифр";

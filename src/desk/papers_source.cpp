@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "desk/marked_rows.h"
 #include "desk/partners.h"
 #include "formats/advice_of_document.h"
 #include "formats/advice_of_tables.h"
@@ -32,16 +33,6 @@ void takePlaces(const SessionState& session, const DespatchAdvice& advice, paper
   }
 }
 
-std::vector<std::size_t> markedRows(const Table& table, std::size_t count) {
-  std::vector<std::size_t> rows;
-  const int first = std::max(1, std::min(table.row(), table.rowSel()));
-  const int last = std::max(table.row(), table.rowSel());
-  for (int row = first; row <= last && std::cmp_less_equal(row, count); ++row) {
-    rows.push_back(static_cast<std::size_t>(row));
-  }
-  return rows;
-}
-
 }  // namespace
 
 PapersSource papersSource(const Editor& editor) {
@@ -56,7 +47,9 @@ PapersSource papersSource(const Editor& editor) {
   if (source.advice.header.sellerILN == session.SellerILN) source.names.seller = session.SellerName;
   if (source.advice.header.buyerILN == session.BuyerILN) source.names.buyer = session.BuyerName;
   takePlaces(session, source.advice, source.names);
-  source.marked = markedRows(editor.form.grdOpakowania, source.advice.packages.size());
+  const std::vector<int> marked =
+      markedRows(editor.form.grdOpakowania, static_cast<int>(source.advice.packages.size()));
+  source.marked.assign(marked.begin(), marked.end());
   return source;
 }
 

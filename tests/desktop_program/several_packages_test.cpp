@@ -26,6 +26,17 @@ class SeveralPackagesTest : public ProgramTest {
     then(inside);
     press(Qt::Key_N, Qt::ControlModifier);
   }
+  void addLine(const std::string& despatched) {
+    then([=, this] {
+      DlgDodaj& line = control().dlgDodaj;
+      line.txtlEANProdWart.userType("4607000000116");
+      line.txtNazwaProdWart.userType("Чай");
+      line.txtIloscPotw.userType(despatched);
+      line.btnDodaj.userClick();
+    });
+    form().btnDodaj.userClick();
+  }
+
   /// Types into the dialog's fields and accepts.
   void addBoxes(int count) {
     typeOver(dialogFace(dialog().txtCount), QString::number(count));
@@ -55,6 +66,23 @@ TEST_F(SeveralPackagesTest, TheKeyAsksAndThreeBoxesAreMadeAndTakenBackAtOnce) {
   tabTo(form().grdOpakowania);
   press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(packageCount(), 0);
+}
+
+TEST_F(SeveralPackagesTest, TheKeyDistributesLinesOverTheBoxes) {
+  open(offLineOptions());
+  asking([this] { addBoxes(2); });
+  answerWithEnter([this] { addLine("8,25"); });
+  answerWithEnter([this] { addLine("5"); });
+  then([this] {
+    EXPECT_EQ(shownText(dialogFace(widget().assistants().distributionDialog().lblSummary)),
+              "Строк войдёт целиком: 2 из 2.");
+    press(Qt::Key_Return);
+  });
+  press(Qt::Key_D, Qt::ControlModifier);
+  EXPECT_EQ(form().grdPozycje.cell(1, GRD_POZ_PACKED_QTY), "8,250");
+  EXPECT_EQ(form().grdPozycje.cell(2, GRD_POZ_PACKED_QTY), "5,000");
+  widget().takeBack();
+  EXPECT_EQ(form().grdPozycje.cell(1, GRD_POZ_PACKED_QTY), "0,000");
 }
 
 TEST_F(SeveralPackagesTest, ARefusalIsTold) {

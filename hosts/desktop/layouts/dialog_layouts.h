@@ -3,6 +3,7 @@
 #include "hosts/desktop/layouts/form_dialog.h"
 
 namespace awizo {
+class DistributionDialog;
 class DlgDodaj;
 class DlgdodajPule;
 class DlgIsoCodes;
@@ -18,6 +19,7 @@ class PapersDialog;
 namespace awizo::desktop {
 
 // One layout for each dialog: puts every face into the window.
+void layOut(DistributionDialog& form, FormDialog& dialog);
 void layOut(DlgDodaj& form, FormDialog& dialog);
 void layOut(DlgdodajPule& form, FormDialog& dialog);
 void layOut(DlgIsoCodes& form, FormDialog& dialog);

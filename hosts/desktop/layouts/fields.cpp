@@ -100,6 +100,14 @@ QHBoxLayout* makeRow(std::initializer_list<QWidget*> widgets) {
   return row;
 }
 
+void addNotes(QBoxLayout& rows, FormFace& faces, std::initializer_list<const Control*> labels) {
+  for (const Control* label : labels) {
+    auto* shown = static_cast<QLabel*>(faces.widget(*label));
+    shown->setWordWrap(true);
+    rows.addWidget(shown);
+  }
+}
+
 QHBoxLayout* makeButtonRow(FormFace& faces, const Control& accept, const Control& close) {
   auto* row = new QHBoxLayout;
   row->setSpacing(8);

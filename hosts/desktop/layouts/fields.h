@@ -48,6 +48,9 @@ void makeBold(QWidget& words);
 /// A row of widgets and the room that is left after them.
 QHBoxLayout* makeRow(std::initializer_list<QWidget*> widgets);
 
+/// Labels one below the other whose texts may be long.
+void addNotes(QBoxLayout& rows, FormFace& faces, std::initializer_list<const Control*> labels);
+
 /// The accepting and closing buttons at the foot of a dialog, the same width, on the right.
 QHBoxLayout* makeButtonRow(FormFace& faces, const Control& accept, const Control& close);
 

@@ -2,6 +2,7 @@
 
 #include <QFormLayout>
 
+#include "assistants/distribution_dialog.h"
 #include "assistants/packages_dialog.h"
 #include "desk/fault_list.h"
 #include "desk/find_dialog.h"
@@ -37,7 +38,8 @@ FormDialog* makeDialog(Form& form, QWidget* parent) {
       layOutAs<DlgIsoCodes>(form, *dialog) || layOutAs<DlgSzczegoly>(form, *dialog) ||
       layOutAs<DlgWczytajZapisz>(form, *dialog) || layOutAs<FaultList>(form, *dialog) ||
       layOutAs<FindDialog>(form, *dialog) || layOutAs<PapersDialog>(form, *dialog) ||
-      layOutAs<NumberRangeDialog>(form, *dialog) || layOutAs<PackagesDialog>(form, *dialog);
+      layOutAs<NumberRangeDialog>(form, *dialog) || layOutAs<PackagesDialog>(form, *dialog) ||
+      layOutAs<DistributionDialog>(form, *dialog);
   if (!known) layOut(form, *dialog);
   dialog->makeScrollable();
   // A widget with a new parent must be shown again.

@@ -22,11 +22,7 @@ void layOut(NumberRangeDialog& form, FormDialog& dialog) {
   }
   faces.widget(form.txtPrefix)->setMinimumWidth(dialog.fontMetrics().averageCharWidth() * 30);
   rows->addWidget(holder);
-  for (const Label* label : {&form.lblExample, &form.lblLeft, &form.lblDoubt}) {
-    auto* shown = static_cast<QLabel*>(faces.widget(*label));
-    shown->setWordWrap(true);
-    rows->addWidget(shown);
-  }
+  addNotes(*rows, faces, {&form.lblExample, &form.lblLeft, &form.lblDoubt});
   rows->addStretch(1);
   rows->addLayout(makeButtonRow(faces, form.btnSave, form.btnClose));
 }

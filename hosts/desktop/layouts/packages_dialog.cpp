@@ -28,11 +28,7 @@ void layOut(PackagesDialog& form, FormDialog& dialog) {
   }
   faces.widget(form.txtDescription)->setMinimumWidth(dialog.fontMetrics().averageCharWidth() * 40);
   rows->addWidget(holder);
-  for (const Label* label : {&form.lblExample, &form.lblNumbers, &form.lblRefusal}) {
-    auto* shown = static_cast<QLabel*>(faces.widget(*label));
-    shown->setWordWrap(true);
-    rows->addWidget(shown);
-  }
+  addNotes(*rows, faces, {&form.lblExample, &form.lblNumbers, &form.lblRefusal});
   rows->addStretch(1);
   rows->addLayout(makeButtonRow(faces, form.btnAdd, form.btnClose));
 }

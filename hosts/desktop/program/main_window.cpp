@@ -173,6 +173,8 @@ void MainWindow::perform(HostTask task) {
       return widget_->showNumberRange();
     case HostTask::addPackages:
       return widget_->assistants().addPackages();
+    case HostTask::distribute:
+      return widget_->assistants().distribute();
     case HostTask::showGuide:
       return openGuide(*this);
     case HostTask::showAbout:

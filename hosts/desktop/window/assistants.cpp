@@ -32,14 +32,26 @@ Assistants::Assistants(const Assistance& with, HostScreenFace& face, Waiting& wa
       face_(face),
       waiting_(waiting),
       window_(window),
-      packagesDialog_(with.control.editor, with.numbers) {}
+      packagesDialog_(with.control.editor, with.numbers),
+      distributionDialog_(with.control.editor) {}
+
+bool Assistants::mayAct() const { return !waiting_.lasts() && with_.control.form.takesInput(); }
 
 void Assistants::addPackages() {
-  if (waiting_.lasts() || !with_.control.form.takesInput()) return;
+  if (!mayAct()) return;
   const std::optional<PackagePlan> plan = packagesDialog_.ask();
   if (!plan) return;
   tell(addingWords(run(fromText(words::packagesAdded),
                        [&](const GoOn& goOn) { return awizo::addPackages(with_, *plan, goOn); })));
+}
+
+void Assistants::distribute() {
+  if (!mayAct()) return;
+  const std::optional<DistributionOrder> order = distributionDialog_.ask();
+  if (!order) return;
+  tell(distributionWords(run(fromText(words::linesPacked), [&](const GoOn& goOn) {
+    return awizo::distribute(with_, order->choice, order->plans, goOn);
+  })));
 }
 
 AssistantReport Assistants::run(const QString& words,

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "assistants/assistance.h"
+#include "assistants/distribution_dialog.h"
 #include "assistants/packages_dialog.h"
 #include "hosts/desktop/window/host_screen_face.h"
 
@@ -15,10 +16,13 @@ class Assistants {
   Assistants(const Assistance& with, HostScreenFace& face, Waiting& waiting, QWidget& window);
 
   void addPackages();
+  void distribute();
 
   PackagesDialog& packagesDialog() { return packagesDialog_; }
+  DistributionDialog& distributionDialog() { return distributionDialog_; }
 
  private:
+  bool mayAct() const;
   /// Runs what can be stopped by the user, and by the window's end. `words`: before the numbers.
   AssistantReport run(const QString& words,
                       const std::function<AssistantReport(const GoOn& goOn)>& work);
@@ -29,6 +33,7 @@ class Assistants {
   Waiting& waiting_;
   QWidget& window_;
   PackagesDialog packagesDialog_;
+  DistributionDialog distributionDialog_;
 };
 
 }  // namespace awizo::desktop
