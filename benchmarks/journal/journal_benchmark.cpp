@@ -116,28 +116,32 @@ void ReplayingADay(benchmark::State& state) {
       cost / static_cast<double>(state.iterations()) / secondsAllowedForAReplay;
 }
 
-/// The last step after a day's work, taken back and done again: the longer of the two.
+/// After a day's work, steps are taken back and done again, one by one: the longest of them.
 void TakingBackAfterADay(benchmark::State& state) {
-  test::TapedControl session(nullptr);
+  const test::TemporaryFolder folder;
+  PosixGrowingFile file((folder.path() / "record").string());
+  test::TapedControl session(&file);
   journal::History history(session.tape, session.desk.control);
   start(session);
   while (session.tape.deeds() < actsOfADay) work(session);
-  const auto secondsOfAct = [&](void (journal::History::*act)()) {
-    return secondsOf([&] { (history.*act)(); });
-  };
+  const int packagesOfADay = session.desk.session.IloscPozycjiOpak;
   double longest = 0;
-  for ([[maybe_unused]] const auto turn : state) {
-    // Back over packages and lines, and on again.
-    double seconds = 0;
-    for (const auto act : {&journal::History::takeBack, &journal::History::doAgain}) {
-      for (int step = 0; step < lineCommits; ++step) {
-        seconds = std::max(seconds, secondsOfAct(act));
-      }
+  const auto travel = [&](void (journal::History::*act)()) {
+    for (int step = 0; step < packages; ++step) {
+      const double seconds = secondsOf([&] { (history.*act)(); });
+      longest = std::max(longest, seconds);
     }
-    state.SetIterationTime(seconds);
-    longest = std::max(longest, seconds);
+  };
+  for ([[maybe_unused]] const auto turn : state) {
+    longest = 0;
+    travel(&journal::History::takeBack);
+    // The header's number is one of the steps.
+    const int left = session.desk.session.IloscPozycjiOpak;
+    if (left != packagesOfADay - packages + 1) std::abort();
+    travel(&journal::History::doAgain);
+    if (session.desk.session.IloscPozycjiOpak != packagesOfADay) std::abort();
+    state.SetIterationTime(longest);
   }
-  if (history.toDoAgain() != nullptr) std::abort();
   state.counters["ratio"] = longest / secondsAllowedForTakingBack;
 }
 

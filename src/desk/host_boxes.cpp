@@ -57,6 +57,18 @@ MessageBox paperRefusal(std::string_view what, const RunTimeError& error) {
           BoxButtons::ok};
 }
 
+MessageBox recordThatStays(std::string_view why) {
+  return {joined({"Запись прежней работы не удаляется: ", why,
+                  "\r\n\r\nРаботать можно. При следующем запуске её предложат снова."}),
+          title, BoxIcon::exclamation, BoxButtons::ok};
+}
+
+MessageBox unreadableRecord(std::string_view why) {
+  return {joined({"Запись прежней работы не читается: ", why,
+                  "\r\n\r\nОна остаётся на диске, а работа начнётся заново."}),
+          title, BoxIcon::exclamation, BoxButtons::ok};
+}
+
 MessageBox aboutBox(std::string_view version) {
   return {joined({version, "\r\n\r\nРедактор подтверждений отгрузки (EDIFACT DESADV в виде XML)."}),
           "О программе", BoxIcon::information, BoxButtons::ok};

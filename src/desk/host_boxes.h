@@ -17,6 +17,9 @@ MessageBox newAddressQuestion(std::string_view origin);
 MessageBox launchFileRefusal(std::string_view file, std::string_view why);
 /// No paper came of it. `what`: a file, or words.
 MessageBox paperRefusal(std::string_view what, const RunTimeError& error);
+// A record of earlier work that can't be removed, or not be read. `why`: the disk's own word.
+MessageBox recordThatStays(std::string_view why);
+MessageBox unreadableRecord(std::string_view why);
 /// `version`: the text of the form's version label.
 MessageBox aboutBox(std::string_view version);
 

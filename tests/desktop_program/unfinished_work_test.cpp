@@ -198,6 +198,51 @@ TEST_F(UnfinishedWorkTest, StaysWhereItWasUntilItsNewRecordIsWhole) {
   EXPECT_EQ(folder.records().size(), 1U);
 }
 
+/// A folder of records from which nothing can be removed, and where at last nothing can be read.
+struct StubbornFolder : RecordFolder {
+  explicit StubbornFolder(RecordFolder& real) : real_(real) {}
+  int readings = 100;
+
+  std::vector<FoundRecord> records() override { return real_.records(); }
+  NewRecord create() override { return real_.create(); }
+  std::string read(std::string_view name) override {
+    if (readings-- == 0) throw errors::fileNotFound();
+    return real_.read(name);
+  }
+  void remove(std::string_view) override { throw errors::permissionDenied(); }
+
+ private:
+  RecordFolder& real_;
+};
+
+TEST_F(UnfinishedWorkTest, ThatCantBeRemovedIsToldAndTheWorkGoesOn) {
+  work();
+  crash();
+  StubbornFolder stubborn(folder);
+  records = &stubborn;
+  std::string told;
+  answerNext("&Начать заново", &asked);
+  then([&] { answerNext("OK", &told); });
+  open(onLineOptions(service));
+  EXPECT_NE(told.find("Запись прежней работы не удаляется: Permission denied"), told.npos) << told;
+  EXPECT_EQ(form().txtNrAwiza.text(), "");
+}
+
+TEST_F(UnfinishedWorkTest, ThatCantBeReadAnyMoreIsToldAndTheWorkBeginsAnew) {
+  work();
+  crash();
+  StubbornFolder stubborn(folder);
+  // It was read once for the question.
+  stubborn.readings = 1;
+  records = &stubborn;
+  std::string told;
+  answerNext("&Продолжить", &asked);
+  then([&] { answerNext("OK", &told); });
+  open(onLineOptions(service));
+  EXPECT_NE(told.find("Запись прежней работы не читается: File not found"), told.npos) << told;
+  EXPECT_EQ(form().txtNrAwiza.text(), "");
+}
+
 TEST_F(UnfinishedWorkTest, IsNotRecordedWhereItsUserWantsThat) {
   Options options = offLineOptions();
   options.settingsFile = place.settings().string();

@@ -48,20 +48,40 @@ void MainWindow::begin() {
   }
 }
 
+std::optional<journal::UnfinishedWork> MainWindow::workLeftBehind() const {
+  if (records_ == nullptr) return std::nullopt;
+  try {
+    return journal::unfinishedWork(*records_);
+  } catch (const RunTimeError&) {
+    // The session's own record will tell of a folder that nobody can use.
+    return std::nullopt;
+  }
+}
+
 bool MainWindow::takesUpUnfinishedWork() {
-  if (records_ == nullptr) return false;
-  const auto work = journal::unfinishedWork(*records_);
+  const auto work = workLeftBehind();
   if (!work) return false;
   QuestionBox box(unfinishedQuestion(*work), nullptr);
   box.exec();
-  if (box.choice() == Choice::startAfresh) records_->remove(work->record);
-  if (box.choice() != Choice::goOn) return false;
-  goOnWith(*work);
-  return true;
+  if (box.choice() == Choice::startAfresh) giveUp(work->record);
+  return box.choice() == Choice::goOn && goOnWith(*work);
 }
 
-void MainWindow::goOnWith(const journal::UnfinishedWork& work) {
-  replayed_ = journal::recordedSession(records_->read(work.record));
+void MainWindow::giveUp(const std::string& record) {
+  try {
+    records_->remove(record);
+  } catch (const RunTimeError& error) {
+    askUser(recordThatStays(error.description()), nullptr);
+  }
+}
+
+bool MainWindow::goOnWith(const journal::UnfinishedWork& work) {
+  try {
+    replayed_ = journal::recordedSession(records_->read(work.record));
+  } catch (const RunTimeError& error) {
+    askUser(unreadableRecord(error.description()), nullptr);
+    return false;
+  }
   replayedName_ = work.record;
   // The session's own partner and locale; the page is today's, if one was given.
   Options recorded = launch_;
@@ -72,6 +92,7 @@ void MainWindow::goOnWith(const journal::UnfinishedWork& work) {
   afterStart_ = [this, time = work.summary.time] {
     widget_->watch().tell(joined({words::continued, time}));
   };
+  return true;
 }
 
 void MainWindow::makeSession() {
@@ -130,12 +151,11 @@ void MainWindow::showStartPage(const std::string& why) {
   page.onLaunchFile = [this, later] { later([this] { chooseLaunchFile(); }); };
   page.onGoOn = [this, later](const journal::UnfinishedWork& work) {
     later([this, work] {
-      goOnWith(work);
-      fromStartPage_ = true;
+      if (goOnWith(work)) fromStartPage_ = true;
     });
   };
   page.onAgain = [this, later] { later([this] { makeSession(); }); };
-  if (records_ != nullptr && !replayHasFailed_) page.offer(journal::unfinishedWork(*records_));
+  if (!replayHasFailed_) page.offer(workLeftBehind());
   showPart(startPage_);
   setWindowTitle(fromText(page.caption()));
   page.show(why, namesSession(options_));

@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "desk/commands.h"
 #include "hosts/common/given_host.h"
@@ -56,7 +57,10 @@ class MainWindow : public QMainWindow {
   void begin();
   /// Asks whether to go on with work that was left behind; answers whether that has begun.
   bool takesUpUnfinishedWork();
-  void goOnWith(const journal::UnfinishedWork& work);
+  std::optional<journal::UnfinishedWork> workLeftBehind() const;
+  /// Answers whether that has begun; the user is told where the record can't be read.
+  bool goOnWith(const journal::UnfinishedWork& work);
+  void giveUp(const std::string& record);
   void beginOffLine(const Partner& partner);
   void beginByLaunchFile(const QString& path);
   void makeSession();
