@@ -32,41 +32,41 @@ MessageBox launchFileRefusal(std::string_view file, std::string_view why) {
           std::string(words::boxTitle), BoxIcon::critical, BoxButtons::ok};
 }
 
-MessageBox paperRefusal(std::string_view what, const RunTimeError& error) {
-  std::string reason;
+std::string diskRefusal(const RunTimeError& error) {
   switch (error.number()) {
-    case 5:
-      reason = "это не уведомление об отгрузке, или в нём есть то, чего в документе быть не может";
-      break;
     case 53:
-      reason = "нет такого файла";
-      break;
+      return "нет такого файла";
     case 61:
-      reason = "диск полон";
-      break;
+      return "диск полон";
     case 70:
-      reason = "нет прав доступа";
-      break;
+      return "нет прав доступа";
     case 76:
-      reason = "нет такой папки";
-      break;
+      return "нет такой папки";
     default:
-      reason = error.description();
+      return error.description();
   }
+}
+
+MessageBox paperRefusal(std::string_view what, const RunTimeError& error) {
+  const bool isNoAdvice = error.number() == 5;
+  const std::string reason =
+      isNoAdvice
+          ? "это не уведомление об отгрузке, или в нём есть то, чего в документе быть не может"
+          : diskRefusal(error);
   return {joined({what, ": ", reason, "."}), std::string(words::boxTitle), BoxIcon::critical,
           BoxButtons::ok};
 }
 
-MessageBox recordThatStays(std::string_view why) {
-  return {joined({"Запись прежней работы не удаляется: ", why,
-                  "\r\n\r\nРаботать можно. При следующем запуске её предложат снова."}),
-          title, BoxIcon::exclamation, BoxButtons::ok};
+MessageBox recordThatStays(const RunTimeError& error) {
+  return {joined({"Запись прежней работы не удаляется: ", diskRefusal(error),
+                  ".\r\n\r\nРаботать можно. При следующем запуске её предложат снова."}),
+          std::string(words::boxTitle), BoxIcon::exclamation, BoxButtons::ok};
 }
 
-MessageBox unreadableRecord(std::string_view why) {
-  return {joined({"Запись прежней работы не читается: ", why,
-                  "\r\n\r\nОна остаётся на диске, а работа начнётся заново."}),
-          title, BoxIcon::exclamation, BoxButtons::ok};
+MessageBox unreadableRecord(const RunTimeError& error) {
+  return {joined({"Запись прежней работы не читается: ", diskRefusal(error),
+                  ".\r\n\r\nОна остаётся на диске, а работа начнётся заново."}),
+          std::string(words::boxTitle), BoxIcon::exclamation, BoxButtons::ok};
 }
 
 MessageBox aboutBox(std::string_view version) {

@@ -17,9 +17,11 @@ MessageBox newAddressQuestion(std::string_view origin);
 MessageBox launchFileRefusal(std::string_view file, std::string_view why);
 /// No paper came of it. `what`: a file, or words.
 MessageBox paperRefusal(std::string_view what, const RunTimeError& error);
-// A record of earlier work that can't be removed, or not be read. `why`: the disk's own word.
-MessageBox recordThatStays(std::string_view why);
-MessageBox unreadableRecord(std::string_view why);
+/// What a disk refuses, in the user's language; else the error's own description.
+std::string diskRefusal(const RunTimeError& error);
+// A record of earlier work that can't be removed, or not be read.
+MessageBox recordThatStays(const RunTimeError& error);
+MessageBox unreadableRecord(const RunTimeError& error);
 /// `version`: the text of the form's version label.
 MessageBox aboutBox(std::string_view version);
 

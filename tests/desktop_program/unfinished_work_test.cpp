@@ -222,10 +222,11 @@ TEST_F(UnfinishedWorkTest, ThatCantBeRemovedIsToldAndTheWorkGoesOn) {
   records = &stubborn;
   std::string told;
   answerNext("&Начать заново", &asked);
-  then([&] { answerNext("OK", &told); });
+  then([&] { answerNext("ОК", &told); });
   open(onLineOptions(service));
-  EXPECT_NE(told.find("Запись прежней работы не удаляется: Permission denied"), told.npos) << told;
+  EXPECT_NE(told.find("Запись прежней работы не удаляется: нет прав доступа."), told.npos) << told;
   EXPECT_EQ(form().txtNrAwiza.text(), "");
+  close();
 }
 
 TEST_F(UnfinishedWorkTest, ThatCantBeReadAnyMoreIsToldAndTheWorkBeginsAnew) {
@@ -237,10 +238,11 @@ TEST_F(UnfinishedWorkTest, ThatCantBeReadAnyMoreIsToldAndTheWorkBeginsAnew) {
   records = &stubborn;
   std::string told;
   answerNext("&Продолжить", &asked);
-  then([&] { answerNext("OK", &told); });
+  then([&] { answerNext("ОК", &told); });
   open(onLineOptions(service));
-  EXPECT_NE(told.find("Запись прежней работы не читается: File not found"), told.npos) << told;
+  EXPECT_NE(told.find("Запись прежней работы не читается: нет такого файла."), told.npos) << told;
   EXPECT_EQ(form().txtNrAwiza.text(), "");
+  close();
 }
 
 TEST_F(UnfinishedWorkTest, IsNotRecordedWhereItsUserWantsThat) {

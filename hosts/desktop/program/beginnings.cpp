@@ -71,7 +71,7 @@ void MainWindow::giveUp(const std::string& record) {
   try {
     records_->remove(record);
   } catch (const RunTimeError& error) {
-    askUser(recordThatStays(error.description()), nullptr);
+    askUser(recordThatStays(error), nullptr);
   }
 }
 
@@ -79,7 +79,7 @@ bool MainWindow::goOnWith(const journal::UnfinishedWork& work) {
   try {
     replayed_ = journal::recordedSession(records_->read(work.record));
   } catch (const RunTimeError& error) {
-    askUser(unreadableRecord(error.description()), nullptr);
+    askUser(unreadableRecord(error), nullptr);
     return false;
   }
   replayedName_ = work.record;
