@@ -1,5 +1,7 @@
 #include "assistants/distributing.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "desk/line_words.h"
@@ -9,7 +11,8 @@
 namespace awizo {
 namespace {
 
-constexpr std::string_view pieces = "PCE";
+/// Units of what can be divided; all others are counted, and so is a line without a unit.
+constexpr std::array<std::string_view, 5> measures{"KGM", "MTR", "KMT", "TNE", "LTR"};
 /// A box that lists more is too high for a screen.
 constexpr std::size_t mostListed = 12;
 
@@ -79,7 +82,7 @@ std::vector<LinePlan> plansOf(const Editor& editor, const DistributionChoice& ch
     LineRest rest{.row = row};
     rest.despatched = thousandthsIn(conversions, lines.cell(row, GRD_POZ_QTY_DESPATCHED));
     rest.packed = thousandthsIn(conversions, lines.cell(row, GRD_POZ_PACKED_QTY));
-    rest.isCounted = lines.cell(row, GRD_POZ_UNIT) == pieces;
+    rest.isCounted = std::ranges::find(measures, lines.cell(row, GRD_POZ_UNIT)) == measures.end();
     LinePlan plan = planOf(rest, choice.packages.size(), choice.spread, choice.each);
     if (!plan.parts.empty() || !leftWords(editor, plan).empty()) plans.push_back(std::move(plan));
   }

@@ -66,6 +66,20 @@ TEST_F(Distributing, WritesWhatTheDialogsWrite) {
             "Строка 3 (Соль): осталось 0,5: меньше единицы в упаковку не положить");
 }
 
+TEST_F(Distributing, DividesWhatIsMeasuredAndNothingElse) {
+  for (const char* box : {"Короб 1", "Короб 2"}) addBox(box);
+  std::string divided;
+  for (const char* unit : {"PCE", "KGM", "MTR", "KMT", "PA", "SET", "PR", "TNE", "LTR", ""}) {
+    addLine("Чай", "5");
+    const int row = control.editor.session.LineCount;
+    form.grdPozycje.setCell(row, GRD_POZ_UNIT, unit);
+    const std::vector<LinePlan> plans =
+        plansOf(control.editor, {.lines = {row}, .packages = {1, 2}});
+    if (plans.at(0).parts.at(0).quantity % 1000 != 0) divided += std::string(unit) + " ";
+  }
+  EXPECT_EQ(divided, "KGM MTR KMT TNE LTR ");
+}
+
 TEST_F(Distributing, LeavesWhatWasSetByHandAndPacksTheRest) {
   addLinesAndBoxes();
   packByHand({.row = 1, .parts = {{.package = 1, .quantity = 3000}}}, evenly);
