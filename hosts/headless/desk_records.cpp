@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "desk/choose_path.h"
 #include "desk/commands.h"
 
 namespace awizo::headless {
@@ -46,5 +47,13 @@ Json menusJson(AwizoForm& form) {
 void addDeskRecords(protocol::Dispatcher& dispatcher, AwizoWysylki& control) {
   dispatcher.records["commands"] = [&control] { return menusJson(control.form); };
 }
+
+void addFileLines(protocol::Dispatcher& dispatcher, AwizoWysylki& control) {
+  dispatcher.clientActions["choosePath"] = [&control](const Json& line) {
+    choosePath(control.dlgWczytajZapisz, protocol::textMember(line, "path"));
+  };
+}
+
+Json savedEvent(const Deed& deed) { return {{"event", "saved"}, {"path", deed.text}}; }
 
 }  // namespace awizo::headless

@@ -64,6 +64,8 @@ class Program {
   protocol::ControlAccess access_;
   protocol::ChangeFeed feed_;
   journal::History history_;
+  int savings_ = 0;
+  bool tellsFiles_ = false;
   protocol::Json steps_;  ///< as they were told last; null for a client that isn't told
 };
 
@@ -127,6 +129,7 @@ Program::Program(Beginning&& beginning, Machine& machine, Conversation& conversa
 }
 
 Program::~Program() {
+  control_.form.deeds.remove(savings_);
   conversation_.act = nullptr;
   conversation_.beforeWaiting = nullptr;
 }
@@ -135,10 +138,15 @@ void Program::addLines() {
   protocol::Dispatcher& dispatcher = access_.dispatcher();
   protocol::addFeedActions(dispatcher, access_.forms(), feed_);
   addDeskRecords(dispatcher, control_);
+  addFileLines(dispatcher, control_);
   addStepLines(dispatcher, control_, history_, [this](const std::string& words) { tell(words); });
   dispatcher.clientActions["followSteps"] = [this](const protocol::Json&) {
     steps_ = protocol::Json::object();
   };
+  dispatcher.clientActions["followFiles"] = [this](const protocol::Json&) { tellsFiles_ = true; };
+  savings_ = control_.form.deeds.add([this](const Deed& deed) {
+    if (tellsFiles_ && deed.kind == Deed::Kind::saved) conversation_.emit(savedEvent(deed));
+  });
   dispatcher.noteHostDeed = [this](const protocol::Json& line, const auto& deed) {
     return recording_.doHostAct(hostActOf(line), deed);
   };

@@ -9,7 +9,8 @@ import type { Box, Changes, Closing, ControlFacts, Event as CoreEvent, FormFacts
 import type { Host } from "./face.ts";
 import { FormView } from "./form_view.ts";
 import { dialogs, mainForm } from "./layouts.ts";
-import { startOf } from "./start.ts";
+import { computerButton, handOut } from "./own_disk.ts";
+import { folderOf, startOf } from "./start.ts";
 import { styles } from "./styles.ts";
 import { TypingWatch } from "./typing_watch.ts";
 
@@ -20,6 +21,8 @@ interface Command {
   place: string | null;
 }
 
+/// The caption by which the file dialog says that it opens a document.
+const readingMode = "&Wczytaj";
 const mainName = "AwizoWysylki";
 const answers: Record<Box["buttons"], [string, string][]> = {
   OK: [["OK", "ОК"]],
@@ -75,7 +78,7 @@ export class AwizoWysylki extends ControlElement {
   }
 
   protected override closingOf(line: Line): Promise<Closing> {
-    if (this.core === undefined) return Promise.reject(new Error("the element is in no page"));
+    if (this.core === undefined) return Promise.resolve({ ok: false, error: "The element has no control." });
     return this.core.say(line);
   }
 
@@ -84,6 +87,7 @@ export class AwizoWysylki extends ControlElement {
     this.commands = menus.flatMap((menu) => menu.commands);
     await this.readProperties();
     void core.say({ do: "followSteps" });
+    void core.say({ do: "followFiles" });
     await core.say({ do: "subscribe" });
     // Work that was gone on with is shown already.
     if (this.forms[mainName]?.shown !== true) await core.say({ do: "show" });
@@ -108,6 +112,9 @@ export class AwizoWysylki extends ControlElement {
         return this.openQuestion(event);
       case "steps":
         return this.strip.showSteps(event);
+      case "saved":
+        void handOut(event.path);
+        return;
       case "told":
         return this.strip.tell(event.text);
       case "changed":
@@ -165,6 +172,7 @@ export class AwizoWysylki extends ControlElement {
     const element = make("dialog", { lang: "ru", "aria-labelledby": `title-${name}` }, [
       make("header", {}, [title, closer]), view.element,
     ]);
+    if (this.kinds[`${name}.btnWczytaj`]?.caption === readingMode) element.append(this.fromComputer());
     closer.addEventListener("click", () => void this.closingOf({ do: "close", on: name }));
     element.addEventListener("cancel", (event) => {
       event.preventDefault();
@@ -173,6 +181,14 @@ export class AwizoWysylki extends ControlElement {
     this.root.append(element);
     element.showModal();
     this.shown.push({ name, element });
+  }
+
+  private fromComputer(): HTMLElement {
+    return computerButton(folderOf(this), (path) => {
+      // The lists show a folder as it was when it was opened: it is opened anew.
+      void this.closingOf({ do: "path", on: "DlgWczytajZapisz.DirList", value: "c:\\" });
+      void this.closingOf({ do: "choosePath", path });
+    });
   }
 
   private closeForm(name: string): void {

@@ -80,6 +80,7 @@ export type Event =
   | Question
   | ({ event: "steps" } & Steps)
   | { event: "told"; text: string }
+  | { event: "saved"; path: string }
   | { event: "modal" | "hidden"; form: string; caption?: string }
   | { event: "changed"; property: string }
   | { event: "end" };

@@ -76,7 +76,7 @@ export async function readFile(path: string): Promise<Uint8Array> {
   return new Uint8Array(await (await (await fileOf(path, false)).getFile()).arrayBuffer());
 }
 
-async function exists(path: string): Promise<boolean> {
+export async function exists(path: string): Promise<boolean> {
   try {
     await fileOf(path, false);
     return true;

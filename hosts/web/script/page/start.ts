@@ -24,8 +24,13 @@ function recordsBeside(folder: string): string {
   return folder.replace(/([^/]*)\/*$/, ".$1.records");
 }
 
+/// The local folder.
+export function folderOf(element: HTMLElement): string {
+  return element.getAttribute("folder") ?? defaultFolder;
+}
+
 export function startOf(element: HTMLElement): Start {
-  const folder = element.getAttribute("folder") ?? defaultFolder;
+  const folder = folderOf(element);
   const given: string[] = [];
   for (const [attribute, property] of Object.entries(properties)) {
     const value = element.getAttribute(attribute);

@@ -6,7 +6,7 @@ import { chromium, type Locator, type Page } from "playwright-core";
 
 const pictures = process.env["AWIZO_PICTURES"] || undefined;
 const browserFile = "/usr/bin/chromium";
-const patience = 60_000;
+const patience = 20_000;
 
 /// Of the page; the service stands beside it.
 export const address = process.argv.at(-1) ?? "";

@@ -1,0 +1,61 @@
+// A saved document is handed out as a download, and a file of the user's computer is opened.
+// usage: node files.mjs ADDRESS_OF_THE_PAGE
+
+import assert from "node:assert/strict";
+import fs from "node:fs";
+
+import type { ElementHandle } from "playwright-core";
+
+import { User, withPage } from "./user.ts";
+
+const oldNumber = "ТН/8";
+const newNumber = "ТН-9";
+
+await withPage(async (page) => {
+  const user = new User(page);
+  const fileDialog = user.dialog("DlgWczytajZapisz");
+  const openFromComputer = async (name: string, buffer: Buffer) => {
+    await user.control("btnWczytaj").click();
+    const chooser = page.waitForEvent("filechooser");
+    await fileDialog.getByRole("button", { name: "С компьютера…" }).click();
+    await (await chooser).setFiles({ name, mimeType: "application/xml", buffer });
+    await fileDialog.waitFor({ state: "detached" });
+    const boxes = 1 + buffer.toString("utf8").split("<Packing-Sequence>").length - 1;
+    for (let box = 0; box < boxes; ++box) await user.answer("OK");
+  };
+
+  const numberIs = async (number: string) => {
+    const field = (await user.field("txtNrAwiza").elementHandle()) as ElementHandle<HTMLInputElement>;
+    await page.waitForFunction(([input, wanted]) => input.value === wanted, [field, number] as const);
+  };
+
+  await user.open();
+  await user.field("txtNrAwiza").fill(oldNumber);
+  await user.addPackage("Паллета 1", "035200010000000016");
+  const downloading = page.waitForEvent("download");
+  await user.control("btnZapisz").click();
+  assert.match(await user.answer("Yes"), /упакован не полностью/);
+  await fileDialog.waitFor();
+  assert.equal(await fileDialog.getByRole("button", { name: "С компьютера…" }).count(), 0);
+  await user.control("DlgWczytajZapisz.ImageZapisz").click();
+  const download = await downloading;
+  assert.equal(download.suggestedFilename(), "Подтверждение_отгрузки_ТН_8.xml");
+  const saved = fs.readFileSync(await download.path(), "utf8");
+  assert.ok(saved.includes(oldNumber) && saved.includes("035200010000000016"), saved.slice(0, 500));
+
+  const other = Buffer.from(saved.replaceAll(oldNumber, newNumber));
+  await openFromComputer("awizo.xml", other);
+  await numberIs(newNumber);
+  await user.control("grdOpakowania").getByText("Паллета 1").waitFor();
+
+  // The folder's own file of that name stays as it is.
+  await openFromComputer("awizo.xml", Buffer.from(saved));
+  await numberIs(oldNumber);
+  const kept = await page.evaluate(async () => {
+    const folder = await (await navigator.storage.getDirectory()).getDirectoryHandle("VIRD");
+    const text = async (name: string) => (await (await folder.getFileHandle(name)).getFile()).text();
+    return [await text("awizo.xml"), await text("awizo (2).xml")];
+  });
+  assert.deepEqual(kept, [other.toString("utf8"), saved]);
+});
+console.log("Documents went to the computer's disk and came from it.");
