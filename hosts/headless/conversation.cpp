@@ -27,21 +27,35 @@ void Conversation::run() {
 
 Choice Conversation::choose(const Question& question) {
   emit(questionEvent(question));
-  std::optional<Choice> choice;
+  Choice choice{};
+  waitForAnswer([&](const protocol::Json& line) { choice = choiceIn(line, question); });
+  return choice;
+}
+
+void Conversation::waitForAnswer(const std::function<void(const protocol::Json& line)>& take) {
   std::deque<std::string> early;
-  while (!choice) {
+  bool taken = false;
+  while (!taken) {
     std::string text = nextLine();
     if (!isAnswer(text)) {
       early.push_back(std::move(text));
       continue;
     }
     lines_.write(protocol::closingLineOf(text, [&](const protocol::Json& line) {
-      choice = choiceIn(line, question);
+      take(line);
+      taken = true;
       return protocol::Json::object();
     }));
   }
   early_ = std::move(early);
-  return *choice;
+}
+
+Answer Conversation::askFirst(const MessageBox& box) {
+  emit(protocol::boxEvent(box));
+  Answer answer{};
+  waitForAnswer(
+      [&](const protocol::Json& line) { answer = protocol::answerIn(line, box.buttons); });
+  return answer;
 }
 
 Answer Conversation::ask(const MessageBox& box) {

@@ -44,8 +44,9 @@ class Conversation : public ScreenFace {
   /// form.
   void emit(const protocol::Json& event);
 
-  /// Asks before there is a control. Lines that come before the answer are served after it.
+  // Asked before there is a control. Lines that come before the answer are served after it.
   Choice choose(const Question& question);
+  Answer askFirst(const MessageBox& box);
 
   Answer ask(const MessageBox& box) override;
   /// Serves lines until the form has hidden.
@@ -56,6 +57,7 @@ class Conversation : public ScreenFace {
 
  private:
   std::optional<std::string> waitForLine();
+  void waitForAnswer(const std::function<void(const protocol::Json& line)>& take);
   std::string nextLine();
   void serve(const std::string& text);
 

@@ -1,5 +1,8 @@
 #include "hosts/headless/kept_work.h"
 
+#include <optional>
+
+#include "desk/host_boxes.h"
 #include "desk/unfinished_question.h"
 #include "hosts/common/program/recorded_options.h"
 #include "hosts/headless/recording.h"
@@ -8,6 +11,15 @@
 namespace awizo::headless {
 
 namespace {
+
+std::optional<journal::UnfinishedWork> workLeftBehind(RecordFolder& records) {
+  try {
+    return journal::unfinishedWork(records);
+  } catch (const RunTimeError&) {
+    // The session's own record will tell of a folder that nobody can use.
+    return std::nullopt;
+  }
+}
 
 Beginning goingOn(const Options& options, RecordFolder& records,
                   const journal::UnfinishedWork& work) {
@@ -24,24 +36,27 @@ Beginning goingOn(const Options& options, RecordFolder& records,
   return beginning;
 }
 
-void removeRecord(RecordFolder& records, const std::string& name) {
+/// Asks about work that was left behind; nothing where the session doesn't go on with it.
+std::optional<Beginning> takenUp(const Options& options, RecordFolder& records,
+                                 Conversation& conversation) {
+  const auto work = workLeftBehind(records);
+  if (!work) return std::nullopt;
+  const Choice choice = conversation.choose(unfinishedQuestion(*work));
   try {
-    records.remove(name);
-  } catch (const RunTimeError&) {
-    // It will be offered again.
+    if (choice == Choice::goOn) return goingOn(options, records, *work);
+    if (choice == Choice::startAfresh) records.remove(work->record);
+  } catch (const RunTimeError& error) {
+    conversation.askFirst(choice == Choice::goOn ? unreadableRecord(error)
+                                                 : recordThatStays(error));
   }
+  return std::nullopt;
 }
 
 }  // namespace
 
 Beginning beginningOf(const Options& options, Machine& machine, Conversation& conversation) {
-  RecordFolder* records = machine.records();
-  if (records != nullptr && !options.replayFile) {
-    if (const auto work = journal::unfinishedWork(*records)) {
-      const Choice choice = conversation.choose(unfinishedQuestion(*work));
-      if (choice == Choice::goOn) return goingOn(options, *records, *work);
-      if (choice == Choice::startAfresh) removeRecord(*records, work->record);
-    }
+  if (machine.records() != nullptr && !options.replayFile) {
+    if (auto beginning = takenUp(options, *machine.records(), conversation)) return *beginning;
   }
   journal::RecordedSession replayed = sessionToReplay(options, machine);
   const Options whole = withRecorded(options, replayed.header);
