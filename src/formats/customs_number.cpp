@@ -53,9 +53,7 @@ int faultyField(const Conversions& conversions, const CustomsNumberFields& field
   return 0;
 }
 
-}  // namespace
-
-CustomsNumberFields SplitCDN(Work& work, std::string_view cdn) {
+CustomsNumberFields splitOn(Work& work, std::string_view cdn, Date today) {
   std::vector<std::string> pieces = split(cdn, "/");
   if (pieces.empty()) pieces.emplace_back();
   DebugLog& log = work.session.log;
@@ -63,7 +61,13 @@ CustomsNumberFields SplitCDN(Work& work, std::string_view cdn) {
   log.trace("SplitCDN: count=", pieces.size() - 1);
   const std::optional<CustomsNumberFields> fields = fieldsOf(pieces);
   if (fields) return *fields;
-  return {"", FormatCDNDate(work, work.platform.clock.today()), "", ""};
+  return {"", FormatCDNDate(work, today), "", ""};
+}
+
+}  // namespace
+
+CustomsNumberFields SplitCDN(Work& work, std::string_view cdn) {
+  return splitOn(work, cdn, work.platform.clock.today());
 }
 
 std::string JoinCDN(std::string_view field1, std::string_view field2, std::string_view field3,
@@ -97,7 +101,8 @@ std::string PadCDNPart(const Conversions& conversions, std::string_view text, in
 }
 
 int faultyCustomsNumberField(Work& work, std::string_view cdn) {
-  return faultyField(work.conversions, SplitCDN(work, cdn));
+  // The day is told by the log alone. A record of the session would have it once for each line.
+  return faultyField(work.conversions, splitOn(work, cdn, work.platform.clock.stamp().date));
 }
 
 int faultyCustomsNumberField(const Conversions& conversions, std::string_view cdn) {

@@ -132,6 +132,29 @@ TEST(Tape, WhatTheHostDoesForItselfStandsOnNoTape) {
   EXPECT_EQ(record.bytes.size(), before);
 }
 
+TEST(Tape, ALineTakesNoMoreOfTheRecordForTheLinesBeforeIt) {
+  MemoryRecord record;
+  TapedControl recorded(&record);
+  startOffLine(recorded);
+  const auto bytesOfALine = [&] {
+    const std::size_t before = record.bytes.size();
+    recorded.desk.face.onModal([&] {
+      DlgDodaj& line = recorded.desk.control.dlgDodaj;
+      line.txtlEANProdWart.userType("4607000000116");
+      line.txtNazwaProdWart.userType("Чай");
+      line.txtIloscPotw.userType("1");
+      line.btnDodaj.userClick();
+    });
+    recorded.desk.form.btnDodaj.userClick();
+    return record.bytes.size() - before;
+  };
+  const std::size_t bytesOfTheFirst = bytesOfALine();
+  std::size_t bytesOfTheLast = 0;
+  for (int line = 2; line <= 20; ++line) bytesOfTheLast = bytesOfALine();
+  ASSERT_EQ(recorded.desk.session.LineCount, 20);
+  EXPECT_LT(bytesOfTheLast, bytesOfTheFirst + 50);
+}
+
 TEST(Tape, TheLogGoesOnAfterAReplay) {
   MemoryRecord record;
   TapedControl recorded(&record);
