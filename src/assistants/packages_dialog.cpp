@@ -9,8 +9,9 @@
 namespace awizo {
 namespace {
 
-constexpr int box = 1;  ///< row of the list of types
-constexpr std::string_view palletCode = "09";
+// Rows of the list of types.
+constexpr int pallet = 0;
+constexpr int box = 1;
 
 /// 0 for what is no number.
 int countIn(std::string_view text) {
@@ -43,8 +44,8 @@ PackagesDialog::PackagesDialog(const Editor& editor, NumberOffer* numbers)
   acceptButton = &btnAdd;
   closeButton = &btnClose;
   cboType.setRows(packageTypeRows());
-  cboType.setIndex(box);
-  txtDescription.setText("Коробка #");
+  chooseType(box);
+  cboType.onClick = [this] { offerDescription(); };
   onActivate = [this] { txtCount.setFocus(); };
   txtCount.onChange = [this] { tell(); };
   txtDescription.onChange = [this] { tell(); };
@@ -53,6 +54,7 @@ PackagesDialog::PackagesDialog(const Editor& editor, NumberOffer* numbers)
 }
 
 std::optional<PackagePlan> PackagesDialog::ask() {
+  txtCount.setText("");
   offerParents();
   offerPlace();
   tell();
@@ -69,10 +71,25 @@ void PackagesDialog::offerParents() {
   for (int row = 1; row <= editor_.session.IloscPozycjiOpak; ++row) {
     rows.push_back(packages.cell(row, GRD_OPAK_DESC));
     // Who stands on a pallet is about to fill it.
-    if (row == packages.row() && packages.cell(row, GRD_OPAK_TYPE) == palletCode) chosen = row;
+    if (row == packages.row() && packages.cell(row, GRD_OPAK_TYPE) == symbolPackageType(pallet)) {
+      chosen = row;
+    }
   }
   cboParent.setRows(std::move(rows));
   cboParent.setIndex(chosen);
+  // Nobody puts a pallet on a pallet.
+  if (chosen > 0 && cboType.index() == pallet) chooseType(box);
+}
+
+void PackagesDialog::chooseType(int row) {
+  cboType.setIndex(row);
+  offerDescription();
+}
+
+void PackagesDialog::offerDescription() {
+  if (txtDescription.text() != offeredDescription_) return;
+  offeredDescription_ = joined({cboType.text(), " #"});
+  txtDescription.setText(offeredDescription_);
 }
 
 void PackagesDialog::offerPlace() {

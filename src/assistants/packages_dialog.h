@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "assistants/package_plan.h"
 #include "desk/number_offer.h"
@@ -30,18 +31,22 @@ class PackagesDialog : public Form {
   Button btnAdd, btnClose;
 
   /// Shows the dialog; nothing where the user leaves it. What was typed stays for the next time,
-  /// but for the parent and the delivery place.
+  /// but for the count, the parent and the delivery place. A description that nobody typed follows
+  /// the type.
   std::optional<PackagePlan> ask();
 
  private:
   void offerParents();
   void offerPlace();
+  void chooseType(int row);
+  void offerDescription();
   PackagePlan typedPlan() const;
   void tell();
   void btnAdd_Click();
 
   const Editor& editor_;
   NumberOffer* numbers_;
+  std::string offeredDescription_;
   bool isAccepted_ = false;
 };
 

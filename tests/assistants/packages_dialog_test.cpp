@@ -61,6 +61,32 @@ TEST_F(PackagesDialogTest, OffersThePlaceOfTheLastPackageAndThePalletThatIsMarke
   EXPECT_EQ(cell(4, GRD_OPAK_LEVEL), "2");
 }
 
+TEST_F(PackagesDialogTest, OffersTheTypesNameUntilTheUserTypesAnother) {
+  asked([this] {
+    EXPECT_EQ(dialog.txtDescription.text(), "Коробка #");
+    dialog.cboType.userChoose(0);
+    EXPECT_EQ(dialog.txtDescription.text(), "Паллета #");
+    dialog.txtDescription.userType("Верх #");
+    dialog.cboType.userChoose(1);
+    EXPECT_EQ(dialog.txtDescription.text(), "Верх #");
+  });
+}
+
+TEST_F(PackagesDialogTest, OffersBoxesForThePalletThatWasJustMade) {
+  asked([this] {
+    dialog.txtCount.userType("1");
+    dialog.cboType.userChoose(0);
+  });
+  add({.type = 0, .description = "Паллета", .deliveryPlace = "9520002000026"});
+  form.grdOpakowania.userCell(1, GRD_OPAK_DESC);
+  asked([this] {
+    EXPECT_EQ(dialog.cboParent.text(), "Паллета");
+    EXPECT_EQ(dialog.cboType.text(), "Коробка");
+    EXPECT_EQ(dialog.txtCount.text(), "");
+    EXPECT_EQ(dialog.txtDescription.text(), "Коробка #");
+  });
+}
+
 TEST_F(PackagesDialogTest, StaysWithAWordWhereItCantBe) {
   const auto plan = asked([this] {
     dialog.btnAdd.userClick();
