@@ -177,6 +177,16 @@ TEST_F(PackageAdding, IsTakenBackAsOneStepAndDoneAgain) {
   EXPECT_EQ(digestOfReplay(), after);
 }
 
+TEST_F(PackageAdding, NumbersThatWereTakenBackAreNotGivenAgain) {
+  addPackages(assistance, boxes(2), {});
+  history.takeBack();
+  addPackages(assistance, boxes(1), {});
+  EXPECT_EQ(cell(1, GRD_OPAK_SERIAL_NUMBER), number(3));
+  history.takeBack();
+  history.doAgain();
+  EXPECT_EQ(cell(1, GRD_OPAK_SERIAL_NUMBER), number(3)) << "it is the same package";
+}
+
 TEST_F(PackageAdding, OfFiveHundredBoxesTakesLessThanThreeSeconds) {
   addPackages(assistance, pallet(), {});
   PackagePlan plan = boxes(500);
