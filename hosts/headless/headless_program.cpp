@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "adapters/libxml2/libxml2.h"
+#include "desk/host_boxes.h"
 #include "desk/layout_words.h"
 #include "hosts/common/given_host.h"
 #include "hosts/common/program/kept_record.h"
@@ -42,7 +43,7 @@ class Program {
   void addLines();
   void tellWhatIsOpen();
   void tell(const std::string& words);
-  void tellOfTrouble(const std::string& why);
+  void tellOfTrouble(const RunTimeError& error);
   void tellSteps();
 
   Conversation& conversation_;
@@ -82,7 +83,7 @@ Program::Program(Beginning&& beginning, Machine& machine, Conversation& conversa
       clock_(machine.clock(options_)),
       record_(newRecord(options_, localeName(options_, machine), machine)),
       kept_(machine.records(), headerOf(options_, localeName(options_, machine)),
-            [this](const std::string& why) { tellOfTrouble(why); }),
+            [this](const RunTimeError& error) { tellOfTrouble(error); }),
       tape_(std::move(beginning.replayed.records),
             record_ == nullptr ? kept_.file() : record_.get()),
       taped_(tape_,
@@ -115,7 +116,7 @@ Program::Program(Beginning&& beginning, Machine& machine, Conversation& conversa
   recording_.performHostAct = [this](const std::vector<std::string>& texts) {
     access_.act(lineOf(texts));
   };
-  tape_.onTrouble = [this](const std::string& why) { tellOfTrouble(why); };
+  tape_.onTrouble = [this](const RunTimeError& error) { tellOfTrouble(error); };
   if (kept_.file() != nullptr) {
     tape_.summary = [this] { return journal::textsOf(journal::summaryOf(control_, *clock_)); };
   }
@@ -163,10 +164,10 @@ void Program::tell(const std::string& words) {
   conversation_.emit({{"event", "told"}, {"text", words}});
 }
 
-void Program::tellOfTrouble(const std::string& why) {
-  std::cerr << "awizo-headless: the record can't be written any more: " << why
+void Program::tellOfTrouble(const RunTimeError& error) {
+  std::cerr << "awizo-headless: the record can't be written any more: " << error.description()
             << ". The work goes on without it.\n";
-  if (record_ == nullptr) tell(joined({words::notRecorded, why}));
+  if (record_ == nullptr) tell(joined({words::notRecorded, diskRefusal(error)}));
 }
 
 void Program::tellSteps() {

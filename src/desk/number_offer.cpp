@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "desk/host_boxes.h"
 #include "papers/words.h"
 #include "platform/text.h"
 #include "tables/columns/columns.h"
@@ -33,7 +34,7 @@ void NumberOffer::opened() {
   trouble_.clear();
   if (!dialog_.AddMode || !dialog_.txtSerialNumberN.text().empty()) return;
   if (const auto error = caughtError([this] { offer(); })) {
-    trouble_ = joined({"Номер не выдан: ", error->description(), "."});
+    trouble_ = joined({"Номер не выдан: ", diskRefusal(*error), "."});
   }
 }
 

@@ -1,5 +1,6 @@
 #include "desk/number_range_dialog.h"
 
+#include "desk/host_boxes.h"
 #include "platform/run_time_error.h"
 #include "platform/text.h"
 
@@ -66,7 +67,7 @@ void NumberRangeDialog::btnSave_Click() {
   const std::optional<NumberRange> range = typedRange(refusal);
   if (!range) return lblDoubt.setCaption(refusal);
   const auto error = caughtError([&] { numbers_.setRange(*range); });
-  if (error) return lblDoubt.setCaption("Не сохранено: " + error->description() + ".");
+  if (error) return lblDoubt.setCaption(joined({"Не сохранено: ", diskRefusal(*error), "."}));
   hide();
 }
 

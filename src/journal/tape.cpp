@@ -26,7 +26,7 @@ void Tape::commit() {
     file_->append(pending_);
   } catch (const RunTimeError& error) {
     file_ = nullptr;
-    if (onTrouble) onTrouble(error.description());
+    if (onTrouble) onTrouble(error);
   }
   pending_.clear();
   // What a large reply took is given back.
@@ -41,7 +41,7 @@ void Tape::flush() {
     file_->flush();
   } catch (const RunTimeError& error) {
     file_ = nullptr;
-    if (onTrouble) onTrouble(error.description());
+    if (onTrouble) onTrouble(error);
   }
 }
 

@@ -13,6 +13,7 @@
 #include "journal/values.h"
 #include "platform/forms/act.h"
 #include "platform/growing_file.h"
+#include "platform/run_time_error.h"
 
 namespace awizo::journal {
 
@@ -88,7 +89,7 @@ class Tape : public ActObserver {
   /// nothing.
   std::function<std::vector<std::string>()> summary;
   /// Told once when the file can't be written any more; the work goes on without it.
-  std::function<void(const std::string& description)> onTrouble;
+  std::function<void(const RunTimeError& error)> onTrouble;
   /// Told when the last record has been replayed and the user's turn comes.
   std::function<void()> onLive;
   /// Whether a form is the control's; what happens on another is nothing to record.

@@ -143,7 +143,7 @@ TEST_F(NumberOfferTest, AFullDiskGivesNoNumberAndHindersNothing) {
   store.isFull = true;
   adding([this] {
     EXPECT_EQ(packageDialog.txtSerialNumberN.text(), "");
-    EXPECT_EQ(offer.words(), "Номер не выдан: Disk full.");
+    EXPECT_EQ(offer.words(), "Номер не выдан: диск полон.");
     leave();
   });
 }

@@ -40,7 +40,9 @@ TEST(Tape, AFullDiskEndsTheRecordWithOneWordAndNotTheWork) {
   TapedControl recorded(&record);
   startOffLine(recorded);
   std::vector<std::string> words;
-  recorded.tape.onTrouble = [&](const std::string& word) { words.push_back(word); };
+  recorded.tape.onTrouble = [&](const RunTimeError& error) {
+    words.push_back(error.description());
+  };
   record.room = record.bytes.size() + 100;
   for (const char* text : {"1", "22", "333", "4444", "55555"}) {
     recorded.desk.form.txtNrAwiza.userType(text);

@@ -16,7 +16,7 @@ constexpr std::uint64_t mostBytesKept = 250'000'000;
 }  // namespace
 
 KeptRecord::KeptRecord(RecordFolder* folder, const RecordHeader& header,
-                       const std::function<void(const std::string&)>& onTrouble)
+                       const std::function<void(const RunTimeError&)>& onTrouble)
     : folder_(folder) {
   if (folder_ == nullptr) return;
   try {
@@ -25,7 +25,7 @@ KeptRecord::KeptRecord(RecordFolder* folder, const RecordHeader& header,
     record_.file->append(journal::fileBeginning() + journal::framed(journal::headerRecord(header)));
   } catch (const RunTimeError& error) {
     record_.file.reset();
-    onTrouble(error.description());
+    onTrouble(error);
   }
 }
 

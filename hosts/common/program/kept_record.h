@@ -5,6 +5,7 @@
 
 #include "hosts/common/program/recorded_options.h"
 #include "platform/record_folder.h"
+#include "platform/run_time_error.h"
 
 namespace awizo {
 
@@ -14,7 +15,7 @@ class KeptRecord {
  public:
   /// Makes a new record, unless there is no folder. What goes wrong is told to `onTrouble` once.
   KeptRecord(RecordFolder* folder, const RecordHeader& header,
-             const std::function<void(const std::string&)>& onTrouble);
+             const std::function<void(const RunTimeError&)>& onTrouble);
   /// The session has ended as its user wanted: nothing of it is left.
   ~KeptRecord();
   KeptRecord(const KeptRecord&) = delete;

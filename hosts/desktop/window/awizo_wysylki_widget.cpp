@@ -7,6 +7,7 @@
 
 #include "desk/choose_path.h"
 #include "desk/document_watch.h"
+#include "desk/host_boxes.h"
 #include "desk/layout_words.h"
 #include "desk/step_words.h"
 #include "hosts/common/program/kept_record.h"
@@ -52,7 +53,7 @@ struct AwizoWysylkiWidget::Parts {
                        if (property == properties::debugLevel) emit widget.debugLevelChanged();
                      }),
         record(given.records.folder, given.records.header,
-               [this](const std::string& why) { recordingTrouble = why; }),
+               [this](const RunTimeError& error) { recordingTrouble = diskRefusal(error); }),
         replayedName(given.records.replayedName),
         tape(given.records.replayed.records, record.file()),
         taped(tape, surroundings.platform, given.records.today),
@@ -165,7 +166,7 @@ void AwizoWysylkiWidget::connectRecording() {
     return journal::textsOf(journal::summaryOf(parts.control, clock));
   };
   parts.history.onChange = [this] { emit historyChanged(); };
-  parts.tape.onTrouble = [this](const std::string& why) { tellOfRecording(why); };
+  parts.tape.onTrouble = [this](const RunTimeError& error) { tellOfRecording(diskRefusal(error)); };
   parts.recording.onLive = [&parts] {
     if (parts.tape.recording()) parts.record.forgetReplayed(parts.replayedName);
   };
