@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <iostream>
 
+#include "hosts/desktop/window/assistants.h"
 #include "hosts/desktop/window/paper_maker.h"
 #include "session/awizo_wysylki.h"
 #include "tables/columns/columns.h"
@@ -125,6 +126,22 @@ void DemoUser::showPapers() {
   showPaper(Paper::packingList, "packing-list");
 }
 
+void DemoUser::showAssistants() {
+  Assistants& assistants = widget_.assistants();
+  during([&] { assistants.addPackages(); },
+         [&] {
+           PackagesDialog& dialog = assistants.packagesDialog();
+           dialog.txtCount.userType("12");
+           take("several-packages");
+           dialog.btnClose.userClick();
+         });
+  during([&] { assistants.distribute(); },
+         [&] {
+           take("distribution");
+           assistants.distributionDialog().btnClose.userClick();
+         });
+}
+
 void DemoUser::work() {
   take("order");
   fillHeader();
@@ -134,6 +151,7 @@ void DemoUser::work() {
   for (int row = 1; row <= 4; ++row) packLine(row, 1 + row % 2, row == 1 ? "line" : "");
   widget_.control().form.grdPozycje.userCell(1, GRD_POZ_NAME);
   take("main");
+  showAssistants();
   showPapers();
   showOtherForms();
 }

@@ -31,6 +31,7 @@ class DemoUser {
   void packLine(int row, int package, const std::string& picture);
   void openDocuments();
   void showOtherForms();
+  void showAssistants();
   void showPapers();
 
   AwizoWysylkiWidget& widget_;
