@@ -56,6 +56,7 @@ inline constexpr std::string_view noLine = "Строка не выбрана";
 inline constexpr std::string_view noSuchLine = "Такой строки нет";
 inline constexpr std::string_view codeSoFar = "Код: ";
 inline constexpr std::string_view noSuchCode = "Нет строки с кодом ";
+inline constexpr std::string_view noSuchPackage = "Нет упаковки с номером ";
 
 // Names of tables and fields for screen readers, where no caption stands beside them.
 inline constexpr std::string_view linesTable = "Товарные позиции";

@@ -50,8 +50,18 @@ bool LineFinder::takeKey(std::int16_t code) {
   const std::string scanned = code == keys::enter ? code_.end() : "";
   code_.forget();
   if (scanned.empty()) return false;
-  goToRow(findScanned(editor_, scanned), joined({words::noSuchCode, scanned}));
+  goToScanned(scanned);
   return true;
+}
+
+void LineFinder::goToScanned(std::string_view code) {
+  const std::string_view number = packageNumberIn(code);
+  if (number.empty()) {
+    return goToRow(findScanned(editor_, code), joined({words::noSuchCode, code}));
+  }
+  const std::optional<int> row = findPackage(editor_, number);
+  if (!row) return tell(joined({words::noSuchPackage, number}));
+  editor_.form.grdOpakowania.userRow(*row);
 }
 
 void LineFinder::forgetCode() {

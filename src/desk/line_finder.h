@@ -12,8 +12,8 @@
 
 namespace awizo {
 
-/// Leads the user to lines and to what is wrong: by a text, by a scanned code typed into the table
-/// of lines, by the list of faults. What the host calls here are the user's acts, which may be
+/// Leads the user to lines, packages and what is wrong: by a text, by a scanned code typed into one
+/// of the tables, by the list of faults. What the host calls here are the user's acts, which may be
 /// Refused.
 class LineFinder {
  public:
@@ -35,14 +35,17 @@ class LineFinder {
   /// What was being typed has been handed over.
   void showFaults();
 
-  /// A key in the table of lines, before the table has it: the code of a digit or of Enter, 0 for
+  /// A key in one of the tables, before the table has it: the code of a digit or of Enter, 0 for
   /// any other. Returns whether it is one of a scanned code's.
   bool takeKey(std::int16_t code);
+  /// Whether Enter is the end of a scanned code now, and nobody else's.
+  bool takesEnter() const { return code_.isWhole(); }
   /// The focus has left the table.
   void forgetCode();
 
  private:
   void goToRow(std::optional<int> row, std::string_view nothing);
+  void goToScanned(std::string_view code);
   void tell(std::string_view words) const;
 
   const Editor& editor_;

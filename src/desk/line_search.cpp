@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <functional>
-#include <utility>
 
 #include "tables/columns/columns.h"
 
@@ -49,10 +48,33 @@ std::optional<int> findScanned(const Editor& editor, std::string_view code) {
                  [&](int row) { return withoutZeros(lines.cell(row, GRD_POZ_EAN)) == wanted; });
 }
 
-std::string ScannedCode::end() {
+std::string_view packageNumberIn(std::string_view code) {
+  constexpr std::size_t digits = 18;
+  for (const std::string_view before : {"", "00", "100"}) {
+    if (code.size() == before.size() + digits && code.starts_with(before)) {
+      return code.substr(before.size());
+    }
+  }
+  return {};
+}
+
+std::optional<int> findPackage(const Editor& editor, std::string_view number) {
+  const Table& packages = editor.form.grdOpakowania;
+  for (int row = 1; row <= editor.session.IloscPozycjiOpak; ++row) {
+    if (packages.cell(row, GRD_OPAK_SERIAL_NUMBER) == number) return row;
+  }
+  return std::nullopt;
+}
+
+bool ScannedCode::isWhole() const {
   constexpr std::size_t shortestEan = 8;
-  const std::string digits = std::exchange(digits_, {});
-  return digits.size() < shortestEan ? "" : digits;
+  return digits_.size() >= shortestEan;
+}
+
+std::string ScannedCode::end() {
+  std::string code = isWhole() ? digits_ : "";
+  forget();
+  return code;
 }
 
 }  // namespace awizo

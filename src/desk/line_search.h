@@ -15,7 +15,14 @@ std::optional<int> findLine(const Editor& editor, std::string_view text);
 /// The same for a scanned code: a line of this EAN, zeros before it apart.
 std::optional<int> findScanned(const Editor& editor, std::string_view code);
 
-/// Collects the digits that a scanner types into the table, which takes none itself. A scanner is
+/// The package number (SSCC) in a scanned code: 18 digits, after "00" where that says on the label
+/// what they are, and after the "1" of "]C1", by which scanners name the symbol. Empty for others.
+std::string_view packageNumberIn(std::string_view code);
+
+/// The row of grdOpakowania that has this number.
+std::optional<int> findPackage(const Editor& editor, std::string_view number);
+
+/// Collects the digits that a scanner types into a table, which takes none itself. A scanner is
 /// recognised by what it types, not by how fast: at least as many digits as the shortest EAN has,
 /// and Enter.
 class ScannedCode {
@@ -24,6 +31,8 @@ class ScannedCode {
   /// Any other key, or the focus gone elsewhere.
   void forget() { digits_.clear(); }
   const std::string& digits() const { return digits_; }
+  /// Whether Enter would end a code now.
+  bool isWhole() const;
   /// Enter: returns the code that it ends, empty where the digits are no code; they are forgotten.
   std::string end();
 

@@ -74,6 +74,25 @@ TEST_F(LineFinderTest, AScannedCodeLeadsToItsLine) {
   EXPECT_EQ(lines.row(), 3);
 }
 
+TEST_F(LineFinderTest, AScannedNumberLeadsToItsPackage) {
+  putPackages(test.editor, 3, [](int) { return 0; });
+  Table& packages = test.form.grdOpakowania;
+  packages.setCell(2, GRD_OPAK_SERIAL_NUMBER, "395200010000000011");
+  packages.setRow(1);
+  for (const char* scanned : {"00395200010000000011", "395200010000000011"}) {
+    packages.setRow(1);
+    test.form.txtNrAwiza.setFocus();
+    scan(scanned);
+    EXPECT_TRUE(finder.takeKey(keys::enter));
+    EXPECT_EQ(packages.row(), 2) << scanned;
+    EXPECT_EQ(test.form.focus(), &packages);
+  }
+  scan("395200010000000028");
+  EXPECT_TRUE(finder.takeKey(keys::enter));
+  EXPECT_EQ(said.back(), "Нет упаковки с номером 395200010000000028");
+  EXPECT_EQ(packages.row(), 2);
+}
+
 TEST_F(LineFinderTest, WhatIsNoCodeIsTheTablesAndForgotten) {
   EXPECT_FALSE(finder.takeKey(keys::enter));
   EXPECT_TRUE(said.empty());

@@ -55,6 +55,16 @@ TEST_F(LineSearch, AScannedCodeIsAWholeEanButForZerosBeforeIt) {
   EXPECT_EQ(findScanned(test.editor, "460700000011"), std::nullopt);
 }
 
+TEST(PackageNumberIn, IsWhatStandsBehindTheSignsOfItsKind) {
+  EXPECT_EQ(packageNumberIn("395200010000000011"), "395200010000000011");
+  EXPECT_EQ(packageNumberIn("00395200010000000011"), "395200010000000011");
+  EXPECT_EQ(packageNumberIn("100395200010000000011"), "395200010000000011");
+  for (const char* other : {"", "9520001010026", "09520001010026", "3952000100000000112",
+                            "01395200010000000011", "200395200010000000011"}) {
+    EXPECT_EQ(packageNumberIn(other), "") << other;
+  }
+}
+
 TEST(ScannedCodeTest, EndsByEnterAndHasAsManyDigitsAsAnEan) {
   ScannedCode code;
   for (const char digit : std::string("1234567")) code.add(digit);

@@ -68,6 +68,21 @@ TEST_F(SeveralPackagesTest, TheKeyAsksAndThreeBoxesAreMadeAndTakenBackAtOnce) {
   EXPECT_EQ(packageCount(), 0);
 }
 
+TEST_F(SeveralPackagesTest, AScannedLabelGoesToItsPackageFromEitherTable) {
+  open(offLineOptions());
+  asking([this] { addBoxes(3); });
+  Table& packages = form().grdOpakowania;
+  for (const Table* table : {&packages, &form().grdPozycje}) {
+    packages.userCell(3, GRD_OPAK_DESC);
+    tabTo(*table);
+    type("(00)395200010000000028");
+    press(Qt::Key_Return);
+    EXPECT_EQ(packages.row(), 2);
+    EXPECT_EQ(form().focus(), &packages);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  }
+}
+
 TEST_F(SeveralPackagesTest, TheKeyDistributesLinesOverTheBoxes) {
   open(offLineOptions());
   asking([this] { addBoxes(2); });

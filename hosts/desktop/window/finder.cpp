@@ -4,13 +4,16 @@
 
 #include "hosts/desktop/faces/key_codes.h"
 #include "hosts/desktop/faces/table_face.h"
+#include "platform/forms/keys.h"
 
 namespace awizo::desktop {
 
 Finder::Finder(const Editor& editor, FormFace& faces)
     : QObject(&faces.window()), faces_(faces), finder_(editor), strip_(new LineStrip(editor)) {
   finder_.say = [this](std::string_view words) { strip_->say(fromText(words)); };
-  faces.table(editor.form.grdPozycje).view()->installEventFilter(this);
+  for (Table* table : {&editor.form.grdPozycje, &editor.form.grdOpakowania}) {
+    faces.table(*table).view()->installEventFilter(this);
+  }
 }
 
 void Finder::find() {
@@ -38,6 +41,12 @@ bool Finder::takeKey(const QKeyEvent& key) {
 
 bool Finder::eventFilter(QObject*, QEvent* event) {
   switch (event->type()) {
+    case QEvent::ShortcutOverride: {
+      // Among the packages Enter is a command's.
+      const bool isEnter = keyCodeOf(static_cast<QKeyEvent&>(*event)) == keys::enter;
+      if (isEnter && finder_.takesEnter()) event->accept();
+      return false;
+    }
     case QEvent::KeyPress:
       return takeKey(static_cast<QKeyEvent&>(*event));
     case QEvent::FocusOut:
