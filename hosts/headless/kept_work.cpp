@@ -12,24 +12,11 @@ namespace awizo::headless {
 
 namespace {
 
-std::optional<journal::UnfinishedWork> workLeftBehind(RecordFolder& records) {
-  try {
-    return journal::unfinishedWork(records);
-  } catch (const RunTimeError&) {
-    // The session's own record will tell of a folder that nobody can use.
-    return std::nullopt;
-  }
-}
-
 Beginning goingOn(const Options& options, RecordFolder& records,
                   const journal::UnfinishedWork& work) {
   Beginning beginning;
   beginning.replayed = journal::recordedSession(records.read(work.record));
-  // The session's own partner and locale; the page is today's.
-  Options recorded = options;
-  recorded.properties.clear();
-  recorded.locale.clear();
-  beginning.options = withRecorded(recorded, beginning.replayed.header);
+  beginning.options = optionsToGoOn(options, beginning.replayed.header);
   beginning.today.page = options.pageUrl.has_value();
   beginning.record = work.record;
   beginning.time = work.summary.time;
@@ -39,7 +26,7 @@ Beginning goingOn(const Options& options, RecordFolder& records,
 /// Asks about work that was left behind; nothing where the session doesn't go on with it.
 std::optional<Beginning> takenUp(const Options& options, RecordFolder& records,
                                  Conversation& conversation) {
-  const auto work = workLeftBehind(records);
+  const auto work = journal::unfinishedWork(records);
   if (!work) return std::nullopt;
   const Choice choice = conversation.choose(unfinishedQuestion(*work));
   try {

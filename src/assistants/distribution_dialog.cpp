@@ -18,7 +18,7 @@ enum PackageChoice { markedPackages, packagesWithoutOthers };
 
 constexpr int lineColumn = 0;
 constexpr int goodsColumn = 1;
-constexpr int packageColumn = 2;
+constexpr int packageColumn = DistributionDialog::packageColumn;
 constexpr int quantityColumn = 3;
 constexpr std::array partColumns{
     Column{lineColumn, "Строка", 900},

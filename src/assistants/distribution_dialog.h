@@ -22,6 +22,9 @@ struct DistributionOrder {
 /// Asks which lines go into which packages, and how; shows what will come of it before it is done.
 class DistributionDialog : public Form {
  public:
+  /// Of grdParts; its texts are the longest.
+  static constexpr int packageColumn = 2;
+
   explicit DistributionDialog(const Editor& editor);
 
   DropDownList cboLines, cboPackages, cboSpread;

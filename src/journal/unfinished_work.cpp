@@ -66,7 +66,10 @@ std::optional<WorkSummary> summaryIn(const std::vector<std::string>& texts) {
 }
 
 std::optional<UnfinishedWork> unfinishedWork(RecordFolder& folder) {
-  for (const FoundRecord& record : leftBehind(folder)) {
+  std::vector<FoundRecord> records;
+  // The session's own record will tell of a folder that nobody can use.
+  caughtError([&] { records = leftBehind(folder); });
+  for (const FoundRecord& record : records) {
     try {
       const RecordedSession session = recordedSession(folder.read(record.name));
       const std::optional<WorkSummary> summary = summaryIn(session.summary);

@@ -37,7 +37,8 @@ struct UnfinishedWork {
 };
 
 /// The work left behind last. Records in use are somebody else's; those without unsent work are
-/// removed on the way, and one that can't be read is left alone.
+/// removed on the way, and one that can't be read is left alone. A folder that can't be used has
+/// none.
 std::optional<UnfinishedWork> unfinishedWork(RecordFolder& folder);
 
 /// Removes the oldest records until at most `mostBytes` are kept; never one in use.

@@ -97,6 +97,14 @@ TEST(UnfinishedWork, IsLookedForPastWhatCantBeRead) {
   EXPECT_EQ(folder.names(), (Names{"a", "b"}));
 }
 
+TEST(UnfinishedWork, IsNoneInAFolderThatNobodyCanUse) {
+  struct ClosedFolder : MemoryFolder {
+    std::vector<FoundRecord> records() override { throw errors::permissionDenied(); }
+  } folder;
+  folder.entries = {{"a", {recordOf(unsent), 10}}};
+  EXPECT_FALSE(journal::unfinishedWork(folder));
+}
+
 TEST(KeepingWithin, RemovesTheOldestButNoneInUse) {
   MemoryFolder folder;
   const std::string bytes(100, 'x');

@@ -1,6 +1,7 @@
 #include "hosts/common/program/recorded_options.h"
 
 #include <cstdio>
+#include <utility>
 
 #include "hosts/common/value_texts.h"
 #include "hosts/version.h"
@@ -58,6 +59,12 @@ Options withRecorded(Options options, const RecordHeader& header) {
     options.properties.try_emplace(name.substr(propertyPrefix.size()), value);
   }
   return options;
+}
+
+Options optionsToGoOn(Options today, const RecordHeader& header) {
+  today.properties.clear();
+  today.locale.clear();
+  return withRecorded(std::move(today), header);
 }
 
 journal::AskedToday askedToday(const Options& options) {

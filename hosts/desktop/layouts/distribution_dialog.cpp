@@ -23,8 +23,7 @@ void layOut(DistributionDialog& form, FormDialog& dialog) {
   add(form.cboSpread);
   add(form.txtEach);
   TableFace& table = faces.table(form.grdParts);
-  constexpr int packageColumn = 2;
-  table.stretchColumn(packageColumn);
+  table.stretchColumn(DistributionDialog::packageColumn);
   table.view()->setAccessibleName(fromText(words::partsTable));
   const QFontMetrics metrics = dialog.fontMetrics();
   table.view()->setMinimumSize(metrics.averageCharWidth() * 90, metrics.height() * 14);

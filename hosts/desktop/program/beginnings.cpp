@@ -49,13 +49,7 @@ void MainWindow::begin() {
 }
 
 std::optional<journal::UnfinishedWork> MainWindow::workLeftBehind() const {
-  if (records_ == nullptr) return std::nullopt;
-  try {
-    return journal::unfinishedWork(*records_);
-  } catch (const RunTimeError&) {
-    // The session's own record will tell of a folder that nobody can use.
-    return std::nullopt;
-  }
+  return records_ == nullptr ? std::nullopt : journal::unfinishedWork(*records_);
 }
 
 bool MainWindow::takesUpUnfinishedWork() {
@@ -83,11 +77,7 @@ bool MainWindow::goOnWith(const journal::UnfinishedWork& work) {
     return false;
   }
   replayedName_ = work.record;
-  // The session's own partner and locale; the page is today's, if one was given.
-  Options recorded = launch_;
-  recorded.properties.clear();
-  recorded.locale.clear();
-  options_ = withRecorded(recorded, replayed_.header);
+  options_ = optionsToGoOn(launch_, replayed_.header);
   makeSession();
   afterStart_ = [this, time = work.summary.time] {
     widget_->watch().tell(joined({words::continued, time}));
