@@ -14,6 +14,7 @@
 #include "adapters/posix/descriptor.h"
 #include "adapters/posix/errors.h"
 #include "adapters/posix/posix_growing_file.h"
+#include "adapters/posix/posix_texts_beside.h"
 #include "platform/run_time_error.h"
 
 namespace awizo {
@@ -21,7 +22,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view ending = ".record";
 constexpr int mostNamesTried = 10;
 
 bool isInUse(const std::string& path) {
@@ -39,7 +39,7 @@ std::string newName() {
   std::string name;
   for (int part = 0; part < 4; ++part) name += std::to_string(random() % 100'000) + "-";
   name.pop_back();
-  return name.append(ending);
+  return name.append(recordEnding);
 }
 
 }  // namespace
@@ -62,11 +62,12 @@ std::vector<FoundRecord> PosixRecordFolder::records() {
   for (fs::directory_iterator at(path_, error), end; !error && at != end; at.increment(error)) {
     struct stat status {};
     const std::string path = at->path().string();
-    if (!path.ends_with(ending) || lstat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
+    if (!path.ends_with(recordEnding) || lstat(path.c_str(), &status) != 0 ||
+        !S_ISREG(status.st_mode)) {
       continue;
     }
     found.push_back({at->path().filename().string(), static_cast<std::uint64_t>(status.st_size),
-                     status.st_mtime, isInUse(path)});
+                     status.st_mtime, isInUse(path), PosixTextsBeside::of(path)});
   }
   return found;
 }
@@ -76,11 +77,13 @@ NewRecord PosixRecordFolder::create() {
   fs::create_directories(path_, error);
   if (error) throw posix::folderError(error.value());
   if (chmod(path_.c_str(), S_IRWXU) != 0) throw posix::folderError(errno);
+  PosixTextsBeside::removeStrays(path_);
   for (int tried = 1;; ++tried) {
     const std::string name = newName();
     const std::string path = pathOf(name);
     if (tried < mostNamesTried && access(path.c_str(), F_OK) == 0) continue;
-    return {name, std::make_unique<PosixGrowingFile>(path)};
+    return {name, std::make_unique<PosixGrowingFile>(path),
+            std::make_unique<PosixTextsBeside>(path_, path)};
   }
 }
 
@@ -88,9 +91,15 @@ std::string PosixRecordFolder::read(std::string_view name) {
   return posix::Descriptor(pathOf(name), O_RDONLY | O_NOFOLLOW).readAll();
 }
 
+std::string PosixRecordFolder::readBeside(std::string_view record, std::string_view text) {
+  if (text.find('/') != text.npos) throw errors::badFileName();
+  return posix::Descriptor(pathBeside(pathOf(record), text), O_RDONLY | O_NOFOLLOW).readAll();
+}
+
 void PosixRecordFolder::remove(std::string_view name) {
   const std::string path = pathOf(name);
   if (unlink(path.c_str()) != 0 && errno != ENOENT) throw posix::fileError(errno, path);
+  PosixTextsBeside::removeOf(path);
 }
 
 }  // namespace awizo

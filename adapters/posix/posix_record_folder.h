@@ -19,6 +19,7 @@ class PosixRecordFolder final : public RecordFolder {
   std::vector<FoundRecord> records() override;
   NewRecord create() override;
   std::string read(std::string_view name) override;
+  std::string readBeside(std::string_view record, std::string_view text) override;
   void remove(std::string_view name) override;
 
  private:

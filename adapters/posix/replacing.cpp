@@ -32,13 +32,13 @@ std::string folderOf(const std::string& path) {
 /// A file with another name in the target's folder, removed unless it has replaced the target.
 class NewFile {
  public:
-  explicit NewFile(const std::string& target) : target_(target) {
+  NewFile(const std::string& target, unsigned mode) : target_(target) {
     for (unsigned attempt = 0; !file_; ++attempt) {
       name_ =
           folderOf(target) + ".awizo-" + std::to_string(getpid()) + "-" + std::to_string(attempt);
       struct stat status {};
       if (lstat(name_.c_str(), &status) == 0) continue;
-      file_ = std::make_unique<Descriptor>(name_, O_WRONLY | O_CREAT | O_EXCL, 0666U);
+      file_ = std::make_unique<Descriptor>(name_, O_WRONLY | O_CREAT | O_EXCL, mode);
     }
   }
   ~NewFile() {
@@ -61,15 +61,6 @@ class NewFile {
   bool renamed_ = false;
 };
 
-/// Makes the new name lasting. What it names is on the disk by now, so a failure here is no reason
-/// to report the file as not written.
-void flushFolder(const std::string& folder) {
-  try {
-    Descriptor(folder, O_RDONLY | O_DIRECTORY).flush();
-  } catch (const RunTimeError&) {
-  }
-}
-
 /// Error 75 for a folder, 70 for a file that may not be written though its folder may.
 void requireWritable(const std::string& path, const struct stat& status) {
   if (S_ISDIR(status.st_mode)) throw errors::pathFileAccess();
@@ -78,7 +69,14 @@ void requireWritable(const std::string& path, const struct stat& status) {
 
 }  // namespace
 
-void replaceFile(const std::string& path, std::string_view bytes) {
+void flushFolder(const std::string& folder) {
+  try {
+    Descriptor(folder, O_RDONLY | O_DIRECTORY).flush();
+  } catch (const RunTimeError&) {
+  }
+}
+
+void replaceFile(const std::string& path, std::string_view bytes, unsigned mode) {
   const std::string target = behindLinks(path);
   struct stat old {};
   const bool exists = stat(target.c_str(), &old) == 0;
@@ -88,7 +86,7 @@ void replaceFile(const std::string& path, std::string_view bytes) {
     Descriptor(target, O_WRONLY).writeAll(bytes);
     return;
   }
-  NewFile replacement(target);
+  NewFile replacement(target, mode);
   const int number = replacement.file().number();
   if (exists && fchmod(number, old.st_mode & allPermissions) != 0) throw fileError(errno, target);
   replacement.file().writeAll(bytes);

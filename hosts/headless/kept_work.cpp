@@ -6,6 +6,7 @@
 #include "desk/unfinished_question.h"
 #include "hosts/common/program/recorded_options.h"
 #include "hosts/headless/recording.h"
+#include "journal/texts_beside.h"
 #include "platform/run_time_error.h"
 
 namespace awizo::headless {
@@ -15,7 +16,7 @@ namespace {
 Beginning goingOn(const Options& options, RecordFolder& records,
                   const journal::UnfinishedWork& work) {
   Beginning beginning;
-  beginning.replayed = journal::recordedSession(records.read(work.record));
+  beginning.replayed = journal::keptSession(records, work.record);
   beginning.options = optionsToGoOn(options, beginning.replayed.header);
   beginning.today.page = options.pageUrl.has_value();
   beginning.record = work.record;

@@ -2,6 +2,8 @@
 
 #include "hosts/common/program/recorded_options.h"
 #include "journal/record_file.h"
+#include "journal/texts_beside.h"
+#include "platform/record_folder.h"
 #include "platform/run_time_error.h"
 
 namespace awizo::headless {
@@ -10,8 +12,13 @@ journal::RecordedSession sessionToReplay(const Options& options, Machine& machin
   if (!options.replayFile) return {};
   try {
     const std::string bytes = machine.readFile(*options.replayFile);
-    return options.acts ? journal::recordedSession(bytes, *options.acts)
-                        : journal::recordedSession(bytes);
+    journal::RecordedSession session = options.acts ? journal::recordedSession(bytes, *options.acts)
+                                                    : journal::recordedSession(bytes);
+    // Where one is missing, the replay ends and says so.
+    journal::fetchBeside(session.records, [&](const std::string& name) {
+      return machine.readFile(pathBeside(*options.replayFile, name));
+    });
+    return session;
   } catch (const RunTimeError& error) {
     const bool noRecord = error.number() == errors::typeMismatch().number();
     throw BadArguments(*options.replayFile + ": " +

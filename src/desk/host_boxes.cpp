@@ -34,6 +34,8 @@ MessageBox launchFileRefusal(std::string_view file, std::string_view why) {
 
 std::string diskRefusal(const RunTimeError& error) {
   switch (error.number()) {
+    case 13:
+      return "файл повреждён";
     case 53:
       return "нет такого файла";
     case 61:

@@ -29,6 +29,8 @@ bool isSound(const Record& record) {
   switch (record.kind) {
     case RecordKind::outcome:
       return numbers >= 2;
+    case RecordKind::outcomeBeside:
+      return numbers >= 2 && texts == 1;
     case RecordKind::fact:
       return numbers >= 2 && texts >= 1;
     case RecordKind::act:

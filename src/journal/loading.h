@@ -26,7 +26,8 @@ struct RecordedSession {
 /// The first record of a file, and what of it is read back.
 Record headerRecord(const std::map<std::string, std::string>& header);
 
-/// The session in a file's bytes, cut off after this many deeds. Raises error 13 for bytes that
+/// The session in a file's bytes, cut off after this many deeds; texts that lie beside the file are
+/// left there. Raises error 13 for bytes that
 /// are no record of a session.
 RecordedSession recordedSession(std::string_view bytes,
                                 std::size_t mostDeeds = std::numeric_limits<std::size_t>::max());

@@ -83,7 +83,7 @@ Record decoded(std::string_view bytes) {
   Reader reader(bytes);
   Record record;
   record.kind = static_cast<RecordKind>(reader.byte());
-  if (record.kind < RecordKind::header || record.kind > RecordKind::stepEnds) {
+  if (record.kind < RecordKind::header || record.kind > RecordKind::outcomeBeside) {
     throw errors::typeMismatch();
   }
   record.numbers.resize(reader.count());

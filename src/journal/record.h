@@ -27,6 +27,7 @@ enum class RecordKind : std::uint8_t {
   returned = 14,
   stepBegins = 15,  ///< what comes is taken back as one: its name
   stepEnds = 16,
+  outcomeBeside = 17,  ///< an outcome whose text lies beside the file, under the name that is here
 };
 
 /// One thing that happened. Which numbers and texts it has is said where its kind is written.

@@ -9,7 +9,8 @@
 namespace awizo::journal {
 namespace {
 
-constexpr std::string_view firstLine = "awizo record 1\n";
+constexpr std::string_view firstLine = "awizo record 2\n";
+constexpr std::string_view formerFirstLine = "awizo record 1\n";
 constexpr std::size_t lengthSize = 4;
 constexpr std::size_t sumSize = 8;
 
@@ -60,7 +61,9 @@ std::string framed(const Record& record) {
 }
 
 WholeRecords wholeRecords(std::string_view bytes) {
-  if (!bytes.starts_with(firstLine)) throw errors::typeMismatch();
+  if (!bytes.starts_with(firstLine) && !bytes.starts_with(formerFirstLine)) {
+    throw errors::typeMismatch();
+  }
   WholeRecords whole;
   whole.length = firstLine.size();
   while (const auto frame = firstFrame(bytes.substr(whole.length))) {

@@ -11,7 +11,7 @@ namespace awizo::journal {
 
 // A file of records: a line that names the format, then records one after another, each with the
 // length and the checksum of its bytes. A file that somebody broke off ends in a torn record; all
-// before it is good.
+// before it is good. The first format had no texts beside the file.
 
 /// With what a file begins.
 std::string fileBeginning();

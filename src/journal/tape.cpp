@@ -1,6 +1,7 @@
 #include "journal/tape.h"
 
 #include "journal/record_file.h"
+#include "journal/texts_beside.h"
 #include "platform/forms/control.h"
 #include "platform/forms/form.h"
 #include "platform/run_time_error.h"
@@ -13,11 +14,15 @@ constexpr std::size_t mostKeptPending = 1 << 16;
 
 }  // namespace
 
-Tape::Tape(std::vector<Record> replayed, GrowingFile* file)
-    : replayed_(std::move(replayed)), replaying_(!replayed_.empty()), file_(file) {}
+Tape::Tape(std::vector<Record> replayed, GrowingFile* file, TextsBeside* texts)
+    : replayed_(std::move(replayed)), replaying_(!replayed_.empty()), file_(file), texts_(texts) {}
 
 void Tape::write(const Record& record) {
-  if (file_ != nullptr) frame(record, pending_);
+  if (file_ == nullptr) return;
+  if (texts_ != nullptr && record.kind == RecordKind::outcome) {
+    if (const auto named = namedBeside(record, *texts_)) return frame(*named, pending_);
+  }
+  frame(record, pending_);
 }
 
 void Tape::commit() {
@@ -209,6 +214,7 @@ void Tape::absorb() {
         if (listener != nullptr) listener->stepEnds();
         break;
       case RecordKind::outcome:
+      case RecordKind::outcomeBeside:
       case RecordKind::act:
       case RecordKind::hostAct:
       case RecordKind::answer:
@@ -235,6 +241,9 @@ Record Tape::takeOutcome(Source source) {
   if (next_ == replayed_.size()) differs("something that wasn't asked before");
   // Moved, since a reply can be large.
   Record record = std::move(replayed_[next_]);
+  if (record.kind == RecordKind::outcomeBeside) {
+    differs("a reply or file beside the record that is missing or damaged");
+  }
   if (record.kind != RecordKind::outcome ||
       record.numbers.at(0) != static_cast<std::int64_t>(source)) {
     differs("something else that is asked");

@@ -13,6 +13,7 @@
 #include "journal/values.h"
 #include "platform/forms/act.h"
 #include "platform/growing_file.h"
+#include "platform/record_folder.h"
 #include "platform/run_time_error.h"
 
 namespace awizo::journal {
@@ -78,8 +79,8 @@ class DeedListener {
 /// last record it goes on as if it had only written.
 class Tape : public ActObserver {
  public:
-  /// Nothing is written where `file` is null.
-  Tape(std::vector<Record> replayed, GrowingFile* file);
+  /// Nothing is written where `file` is null. Long texts go to `texts`, where there is one.
+  Tape(std::vector<Record> replayed, GrowingFile* file, TextsBeside* texts = nullptr);
 
   /// Null for nobody.
   DeedListener* listener = nullptr;
@@ -177,6 +178,7 @@ class Tape : public ActObserver {
   std::size_t next_ = 0;
   bool replaying_;
   GrowingFile* file_;
+  TextsBeside* texts_;
   std::string pending_;
   bool running_ = false;
   bool hiddenByAct_ = false;  ///< the form that waits was hidden by the act that has just ended

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <map>
 
 #include "foundation/date_text.h"
 #include "journal/loading.h"
@@ -29,6 +30,18 @@ std::vector<FoundRecord> leftBehind(RecordFolder& folder) {
     return left.changed != right.changed ? left.changed > right.changed : left.name > right.name;
   });
   return records;
+}
+
+/// What is shared counts once.
+std::uint64_t sizeOf(const std::vector<FoundRecord>& records) {
+  std::map<std::string, std::uint64_t> texts;
+  std::uint64_t bytes = 0;
+  for (const FoundRecord& record : records) {
+    bytes += record.size;
+    for (const TextBeside& text : record.texts) texts[text.name] = text.size;
+  }
+  for (const auto& text : texts) bytes += text.second;
+  return bytes;
 }
 
 }  // namespace
@@ -85,13 +98,10 @@ std::optional<UnfinishedWork> unfinishedWork(RecordFolder& folder) {
 }
 
 void keepWithin(RecordFolder& folder, std::uint64_t mostBytes) {
-  std::vector<FoundRecord> records = leftBehind(folder);
-  std::uint64_t bytes = 0;
-  for (const FoundRecord& record : folder.records()) bytes += record.size;
-  while (bytes > mostBytes && !records.empty()) {
+  while (sizeOf(folder.records()) > mostBytes) {
+    const std::vector<FoundRecord> records = leftBehind(folder);
+    if (records.empty()) return;
     folder.remove(records.back().name);
-    bytes -= records.back().size;
-    records.pop_back();
   }
 }
 

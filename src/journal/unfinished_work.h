@@ -41,7 +41,8 @@ struct UnfinishedWork {
 /// none.
 std::optional<UnfinishedWork> unfinishedWork(RecordFolder& folder);
 
-/// Removes the oldest records until at most `mostBytes` are kept; never one in use.
+/// Removes the oldest records until at most `mostBytes` are kept, what records share counted once;
+/// never one in use.
 void keepWithin(RecordFolder& folder, std::uint64_t mostBytes);
 
 }  // namespace awizo::journal

@@ -81,6 +81,94 @@ TEST_F(RecordFolderTest, LeavesOtherFilesAlone) {
   EXPECT_NE(errorNumberOf([&] { folder.read("link.record"); }), 0);
 }
 
+struct TextsBesideRecords : RecordFolderTest {
+  fs::path pathOf(const NewRecord& record) const {
+    return pathBeside((path / record.name).string(), name);
+  }
+  std::size_t entries() const {
+    return static_cast<std::size_t>(std::distance(fs::directory_iterator(path), {}));
+  }
+
+  const std::string name = "0123-8";
+  const std::string text = "the text";
+};
+
+TEST_F(TextsBesideRecords, AreTheirOwnersAlone) {
+  const NewRecord record = folder.create();
+  record.texts->keep(name, text);
+  EXPECT_EQ(folder.readBeside(record.name, name), text);
+  EXPECT_EQ(fs::status(pathOf(record)).permissions(),
+            fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(fs::status(pathOf(record).parent_path()).permissions(), fs::perms::owner_all);
+  const auto found = folder.records();
+  ASSERT_EQ(found.size(), 1U);
+  EXPECT_EQ(found[0].size, 0U);
+  ASSERT_EQ(found[0].texts.size(), 1U);
+  EXPECT_EQ(found[0].texts[0].name, name);
+  EXPECT_EQ(found[0].texts[0].size, text.size());
+}
+
+TEST_F(TextsBesideRecords, AreSharedAndGoWithTheLastRecord) {
+  PosixRecordFolder others{path.string()};
+  const NewRecord one = folder.create();
+  const NewRecord two = others.create();
+  one.texts->keep(name, text);
+  two.texts->keep(name, text);
+  two.texts->keep(name, text);
+  EXPECT_EQ(fs::hard_link_count(pathOf(two)), 2U);
+  folder.remove(one.name);
+  EXPECT_EQ(others.readBeside(two.name, name), text);
+  EXPECT_EQ(fs::hard_link_count(pathOf(two)), 1U);
+  others.remove(two.name);
+  EXPECT_EQ(entries(), 0U);
+}
+
+TEST_F(TextsBesideRecords, AreNotSharedWhereTheyAreDamaged) {
+  const NewRecord one = folder.create();
+  const NewRecord two = folder.create();
+  one.texts->keep(name, text);
+  test::writeFile(pathOf(one), "the test");
+  two.texts->keep(name, text);
+  EXPECT_EQ(folder.readBeside(two.name, name), text);
+}
+
+TEST_F(TextsBesideRecords, OfARecordThatWasHalfRemovedGoWithTheNext) {
+  const NewRecord one = folder.create();
+  one.texts->keep(name, text);
+  fs::remove(path / one.name);
+  folder.create();
+  EXPECT_FALSE(fs::exists(pathOf(one).parent_path()));
+  EXPECT_EQ(entries(), 1U);
+}
+
+TEST_F(TextsBesideRecords, AreNeverLookedForElsewhere) {
+  const NewRecord record = folder.create();
+  record.texts->keep(name, text);
+  test::writeFile(path / "secret", "secret");
+  EXPECT_NE(errorNumberOf([&] { folder.readBeside(record.name, "../secret"); }), 0);
+  EXPECT_NE(errorNumberOf([&] { record.texts->keep("../secret", text); }), 0);
+  fs::create_symlink(path / "secret", pathOf(record).parent_path() / "link");
+  EXPECT_NE(errorNumberOf([&] { folder.readBeside(record.name, "link"); }), 0);
+  EXPECT_EQ(test::readFile(path / "secret"), "secret");
+}
+
+TEST_F(TextsBesideRecords, WrittenByTwoProgramsAtOnceAreWholeForBoth) {
+  const std::string longText(1'000'000, 'x');
+  for (int round = 0; round < 20; ++round) {
+    const auto work = [&] {
+      NewRecord record = folder.create();
+      record.texts->keep(name, longText);
+      return folder.readBeside(record.name, name) == longText;
+    };
+    const pid_t child = fork();
+    if (child == 0) _exit(work() ? 0 : 1);
+    EXPECT_TRUE(work());
+    int status = -1;
+    waitpid(child, &status, 0);
+    ASSERT_EQ(status, 0);
+  }
+}
+
 TEST_F(RecordFolderTest, ThatCantBeMadeIsAnError) {
   test::writeFile(home.path() / "data", "a file");
   EXPECT_NE(errorNumberOf([&] { folder.create(); }), 0);

@@ -1,10 +1,15 @@
+#include <algorithm>
 #include <filesystem>
 
 #include "adapters/posix/posix_record_folder.h"
 #include "adapters/posix/settings_stores.h"
 #include "desk/document_watch.h"
 #include "desktop_program/program_test.h"
+#include "journal/loading.h"
 #include "platform/run_time_error.h"
+#include "support/files/files.h"
+#include "support/programs/conversation.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {
@@ -153,6 +158,76 @@ TEST_F(UnfinishedWorkTest, OfAnotherWindowIsNotOffered) {
   EXPECT_EQ(folder.records().size(), 2U);
 }
 
+/// The catalogue, beside each record that has it.
+std::vector<fs::path> textsIn(const fs::path& path) {
+  std::vector<fs::path> texts;
+  for (const auto& entry : fs::recursive_directory_iterator(path)) {
+    if (entry.is_regular_file() && entry.path().extension() != ".record") {
+      texts.push_back(entry.path());
+    }
+  }
+  return texts;
+}
+
+TEST_F(UnfinishedWorkTest, TwoProgramsShareACatalogueAndEachKeepsItsOwnWork) {
+  work();
+  DemoService another(place.folder() / "another");
+  agreeTo(another);
+  PosixRecordFolder same{path.string()};
+  desktop::MainWindow second(onLineOptions(another), nullptr, &same);
+  second.show();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return textsIn(path).size() == 2; }, 10000));
+  EXPECT_EQ(fs::hard_link_count(textsIn(path)[0]), 2U);
+
+  fs::copy(path, kept, fs::copy_options::recursive);
+  close();
+  EXPECT_EQ(folder.records().size(), 1U);
+  EXPECT_EQ(textsIn(path).size(), 1U);
+  fs::copy(kept, path, fs::copy_options::recursive | fs::copy_options::skip_existing);
+  openAgain("&Продолжить");
+  EXPECT_EQ(form().txtNrAwiza.text(), "ТН-6");
+}
+
+TEST_F(UnfinishedWorkTest, WithADamagedCatalogueIsToldAndStays) {
+  work();
+  crash();
+  ASSERT_EQ(textsIn(path).size(), 1U);
+  std::string bytes = readFile(textsIn(path)[0]);
+  bytes[bytes.size() / 2] ^= 1;
+  writeFile(textsIn(path)[0], bytes);
+  std::string told;
+  answerNext("&Продолжить", &asked);
+  then([&] { answerNext("ОК", &told); });
+  open(onLineOptions(service));
+  EXPECT_NE(told.find("Запись прежней работы не читается: файл повреждён."), told.npos) << told;
+  close();
+  EXPECT_EQ(folder.records().size(), 1U);
+}
+
+TEST_F(UnfinishedWorkTest, IsReplayedByTheHeadlessProgramToo) {
+  work();
+  form().grdPozycje.userCell(1, GRD_POZ_NAME);
+  then([this] { control().dlgSzczegoly.userClose(); });
+  form().btnDodajOpak.userClick();
+  // So many that the record holds a digest of the whole state.
+  for (int text = 0; text < 70; ++text) form().txtNrAwiza.userType(std::to_string(text));
+  const std::string record = (path / folder.records()[0].name).string();
+  const auto recorded = journal::recordedSession(readFile(record)).records;
+  EXPECT_TRUE(std::ranges::any_of(recorded, [](const journal::Record& entry) {
+    return entry.kind == journal::RecordKind::digest;
+  }));
+  const std::size_t requests = service.requests().size();
+
+  Conversation replayed({"--replay", record});
+  EXPECT_EQ(replayed.text("txtNrAwiza"), "69");
+  EXPECT_EQ(replayed.get("grdPozycje")["rows"], form().grdPozycje.rows());
+  EXPECT_EQ(replayed.get("grdPozycje")["row"], 1);
+  EXPECT_EQ(replayed.cellText("grdPozycje", 25, GRD_POZ_NAME),
+            form().grdPozycje.cell(25, GRD_POZ_NAME));
+  EXPECT_EQ(replayed.finish(), 0);
+  EXPECT_EQ(service.requests().size(), requests);
+}
+
 TEST_F(UnfinishedWorkTest, AFolderThatCantBeWrittenDisturbsNobody) {
   PosixRecordFolder forbidden{"/proc/records"};
   records = &forbidden;
@@ -181,6 +256,9 @@ struct FullFolder : RecordFolder {
     return {"full.record", std::move(file)};
   }
   std::string read(std::string_view name) override { return real_.read(name); }
+  std::string readBeside(std::string_view record, std::string_view text) override {
+    return real_.readBeside(record, text);
+  }
   void remove(std::string_view name) override { real_.remove(name); }
 
  private:
@@ -208,6 +286,9 @@ struct StubbornFolder : RecordFolder {
   std::string read(std::string_view name) override {
     if (readings-- == 0) throw errors::fileNotFound();
     return real_.read(name);
+  }
+  std::string readBeside(std::string_view record, std::string_view text) override {
+    return real_.readBeside(record, text);
   }
   void remove(std::string_view) override { throw errors::permissionDenied(); }
 

@@ -229,9 +229,9 @@ TEST_P(RecordTest, ThatIsNoneIsRefused) {
   EXPECT_EQ(acts.waitForEnd(), 2);
 }
 
-/// A record of the first format, made off line: header fields and one package.
-TEST(RecordFormats, TheFirstIsReplayed) {
-  const fs::path file = projectFolder() / "tests/journal/samples/format-1.record";
+/// The same work, made off line: header fields and one package.
+void expectWorkOfTheSample(const std::string& name) {
+  const fs::path file = projectFolder() / "tests/journal/samples" / name;
   Conversation editor({"--replay", file.string()});
   EXPECT_EQ(editor.text("txtNrAwiza"), "ТН/7");
   EXPECT_EQ(editor.get("txtEstimatedDeliveryDate")["date"], "2026-11-30");
@@ -239,6 +239,21 @@ TEST(RecordFormats, TheFirstIsReplayed) {
   EXPECT_EQ(editor.get("settings")["OffLinePath"], "c:\\VIRD");
   EXPECT_EQ(editor.get("control")["DebugLevel"], "2");
   EXPECT_EQ(editor.finish(), 0);
+}
+
+TEST(RecordFormats, TheFirstIsReplayed) { expectWorkOfTheSample("format-1.record"); }
+
+TEST(RecordFormats, TheSecondIsReplayedWithTheTextsBesideIt) {
+  expectWorkOfTheSample("format-2.record");
+}
+
+TEST(RecordFormats, TheSecondWithoutTheTextsBesideItSaysWhereItsReplayEnds) {
+  const Workplace place;
+  const std::string alone = (place.folder() / "alone.record").string();
+  writeFile(alone, readFile(projectFolder() / "tests/journal/samples/format-2.record"));
+  ChildProcess program(headlessCommand({"--replay", alone}));
+  program.closeInput();
+  EXPECT_EQ(program.waitForEnd(), 4);
 }
 
 }  // namespace

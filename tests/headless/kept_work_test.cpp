@@ -36,6 +36,9 @@ struct OneRecord : RecordFolder {
     if (readable-- == 0) throw errors::permissionDenied();
     return recordOfWork();
   }
+  std::string readBeside(std::string_view, std::string_view) override {
+    throw errors::fileNotFound();
+  }
   void remove(std::string_view) override {
     if (!removable) throw errors::permissionDenied();
     there = false;

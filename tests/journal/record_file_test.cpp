@@ -66,7 +66,7 @@ TEST(RecordFile, DamagedAnywhereEndsBeforeTheDamage) {
 TEST(RecordFile, OfAnotherFormatIsAnError) {
   EXPECT_EQ(errorNumberOf([] { wholeRecords(""); }), typeMismatch);
   EXPECT_EQ(errorNumberOf([] { wholeRecords("<a/>"); }), typeMismatch);
-  EXPECT_EQ(errorNumberOf([] { wholeRecords("awizo record 2\n"); }), typeMismatch);
+  EXPECT_EQ(errorNumberOf([] { wholeRecords("awizo record 3\n"); }), typeMismatch);
 }
 
 TEST(RecordFile, OfSoundFramesWithoutSenseIsAnError) {

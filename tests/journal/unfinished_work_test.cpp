@@ -6,14 +6,15 @@
 
 #include "journal/loading.h"
 #include "journal/record_file.h"
+#include "journal/texts_beside.h"
 #include "platform/run_time_error.h"
 #include "support/control/test_control.h"
+#include "support/error_of.h"
 #include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {
 
-using journal::UnfinishedWork;
 using journal::WorkSummary;
 
 struct MemoryFolder : RecordFolder {
@@ -21,18 +22,25 @@ struct MemoryFolder : RecordFolder {
     std::string bytes;
     std::int64_t changed = 0;
     bool inUse = false;
+    std::vector<TextBeside> texts = {};
   };
   std::map<std::string, Entry, std::less<>> entries;
+  std::map<std::string, std::string, std::less<>> texts;
 
   std::vector<FoundRecord> records() override {
     std::vector<FoundRecord> found;
     for (const auto& [name, entry] : entries) {
-      found.push_back({name, entry.bytes.size(), entry.changed, entry.inUse});
+      found.push_back({name, entry.bytes.size(), entry.changed, entry.inUse, entry.texts});
     }
     return found;
   }
   NewRecord create() override { return {}; }
   std::string read(std::string_view name) override { return entries.find(name)->second.bytes; }
+  std::string readBeside(std::string_view, std::string_view text) override {
+    const auto found = texts.find(text);
+    if (found == texts.end()) throw errors::fileNotFound();
+    return found->second;
+  }
   void remove(std::string_view name) override { entries.erase(entries.find(name)); }
 
   std::vector<std::string> names() const {
@@ -115,6 +123,36 @@ TEST(KeepingWithin, RemovesTheOldestButNoneInUse) {
   EXPECT_EQ(folder.names(), (Names{"a", "c"}));
   journal::keepWithin(folder, 0);
   EXPECT_EQ(folder.names(), Names{"a"});
+}
+
+TEST(KeepingWithin, CountsWhatRecordsShareOnce) {
+  MemoryFolder folder;
+  const std::string bytes(100, 'x');
+  const TextBeside shared{"a-1000", 1000};
+  folder.entries = {{"a", {bytes, 10, false, {shared}}},
+                    {"b", {bytes, 20, false, {shared}}},
+                    {"c", {bytes, 30, false, {shared, {"b-500", 500}}}}};
+  journal::keepWithin(folder, 1800);
+  EXPECT_EQ(folder.names(), (Names{"a", "b", "c"}));
+  journal::keepWithin(folder, 1799);
+  EXPECT_EQ(folder.names(), (Names{"b", "c"}));
+}
+
+TEST(KeptSession, IsWholeOrAnError) {
+  using journal::Record;
+  using journal::RecordKind;
+  const std::string text(1000, 'x');
+  const std::string name = journal::nameBeside(text);
+  MemoryFolder folder;
+  folder.entries = {{"a",
+                     {journal::fileBeginning() + journal::framed(journal::headerRecord({})) +
+                      journal::framed({RecordKind::outcomeBeside, {20, 0}, {name}}) +
+                      journal::framed({RecordKind::ready, {0}, {}})}}};
+  EXPECT_EQ(errorNumberOf([&] { journal::keptSession(folder, "a"); }), 53);
+  folder.texts[name] = text;
+  EXPECT_EQ(journal::keptSession(folder, "a").records.at(0).texts.at(0), text);
+  folder.texts[name] = "damaged";
+  EXPECT_EQ(errorNumberOf([&] { journal::keptSession(folder, "a"); }), 13);
 }
 
 TEST(WorkSummary, SaysHowFarTheWorkIs) {

@@ -22,6 +22,7 @@ class KeptRecord {
   KeptRecord& operator=(const KeptRecord&) = delete;
 
   GrowingFile* file() const { return record_.file.get(); }
+  TextsBeside* texts() const { return record_.texts.get(); }
   /// The work that was replayed is in this record now.
   void forgetReplayed(const std::string& name);
 

@@ -18,6 +18,7 @@
 #include "hosts/desktop/program/launch_file.h"
 #include "hosts/desktop/program/main_window.h"
 #include "hosts/desktop/screen/message_box.h"
+#include "journal/texts_beside.h"
 #include "journal/unfinished_work.h"
 #include "platform/text.h"
 #include "session/awizo_wysylki.h"
@@ -71,7 +72,7 @@ void MainWindow::giveUp(const std::string& record) {
 
 bool MainWindow::goOnWith(const journal::UnfinishedWork& work) {
   try {
-    replayed_ = journal::recordedSession(records_->read(work.record));
+    replayed_ = journal::keptSession(*records_, work.record);
   } catch (const RunTimeError& error) {
     askUser(unreadableRecord(error), nullptr);
     return false;

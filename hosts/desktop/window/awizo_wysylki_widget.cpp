@@ -55,7 +55,7 @@ struct AwizoWysylkiWidget::Parts {
         record(given.records.folder, given.records.header,
                [this](const RunTimeError& error) { recordingTrouble = diskRefusal(error); }),
         replayedName(given.records.replayedName),
-        tape(given.records.replayed.records, record.file()),
+        tape(given.records.replayed.records, record.file(), record.texts()),
         taped(tape, surroundings.platform, given.records.today),
         session(taped.platform),
         control(taped.platform, session),

@@ -4,6 +4,7 @@
 
 #include "hosts/web/core/border.h"
 #include "hosts/web/core/page_files.h"
+#include "platform/run_time_error.h"
 
 namespace awizo::web {
 
@@ -37,6 +38,10 @@ NewRecord PageRecords::create() {
 
 std::string PageRecords::read(std::string_view name) {
   return std::move(checked(ask({"readRecord", path_, std::string(name)})).at(0));
+}
+
+std::string PageRecords::readBeside(std::string_view, std::string_view) {
+  throw errors::fileNotFound();
 }
 
 void PageRecords::remove(std::string_view name) {

@@ -42,12 +42,13 @@ struct TapedControl {
   /// What stands between the tape and the screen.
   using Between = std::function<ScreenFace&(ScreenFace& real)>;
 
+  static ScreenFace& unchanged(ScreenFace& real) { return real; }
+
   /// Nothing is written where `file` is null.
-  explicit TapedControl(
-      GrowingFile* file, std::vector<journal::Record> replayed = {},
-      const Between& between = [](ScreenFace& real) -> ScreenFace& { return real; },
-      std::string_view localeName = "ru_RU")
-      : tape(std::move(replayed), file),
+  explicit TapedControl(GrowingFile* file, std::vector<journal::Record> replayed = {},
+                        const Between& between = unchanged, std::string_view localeName = "ru_RU",
+                        TextsBeside* beside = nullptr)
+      : tape(std::move(replayed), file, beside),
         desk(localeName, [this, &between](const Platform& real) -> const Platform& {
           const Platform under{.xml = real.xml,
                                .http = real.http,
