@@ -35,16 +35,20 @@ std::string textOf(const std::vector<int>& sizes) {
 
 }  // namespace
 
-std::vector<int> KeptSizes::of(std::string_view part, std::size_t count) const {
+std::vector<int> KeptSizes::of(std::string_view part) const {
   std::vector<int> sizes;
   for (const std::string& text : split(settings_.read(deskSettings, sizesSection, part, ""), " ")) {
     const std::optional<int> size = sizeIn(text);
     if (!size) return {};
     sizes.push_back(*size);
   }
-  const bool fits =
-      sizes.size() == count && std::ranges::any_of(sizes, [](int s) { return s > 0; });
-  return fits ? sizes : std::vector<int>();
+  const bool anySize = std::ranges::any_of(sizes, [](int size) { return size > 0; });
+  return anySize ? sizes : std::vector<int>();
+}
+
+std::vector<int> KeptSizes::of(std::string_view part, std::size_t count) const {
+  std::vector<int> sizes = of(part);
+  return sizes.size() == count ? sizes : std::vector<int>();
 }
 
 void KeptSizes::keep(std::string_view part, const std::vector<int>& sizes) {

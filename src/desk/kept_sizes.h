@@ -17,6 +17,8 @@ class KeptSizes {
   /// As many numbers as the part has. Nothing where none were kept, or where they don't fit: other
   /// parts than today's, a size below 0 or beyond any screen, or none above 0.
   std::vector<int> of(std::string_view part, std::size_t count) const;
+  /// The same for a part that has as many as were kept.
+  std::vector<int> of(std::string_view part) const;
   /// Settings that can't be written keep what they had.
   void keep(std::string_view part, const std::vector<int>& sizes);
 

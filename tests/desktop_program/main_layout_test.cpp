@@ -2,13 +2,19 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
+#include <QHeaderView>
 #include <QLayout>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSplitter>
+#include <QTableView>
+#include <QWindow>
 
 #include "desktop_program/program_test.h"
+#include "hosts/desktop/faces/table_face.h"
 #include "hosts/desktop/layouts/wrapping.h"
+#include "support/documents.h"
+#include "tables/columns/columns.h"
 
 namespace awizo::test {
 namespace {
@@ -170,6 +176,37 @@ TEST_F(MainLayoutTest, AWindowComesBackAsItsUserLeftIt) {
   letLayoutsSettle();
   EXPECT_EQ(window().size(), size);
   EXPECT_EQ(window().findChild<QSplitter*>("linesAndPackages")->sizes(), left);
+}
+
+/// Drags the right edge of a column's heading.
+void dragEdge(const QTableView& view, int column, int by) {
+  const QHeaderView& header = *view.horizontalHeader();
+  QWindow* window = view.window()->windowHandle();
+  const int edge = header.sectionViewportPosition(column) + header.sectionSize(column) - 1;
+  const QPoint from = header.viewport()->mapTo(view.window(), QPoint(edge, header.height() / 2));
+  QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, from);
+  QTest::mouseMove(window, from + QPoint(by, 0));
+  QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, from + QPoint(by, 0));
+}
+
+TEST_F(MainLayoutTest, ColumnsComeBackAsWideAsTheirUserMadeThem) {
+  const auto lines = [this] { return widget().faces().table(form().grdPozycje).view(); };
+  open(offLineOptions());
+  letLayoutsSettle();
+  const int usualName = lines()->columnWidth(GRD_POZ_NAME);
+  const int usualEan = lines()->columnWidth(GRD_POZ_EAN);
+  dragEdge(*lines(), GRD_POZ_EAN, 40);
+  letLayoutsSettle();
+  const int wideEan = lines()->columnWidth(GRD_POZ_EAN);
+  EXPECT_EQ(wideEan, usualEan + 40);
+  close();
+  open(offLineOptions());
+  letLayoutsSettle();
+  EXPECT_NEAR(lines()->columnWidth(GRD_POZ_EAN), wideEan, 1);
+  EXPECT_NEAR(lines()->columnWidth(GRD_POZ_NAME), usualName - 40, 1);
+  putLines(control().editor, 5);
+  letLayoutsSettle();
+  EXPECT_NEAR(lines()->columnWidth(GRD_POZ_EAN), wideEan, 1);
 }
 
 }  // namespace

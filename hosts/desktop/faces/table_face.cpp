@@ -23,7 +23,11 @@ TableFace::TableFace(FormFace& form, Table& table, QWidget* parent)
   watch(view_->viewport());
   connect(view_->verticalScrollBar(), &QScrollBar::valueChanged, this, &TableFace::takeScroll);
   connect(view_->horizontalScrollBar(), &QScrollBar::valueChanged, this, &TableFace::placeEditor);
-  connect(view_->horizontalHeader(), &QHeaderView::sectionResized, this, &TableFace::placeEditor);
+  connect(view_->horizontalHeader(), &QHeaderView::sectionResized, this,
+          [this](int column, int, int width) {
+            takeWidth(column, width);
+            placeEditor();
+          });
 }
 
 void TableFace::setUpView() {
@@ -143,9 +147,36 @@ void TableFace::showWidths() {
     shown = width;
     view_->setColumnHidden(column, width == 0);
     if (width == 0) continue;
+    const auto given = givenWidths_.find(column);
+    if (given != givenWidths_.end()) {
+      view_->setColumnWidth(column, std::max(1, qRound(given->second * pointsPerTwip())));
+      continue;
+    }
     const int heading = view_->horizontalHeader()->sectionSizeHint(column);
     view_->setColumnWidth(column, std::max(heading, qRound(width * pointsPerTwip())));
   }
+}
+
+/// Only the user resizes with the mouse held down.
+void TableFace::takeWidth(int column, int width) {
+  if (QApplication::mouseButtons() == Qt::NoButton) return;
+  givenWidths_[column] = std::max(1, qRound(width / pointsPerTwip()));
+}
+
+std::vector<int> TableFace::givenWidths() const {
+  if (givenWidths_.empty()) return {};
+  std::vector<int> widths(static_cast<std::size_t>(givenWidths_.rbegin()->first) + 1);
+  for (const auto& [column, width] : givenWidths_) widths[static_cast<std::size_t>(column)] = width;
+  return widths;
+}
+
+void TableFace::giveWidths(const std::vector<int>& twips) {
+  givenWidths_.clear();
+  for (std::size_t column = 0; column < twips.size(); ++column) {
+    if (twips[column] > 0) givenWidths_[static_cast<int>(column)] = twips[column];
+  }
+  shownWidths_.clear();
+  if (!stale_) showWidths();
 }
 
 void TableFace::relayColumn(int column) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPointer>
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -36,6 +37,10 @@ class TableFace : public Face {
   std::function<void()> afterDoubleClick;
   /// What a row has to say besides its cells: see TableRows.
   void describeRows(std::function<std::string(int row)> describe);
+  /// The widths in twips that the user has given to columns, up to the last such; 0 for one that is
+  /// as it began.
+  std::vector<int> givenWidths() const;
+  void giveWidths(const std::vector<int>& twips);
   /// The column takes the room that the others leave.
   void stretchColumn(int column);
 
@@ -59,6 +64,7 @@ class TableFace : public Face {
   void showLater();
   void showWidths();
   void relayColumn(int column);
+  void takeWidth(int column, int width);
   void showHeights();
   int markedRow() const;
   bool pressCommonKey(const QKeyEvent& key);
@@ -77,8 +83,9 @@ class TableFace : public Face {
   TableView* view_;
   TableRows* rows_;
   QPointer<Face> editor_;
-  std::vector<int> shownWidths_;  ///< twips, as the columns were last laid out
-  Cell pressed_;                  ///< where the mouse button went down and is still held
+  std::vector<int> shownWidths_;    ///< twips, as the columns were last laid out
+  std::map<int, int> givenWidths_;  ///< twips, by the column
+  Cell pressed_;                    ///< where the mouse button went down and is still held
   std::optional<ListMoves> listMoves_;
   bool stale_ = true;
 };

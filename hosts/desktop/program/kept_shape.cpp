@@ -1,10 +1,13 @@
 #include "hosts/desktop/program/kept_shape.h"
 
 #include <QSplitter>
+#include <QTableView>
 
 #include "desk/kept_sizes.h"
+#include "hosts/desktop/faces/table_face.h"
 #include "hosts/desktop/faces/text.h"
 #include "hosts/desktop/layouts/wrapping.h"
+#include "platform/text.h"
 
 namespace awizo::desktop {
 namespace {
@@ -16,6 +19,18 @@ template <class Do>
 void eachSplitter(const QWidget& part, Do&& act) {
   for (auto* splitter : part.findChildren<QSplitter*>()) {
     if (!splitter->objectName().isEmpty()) act(*splitter, toText(splitter->objectName()));
+  }
+}
+
+/// Calls with each table, and the name of its columns' widths.
+template <class Do>
+void eachTable(const QWidget& part, Do&& act) {
+  for (const auto* view : part.findChildren<QTableView*>()) {
+    if (view->window() != part.window()) continue;
+    for (QObject* child : view->children()) {
+      auto* table = dynamic_cast<TableFace*>(child);
+      if (table != nullptr) act(*table, joined({"columns of ", table->control().name()}));
+    }
   }
 }
 
@@ -41,12 +56,19 @@ void takeKeptParts(QWidget& part, SettingsStore& settings) {
         KeptSizes(settings).of(name, static_cast<std::size_t>(splitter.count()));
     if (!kept.empty()) splitter.setSizes({kept.begin(), kept.end()});
   });
+  eachTable(part, [&](TableFace& table, const std::string& name) {
+    table.giveWidths(KeptSizes(settings).of(name));
+  });
 }
 
 void keepParts(const QWidget& part, SettingsStore& settings) {
   eachSplitter(part, [&](QSplitter& splitter, const std::string& name) {
     const QList<int> sizes = splitter.sizes();
     KeptSizes(settings).keep(name, {sizes.begin(), sizes.end()});
+  });
+  eachTable(part, [&](TableFace& table, const std::string& name) {
+    const std::vector<int> given = table.givenWidths();
+    if (!given.empty()) KeptSizes(settings).keep(name, given);
   });
 }
 
