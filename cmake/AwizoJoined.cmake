@@ -31,3 +31,21 @@ function(awizo_joined result at_once root)
   endforeach()
   set(${result} ${joined} PARENT_SCOPE)
 endfunction()
+
+# awizo_standard_headers(NAME): where sources are joined, a target takes what nearly all include of the
+# standard library as it was compiled once; where they aren't, each source shows that it includes what it uses.
+# Not for what is linked to Qt, which wants another kind of code.
+function(awizo_standard_headers name)
+  if(AWIZO_JOIN)
+    target_precompile_headers(${name} REUSE_FROM awizo_headers)
+  endif()
+endfunction()
+
+if(AWIZO_JOIN)
+  file(CONFIGURE OUTPUT "${PROJECT_BINARY_DIR}/headers.cpp" CONTENT "")
+  add_library(awizo_headers OBJECT "${PROJECT_BINARY_DIR}/headers.cpp")
+  target_link_libraries(awizo_headers PRIVATE awizo_options)
+  target_precompile_headers(awizo_headers PRIVATE
+    <algorithm> <array> <charconv> <cmath> <cstdint> <functional> <map> <memory> <optional> <set> <span>
+    <string> <string_view> <unordered_map> <utility> <variant> <vector>)
+endif()
