@@ -1,5 +1,7 @@
 #include "hosts/desktop/faces/label_faces.h"
 
+#include "hosts/desktop/faces/group_box.h"
+
 namespace awizo::desktop {
 
 LabelFace::LabelFace(FormFace& form, Label& label, QWidget* parent)
@@ -13,7 +15,7 @@ void LabelFace::showContent() {
 }
 
 FrameFace::FrameFace(FormFace& form, Frame& frame, QWidget* parent)
-    : Face(form, frame, new QGroupBox(parent)),
+    : Face(form, frame, new GroupBox(parent)),
       frame_(frame),
       box_(static_cast<QGroupBox*>(widget())) {}
 

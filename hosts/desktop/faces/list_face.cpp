@@ -27,6 +27,8 @@ void ListRows::changed() {
 }
 
 void ListBox::showPopup() {
+  // Rows of one height aren't measured one by one.
+  static_cast<QListView*>(view())->setUniformItemSizes(true);
   view()->setMinimumWidth(rowsWidth());
   QComboBox::showPopup();
 }
@@ -41,9 +43,6 @@ ListFace::ListFace(FormFace& form, DropDownList& list, QWidget* parent)
       list_(list),
       box_(static_cast<ListBox*>(widget())),
       rows_(new ListRows(list, this)) {
-  auto* view = new QListView(box_);
-  view->setUniformItemSizes(true);
-  box_->setView(view);
   box_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   box_->setMinimumContentsLength(12);
   box_->setMaxVisibleItems(15);
@@ -65,23 +64,27 @@ void ListFace::showStyle() {
   if (canType == box_->isEditable()) return;
   box_->setEditable(canType);
   box_->setFocusPolicy(Qt::TabFocus);
-  if (canType) makeProposals();
+  if (canType) letType();
 }
 
-void ListFace::makeProposals() {
+void ListFace::letType() {
   QLineEdit* edit = box_->lineEdit();
   watch(edit);
   // By itself the box would look what is typed up in its rows when the focus goes, and pick it.
   QObject::disconnect(edit, &QLineEdit::editingFinished, nullptr, nullptr);
   QObject::disconnect(edit, &QLineEdit::returnPressed, nullptr, nullptr);
   box_->setCompleter(nullptr);
+  connect(edit, &QLineEdit::textEdited, this, &ListFace::takeTyping);
+}
+
+/// Not before the list has the focus: it costs more than the rest of the list.
+void ListFace::makeProposals() {
   proposals_ = new ProposalsModel(list_, this);
   completer_ = new QCompleter(proposals_, this);
   completer_->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
   completer_->setMaxVisibleItems(12);
   completer_->setWidget(box_);
   static_cast<QListView*>(completer_->popup())->setUniformItemSizes(true);
-  connect(edit, &QLineEdit::textEdited, this, &ListFace::takeTyping);
   connect(completer_, qOverload<const QModelIndex&>(&QCompleter::activated), this,
           [this](const QModelIndex& proposal) {
             const auto* shown = qobject_cast<QAbstractProxyModel*>(completer_->completionModel());
@@ -91,7 +94,7 @@ void ListFace::makeProposals() {
 
 void ListFace::takeTyping(const QString& text) {
   act([&] { list_.userType(toText(text)); });
-  if (hasFocus() && box_->isEditable()) showProposals(box_->lineEdit()->text());
+  if (hasFocus() && proposals_ != nullptr) showProposals(box_->lineEdit()->text());
 }
 
 void ListFace::showProposals(const QString& typed) {
@@ -144,7 +147,10 @@ void ListFace::showChange(const Change& change) {
 bool ListFace::eventFilter(QObject* watched, QEvent* event) {
   // A long list is prepared for typing before the first key comes.
   const bool focused = event->type() == QEvent::FocusIn && watched == box_;
-  if (focused && proposals_ != nullptr) proposals_->prepare();
+  if (focused && box_->isEditable()) {
+    if (proposals_ == nullptr) makeProposals();
+    proposals_->prepare();
+  }
   return Face::eventFilter(watched, event);
 }
 

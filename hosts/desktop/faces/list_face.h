@@ -51,6 +51,7 @@ class ListFace : public Face {
 
  private:
   void showStyle();
+  void letType();
   void makeProposals();
   void takeTyping(const QString& text);
   void showProposals(const QString& typed);
@@ -60,7 +61,7 @@ class ListFace : public Face {
   DropDownList& list_;
   ListBox* box_;
   ListRows* rows_;
-  ProposalsModel* proposals_ = nullptr;
+  ProposalsModel* proposals_ = nullptr;  ///< made when the list first has the focus, as the next
   QCompleter* completer_ = nullptr;
 };
 

@@ -35,12 +35,11 @@ QString dateFormat(const QLocale& locale, DateForm form) {
 }  // namespace
 
 PickerFace::PickerFace(FormFace& form, Control& picker, QDateTimeEdit* edit, bool allowsNone,
-                       const QString& caption, QWidget* parent)
-    : Face(form, picker, new QWidget(parent)), edit_(edit) {
+                       const QString& caption)
+    : Face(form, picker, edit->parentWidget()), edit_(edit) {
   auto* row = new QHBoxLayout(widget());
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(4);
-  edit_->setParent(widget());
   edit_->setFocusPolicy(Qt::TabFocus);
   edit_->setAccessibleName(caption);
   watch(edit_);
@@ -97,10 +96,10 @@ bool PickerFace::eventFilter(QObject* watched, QEvent* event) {
 }
 
 DateFace::DateFace(FormFace& form, DatePicker& picker, QWidget* parent)
-    : DateFace(form, picker, new QDateEdit, parent) {}
+    : DateFace(form, picker, new QDateEdit(new QWidget(parent))) {}
 
-DateFace::DateFace(FormFace& form, DatePicker& picker, QDateEdit* edit, QWidget* parent)
-    : PickerFace(form, picker, edit, picker.allowsNone(), fromText(picker.caption()), parent),
+DateFace::DateFace(FormFace& form, DatePicker& picker, QDateEdit* edit)
+    : PickerFace(form, picker, edit, picker.allowsNone(), fromText(picker.caption())),
       picker_(picker),
       edit_(edit) {
   edit_->setCalendarPopup(true);
@@ -126,10 +125,10 @@ void DateFace::showContent() {
 }
 
 TimeFace::TimeFace(FormFace& form, TimePicker& picker, QWidget* parent)
-    : TimeFace(form, picker, new QTimeEdit, parent) {}
+    : TimeFace(form, picker, new QTimeEdit(new QWidget(parent))) {}
 
-TimeFace::TimeFace(FormFace& form, TimePicker& picker, QTimeEdit* edit, QWidget* parent)
-    : PickerFace(form, picker, edit, true, fromText(picker.caption()), parent),
+TimeFace::TimeFace(FormFace& form, TimePicker& picker, QTimeEdit* edit)
+    : PickerFace(form, picker, edit, true, fromText(picker.caption())),
       picker_(picker),
       edit_(edit) {
   edit_->setDisplayFormat("HH:mm");

@@ -13,8 +13,9 @@ namespace awizo::desktop {
 /// that is checked while it isn't. The space bar checks and clears it too.
 class PickerFace : public Face {
  public:
+  /// `edit` stands in a widget made for both, so that it is made in the form's locale at once.
   PickerFace(FormFace& form, Control& picker, QDateTimeEdit* edit, bool allowsNone,
-             const QString& caption, QWidget* parent);
+             const QString& caption);
   QWidget* focusWidget() const override;
   void finishTyping() override;
 
@@ -43,7 +44,7 @@ class DateFace : public PickerFace {
   void showContent() override;
 
  private:
-  DateFace(FormFace& form, DatePicker& picker, QDateEdit* edit, QWidget* parent);
+  DateFace(FormFace& form, DatePicker& picker, QDateEdit* edit);
 
   DatePicker& picker_;
   QDateEdit* edit_;
@@ -59,7 +60,7 @@ class TimeFace : public PickerFace {
   void showContent() override;
 
  private:
-  TimeFace(FormFace& form, TimePicker& picker, QTimeEdit* edit, QWidget* parent);
+  TimeFace(FormFace& form, TimePicker& picker, QTimeEdit* edit);
 
   TimePicker& picker_;
   QTimeEdit* edit_;

@@ -108,10 +108,14 @@ void TableFace::showChange(const Change& change) {
 /// Rows come and go by the thousand in one event; the view is notified once. While the model's
 /// redrawing is off it keeps what it shows.
 void TableFace::showLater() {
-  if (table_.redraw()) {
-    QMetaObject::invokeMethod(
-        this, [this] { showNow(); }, Qt::QueuedConnection);
-  }
+  if (!table_.redraw() || std::exchange(showIsDue_, true)) return;
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        showIsDue_ = false;
+        showNow();
+      },
+      Qt::QueuedConnection);
 }
 
 void TableFace::showNow() {

@@ -88,6 +88,7 @@ class TableFace : public Face {
   Cell pressed_;                    ///< where the mouse button went down and is still held
   std::optional<ListMoves> listMoves_;
   bool stale_ = true;
+  bool showIsDue_ = false;
 };
 
 }  // namespace awizo::desktop

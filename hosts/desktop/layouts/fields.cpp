@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "hosts/desktop/faces/group_box.h"
 #include "linedialog/captions.h"
 
 namespace awizo::desktop {
@@ -76,7 +77,7 @@ void Fields::addCovered(int row, int pair, const Control& caption, const Control
 }
 
 QGroupBox* makeGroup(std::string_view heading) {
-  auto* group = new QGroupBox(fromText(heading));
+  auto* group = new GroupBox(fromText(heading));
   group->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   return group;
 }

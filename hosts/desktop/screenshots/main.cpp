@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QStyleFactory>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <filesystem>
 #include <iostream>
 
@@ -113,6 +114,18 @@ QString takeOption(QStringList& given, const QString& name) {
   return value;
 }
 
+/// The screen that isn't there, as Qt is told of it by a file.
+void useScreen(QTemporaryFile& file, QSize size) {
+  if (!file.open()) return;
+  file.write(QString(R"({"screens": [{"name": "desk", "x": 0, "y": 0, "width": %1, "height": %2,
+                         "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
+                 .arg(size.width())
+                 .arg(size.height())
+                 .toUtf8());
+  file.flush();
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
+}
+
 void useFont(double points) {
   QFont font = QApplication::font();
   font.setPointSizeF(points);
@@ -122,17 +135,18 @@ void useFont(double points) {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QStringList given(arguments + 1, arguments + argumentCount);
+  const QStringList sides = takeOption(given, "--size").split('x');
+  const bool isSized = sides.size() == 2;
+  const QSize size = isSized ? QSize(sides[0].toInt(), sides[1].toInt()) : QSize(1024, 700);
+  QTemporaryFile screen;
+  useScreen(screen, isSized ? size : QSize(1920, 1080));
   // What the platform can't do without a screen isn't worth a line each time.
   qputenv("QT_LOGGING_RULES", "default.warning=false");
   QApplication application(argumentCount, arguments);
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   QLocale::setDefault(desktop::localeNamed("ru_RU"));
-  QStringList given = QApplication::arguments().mid(1);
   if (given.removeAll("--dark") > 0) QApplication::setPalette(darkPalette());
-  const QStringList sides = takeOption(given, "--size").split('x');
-  const QSize size =
-      sides.size() == 2 ? QSize(sides[0].toInt(), sides[1].toInt()) : QSize(1024, 700);
   if (const double points = takeOption(given, "--font").toDouble(); points > 0) useFont(points);
   if (given.size() != 1) {
     std::cerr << usage;
