@@ -40,8 +40,8 @@ def _all_included(project, name):
 
 
 def _key(project, name, version):
-    parts = [version, project.text(".clang-tidy"),
-             project.compile_commands()[name][0].replace(str(project.root), "")]
+    options = " ".join(_options(project, name)).replace(str(project.root), "")
+    parts = [version, project.text(".clang-tidy"), options]
     for file in _all_included(project, name):
         parts += [file, project.text(file)]
     return hashlib.sha256("\0".join(parts).encode()).hexdigest()
