@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "hosts/headless/question_lines.h"
-#include "hosts/protocol/answers.h"
 #include "platform/forms/control.h"
 #include "platform/forms/form.h"
 
@@ -11,11 +10,12 @@ namespace awizo::headless {
 
 namespace {
 
-bool isAnswer(const std::string& text) {
+/// The line; null for what is none.
+protocol::Json lineIn(const std::string& text) {
   try {
-    return protocol::parseLine(text).contains("answer");
+    return protocol::parseLine(text);
   } catch (const protocol::BadLine&) {
-    return false;
+    return nullptr;
   }
 }
 
@@ -37,7 +37,7 @@ void Conversation::waitForAnswer(const std::function<void(const protocol::Json& 
   bool taken = false;
   while (!taken) {
     std::string text = nextLine();
-    if (!isAnswer(text)) {
+    if (!lineIn(text).contains("answer")) {
       early.push_back(std::move(text));
       continue;
     }
@@ -59,24 +59,52 @@ Answer Conversation::askFirst(const MessageBox& box) {
 }
 
 Answer Conversation::ask(const MessageBox& box) {
-  emit(protocol::boxEvent(box));
-  std::optional<Answer> answer;
-  while (!answer) {
+  emit(describe(box));
+  Answer answer{};
+  waitOverForms(
+      [&](const protocol::Json& line) { answer = protocol::answerIn(line, box.buttons); });
+  return answer;
+}
+
+Choice Conversation::ask(const Question& question) {
+  emit(questionEvent(question));
+  Choice choice{};
+  waitOverForms([&](const protocol::Json& line) { choice = choiceIn(line, question); });
+  return choice;
+}
+
+void Conversation::waitOverForms(const std::function<void(const protocol::Json& line)>& take) {
+  bool taken = false;
+  while (!taken) {
     lines_.write(protocol::closingLineOf(nextLine(), [&](const protocol::Json& line) {
       if (line.contains("answer")) {
-        answer = protocol::answerIn(line, box.buttons);
+        take(line);
+        taken = true;
         return protocol::Json::object();
       }
       if (!line.contains("get")) throw Refused("A message box is open.");
       return act(line);
     }));
   }
-  return *answer;
+}
+
+bool Conversation::isToldToStop() {
+  while (lineWaits && lineWaits()) {
+    std::optional<std::string> text = lines_.read();
+    if (!text) return true;
+    const protocol::Json line = lineIn(*text);
+    if (line.is_object() && line.contains("do") && line["do"] == "stop") {
+      lines_.write(protocol::success(line, protocol::Json::object()));
+      return true;
+    }
+    early_.push_back(std::move(*text));
+  }
+  return false;
 }
 
 void Conversation::watch(Form& dialog) {
   dialog.observers.add([this, &dialog](const Change& change) {
-    if (change.aspect == Aspect::visible) emit(protocol::formEvent(dialog));
+    if (change.aspect == Aspect::visible && !dialogsAreUnseen) emit(protocol::formEvent(dialog));
   });
 }
 
@@ -86,6 +114,14 @@ void Conversation::emit(const protocol::Json& event) {
 
 void Conversation::runModal(Form& form) {
   while (form.shown()) serve(nextLine());
+}
+
+void Conversation::workBegins(std::string_view what) {
+  if (onWork) onWork(what);
+}
+
+void Conversation::workEnds() {
+  if (onWorkEnd) onWorkEnd();
 }
 
 void Conversation::endProgram() {

@@ -5,9 +5,11 @@
 #include <iosfwd>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "desk/question.h"
 #include "hosts/headless/line_stream.h"
+#include "hosts/protocol/answers.h"
 #include "hosts/protocol/values/json.h"
 #include "platform/forms/screen_face.h"
 
@@ -33,8 +35,18 @@ class Conversation : public ScreenFace {
   std::function<protocol::Json(const protocol::Json& line)> act;
   /// Called whenever all is told and the next line is waited for.
   std::function<void()> beforeWaiting = [] {};
+  /// How a box is told of.
+  std::function<protocol::Json(const MessageBox& box)> describe = protocol::boxEvent;
+  // Called when work begins during which the user can do nothing, and when it ends. Such works
+  // nest.
+  std::function<void(std::string_view what)> onWork;
+  std::function<void()> onWorkEnd;
+  /// Whether a line waits to be read. None where that can't be seen.
+  std::function<bool()> lineWaits;
   /// Nothing is told for now.
   bool silent = false;
+  /// Dialogs come and go without the user.
+  bool dialogsAreUnseen = false;
 
   /// Reports from now on when the form is shown modally and when it hides.
   void watch(Form& dialog);
@@ -44,20 +56,29 @@ class Conversation : public ScreenFace {
   /// form.
   void emit(const protocol::Json& event);
 
+  /// Whether a line that waits says so: {"do":"stop"}. What else waits is served later.
+  bool isToldToStop();
+
   // Asked before there is a control. Lines that come before the answer are served after it.
   Choice choose(const Question& question);
   Answer askFirst(const MessageBox& box);
+
+  /// Over what is open, as a box is.
+  Choice ask(const Question& question);
 
   Answer ask(const MessageBox& box) override;
   /// Serves lines until the form has hidden.
   void runModal(Form& form) override;
   void cursorChanged(Cursor) override {}
+  void workBegins(std::string_view what) override;
+  void workEnds() override;
   void letEventsRun() override {}
   [[noreturn]] void endProgram() override;
 
  private:
   std::optional<std::string> waitForLine();
   void waitForAnswer(const std::function<void(const protocol::Json& line)>& take);
+  void waitOverForms(const std::function<void(const protocol::Json& line)>& take);
   std::string nextLine();
   void serve(const std::string& text);
 

@@ -1,15 +1,50 @@
 #include "hosts/headless/desk_records.h"
 
+#include <algorithm>
+#include <array>
+#include <string>
 #include <utility>
 
 #include "desk/choose_path.h"
-#include "desk/commands.h"
+#include "platform/forms/keys.h"
 
 namespace awizo::headless {
 
 namespace {
 
 using protocol::Json;
+
+struct NamedTask {
+  HostTask task;
+  std::string_view name;
+};
+
+constexpr std::array tasks{
+    NamedTask{HostTask::startAgain, "startAgain"},   NamedTask{HostTask::takeBack, "takeBack"},
+    NamedTask{HostTask::doAgain, "doAgain"},         NamedTask{HostTask::findLine, "findLine"},
+    NamedTask{HostTask::findAgain, "findAgain"},     NamedTask{HostTask::showFaults, "showFaults"},
+    NamedTask{HostTask::addPackages, "addPackages"}, NamedTask{HostTask::distribute, "distribute"},
+    NamedTask{HostTask::showAbout, "showAbout"},
+};
+
+std::string keyWords(const CommandKey& key) {
+  std::string words;
+  switch (key.code) {
+    case keys::insert:
+      words = "Insert";
+      break;
+    case keys::remove:
+      words = "Delete";
+      break;
+    case keys::enter:
+      words = "Enter";
+      break;
+    default:
+      words = key.code >= keys::f1 ? "F" + std::to_string(key.code - keys::f1 + 1)
+                                   : std::string(1, static_cast<char>(key.code));
+  }
+  return key.control ? "Ctrl+" + words : words;
+}
 
 Json keysOf(const Command& command) {
   Json keys = Json::array();
@@ -19,33 +54,53 @@ Json keysOf(const Command& command) {
   return keys;
 }
 
-/// Nothing for what no button does: the client's own program has its own ways for that.
-Json commandJson(const Command& command) {
+template <class NameOf>
+Json jsonOf(const Command& command, const NameOf& nameOfControl) {
+  const auto name = [&](const Control* control) {
+    return control == nullptr ? Json(nullptr) : Json(nameOfControl(control));
+  };
+  const bool presses = command.button != nullptr;
   return {{"words", command.plainWords()},
           {"icon", command.icon},
-          {"on", command.button->name()},
+          {presses ? "on" : "task", presses ? name(command.button) : Json(nameOf(command.task))},
           {"keys", keysOf(command)},
-          {"place", command.place == nullptr ? Json(nullptr) : Json(command.place->name())}};
-}
-
-Json menusJson(AwizoForm& form) {
-  Json menus = Json::array();
-  for (const CommandMenu& menu : commandMenus(form)) {
-    Json commands = Json::array();
-    for (const auto& group : menu.groups) {
-      for (const Command& command : group) {
-        if (command.button != nullptr) commands.push_back(commandJson(command));
-      }
-    }
-    menus.push_back({{"heading", menu.heading}, {"commands", std::move(commands)}});
-  }
-  return menus;
+          {"place", name(command.place)},
+          {"onCurrentRow", command.onCurrentRow},
+          {"tip", command.keys.empty() ? "" : command.tip(keyWords(command.keys.front()))}};
 }
 
 }  // namespace
 
-void addDeskRecords(protocol::Dispatcher& dispatcher, AwizoWysylki& control) {
-  dispatcher.records["commands"] = [&control] { return menusJson(control.form); };
+std::string_view nameOf(HostTask task) {
+  const auto found = std::ranges::find(tasks, task, &NamedTask::task);
+  return found == tasks.end() ? "" : found->name;
+}
+
+HostTask taskNamed(std::string_view name) {
+  const auto found = std::ranges::find(tasks, name, &NamedTask::name);
+  if (found == tasks.end())
+    throw protocol::BadLine("There is no task \"" + std::string(name) + "\".");
+  return found->task;
+}
+
+Json menusJson(const std::vector<CommandMenu>& menus) {
+  Json all = Json::array();
+  for (const CommandMenu& menu : menus) {
+    Json commands = Json::array();
+    for (const auto& group : menu.groups) {
+      for (const Command& command : group) {
+        if (command.button == nullptr && nameOf(command.task).empty()) continue;
+        commands.push_back(jsonOf(command, [](const Control* control) { return control->name(); }));
+      }
+    }
+    if (!commands.empty())
+      all.push_back({{"heading", menu.heading}, {"commands", std::move(commands)}});
+  }
+  return all;
+}
+
+Json commandJson(const Command& command, const protocol::FormDirectory& forms) {
+  return jsonOf(command, [&](const Control* control) { return forms.nameOf(control); });
 }
 
 void addFileLines(protocol::Dispatcher& dispatcher, AwizoWysylki& control) {

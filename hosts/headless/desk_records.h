@@ -1,14 +1,25 @@
 #pragma once
 
+#include <string_view>
+#include <vector>
+
+#include "desk/commands.h"
 #include "hosts/protocol/dispatcher.h"
 #include "session/awizo_wysylki.h"
 #include "session/record/deed.h"
 
 namespace awizo::headless {
 
-/// What a client may show beside the forms: {"get":"commands"} are the menus, each command with the
-/// button that it presses and its keys.
-void addDeskRecords(protocol::Dispatcher& dispatcher, AwizoWysylki& control);
+/// The menus, as far as something is done here: each command with the button that it presses or its
+/// task, its keys, and the table on whose current row it acts.
+protocol::Json menusJson(const std::vector<CommandMenu>& menus);
+/// A command of a dialog, its controls by the names that lines use.
+protocol::Json commandJson(const Command& command, const protocol::FormDirectory& forms);
+
+/// A task as lines call it; empty for one that isn't done here.
+std::string_view nameOf(HostTask task);
+/// Throws BadLine for a name that no task has.
+HostTask taskNamed(std::string_view name);
 
 /// For a client that has disks of its own: {"do":"choosePath","path":"c:\\VIRD\\a.xml"} chooses
 /// that file in the open dialog, as a user does.

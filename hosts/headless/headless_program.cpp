@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "adapters/libxml2/libxml2.h"
+#include "assistants/assisted_face.h"
 #include "desk/host_boxes.h"
 #include "desk/layout_words.h"
 #include "hosts/common/given_host.h"
@@ -14,6 +15,7 @@
 #include "hosts/headless/desk_records.h"
 #include "hosts/headless/kept_work.h"
 #include "hosts/headless/recording.h"
+#include "hosts/headless/served_desk.h"
 #include "hosts/headless/step_lines.h"
 #include "hosts/protocol/answers.h"
 #include "hosts/protocol/changes/feed_actions.h"
@@ -47,6 +49,7 @@ class Program {
   void tellSteps();
 
   Conversation& conversation_;
+  AssistedFace face_;
   Options options_;
   Libxml2 xml_;
   std::unique_ptr<Locale> locale_;
@@ -62,9 +65,10 @@ class Program {
   SessionState session_;
   AwizoWysylki control_;
   journal::Recording recording_;
+  journal::History history_;
+  ServedDesk desk_;
   protocol::ControlAccess access_;
   protocol::ChangeFeed feed_;
-  journal::History history_;
   int savings_ = 0;
   bool tellsFiles_ = false;
   protocol::Json steps_;  ///< as they were told last; null for a client that isn't told
@@ -72,6 +76,7 @@ class Program {
 
 Program::Program(Beginning&& beginning, Machine& machine, Conversation& conversation)
     : conversation_(conversation),
+      face_(conversation),
       options_(std::move(beginning.options)),
       locale_(machine.locale(localeName(options_, machine))),
       page_(options_),
@@ -97,22 +102,24 @@ Program::Program(Beginning&& beginning, Machine& machine, Conversation& conversa
               .files = machine.files(),
               .clock = *clock_,
               .locale = *locale_,
-              .screenFace = conversation_,
+              .screenFace = face_,
               .version = programVersion},
              std::move(beginning.today)),
       session_(taped_.platform),
       control_(taped_.platform, session_),
       recording_(tape_, taped_, control_),
+      history_(tape_, control_),
+      desk_({.face = face_, .control = control_, .history = history_}, *clock_, conversation_),
       access_(control_, bag_),
       feed_(access_.forms(),
-            [this](const protocol::Json& changes) { conversation_.emit(changes); }),
-      history_(tape_, control_) {
+            [this](const protocol::Json& changes) { conversation_.emit(changes); }) {
   addLines();
   for (Form* dialog : access_.dialogs()) conversation_.watch(*dialog);
   conversation_.act = [this](const protocol::Json& line) { return access_.act(line); };
   conversation_.beforeWaiting = [this] {
     feed_.flush();
     tellSteps();
+    desk_.tellLine();
   };
   recording_.performHostAct = [this](const std::vector<std::string>& texts) {
     access_.act(lineOf(texts));
@@ -134,12 +141,14 @@ Program::~Program() {
   control_.form.deeds.remove(savings_);
   conversation_.act = nullptr;
   conversation_.beforeWaiting = nullptr;
+  conversation_.onWork = nullptr;
+  conversation_.onWorkEnd = nullptr;
 }
 
 void Program::addLines() {
   protocol::Dispatcher& dispatcher = access_.dispatcher();
   protocol::addFeedActions(dispatcher, access_.forms(), feed_);
-  addDeskRecords(dispatcher, control_);
+  desk_.serve(access_);
   addFileLines(dispatcher, control_);
   addStepLines(dispatcher, control_, history_, [this](const std::string& words) { tell(words); });
   dispatcher.clientActions["followSteps"] = [this](const protocol::Json&) {
@@ -162,6 +171,7 @@ void Program::tellWhatIsOpen() {
 }
 
 void Program::tell(const std::string& words) {
+  desk_.tell(words);
   conversation_.emit({{"event", "told"}, {"text", words}});
 }
 
@@ -190,6 +200,7 @@ void Program::run() {
 
 int runHeadless(const Options& options, Machine& machine, std::istream& in, std::ostream& out) {
   Conversation conversation(in, out);
+  conversation.lineWaits = [&machine] { return machine.lineWaits(); };
   try {
     Program(beginningOf(options, machine, conversation), machine, conversation).run();
   } catch (const journal::ReplayDiffers& differs) {

@@ -33,6 +33,8 @@ class Machine {
   /// Where sessions are recorded, so that nothing of them is lost; null where the machine's user
   /// says by the options what is recorded.
   virtual RecordFolder* records() { return nullptr; }
+  /// Whether a line of input waits; false where the machine can't see that.
+  virtual bool lineWaits() { return false; }
   virtual std::string absolutePath(const std::string& path) = 0;
 };
 

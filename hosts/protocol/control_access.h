@@ -23,7 +23,9 @@ class ControlAccess {
   const FormDirectory& forms() const { return forms_; }
   /// For what else lines may ask of the host.
   Dispatcher& dispatcher() { return dispatcher_; }
-  /// The dialogs, all hidden at the start.
+  /// A form that isn't the control's, which outlives this, is reached like those of the control.
+  void add(Form& form) { forms_.add(form, nullptr); }
+  /// The control's dialogs, all hidden at the start.
   std::vector<Form*> dialogs() const;
   /// Takes the control down, unless a line has done so.
   void end();

@@ -36,7 +36,9 @@ void Dispatcher::perform(const Json& line) {
     return;
   }
   if (!UserActions::knows(action)) throw BadLine("There is no action \"" + action + "\".");
-  actions_.perform(action, line);
+  const auto act = [&] { actions_.perform(action, line); };
+  if (aroundUserAct) return aroundUserAct(line, act);
+  act();
 }
 
 Json Dispatcher::get(const Json& line) const {

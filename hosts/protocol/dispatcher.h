@@ -28,6 +28,8 @@ class Dispatcher {
   /// Whether what the host does, a call included, is noted by somebody: that one gets the line and
   /// does it. None: it is just done.
   std::function<Json(const Json& line, const std::function<Json()>& deed)> noteHostDeed;
+  /// Does a user's act, or what comes in its place. None: it is just done.
+  std::function<void(const Json& line, const std::function<void()>& act)> aroundUserAct;
   /// After the control's end nothing but a "get" is allowed.
   bool ended = false;
 

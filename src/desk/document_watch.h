@@ -34,6 +34,8 @@ class DocumentWatch {
   /// Whether the document may go. What is neither saved nor sent is asked about; where the user
   /// wants it saved, only if it has been saved by then.
   bool mayTake(WayOut way);
+  /// Whether it would be lost now, so that the user would be asked.
+  bool wouldBeLost() const { return questionBefore(WayOut::close).has_value(); }
   /// Whether the user may press the button now: the one that opens a file is a way out, and the one
   /// that sends is asked about where the document may have arrived already.
   bool mayPress(const Button& button);

@@ -286,11 +286,11 @@ TEST(Commands, AreToldWithTheirButtonsAndKeys) {
   Conversation editor = supplier.startOffLine();
   const Json menus = editor.get("commands");
   EXPECT_EQ(menus[0]["heading"], "&Документ");
-  const Json save{{"words", "Сохранить"},
-                  {"icon", "save"},
-                  {"on", "btnZapisz"},
-                  {"keys", Json::array({{{"code", 'S'}, {"control", true}}})},
-                  {"place", nullptr}};
+  const Json save{
+      {"words", "Сохранить"},       {"icon", "save"},
+      {"on", "btnZapisz"},          {"keys", Json::array({{{"code", 'S'}, {"control", true}}})},
+      {"place", nullptr},           {"onCurrentRow", false},
+      {"tip", "Сохранить (Ctrl+S)"}};
   EXPECT_THAT(std::vector<Json>(menus[0]["commands"]), testing::Contains(save));
 }
 

@@ -1,12 +1,10 @@
 #include "hosts/desktop/window/line_strip.h"
 
-#include "desk/layout_words.h"
-#include "desk/line_words.h"
 #include "hosts/desktop/faces/text.h"
 
 namespace awizo::desktop {
 
-LineStrip::LineStrip(const Editor& editor) : editor_(editor) {
+LineStrip::LineStrip(const Editor& editor) : editor_(editor), line_(editor) {
   setObjectName("lineStrip");
   setTextFormat(Qt::PlainText);
   setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -21,11 +19,8 @@ LineStrip::LineStrip(const Editor& editor) : editor_(editor) {
 LineStrip::~LineStrip() { editor_.form.grdPozycje.observers.remove(observation_); }
 
 void LineStrip::say(const QString& words) {
-  saidAtRow_ = -1;
-  if (words.isEmpty()) return showWords();
-  saidAtRow_ = editor_.form.grdPozycje.row();
-  setText(words);
-  setToolTip(words);
+  line_.say(toText(words));
+  showWords();
 }
 
 /// A document comes and goes by thousands of changes in one event; the words are made once.
@@ -42,11 +37,8 @@ void LineStrip::follow(const Change& change) {
 
 void LineStrip::showWords() {
   due_ = false;
-  const int row = editor_.form.grdPozycje.row();
-  if (saidAtRow_ == row) return;
-  saidAtRow_ = -1;
-  const QString words = fromText(lineWords(editor_, row));
-  setText(words.isEmpty() ? fromText(words::noLine) : words);
+  const QString words = fromText(line_.words());
+  setText(words);
   setToolTip(words);
 }
 

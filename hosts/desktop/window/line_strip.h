@@ -2,6 +2,7 @@
 
 #include <QLabel>
 
+#include "desk/current_line.h"
 #include "session/record/editor.h"
 
 namespace awizo::desktop {
@@ -21,8 +22,8 @@ class LineStrip : public QLabel {
   void showWords();
 
   const Editor& editor_;
+  CurrentLine line_;
   int observation_ = 0;
-  int saidAtRow_ = -1;  ///< the current row when something else was said; -1 for nothing said
   bool due_ = false;
 };
 

@@ -29,6 +29,8 @@ std::unique_ptr<Locale> PageMachine::locale(const std::string& name) {
   return std::make_unique<PageLocale>(name);
 }
 
+bool PageMachine::lineWaits() { return ask({"lineWaits"}).at(0) == "1"; }
+
 std::string PageMachine::absolutePath(const std::string& path) {
   return askNow({"absolutePath", path}).at(0);
 }

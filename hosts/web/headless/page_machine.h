@@ -25,6 +25,7 @@ class PageMachine final : public headless::Machine {
     return newPageFile(path);
   }
   RecordFolder* records() override { return records_ ? &*records_ : nullptr; }
+  bool lineWaits() override;
   std::string absolutePath(const std::string& path) override;
 
  private:

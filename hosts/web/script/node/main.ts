@@ -51,6 +51,8 @@ const computer: Surroundings = {
       const line = await lines.next();
       return line === undefined ? [] : [line];
     }
+    // Whether input waits isn't seen.
+    if (question === "lineWaits") return ["0"];
     if (question === "http") return exchange(fields);
     return answerAboutFiles(question, fields) ?? unknown(question);
   },

@@ -96,7 +96,8 @@ export abstract class ControlElement extends HTMLElement {
   }
 
   protected async readProperties(): Promise<void> {
-    this.held = (await this.say({ get: "control" })) as Record<Property, string>;
+    const closing = await this.closingOf({ get: "control" });
+    if (closing.ok) this.held = closing.value as Record<Property, string>;
   }
 
   protected forgetProperties(): void {

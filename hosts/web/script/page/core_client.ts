@@ -36,8 +36,16 @@ export class CoreClient {
     });
   }
 
+  /// Lets the core end in order; the listener is told when it has.
+  finish(): void {
+    this.worker.postMessage({ end: true });
+  }
+
+  /// Ends it at once. Lines that wait for their end are given up.
   end(): void {
     this.worker.terminate();
+    for (const giveUp of this.waiting.values()) giveUp({ ok: false, error: "The control has ended." });
+    this.waiting.clear();
   }
 
   private take(message: FromWorker): void {

@@ -1,48 +1,63 @@
-// What stands over the main form: the steps that can be taken back or done again, and words on what
-// was done last.
+// What stands over the main form: the document's title, the commands that no button of a form has,
+// and words on what was done last.
 
-import * as words from "#words";
 import { make, plainWords } from "./dom.ts";
-import type { Steps } from "./facts.ts";
+import type { Command, Standing, Steps } from "./facts.ts";
 
-export type Step = keyof Steps;
+type Step = keyof Steps;
 
-const ownWords: Record<Step, string> = { takeBack: words.takeBack, doAgain: words.doAgain };
-const keys: Record<Step, string> = { takeBack: "Control+Z", doAgain: "Control+Y" };
-const none: Steps = { takeBack: null, doAgain: null };
+function isStep(task: string): task is Step {
+  return task === "takeBack" || task === "doAgain";
+}
 
 export class DeskStrip {
   readonly element: HTMLElement;
-  private readonly buttons: Record<Step, HTMLButtonElement>;
+  private readonly title = make("h1");
   private readonly told = make("output", { "aria-live": "polite" });
+  private readonly buttons = make("div", { class: "tasks" });
+  private readonly steps = new Map<Step, { button: HTMLButtonElement; command: Command }>();
 
-  constructor(private readonly go: (step: Step) => void) {
-    this.buttons = { takeBack: this.button("takeBack"), doAgain: this.button("doAgain") };
-    this.element = make("div", { class: "strip" }, [...Object.values(this.buttons), this.told]);
-    this.clear();
+  constructor(private readonly go: (task: string) => void) {
+    this.element = make("div", { class: "strip" }, [this.title, this.buttons, this.told]);
+  }
+
+  showCommands(commands: Command[]): void {
+    this.steps.clear();
+    this.buttons.replaceChildren(...commands.filter((one) => one.task !== undefined).map((one) => this.button(one)));
+    this.showSteps({ takeBack: null, doAgain: null });
   }
 
   showSteps(steps: Steps): void {
-    for (const [step, button] of Object.entries(this.buttons) as [Step, HTMLButtonElement][]) {
-      button.textContent = plainWords(steps[step] ?? ownWords[step]);
+    for (const [step, { button, command }] of this.steps) {
+      button.textContent = plainWords(steps[step] ?? command.words);
+      button.title = command.tip.replace(command.words, button.textContent);
       button.disabled = steps[step] === null;
     }
   }
 
+  showStanding(standing: Standing): void {
+    this.title.textContent = standing.title;
+    this.tell(standing.status);
+  }
+
   tell(text: string): void {
-    this.told.textContent = text;
+    if (this.told.textContent !== text) this.told.textContent = text;
   }
 
   clear(): void {
-    this.showSteps(none);
+    this.title.textContent = "";
     this.tell("");
+    this.buttons.replaceChildren();
   }
 
-  private button(step: Step): HTMLButtonElement {
-    const button = make("button", { type: "button", "data-step": step, "aria-keyshortcuts": keys[step] });
+  private button(command: Command): HTMLButtonElement {
+    const task = command.task!;
+    const button = make("button", { type: "button", title: command.tip || undefined }, [command.words]);
+    button.dataset[isStep(task) ? "step" : "task"] = task;
+    if (isStep(task)) this.steps.set(task, { button, command });
     // The focus moves by the model alone.
     button.addEventListener("mousedown", (event) => event.preventDefault());
-    button.addEventListener("click", () => this.go(step));
+    button.addEventListener("click", () => this.go(task));
     return button;
   }
 }

@@ -5,34 +5,42 @@ import { ControlElement } from "./control_element.ts";
 import { CoreClient, type Line, type Listener } from "./core_client.ts";
 import { focusable, make, plainWords } from "./dom.ts";
 import { DeskStrip } from "./desk_strip.ts";
-import type { Box, Changes, Closing, ControlFacts, Event as CoreEvent, FormFacts, Question } from "./facts.ts";
+import { Commands } from "./commands.ts";
+import type {
+  Box, Changes, Closing, Command, ControlFacts, Event as CoreEvent, FormFacts, Question, Standing, Work,
+} from "./facts.ts";
 import type { Host } from "./face.ts";
 import { FormView } from "./form_view.ts";
 import { dialogs, mainForm } from "./layouts.ts";
 import { computerButton, handOut } from "./own_disk.ts";
 import { folderOf, startOf } from "./start.ts";
 import { styles } from "./styles.ts";
+import { TableFace } from "./table_face.ts";
 import { TypingWatch } from "./typing_watch.ts";
-
-interface Command {
-  words: string;
-  on: string;
-  keys: { code: number; control: boolean }[];
-  place: string | null;
-}
+import { WorkBox } from "./work_box.ts";
 
 /// The caption by which the file dialog says that it opens a document.
 const readingMode = "&Wczytaj";
 const mainName = "AwizoWysylki";
+const linesTable = "grdPozycje";
+/// The whole document is looked at for how it stands: not at each key.
+const standingDelay = 100;
 const answers: Record<Box["buttons"], [string, string][]> = {
   OK: [["OK", "ОК"]],
   YesNo: [["Yes", "Да"], ["No", "Нет"]],
 };
 
-function stepOf(event: KeyboardEvent): "takeBack" | "doAgain" | undefined {
-  if (!event.ctrlKey || event.altKey) return undefined;
-  if (event.code === "KeyZ") return event.shiftKey ? "doAgain" : "takeBack";
-  return event.code === "KeyY" ? "doAgain" : undefined;
+/// A second key of the command that does a step again.
+function isDoAgain(event: KeyboardEvent): boolean {
+  return event.ctrlKey && event.shiftKey && !event.altKey && event.code === "KeyZ";
+}
+
+function isStep(command: Command): boolean {
+  return command.task === "takeBack" || command.task === "doAgain";
+}
+
+function isCopy(event: KeyboardEvent): boolean {
+  return event.ctrlKey && !event.shiftKey && !event.altKey && event.code === "KeyC";
 }
 
 export class AwizoWysylki extends ControlElement {
@@ -43,8 +51,15 @@ export class AwizoWysylki extends ControlElement {
   private readonly forms: Record<string, FormFacts> = {};
   private readonly shown: { name: string; element: HTMLDialogElement }[] = [];
   private box: HTMLDialogElement | undefined;
-  private commands: Command[] = [];
-  private readonly strip = new DeskStrip((step) => void this.goStep(step));
+  private readonly commands = new Commands(mainName);
+  private readonly strip = new DeskStrip((task) => void this.choose({ task }));
+  /// The current line in words, below the table of lines.
+  private readonly lineWords = make("output", { class: "line" });
+  private readonly workBox = new WorkBox(this.root, () => void this.closingOf({ do: "stop" }));
+  private work: Work | undefined;
+  private isUnsent = false;
+  private startsAgain = false;
+  private standingTimer: ReturnType<typeof setTimeout> | undefined;
   private readonly typing = new TypingWatch(this.root);
 
   constructor() {
@@ -54,7 +69,13 @@ export class AwizoWysylki extends ControlElement {
     this.root.addEventListener("focusin", (event) => this.followUser(event.target as Element));
   }
 
+  /// The browser asks the user before unsent work is left.
+  private readonly askBeforeLeaving = (event: Event): void => {
+    if (this.isUnsent || this.work?.asks === true) event.preventDefault();
+  };
+
   connectedCallback(): void {
+    addEventListener("beforeunload", this.askBeforeLeaving);
     this.root.replaceChildren(make("p", { class: "waiting", role: "status" }, ["Редактор запускается…"]));
     this.takeAttributes();
     this.core = new CoreClient(new URL("worker.mjs", import.meta.url), startOf(this), this.listener());
@@ -62,6 +83,7 @@ export class AwizoWysylki extends ControlElement {
   }
 
   disconnectedCallback(): void {
+    removeEventListener("beforeunload", this.askBeforeLeaving);
     this.core?.end();
     this.core = undefined;
     this.forget();
@@ -74,6 +96,11 @@ export class AwizoWysylki extends ControlElement {
     this.shown.length = 0;
     this.box = undefined;
     this.strip.clear();
+    this.workBox.hide();
+    this.work = undefined;
+    this.isUnsent = false;
+    clearTimeout(this.standingTimer);
+    this.standingTimer = undefined;
     this.forgetProperties();
   }
 
@@ -83,9 +110,13 @@ export class AwizoWysylki extends ControlElement {
   }
 
   private async begin(core: CoreClient): Promise<void> {
-    const menus = (await core.say({ get: "commands" })).value as { commands: Command[] }[];
-    this.commands = menus.flatMap((menu) => menu.commands);
+    const [menus, ofDialogs] = await Promise.all([core.say({ get: "commands" }), core.say({ get: "dialogCommands" })]);
+    if (this.core !== core) return;
+    const ofMenus = (menus.value as { commands: Command[] }[]).flatMap((menu) => menu.commands);
+    this.commands.take([...ofMenus, ...(ofDialogs.value as Command[])]);
+    this.strip.showCommands(ofMenus);
     await this.readProperties();
+    void core.say({ do: "followDesk" });
     void core.say({ do: "followSteps" });
     void core.say({ do: "followFiles" });
     await core.say({ do: "subscribe" });
@@ -98,7 +129,7 @@ export class AwizoWysylki extends ControlElement {
       event: (event) => this.take(event),
       kept: (name, value) => this.keep(name, value),
       complaint: (text) => console.warn(text),
-      ended: (words) => this.end(words),
+      ended: (words) => (this.startsAgain ? this.startNow() : this.end(words)),
     };
   }
 
@@ -117,6 +148,22 @@ export class AwizoWysylki extends ControlElement {
         return;
       case "told":
         return this.strip.tell(event.text);
+      case "line":
+        this.lineWords.textContent = event.text;
+        this.lineWords.title = event.text;
+        return;
+      case "works":
+        this.work = event;
+        this.workBox.show(event);
+        return this.strip.tell(event.what);
+      case "rests":
+        this.work = undefined;
+        this.workBox.hide();
+        return this.showStandingSoon();
+      case "startAgain":
+        this.startsAgain = true;
+        this.core?.finish();
+        return;
       case "changed":
         void this.tellChange(event.property);
         return;
@@ -137,6 +184,21 @@ export class AwizoWysylki extends ControlElement {
       for (const view of this.views.values()) view.showControl(name, facts);
     }
     this.followModel();
+    this.showStandingSoon();
+  }
+
+  private showStandingSoon(): void {
+    this.standingTimer ??= setTimeout(() => void this.showStanding(), standingDelay);
+  }
+
+  private async showStanding(): Promise<void> {
+    const closing = await this.closingOf({ get: "standing" });
+    this.standingTimer = undefined;
+    if (!closing.ok) return;
+    const standing = closing.value as Standing;
+    this.isUnsent = standing.isUnsent;
+    this.strip.showStanding(standing);
+    if (this.hasAttribute("titles-page")) document.title = standing.title;
   }
 
   private takeForm(name: string, facts: FormFacts): void {
@@ -152,12 +214,12 @@ export class AwizoWysylki extends ControlElement {
 
   /// All at once: each hears of every change from the first on.
   private makeViews(): void {
-    const words = Object.fromEntries(this.commands.map((command) => [command.on, command.words]));
     for (const [name, layout] of Object.entries({ [mainName]: mainForm, ...dialogs })) {
-      const view = new FormView(name, layout, this.kinds, this.host(), name === mainName ? words : {});
+      const view = new FormView(name, layout, this.kinds, this.host(), this.commands);
       for (const [control, facts] of Object.entries(this.kinds)) view.showControl(control, facts);
       this.views.set(name, view);
     }
+    this.views.get(mainName)?.face(linesTable)?.element.after(this.lineWords);
   }
 
   private openForm(name: string): void {
@@ -198,7 +260,7 @@ export class AwizoWysylki extends ControlElement {
   }
 
   private openBox(box: Box): void {
-    this.ask(box.title, box.text, box.icon, answers[box.buttons], box.buttons === "OK" ? "OK" : undefined);
+    this.ask(box.title, box.text, box.icon, answers[box.buttons], box.buttons === "OK" ? "OK" : undefined, box.advice);
   }
 
   private openQuestion(question: Question): void {
@@ -207,15 +269,18 @@ export class AwizoWysylki extends ControlElement {
   }
 
   /// `harmless`: the answer that Escape gives; none where the user must choose.
-  private ask(title: string, text: string, icon: string, choices: [string, string][], harmless?: string): void {
+  private ask(
+    title: string, text: string, icon: string, choices: [string, string][], harmless?: string, advice?: string,
+  ): void {
     const buttons = choices.map(([answer, words]) => {
       const button = make("button", { type: "button", "data-answer": answer }, [words]);
       button.addEventListener("click", () => this.answer(answer));
       return button;
     });
-    const element = make("dialog", { role: "alertdialog", class: `box ${icon}`, lang: "ru", "aria-labelledby": "box-title", "aria-describedby": "box-text" }, [
+    const element = make("dialog", { role: "alertdialog", class: `box ${icon}`, lang: "ru", "aria-labelledby": "box-title", "aria-describedby": "box-text box-advice" }, [
       make("header", {}, [make("h2", { id: "box-title" }, [title])]),
       make("p", { id: "box-text" }, [text.replaceAll("\r\n", "\n").replaceAll("\r", "\n")]),
+      ...(advice === undefined ? [] : [make("p", { id: "box-advice" }, [advice])]),
       make("div", { class: "beside buttons" }, buttons),
     ]);
     element.addEventListener("cancel", (event) => {
@@ -235,15 +300,39 @@ export class AwizoWysylki extends ControlElement {
     void this.closingOf({ answer });
   }
 
-  private async goStep(step: "takeBack" | "doAgain"): Promise<void> {
+  /// The user has chosen a command.
+  private async choose(command: Pick<Command, "on" | "task">): Promise<void> {
+    if (this.box !== undefined) return;
     this.typing.forget();
-    await this.closingOf({ do: step });
+    this.reveal(command.on);
+    await this.closingOf({ do: "command", ...(command.on === undefined ? { task: command.task } : { on: command.on }) });
     this.followModel();
+  }
+
+  /// What a command acts on must be seen.
+  private reveal(button: string | undefined): void {
+    const command = button === undefined ? undefined : this.commands.of(button);
+    if (command?.onCurrentRow !== true || command.place === null) return;
+    const table = this.top()?.face(command.place);
+    if (table instanceof TableFace) table.reveal();
+  }
+
+  /// A new core in the place of the one that has ended.
+  private startNow(): void {
+    this.startsAgain = false;
+    this.disconnectedCallback();
+    this.connectedCallback();
+  }
+
+  private async copy(): Promise<void> {
+    const closing = await this.closingOf({ get: "markedText" });
+    if (closing.ok && closing.value !== "") await navigator.clipboard.writeText(String(closing.value));
   }
 
   private host(): Host {
     return {
       act: async (on, line) => {
+        if (line["do"] === "click") this.reveal(on);
         // What a user can't do now changes nothing.
         const closing = await this.closingOf({ ...line, on });
         if (!closing.ok) this.followModel();
@@ -275,19 +364,17 @@ export class AwizoWysylki extends ControlElement {
   private pressKey(event: KeyboardEvent): void {
     const top = this.top();
     if (this.box !== undefined || top === undefined) return;
-    const step = stepOf(event);
-    if (step !== undefined && top.name === mainName && !this.typing.ownsKey(event)) {
-      event.preventDefault();
-      void this.goStep(step);
-      return;
-    }
-    const command = top.name !== mainName ? undefined : this.commands.find((one) =>
-      one.keys.some((key) => key.code === event.keyCode && key.control === event.ctrlKey) &&
-      (one.place === null || one.place === top.focus));
+    const command: Command | undefined = top.name === mainName && isDoAgain(event)
+      ? this.commands.task("doAgain") : this.commands.at(event, top.name);
+    if (command !== undefined && isStep(command) && this.typing.ownsKey(event)) return;
     if (command !== undefined) {
       event.preventDefault();
-      void this.host().act(command.on, { do: "click" });
-      return;
+      event.stopPropagation();
+      return void this.choose(command);
+    }
+    if (isCopy(event) && top.face(top.focus) instanceof TableFace) {
+      event.preventDefault();
+      return void this.copy();
     }
     const isButton = (event.target as Element).closest("button") !== null;
     const isModels = event.key === "Tab" || (event.key === "Enter" && !isButton) || event.key === "Escape";
@@ -307,6 +394,8 @@ export class AwizoWysylki extends ControlElement {
   private end(words?: string): void {
     this.core?.end();
     this.core = undefined;
+    this.work = undefined;
+    this.isUnsent = false;
     if (words === undefined) return;
     const again = make("button", { type: "button" }, ["Начать заново"]);
     again.addEventListener("click", () => this.connectedCallback());

@@ -32,6 +32,10 @@ export interface ControlFacts {
   cols?: number;
   row?: number;
   col?: number;
+  /// The other corner of what is marked.
+  rowSel?: number;
+  colSel?: number;
+  selectsRows?: boolean;
   widths?: number[];
   top?: number;
   lines?: Row[];
@@ -57,6 +61,8 @@ export interface Box {
   title: string;
   icon: string;
   buttons: "OK" | "YesNo";
+  /// What it means to the user.
+  advice?: string;
 }
 
 /// A question of the desk, with the words of its own answers.
@@ -74,12 +80,45 @@ export interface Steps {
   doAgain: string | null;
 }
 
+/// A command of the desk: it presses a button, or is a task of its own.
+export interface Command {
+  words: string;
+  tip: string;
+  on?: string;
+  task?: string;
+  keys: { code: number; control: boolean }[];
+  /// Its keys work while this has the focus; null: anywhere.
+  place: string | null;
+  /// It acts on the current row of that table, which must be seen before.
+  onCurrentRow: boolean;
+}
+
+/// How the document stands.
+export interface Standing {
+  title: string;
+  status: string;
+  address: string;
+  isUnsent: boolean;
+}
+
+/// Work during which the user can do nothing else.
+export interface Work {
+  what: string;
+  mayStop: boolean;
+  /// Whoever ends it now must be asked.
+  asks: boolean;
+}
+
 export type Event =
   | Changes
   | Box
   | Question
   | ({ event: "steps" } & Steps)
   | { event: "told"; text: string }
+  | { event: "line"; text: string }
+  | ({ event: "works" } & Work)
+  | { event: "rests" }
+  | { event: "startAgain" }
   | { event: "saved"; path: string }
   | { event: "modal" | "hidden"; form: string; caption?: string }
   | { event: "changed"; property: string }

@@ -1,9 +1,10 @@
 // A form: its controls as faces, in their places.
 
+import type { Commands } from "./commands.ts";
 import { make } from "./dom.ts";
 import { Face, type Host } from "./face.ts";
 import type { ControlFacts, FormFacts } from "./facts.ts";
-import { besideTheirHeading, overCells, ownWords, type Group } from "./layouts.ts";
+import { besideTheirHeading, overCells, ownWords, scanned, type Group } from "./layouts.ts";
 import { ListFace } from "./list_face.ts";
 import { ButtonFace, DateFace, LabelFace, PlainListFace, SpinFace, TextFace, TimeFace } from "./simple_faces.ts";
 import { TableFace } from "./table_face.ts";
@@ -19,7 +20,7 @@ export class FormView {
   /// kinds are those of all its controls.
   constructor(
     readonly name: string, layout: Group, private readonly kinds: Record<string, ControlFacts>,
-    private readonly host: Host, private readonly words: Record<string, string>,
+    private readonly host: Host, private readonly commands: Commands,
   ) {
     this.prefix = name === "AwizoWysylki" ? "" : `${name}.`;
     this.element = this.group(layout);
@@ -70,7 +71,7 @@ export class FormView {
         return new TextFace(name, this.host, words);
       case "button":
       case "pictureButton":
-        return new ButtonFace(name, this.host, this.words[name] ?? words);
+        return this.makeButton(name);
       case "dropDownList":
         return new ListFace(name, this.host, words);
       case "datePicker":
@@ -80,7 +81,7 @@ export class FormView {
       case "spinButtons":
         return new SpinFace(name, this.host);
       case "table":
-        return new TableFace(name, this.host, words ?? "", this.overCell(name));
+        return new TableFace(name, this.host, words ?? "", scanned.has(name), this.overCell(name));
       case "driveList":
         return new PlainListFace(name, this.host, words ?? "", "drive");
       case "folderList":
@@ -90,6 +91,13 @@ export class FormView {
       default:
         return new LabelFace(name, this.host, !besideTheirHeading.has(name));
     }
+  }
+
+  private makeButton(name: string): Face {
+    const command = this.commands.of(name);
+    // In a dialog the buttons keep their own words.
+    const words = this.prefix === "" ? command?.words : undefined;
+    return new ButtonFace(name, this.host, words ?? ownWords[name], command?.tip);
   }
 
   private overCell(table: string): HTMLElement | undefined {

@@ -108,6 +108,21 @@ export const dialogs: Record<string, Group> = {
       { row: true, of: ["btnDodaj", "btnZamknij"] },
     ],
   },
+  FindDialog: { of: ["txtWhat", "lblNothing", { row: true, of: ["btnFind", "btnClose"] }] },
+  FaultList: { of: ["grdFaults", { row: true, of: ["btnGo", "btnClose"] }] },
+  PackagesDialog: {
+    of: [
+      { row: true, of: ["txtCount", "cboType"] }, "txtDescription", "cboParent",
+      { row: true, of: ["txtWeight", "txtLength", "txtWidth", "txtHeight"] }, "txtPlace",
+      "lblExample", "lblNumbers", "lblRefusal", { row: true, of: ["btnAdd", "btnClose"] },
+    ],
+  },
+  DistributionDialog: {
+    of: [
+      { row: true, of: ["cboLines", "cboPackages"] }, { row: true, of: ["cboSpread", "txtEach"] },
+      "grdParts", "lblSummary", { row: true, of: ["btnDo", "btnClose"] },
+    ],
+  },
   DlgIsoCodes: { of: ["grdISO", { row: true, of: ["btnAccept", "btnCancel"] }] },
   DlgWczytajZapisz: {
     of: [
@@ -132,6 +147,9 @@ export const ownWords: Record<string, string> = {
   "DlgDodaj.txtCDN3": words.customsSerial,
   "DlgDodaj.txtCDN4": words.customsItem,
   "DlgIsoCodes.grdISO": words.countriesTable,
+  "FindDialog.txtWhat": words.whatToFind,
+  "FaultList.grdFaults": words.faultsTable,
+  "DistributionDialog.grdParts": words.partsTable,
   "DlgWczytajZapisz.Drive": face.drives,
   "DlgWczytajZapisz.DirList": words.folder,
   "DlgWczytajZapisz.FileList": words.fileName,
@@ -146,6 +164,9 @@ export const ownWords: Record<string, string> = {
 export const besideTheirHeading = new Set([
   "lblNameSprzedWart", "lblNameKupWart", "lblAdresMiejscaDostawy", "DlgDodaj.lblPackedQuantityValue",
 ]);
+
+/// Tables into which codes are scanned.
+export const scanned = new Set(["grdPozycje", "grdOpakowania"]);
 
 /// Fields that are edited in the place of a table's cell.
 export const overCells: Record<string, string> = { grdPozycje: "txtEdycja", grdSuma: "txtEdycjaSuma" };

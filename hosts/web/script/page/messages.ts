@@ -17,7 +17,8 @@ export interface Start {
 /// The core's exit status where kept work couldn't be done again.
 export const replayDiffers = 4;
 
-export type ToWorker = { start: Start } | { line: string };
+/// `end`: there are no more lines.
+export type ToWorker = { start: Start } | { line: string } | { end: true };
 
 export type FromWorker =
   | { said: string }

@@ -18,8 +18,8 @@ export class LabelFace extends Face {
 export class ButtonFace extends Face {
   private readonly button: HTMLButtonElement;
 
-  constructor(name: string, host: Host, private readonly words = "") {
-    const button = make("button", { type: "button" });
+  constructor(name: string, host: Host, private readonly words = "", tip?: string) {
+    const button = make("button", { type: "button", title: tip || undefined });
     super(name, button, host);
     this.button = button;
     // The focus moves by the model alone.

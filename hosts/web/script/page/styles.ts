@@ -21,8 +21,10 @@ main { padding: 12px; }
 .beside > .field, .beside > fieldset, .beside > .stack { flex: 1 1 200px; min-width: 0; }
 .beside > .stack { gap: 4px; flex-basis: 180px; }
 .beside .beside > .field { flex-basis: 130px; }
-.strip { display: flex; flex-wrap: wrap; gap: 8px; align-items: center; margin-bottom: 10px; }
-.strip output { color: var(--awizo-pale); overflow-wrap: anywhere; }
+.strip { display: flex; flex-wrap: wrap; gap: 8px 16px; align-items: baseline; margin-bottom: 10px; }
+.strip output, .line { color: var(--awizo-pale); overflow-wrap: anywhere; }
+.tasks { display: flex; flex-wrap: wrap; gap: 6px; }
+h1 { font-size: 19px; margin: 0; overflow-wrap: anywhere; }
 fieldset { border: 1px solid var(--awizo-line); border-radius: 8px; padding: 10px 12px 12px; margin: 0;
   background: var(--awizo-paper); min-width: 0; }
 fieldset fieldset { border: 0; padding: 0; }
@@ -63,6 +65,7 @@ button:disabled { color: var(--awizo-pale); cursor: default; }
 .cell.bold { font-weight: 600; }
 .cell.coloured { background: color-mix(in srgb, var(--cell) 70%, var(--awizo-paper)); }
 .row.current .cell { background: color-mix(in srgb, var(--awizo-accent) 14%, transparent); }
+.cell.marked { background: color-mix(in srgb, var(--awizo-accent) 28%, transparent); }
 .cell.current { outline: 2px solid var(--awizo-accent); outline-offset: -2px; }
 .over { position: absolute; z-index: 1; }
 .over .caption { position: absolute; clip-path: inset(50%); }

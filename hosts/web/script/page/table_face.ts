@@ -15,13 +15,21 @@ const keys = new Set([
 ]);
 let lastNumber = 0;
 
+interface Cell {
+  row: number;
+  col: number;
+}
+
 export class TableFace extends Face {
   private readonly body: HTMLElement;
   private readonly heading: HTMLElement;
   private readonly rows = new Map<number, Row>();
+  /// Where the mouse went down.
+  private pressed: Cell | undefined;
   private readonly id = `table-${++lastNumber}`;
 
-  constructor(name: string, host: Host, label: string, private readonly overCell?: HTMLElement) {
+  constructor(name: string, host: Host, label: string, private readonly isScanned: boolean,
+    private readonly overCell?: HTMLElement) {
     const heading = make("div", { class: "row heading", role: "row", "aria-rowindex": 1 });
     const body = make("div", { class: "rows", role: "rowgroup" });
     super(name, make("div", { class: "table", role: "grid", tabindex: 0, "aria-label": label }, [
@@ -30,7 +38,8 @@ export class TableFace extends Face {
     this.heading = heading;
     this.body = body;
     this.element.addEventListener("scroll", () => this.seeRows());
-    this.element.addEventListener("mousedown", (event) => this.click(event));
+    this.element.addEventListener("mousedown", (event) => this.press(event));
+    this.element.addEventListener("mouseup", (event) => this.release(event));
     this.element.addEventListener("dblclick", () => void this.act({ do: "doubleClick" }));
     this.element.addEventListener("keydown", (event) => this.pressKey(event));
     new ResizeObserver(() => this.seeRows()).observe(this.element);
@@ -69,6 +78,11 @@ export class TableFace extends Face {
     const [from, to] = this.range();
     if (this.facts.kind !== undefined) void this.act({ do: "see", first: from, count: Math.max(to - from, 1) });
     this.draw();
+  }
+
+  /// Brings the current row into view.
+  reveal(): void {
+    this.scrollToCurrent();
   }
 
   private scrollToCurrent(): void {
@@ -119,6 +133,9 @@ export class TableFace extends Face {
         "aria-selected": String(isCurrent),
       }, row === undefined ? [] : columns.map((column) => this.cell(row, column, "gridcell")));
       element.style.top = `${(number - this.fixed) * rowHeight}px`;
+      for (const cell of element.children) {
+        cell.classList.toggle("marked", this.isMarked(number, Number((cell as HTMLElement).dataset["col"])));
+      }
       if (isCurrent) element.querySelector(`[data-col="${this.facts.col}"]`)?.classList.add("current");
       drawn.push(element);
     }
@@ -137,18 +154,40 @@ export class TableFace extends Face {
     });
   }
 
-  private click(event: MouseEvent): void {
+  private cellAt(event: MouseEvent): Cell | undefined {
     const cell = (event.target as Element).closest<HTMLElement>(".cell");
     const row = Number(cell?.parentElement?.dataset["row"] ?? -1);
-    if (cell === null || row < 0) return;
-    event.preventDefault();
-    void this.act({ do: "cell", row, col: Number(cell.dataset["col"]) });
+    return cell === null || row < 0 ? undefined : { row, col: Number(cell.dataset["col"]) };
+  }
+
+  private press(event: MouseEvent): void {
+    this.pressed = this.cellAt(event);
+    if (this.pressed !== undefined) event.preventDefault();
+  }
+
+  private release(event: MouseEvent): void {
+    const from = this.pressed;
+    const to = this.cellAt(event);
+    this.pressed = undefined;
+    if (from === undefined) return;
+    if (to === undefined || (to.row === from.row && to.col === from.col)) void this.act({ do: "cell", ...from });
+    else void this.act({ do: "select", ...from, rowSel: to.row, colSel: to.col });
+  }
+
+  /// Whether a cell is marked, the current one apart.
+  private isMarked(row: number, column: number): boolean {
+    const { row: fromRow = 0, col: fromColumn = 0, rowSel: toRow = 0, colSel: toColumn = 0 } = this.facts;
+    const isWithin = (place: number, from: number, to: number) => place >= Math.min(from, to) && place <= Math.max(from, to);
+    return isWithin(row, fromRow, toRow) && (this.facts.selectsRows === true || isWithin(column, fromColumn, toColumn));
   }
 
   private pressKey(event: KeyboardEvent): void {
-    if (!keys.has(event.key) || event.target !== this.element) return;
+    const isTaken = event.defaultPrevented || event.ctrlKey || event.altKey || event.target !== this.element;
+    const isDigit = this.isScanned && event.key >= "0" && event.key <= "9";
+    if (isTaken || !(isDigit || keys.has(event.key))) return;
     event.preventDefault();
     event.stopPropagation();
-    void this.act({ do: "key", code: event.keyCode, shift: event.shiftKey });
+    this.reveal();
+    void this.act({ do: "key", code: isDigit ? event.key.charCodeAt(0) : event.keyCode, shift: event.shiftKey && !isDigit });
   }
 }

@@ -11,6 +11,7 @@ import { answerAboutRecords } from "./records.ts";
 import { answerAboutFiles, answerAboutOpenFiles, makeFolders, putFile } from "./opfs.ts";
 
 const lines: string[] = [];
+let linesEnded = false;
 let said = "";
 let wake: (() => void) | undefined;
 
@@ -24,9 +25,22 @@ function tellSaid(): void {
   said = "";
 }
 
-async function nextLine(): Promise<string> {
-  while (lines.length === 0) await new Promise<void>((resolve) => (wake = resolve));
-  return lines.shift()!;
+/// No field at the end of lines.
+async function nextLine(): Promise<readonly Field[]> {
+  while (lines.length === 0 && !linesEnded) await new Promise<void>((resolve) => (wake = resolve));
+  return lines.splice(0, 1);
+}
+
+/// How long the core works before the messages that wait are let in.
+const breath = 16;
+let lastBreath = 0;
+
+async function lineWaits(): Promise<readonly Field[]> {
+  if (performance.now() - lastBreath > breath) {
+    await new Promise((resolve) => setTimeout(resolve));
+    lastBreath = performance.now();
+  }
+  return [lines.length > 0 || linesEnded ? "1" : "0"];
 }
 
 function unknown(question: string): readonly Field[] {
@@ -40,7 +54,8 @@ function browser(start: Start): Surroundings {
   return {
     async ask(question, fields) {
       tellSaid();
-      if (question === "line") return [await nextLine()];
+      if (question === "line") return nextLine();
+      if (question === "lineWaits") return lineWaits();
       if (question === "http") return exchange(fields);
       return answerAboutFiles(question, fields) ?? answerAboutRecords(question, fields) ?? unknown(question);
     },
@@ -101,7 +116,8 @@ addEventListener("message", (event: MessageEvent<ToWorker>) => {
   if ("start" in event.data) {
     void run(event.data.start);
   } else {
-    lines.push(event.data.line);
+    if ("line" in event.data) lines.push(event.data.line);
+    else linesEnded = true;
     wake?.();
   }
 });

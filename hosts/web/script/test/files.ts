@@ -16,6 +16,9 @@ await withPage(async (page) => {
   const fileDialog = user.dialog("DlgWczytajZapisz");
   const openFromComputer = async (name: string, buffer: Buffer) => {
     await user.control("btnWczytaj").click();
+    await chooseFromComputer(name, buffer);
+  };
+  const chooseFromComputer = async (name: string, buffer: Buffer) => {
     const chooser = page.waitForEvent("filechooser");
     await fileDialog.getByRole("button", { name: "С компьютера…" }).click();
     await (await chooser).setFiles({ name, mimeType: "application/xml", buffer });
@@ -44,7 +47,9 @@ await withPage(async (page) => {
   assert.ok(saved.includes(oldNumber) && saved.includes("035200010000000016"), saved.slice(0, 500));
 
   const other = Buffer.from(saved.replaceAll(oldNumber, newNumber));
-  await openFromComputer("awizo.xml", other);
+  await user.control("btnWczytaj").click();
+  assert.match(await user.answer("goOn"), /сохранён, но не отправлен/);
+  await chooseFromComputer("awizo.xml", other);
   await numberIs(newNumber);
   await user.control("grdOpakowania").getByText("Паллета 1").waitFor();
 

@@ -22,6 +22,11 @@ export async function requests(): Promise<Request[]> {
   return (await (await fetch(`${service}/_requests`)).json()) as Request[];
 }
 
+/// From now on the exchange fails: "upload=garbage".
+export async function makeFaulty(fault: string): Promise<void> {
+  assert.ok((await fetch(`${service}/_faults`, { method: "POST", body: fault })).ok);
+}
+
 export class User {
   readonly editor: Locator;
   private readonly page: Page;
@@ -62,7 +67,7 @@ export class User {
   async answer(answer: string): Promise<string> {
     const box = this.editor.getByRole("alertdialog");
     await box.waitFor();
-    const text = await box.locator("p").innerText();
+    const text = await box.locator("#box-text").innerText();
     await box.locator(`[data-answer=${answer}]`).click();
     return text;
   }

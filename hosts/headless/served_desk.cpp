@@ -1,0 +1,255 @@
+#include "hosts/headless/served_desk.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "assistants/package_adding.h"
+#include "desk/box_advice.h"
+#include "desk/host_boxes.h"
+#include "desk/layout_words.h"
+#include "hosts/headless/desk_records.h"
+#include "hosts/protocol/answers.h"
+#include "hosts/version.h"
+#include "platform/at_exit.h"
+#include "platform/forms/table_text.h"
+#include "platform/text.h"
+#include "session/set_up.h"
+
+namespace awizo::headless {
+
+namespace {
+
+using protocol::Json;
+
+std::vector<Command> allButtonCommands(AwizoWysylki& control,
+                                       const std::vector<CommandMenu>& menus) {
+  std::vector<Command> commands = buttonCommands(menus);
+  for (const auto& more :
+       {lineDialogCommands(control.dlgDodaj), countryListCommands(control.dlgIsoCodes)}) {
+    commands.insert(commands.end(), more.begin(), more.end());
+  }
+  return commands;
+}
+
+Json boxWithAdvice(const MessageBox& box) {
+  Json event = protocol::boxEvent(box);
+  const std::string advice = adviceOn(box);
+  if (!advice.empty()) event["advice"] = advice;
+  return event;
+}
+
+std::string progress(std::string_view words, int done, int all) {
+  return replaceAll(replaceAll(words, "%1", std::to_string(done)), "%2", std::to_string(all));
+}
+
+}  // namespace
+
+ServedDesk::ServedDesk(const Assistance& with, const Clock& clock, Conversation& conversation)
+    : with_(with),
+      control_(with.control),
+      conversation_(conversation),
+      menus_(commandMenus(control_.form)),
+      commands_(allButtonCommands(control_, menus_)),
+      watch_(control_, clock),
+      line_(control_.editor),
+      finder_(control_.editor),
+      packagesDialog_(control_.editor, with.numbers),
+      distributionDialog_(control_.editor) {
+  watch_.ask = [this](const Question& question) { return conversation_.ask(question); };
+  finder_.say = [this](std::string_view words) { line_.say(words); };
+}
+
+void ServedDesk::serve(protocol::ControlAccess& access) {
+  protocol::Dispatcher& dispatcher = access.dispatcher();
+  for (Form* form :
+       {static_cast<Form*>(&finder_.findDialog), static_cast<Form*>(&finder_.faultList),
+        static_cast<Form*>(&packagesDialog_), static_cast<Form*>(&distributionDialog_)}) {
+    access.add(*form);
+    conversation_.watch(*form);
+  }
+  dispatcher.records["commands"] = [this] { return menusJson(menus_); };
+  dispatcher.records["dialogCommands"] = [this, &access] {
+    Json commands = Json::array();
+    for (const Command& command : commands_) {
+      if (&command.button->form() == &control_.form) continue;
+      commands.push_back(commandJson(command, access.forms()));
+    }
+    return commands;
+  };
+  dispatcher.records["standing"] = [this] { return standing(); };
+  dispatcher.records["markedText"] = [this] { return Json(markedText()); };
+  dispatcher.clientActions["followDesk"] = [this](const Json&) { follow(); };
+  dispatcher.clientActions["command"] = [this](const Json& line) { choose(line); };
+  dispatcher.clientActions["stop"] = [](const Json&) { throw Refused("No assistant works."); };
+  dispatcher.aroundUserAct = [this, &access](const Json& line, const auto& act) {
+    if (!follows_) return act();
+    // A form is closed by its own name.
+    const bool closes = line["do"] == "close";
+    takeAct(closes ? nullptr : &access.forms().control(protocol::textMember(line, "on")), line,
+            act);
+  };
+  act_ = [&dispatcher](const Json& line) { dispatcher.act(line); };
+}
+
+void ServedDesk::follow() {
+  follows_ = true;
+  conversation_.describe = boxWithAdvice;
+  conversation_.onWork = [this](std::string_view what) { workBegins(what); };
+  conversation_.onWorkEnd = [this] { workEnds(); };
+}
+
+void ServedDesk::tell(const std::string& words) { watch_.tell(words); }
+
+void ServedDesk::tellLine() {
+  if (!follows_) return;
+  std::string words = line_.words();
+  if (words == toldLine_) return;
+  conversation_.emit({{"event", "line"}, {"text", words}});
+  toldLine_ = std::move(words);
+}
+
+void ServedDesk::choose(const Json& line) {
+  if (line.contains("task")) return perform(taskNamed(protocol::textMember(line, "task")));
+  const std::string name = protocol::textMember(line, "on");
+  const auto found = std::ranges::find_if(commands_, [&](const Command& command) {
+    return &command.button->form() == control_.screen.top() &&
+           command.button->name() == name.substr(name.find('.') + 1);
+  });
+  if (found == commands_.end()) throw Refused("No such command is there now.");
+  press(*found);
+}
+
+void ServedDesk::press(const Command& command) {
+  if (command.isEnabled() && watch_.mayPress(*command.button)) command.button->userPress();
+}
+
+void ServedDesk::perform(HostTask task) {
+  switch (task) {
+    case HostTask::startAgain:
+      return startAgain();
+    case HostTask::takeBack:
+    case HostTask::doAgain:
+      return act_({{"do", nameOf(task)}});
+    case HostTask::findLine:
+      return finder_.find();
+    case HostTask::findAgain:
+      return finder_.findAgain();
+    case HostTask::showFaults:
+      return finder_.showFaults();
+    case HostTask::addPackages:
+      return addPackages();
+    case HostTask::distribute:
+      return distribute();
+    case HostTask::showAbout:
+      control_.screen.messageBox(aboutBox(versionText(programVersion)));
+      return;
+    default:
+      throw Refused("Nobody does that here.");
+  }
+}
+
+void ServedDesk::takeAct(Control* control, const Json& line, const std::function<void()>& act) {
+  const Json& action = line["do"];
+  if (control != nullptr && action == "key" && takeKey(*control, line)) return;
+  if (action != "key") finder_.forgetCode();
+  if (const auto* button = dynamic_cast<const Button*>(control);
+      button != nullptr && action == "click" && !watch_.mayPress(*button)) {
+    return;
+  }
+  act();
+  if (action != "doubleClick") return;
+  for (const Command& command : commands_) {
+    if (command.onDoubleClick && command.place == control) return press(command);
+  }
+}
+
+bool ServedDesk::takeKey(const Control& control, const Json& line) {
+  const int code = protocol::integerMember(line, "code");
+  if (code != static_cast<std::int16_t>(code)) return false;
+  const CommandKey key{static_cast<std::int16_t>(code),
+                       protocol::booleanMember(line, "control", false)};
+  const AwizoForm& form = control_.form;
+  const bool scans = &control == &form.grdPozycje || &control == &form.grdOpakowania;
+  if (scans && !key.control && finder_.takeKey(key.code)) return true;
+  if (protocol::booleanMember(line, "shift", false)) return false;
+  for (const Command& command : commands_) {
+    if (command.place != &control || std::ranges::find(command.keys, key) == command.keys.end()) {
+      continue;
+    }
+    press(command);
+    return true;
+  }
+  return key.control;
+}
+
+void ServedDesk::startAgain() {
+  if (!control_.form.takesInput() || !watch_.mayTake(WayOut::startAgain)) return;
+  conversation_.emit({{"event", "startAgain"}});
+}
+
+void ServedDesk::addPackages() {
+  if (!control_.form.takesInput()) return;
+  const auto plan = packagesDialog_.ask();
+  if (!plan) return;
+  showBox(addingWords(run(words::packagesAdded, [&](const GoOn& goOn) {
+    return awizo::addPackages(with_, *plan, goOn);
+  })));
+}
+
+void ServedDesk::distribute() {
+  if (!control_.form.takesInput()) return;
+  const auto order = distributionDialog_.ask();
+  if (!order) return;
+  showBox(distributionWords(run(words::linesPacked, [&](const GoOn& goOn) {
+    return awizo::distribute(with_, order->choice, order->plans, goOn);
+  })));
+}
+
+AssistantReport ServedDesk::run(std::string_view words,
+                                const std::function<AssistantReport(const GoOn& goOn)>& work) {
+  conversation_.dialogsAreUnseen = true;
+  const AtExit over([this] {
+    conversation_.dialogsAreUnseen = false;
+    conversation_.emit({{"event", "rests"}});
+  });
+  return work([&](int done, int all) {
+    conversation_.emit({{"event", "works"},
+                        {"what", progress(words, done, all)},
+                        {"mayStop", true},
+                        {"asks", false}});
+    return !conversation_.isToldToStop();
+  });
+}
+
+void ServedDesk::showBox(const std::string& words) {
+  if (words.empty()) return;
+  control_.screen.messageBox({.text = words,
+                              .title = std::string(words::boxTitle),
+                              .icon = BoxIcon::exclamation,
+                              .buttons = BoxButtons::ok});
+}
+
+void ServedDesk::workBegins(std::string_view what) {
+  ++works_;
+  const bool asks = watch_.questionWhileWorking().has_value();
+  conversation_.emit({{"event", "works"}, {"what", what}, {"mayStop", false}, {"asks", asks}});
+}
+
+void ServedDesk::workEnds() {
+  if (--works_ == 0) conversation_.emit({{"event", "rests"}});
+}
+
+Json ServedDesk::standing() const {
+  return {{"title", watch_.title()},
+          {"status", watch_.status()},
+          {"address", watch_.address()},
+          {"isUnsent", watch_.wouldBeLost()}};
+}
+
+std::string ServedDesk::markedText() const {
+  const Form* top = control_.screen.top();
+  const auto* table = top == nullptr ? nullptr : dynamic_cast<const Table*>(top->focus());
+  return table == nullptr ? "" : awizo::markedText(*table);
+}
+
+}  // namespace awizo::headless

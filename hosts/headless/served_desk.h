@@ -1,0 +1,79 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "assistants/assistance.h"
+#include "assistants/distribution_dialog.h"
+#include "assistants/packages_dialog.h"
+#include "desk/commands.h"
+#include "desk/current_line.h"
+#include "desk/document_watch.h"
+#include "desk/line_finder.h"
+#include "hosts/headless/conversation.h"
+#include "hosts/protocol/control_access.h"
+#include "platform/clock.h"
+
+namespace awizo::headless {
+
+/// What the desk shows beside the forms, for a client that shows it to a user:
+///   {"do":"command","on":"btnEdytuj"}, {"do":"command","task":"showFaults"}   chooses a command
+///   {"get":"standing"}    {"title":"ТН-6 *","status":"...","address":"...","isUnsent":true}
+///   {"get":"markedText"}  the marked cells of the table that has the focus, as Ctrl+C takes them
+///   {"do":"followDesk"}   from now on the user is asked before the document would be lost, keys in
+///                         tables are those of commands and scanners too, and events tell the
+///                         current line in words, work that lasts, and words beside the boxes
+///   {"do":"stop"}         ends the work of an assistant
+class ServedDesk {
+ public:
+  /// All outlive it.
+  ServedDesk(const Assistance& with, const Clock& clock, Conversation& conversation);
+  ServedDesk(const ServedDesk&) = delete;
+  ServedDesk& operator=(const ServedDesk&) = delete;
+
+  /// Lets lines say so. It outlives the access.
+  void serve(protocol::ControlAccess& access);
+  /// Words on what was done, until the next thing is done.
+  void tell(const std::string& words);
+  /// Tells the current line where it isn't as it was told.
+  void tellLine();
+
+ private:
+  using Json = protocol::Json;
+
+  void follow();
+  void choose(const Json& line);
+  void perform(HostTask task);
+  void press(const Command& command);
+  /// What the user does to a control of the form.
+  void takeAct(Control* control, const Json& line, const std::function<void()>& act);
+  bool takeKey(const Control& control, const Json& line);
+  void startAgain();
+  void addPackages();
+  void distribute();
+  AssistantReport run(std::string_view words,
+                      const std::function<AssistantReport(const GoOn& goOn)>& work);
+  void showBox(const std::string& words);
+  void workBegins(std::string_view what);
+  void workEnds();
+  Json standing() const;
+  std::string markedText() const;
+
+  Assistance with_;
+  AwizoWysylki& control_;
+  Conversation& conversation_;
+  std::function<void(const Json& line)> act_;  ///< does another line
+  std::vector<CommandMenu> menus_;
+  std::vector<Command> commands_;  ///< that press buttons, those of the dialogs too
+  DocumentWatch watch_;
+  CurrentLine line_;
+  LineFinder finder_;
+  PackagesDialog packagesDialog_;
+  DistributionDialog distributionDialog_;
+  bool follows_ = false;
+  std::string toldLine_;
+  int works_ = 0;
+};
+
+}  // namespace awizo::headless

@@ -1,0 +1,34 @@
+// Over the page while work lasts that the user can stop: how far it is, and the button for it.
+
+import * as words from "#words";
+import { make, plainWords } from "./dom.ts";
+import type { Work } from "./facts.ts";
+
+export class WorkBox {
+  private readonly text = make("p", { role: "status" });
+  private readonly element: HTMLDialogElement;
+
+  constructor(private readonly root: ShadowRoot, stop: () => void) {
+    const button = make("button", { type: "button", "data-answer": "stop" }, [plainWords(words.stop)]);
+    button.addEventListener("click", stop);
+    this.element = make("dialog", { class: "box", lang: "ru", "aria-label": words.boxTitle }, [
+      this.text, make("div", { class: "beside buttons" }, [button]),
+    ]);
+    this.element.addEventListener("cancel", (event) => {
+      event.preventDefault();
+      stop();
+    });
+  }
+
+  show(work: Work): void {
+    if (!work.mayStop) return;
+    this.text.textContent = work.what;
+    if (this.element.isConnected) return;
+    this.root.append(this.element);
+    this.element.showModal();
+  }
+
+  hide(): void {
+    this.element.remove();
+  }
+}

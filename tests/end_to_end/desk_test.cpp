@@ -1,0 +1,203 @@
+// What the desk shows beside the forms, through the program that a page drives.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "support/supplier/supplier.h"
+
+namespace awizo::test {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+constexpr int enter = 13;
+constexpr int f2 = 113;
+constexpr int packageDescription = 3;
+constexpr int packedQuantity = 21;
+constexpr int keyDelete = 46;
+
+struct DeskTest : testing::Test {
+  DeskTest() {
+    editor.act({{"do", "followDesk"}});
+    editor.show();
+    editor.takeEvents();
+  }
+  /// The last event of that name since this was asked last; null for none.
+  Json lastEvent(std::string_view name) {
+    Json last;
+    for (Json& event : editor.takeEvents()) {
+      if (event["event"] == name) last = std::move(event);
+    }
+    return last;
+  }
+  void perform(std::string_view task) { editor.act({{"do", "command"}, {"task", task}}); }
+  void press(std::string_view button) { editor.act({{"do", "command"}, {"on", button}}); }
+  Json standing() { return editor.get("standing"); }
+  void scan(std::string_view code) {
+    for (const char digit : code) editor.key("grdPozycje", digit);
+    editor.key("grdPozycje", enter);
+  }
+  int row(std::string_view table) { return editor.get(table)["row"]; }
+
+  Supplier supplier;
+  DemoService service{supplier.place.posted()};
+  Conversation editor = supplier.startOnLine(service);
+};
+
+TEST_F(DeskTest, TellsTheCurrentLineInWords) {
+  editor.cell("grdPozycje", 2, 1);
+  const std::string second = lastEvent("line")["text"];
+  EXPECT_THAT(second, HasSubstr("заказано 96 · отгружено 96 · упаковано 0 · осталось 96"));
+  editor.cell("grdPozycje", 2, 4);
+  EXPECT_EQ(lastEvent("line"), Json()) << "it is the same line";
+}
+
+TEST_F(DeskTest, TellsHowTheDocumentStands) {
+  const Json before = standing();
+  EXPECT_THAT(std::string(before["title"]), HasSubstr("ЗК-2026/1147"));
+  EXPECT_THAT(std::string(before["status"]), HasSubstr("Получен в "));
+  EXPECT_EQ(before["isUnsent"], true) << "the order is handed out once";
+  editor.type("txtNrAwiza", "ТН-6");
+  EXPECT_THAT(std::string(standing()["title"]), testing::StartsWith("ТН-6 — "));
+}
+
+TEST_F(DeskTest, LeadsToALineByATextAndByAScannedCode) {
+  perform("findLine");
+  editor.type("FindDialog.txtWhat", "1147");
+  editor.click("FindDialog.btnFind");
+  EXPECT_EQ(editor.caption("FindDialog.lblNothing"), "Такой строки нет.");
+  const std::string name = editor.cellText("grdPozycje", 9, 2);
+  editor.type("FindDialog.txtWhat", name);
+  editor.key("FindDialog.txtWhat", enter);
+  EXPECT_EQ(row("grdPozycje"), 9);
+  scan(editor.cellText("grdPozycje", 5, 1));
+  EXPECT_EQ(row("grdPozycje"), 5);
+}
+
+TEST_F(DeskTest, TellsACodeThatNoLineHas) {
+  editor.cell("grdPozycje", 1, 1);
+  scan("4600000000008");
+  EXPECT_EQ(lastEvent("line")["text"], "Нет строки с кодом 4600000000008");
+}
+
+TEST_F(DeskTest, ListsWhatIsWrongAndLeadsThere) {
+  perform("showFaults");
+  EXPECT_THAT(std::string(editor.get("FaultList")["caption"]), testing::StartsWith("Что не так: "));
+  const Json cells = editor.get("FaultList.grdFaults")["cells"];
+  int line = 0;
+  for (int at = 1; at < static_cast<int>(cells.size()); ++at) {
+    if (cells[static_cast<std::size_t>(at)][0].get<std::string>().starts_with("Строка 11 ") &&
+        line == 0)
+      line = at;
+  }
+  ASSERT_GT(line, 0);
+  editor.cell("FaultList.grdFaults", line, 0);
+  editor.key("FaultList.grdFaults", enter);
+  EXPECT_EQ(editor.get("focus"), "grdPozycje");
+  EXPECT_EQ(row("grdPozycje"), 11);
+}
+
+TEST_F(DeskTest, KeysInATableAreThoseOfItsCommands) {
+  editor.cell("grdPozycje", 3, 1);
+  editor.key("grdPozycje", f2);
+  EXPECT_EQ(lastEvent("modal")["form"], "DlgDodaj");
+  editor.close("DlgDodaj");
+  addPackage(editor, "Паллета 1", std::string(serials[0]));
+  editor.cell("grdOpakowania", 1, packageDescription);
+  editor.key("grdOpakowania", enter);
+  EXPECT_EQ(lastEvent("modal")["form"], "DlgSzczegoly");
+  editor.close("DlgSzczegoly");
+  const std::string third = editor.cellText("grdPozycje", 3, 2);
+  editor.cell("grdPozycje", 2, 1);
+  editor.key("grdPozycje", keyDelete);
+  EXPECT_EQ(editor.cellText("grdPozycje", 2, 2), third);
+}
+
+TEST_F(DeskTest, DoubleClickOnAPackageOpensIt) {
+  addPackage(editor, "Паллета 1", std::string(serials[0]));
+  editor.cell("grdOpakowania", 1, packageDescription);
+  editor.takeEvents();
+  editor.doubleClick("grdOpakowania");
+  EXPECT_EQ(lastEvent("modal")["form"], "DlgSzczegoly");
+  editor.close("DlgSzczegoly");
+}
+
+TEST_F(DeskTest, AsksBeforeTheDocumentIsLost) {
+  for (const Json& way : std::vector<Json>{{{"do", "command"}, {"on", "btnWczytaj"}},
+                                           {{"do", "click"}, {"on", "btnWczytaj"}},
+                                           {{"do", "command"}, {"task", "startAgain"}}}) {
+    editor.act(way);
+    const Json question = lastEvent("question");
+    EXPECT_THAT(std::string(question["text"]), HasSubstr("не отправлен и не сохранён")) << way;
+    editor.answer("cancel");
+    EXPECT_THAT(editor.takeEvents(), IsEmpty()) << way;
+  }
+  perform("startAgain");
+  editor.answer("letGo");
+  EXPECT_EQ(lastEvent("startAgain"), Json({{"event", "startAgain"}}));
+}
+
+TEST(Desk, AClientThatDoesntFollowItIsAskedNothing) {
+  const Supplier supplier;
+  DemoService service{supplier.place.posted()};
+  Conversation editor = supplier.startOnLine(service);
+  editor.show();
+  editor.takeEvents();
+  editor.click("btnWczytaj");
+  EXPECT_EQ(editor.takeEvents()[0]["form"], "DlgWczytajZapisz");
+  editor.close("DlgWczytajZapisz");
+}
+
+TEST_F(DeskTest, SeveralPackagesEndAtTheFirstThatTheControlRefuses) {
+  perform("addPackages");
+  editor.type("PackagesDialog.txtCount", "3");
+  editor.type("PackagesDialog.txtDescription", "Короб #");
+  editor.type("PackagesDialog.txtPlace", deliveryPlace);
+  editor.takeEvents();
+  editor.click("PackagesDialog.btnAdd");
+  // Nobody has given them numbers.
+  EXPECT_THAT(editor.openBox(), HasSubstr("Добавлено упаковок: 0 из 3.\r\n«Короб 1»: "));
+  editor.answerAll();
+  std::vector<std::string> seen;
+  for (const Json& event : editor.takeEvents()) {
+    seen.push_back(event["event"] == "works" ? std::string(event["what"])
+                                             : std::string(event["event"]));
+  }
+  EXPECT_THAT(seen, Contains("Добавлено упаковок: 0 из 3"));
+  EXPECT_THAT(seen, Not(Contains("modal"))) << "nobody acts on these dialogs";
+}
+
+TEST_F(DeskTest, DistributesTheLinesOverThePackages) {
+  addPackage(editor, "Паллета 1", std::string(serials[0]));
+  perform("distribute");
+  editor.click("DistributionDialog.btnDo");
+  editor.answerAll();
+  EXPECT_EQ(editor.cellText("grdPozycje", 2, packedQuantity), "96,000");
+  perform("takeBack");
+  EXPECT_EQ(editor.cellText("grdPozycje", 2, packedQuantity), "0,000");
+}
+
+TEST_F(DeskTest, SaysWhatIsMarkedAsSpreadsheetsTakeIt) {
+  editor.act({{"do", "select"},
+              {"on", "grdPozycje"},
+              {"row", 1},
+              {"col", 1},
+              {"rowSel", 2},
+              {"colSel", 2}});
+  const std::string text = editor.get("markedText");
+  EXPECT_EQ(text, editor.cellText("grdPozycje", 1, 1) + "\t" + editor.cellText("grdPozycje", 1, 2) +
+                      "\n" + editor.cellText("grdPozycje", 2, 1) + "\t" +
+                      editor.cellText("grdPozycje", 2, 2) + "\n");
+}
+
+TEST_F(DeskTest, NothingIsThereToStop) { editor.refused({{"do", "stop"}}); }
+
+}  // namespace
+}  // namespace awizo::test
