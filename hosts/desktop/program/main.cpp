@@ -1,13 +1,17 @@
 // The desktop program: the editor of despatch advices in a window.
 
 #include <QApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QLibraryInfo>
+#include <QSocketNotifier>
 #include <QTranslator>
 #include <csignal>
 #include <exception>
 #include <iostream>
+#include <optional>
 
+#include "adapters/posix/posix_one_program.h"
 #include "adapters/posix/posix_record_folder.h"
 #include "desk/host_boxes.h"
 #include "hosts/common/program/about.h"
@@ -15,6 +19,7 @@
 #include "hosts/desktop/program/launch_file.h"
 #include "hosts/desktop/program/main_window.h"
 #include "hosts/desktop/screen/message_box.h"
+#include "journal/texts_beside.h"
 
 namespace {
 
@@ -42,6 +47,7 @@ std::vector<std::string> argumentsOf(const QApplication&) {
 struct Asked {
   Options options;
   QString file;
+  std::string launchFile = {};  ///< its path
 };
 
 Asked asked(const std::vector<std::string>& arguments) {
@@ -63,16 +69,54 @@ Asked asked(const std::vector<std::string>& arguments) {
         launchFileRefusal(QFileInfo(asked.file).fileName().toStdString(), error.what()), nullptr);
     throw;
   }
+  asked.launchFile = files.front();
   asked.file.clear();
   return asked;
 }
 
+/// The same for launch files that say the same, such as those that a browser has stored twice.
+std::string launchName(const std::vector<std::string>& arguments, const std::string& launchFile) {
+  std::string said;
+  for (const std::string& argument : arguments) {
+    if (argument == launchFile) {
+      QFile file(QString::fromStdString(launchFile));
+      if (file.open(QIODevice::ReadOnly)) said += file.readAll().toStdString();
+    } else {
+      said += argument;
+    }
+    said += '\0';
+  }
+  return journal::nameBeside(said);
+}
+
+/// Brings the window before all others when another program calls.
+void raiseWhenCalled(const PosixOneProgram& program, QWidget& window) {
+  if (program.calls() < 0) return;
+  auto* calls = new QSocketNotifier(program.calls(), QSocketNotifier::Read, &window);
+  QObject::connect(calls, &QSocketNotifier::activated, &window, [&program, &window] {
+    program.takeCalls();
+    window.setWindowState((window.windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
+    window.show();
+    window.raise();
+    window.activateWindow();
+    // Where the window manager doesn't let it come by itself.
+    QApplication::alert(&window);
+  });
+}
+
 int run(const QApplication& application) {
-  const Asked what = asked(argumentsOf(application));
+  const std::vector<std::string> arguments = argumentsOf(application);
+  const Asked what = asked(arguments);
+  std::optional<PosixOneProgram> program;
+  if (!what.launchFile.empty()) {
+    program.emplace(PosixOneProgram::usersOwnFolder(), launchName(arguments, what.launchFile));
+    if (!program->isFirst() && program->callFirst()) return 0;
+  }
   QLocale::setDefault(desktop::localeNamed(what.options.locale));
   PosixRecordFolder records(PosixRecordFolder::usersOwnPath());
   desktop::MainWindow window(what.options, nullptr, &records);
   if (!window.isUsable()) return exitEndedBySystem;
+  if (program) raiseWhenCalled(*program, window);
   if (!what.file.isEmpty()) window.openFile(what.file);
   window.show();
   return QApplication::exec();

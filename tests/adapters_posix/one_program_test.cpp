@@ -1,0 +1,97 @@
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <optional>
+
+#include "adapters/posix/posix_one_program.h"
+#include "support/files/files.h"
+#include "support/files/temporary_folder.h"
+
+namespace awizo {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool isCalled(const PosixOneProgram& program) {
+  pollfd waiting{program.calls(), POLLIN, 0};
+  return poll(&waiting, 1, 0) == 1;
+}
+
+struct OneProgramTest : testing::Test {
+  test::TemporaryFolder home;
+  const std::string folder = (home.path() / "programs").string();
+};
+
+TEST_F(OneProgramTest, TheSecondCallsTheFirst) {
+  const PosixOneProgram first(folder, "a");
+  const PosixOneProgram second(folder, "a");
+  EXPECT_TRUE(first.isFirst());
+  EXPECT_FALSE(second.isFirst());
+  EXPECT_EQ(second.calls(), -1);
+  EXPECT_FALSE(isCalled(first));
+  for (int call = 0; call < 1000; ++call) ASSERT_TRUE(second.callFirst());
+  EXPECT_TRUE(isCalled(first));
+  first.takeCalls();
+  EXPECT_FALSE(isCalled(first));
+}
+
+TEST_F(OneProgramTest, OfAnotherNameIsTheFirstOfItsOwn) {
+  const PosixOneProgram one(folder, "a");
+  const PosixOneProgram other(folder, "b");
+  EXPECT_TRUE(other.isFirst());
+  EXPECT_TRUE(other.callFirst());
+  EXPECT_FALSE(isCalled(one));
+}
+
+TEST_F(OneProgramTest, FreesItsNameWithItsEnd) {
+  std::optional<PosixOneProgram> first(std::in_place, folder, "a");
+  first.reset();
+  const PosixOneProgram next(folder, "a");
+  EXPECT_TRUE(next.isFirst());
+  EXPECT_NE(next.calls(), -1);
+}
+
+TEST_F(OneProgramTest, ThatHasDiedStopsNobody) {
+  const pid_t child = fork();
+  if (child == 0) {
+    const PosixOneProgram first(folder, "a");
+    _exit(first.isFirst() ? 0 : 1);
+  }
+  int status = -1;
+  waitpid(child, &status, 0);
+  ASSERT_EQ(status, 0);
+  ASSERT_TRUE(fs::exists(folder + "/a"));
+  const PosixOneProgram next(folder, "a");
+  EXPECT_TRUE(next.isFirst());
+  EXPECT_TRUE(PosixOneProgram(folder, "a").callFirst());
+  EXPECT_TRUE(isCalled(next));
+}
+
+TEST_F(OneProgramTest, IsItsOwnersAlone) {
+  const PosixOneProgram first(folder, "a");
+  EXPECT_EQ(fs::status(folder).permissions(), fs::perms::owner_all);
+}
+
+TEST_F(OneProgramTest, InAFolderThatNobodyCanUseIsAlwaysTheFirst) {
+  test::writeFile(folder, "a file");
+  const PosixOneProgram one(folder, "a");
+  const PosixOneProgram two(folder, "a");
+  EXPECT_TRUE(one.isFirst());
+  EXPECT_TRUE(two.isFirst());
+  EXPECT_FALSE(two.callFirst());
+}
+
+TEST_F(OneProgramTest, UnderAPathTooLongToCallIsStillTheOnlyOne) {
+  const std::string deep = folder + "/" + std::string(120, 'x');
+  const PosixOneProgram one(deep, "a");
+  const PosixOneProgram two(deep, "a");
+  EXPECT_TRUE(one.isFirst());
+  EXPECT_FALSE(two.isFirst());
+  EXPECT_FALSE(two.callFirst());
+}
+
+}  // namespace
+}  // namespace awizo
