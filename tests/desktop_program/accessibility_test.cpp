@@ -1,4 +1,5 @@
 #include <QAccessible>
+#include <QLineEdit>
 
 #include "desk/fault_list.h"
 #include "desk/find_dialog.h"
@@ -62,6 +63,8 @@ TEST_F(AccessibilityTest, AListSaysItsLabelAndNotItsValue) {
   open(offLineOptions());
   form().comboCountry.userType("(RU)Россия");
   EXPECT_EQ(nameOf(face(form().comboCountry).widget()), "Страна:");
+  const auto* typed = face(form().comboCountry).widget()->findChild<QLineEdit*>();
+  EXPECT_EQ(typed->accessibleName(), "Страна:");
   EXPECT_EQ(nameOf(face(form().cboxPackageDescription).widget()), "Количество в упаковке:");
 }
 

@@ -7,6 +7,7 @@
 #include <set>
 
 #include "desktop_program/program_test.h"
+#include "hosts/desktop/faces/russian_keys.h"
 #include "hosts/desktop/faces/table_face.h"
 
 namespace awizo::test {
@@ -35,6 +36,33 @@ TEST_F(CommandsTest, KeysOpenAndSaveFromAnyField) {
   press(Qt::Key_S, Qt::ControlModifier);
   EXPECT_EQ(pressed, "btnWczytaj btnZapisz ");
   EXPECT_EQ(form().focus(), &form().txtCodeByBuyer) << "a command moves no focus";
+}
+
+/// The key of a Latin letter where Russian is the only layout.
+Qt::Key russian(Qt::Key latin) { return desktop::onRussianKeyboard(latin); }
+
+TEST_F(CommandsTest, KeysWorkOnAKeyboardWithoutLatinLettersToo) {
+  EXPECT_EQ(russian(Qt::Key_O), Qt::Key(u'Щ'));
+  EXPECT_EQ(russian(Qt::Key_F1), Qt::Key(0));
+  openCounting();
+  press(russian(Qt::Key_O), Qt::ControlModifier);
+  press(russian(Qt::Key_S), Qt::ControlModifier);
+  EXPECT_EQ(pressed, "btnWczytaj btnZapisz ");
+  press(russian(Qt::Key_O));
+  press(russian(Qt::Key_O), Qt::ControlModifier | Qt::AltModifier);
+  EXPECT_EQ(pressed, "btnWczytaj btnZapisz ");
+}
+
+TEST_F(CommandsTest, FieldsCopyPasteAndUndoWithoutLatinLettersToo) {
+  openCounting();
+  typeOver(face(form().txtNrAwiza), "АБ");
+  for (const Qt::Key key : {Qt::Key_A, Qt::Key_C, Qt::Key_V, Qt::Key_V}) {
+    press(russian(key), Qt::ControlModifier);
+  }
+  EXPECT_EQ(form().txtNrAwiza.text(), "АБАБ");
+  press(russian(Qt::Key_Z), Qt::ControlModifier);
+  EXPECT_EQ(form().txtNrAwiza.text(), "АБ");
+  EXPECT_EQ(pressed, "");
 }
 
 TEST_F(CommandsTest, KeysActOnTheTableThatHasTheFocus) {

@@ -1,5 +1,6 @@
 #include "hosts/desktop/layouts/fields.h"
 
+#include <QLineEdit>
 #include <algorithm>
 
 #include "hosts/desktop/faces/group_box.h"
@@ -86,6 +87,9 @@ void nameBy(QLabel& label, const Face& field) {
   QWidget* widget = field.focusWidget();
   label.setBuddy(widget);
   if (widget->accessibleName().isEmpty()) widget->setAccessibleName(label.text());
+  // What is typed into a list is heard as a field of its own.
+  auto* typed = widget->findChild<QLineEdit*>();
+  if (typed != nullptr) typed->setAccessibleName(label.text());
 }
 
 void makeBold(QWidget& words) {

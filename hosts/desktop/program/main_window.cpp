@@ -14,6 +14,7 @@
 #include "desk/layout_words.h"
 #include "desk/step_words.h"
 #include "hosts/desktop/faces/icons.h"
+#include "hosts/desktop/faces/russian_keys.h"
 #include "hosts/desktop/layouts/command_actions.h"
 #include "hosts/desktop/layouts/wrapping.h"
 #include "hosts/desktop/program/guide.h"
@@ -43,6 +44,7 @@ MainWindow::MainWindow(Options options, Http* http, RecordFolder* records)
   if (recordsAreWanted(*settings_)) records_ = records;
   setAcceptDrops(true);
   qApp->installEventFilter(this);
+  new RussianKeys(this);
   if (!takesUpUnfinishedWork()) begin();
   takeKeptSize(*this, usualSize, *settings_);
 }
