@@ -6,7 +6,9 @@
 #include <QTimer>
 #include <filesystem>
 
+#include "desk/document_watch.h"
 #include "desktop_program/program_test.h"
+#include "journal/history.h"
 #include "tables/columns/columns.h"
 
 namespace awizo::test {
@@ -369,6 +371,25 @@ TEST_F(WaysOutTest, ADocumentThatMayHaveArrivedIsAskedAboutBeforeItGoesAgain) {
   answerNext("Отправить &ещё раз");
   click(face(form().btnPrzeslij));
   EXPECT_EQ(sendings, 2);
+}
+
+/// Nobody can call a document back: what is taken back since changes nothing about that, and no
+/// step leads to before it.
+TEST_F(WaysOutTest, ADocumentThatMayHaveArrivedStaysSoHoweverMuchIsTakenBack) {
+  const DemoService service(place.posted());
+  agreeTo(service);
+  open(onLineOptions(service));
+  form().txtNrAwiza.userType("ТН-1");
+  form().btnPrzeslij.onClick = [&] { form().deeds.tell({Deed::Kind::unanswered}); };
+  press(Qt::Key_F9);
+  EXPECT_EQ(widget().history().toTakeBack(), nullptr);
+  form().txtGoodsIdentity.userType("1");
+  ASSERT_NE(widget().history().toTakeBack(), nullptr);
+  widget().takeBack();
+  EXPECT_EQ(form().txtGoodsIdentity.text(), "0");
+  EXPECT_EQ(form().txtNrAwiza.text(), "ТН-1");
+  EXPECT_TRUE(widget().watch().title().ends_with(" (мог дойти)"));
+  EXPECT_NE(boxOf([] { press(Qt::Key_F9); }).find("он мог дойти"), std::string::npos);
 }
 
 }  // namespace

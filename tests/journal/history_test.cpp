@@ -53,6 +53,16 @@ struct Session {
         },
         form.btnDodajOpak);
   }
+  /// In the open line dialog.
+  void assign(const std::string& quantity) {
+    inDialog(
+        [this, quantity] {
+          control.dlgdodajPule.cboxPackages.userChoose(0);
+          control.dlgdodajPule.txtQuantity.userType(quantity);
+          control.dlgdodajPule.btnDodaj.userClick();
+        },
+        control.dlgDodaj.Command1);
+  }
   void save() {
     form.txtNrZam.userType("417");
     form.txtCodeByBuyer.userType("417");
@@ -227,6 +237,50 @@ TEST(History, OfADialogThatIsLeftHasNoStep) {
   session.form.grdPozycje.userCell(3, 2);
   session.form.grdPozycje.userDoubleClick();
   EXPECT_EQ(session.nameOfTakeBack(), before);
+}
+
+/// What was packed in the dialog goes with it, what was packed before stays; there is nothing to
+/// take back but the last dialog that was accepted.
+TEST(History, OfALinesDialogThatIsLeftHasNoStepWhateverWasPackedInIt) {
+  Session session;
+  DlgDodaj& dialog = session.control.dlgDodaj;
+  const auto packing = [&] { return session.form.grdPozycje.cell(2, GRD_POZ_PACK_REFS); };
+  session.inDialog(
+      [&] {
+        session.assign("3");
+        dialog.btnDodaj.userClick();
+      },
+      session.form.btnEdytuj);
+  const std::string packed = packing();
+  ASSERT_NE(packed, "");
+  session.inDialog(
+      [&] {
+        session.assign("2");
+        dialog.btnDodaj.userKey(keys::escape);
+      },
+      session.form.btnEdytuj);
+  EXPECT_EQ(packing(), packed);
+  EXPECT_EQ(session.nameOfTakeBack(), "btnEdytuj");
+  session.history.takeBack();
+  EXPECT_EQ(packing(), "");
+}
+
+/// Tax rates can't be entered in this configuration; where they can, a fill is a step like others.
+TEST(History, TakesBackAFillOfTaxRates) {
+  Session session;
+  AwizoForm& form = session.form;
+  form.comboStawkaVAT.setVisible(true);
+  form.btnNadpisz.setVisible(true);
+  form.comboStawkaVAT.userChoose(3);
+  const std::uint64_t before = session.digest();
+  session.taped.desk.face.answer(Answer::yes);
+  form.btnNadpisz.userClick();
+  ASSERT_EQ(form.grdPozycje.cell(1, GRD_POZ_TAX_RATE), "18");
+  ASSERT_EQ(session.nameOfTakeBack(), "btnNadpisz");
+  session.history.takeBack();
+  EXPECT_EQ(session.digest(), before);
+  session.history.doAgain();
+  EXPECT_EQ(form.grdPozycje.cell(3, GRD_POZ_TAX_RATE), "18");
 }
 
 TEST(History, OfAFieldThatIsAsItWasHasNoStep) {
