@@ -43,6 +43,10 @@ class LinePacking {
     for (const PlannedPart& part : plan_.parts) {
       part_ = &part;
       isPut_ = false;
+      if (part.replaced > 0) {
+        dialog.grdPozycje.userRow(part.replaced);
+        dialog.Command2.userPress();
+      }
       dialog.Command1.userPress();
       if (!isPut_) return;
     }
@@ -113,11 +117,12 @@ std::string quantityWords(const Conversions& conversions, Thousandths quantity) 
 }
 
 AssistantReport distribute(const Assistance& with, const DistributionChoice& choice,
-                           const std::vector<LinePlan>& plans, const GoOn& goOn) {
+                           const std::vector<LinePlan>& plans, const GoOn& goOn,
+                           const std::string& step) {
   const Editor& editor = with.control.editor;
   AssistantReport report;
   for (const LinePlan& plan : plans) report.all += plan.parts.empty() ? 0 : 1;
-  const auto step = with.history.asOneStep("раскладка по упаковкам");
+  const auto one = with.history.asOneStep(step);
   for (const LinePlan& plan : plans) {
     std::string why = leftWords(editor, plan);
     if (!plan.parts.empty()) {

@@ -28,11 +28,15 @@ Thousandths thousandthsIn(const Conversions& conversions, const std::string& tex
 /// A quantity as the user would type it, without zeros at its end.
 std::string quantityWords(const Conversions& conversions, Thousandths quantity);
 
-/// Puts the lines into packages, each through its dialog; all together are one step of the user's.
-/// A line that the control refuses is left as it was, and the next follows. The report counts the
-/// lines that have a part to be put somewhere, and names what stays unpacked too.
+/// Where there is no plan at all.
+inline constexpr std::string_view nothingToPack = "Раскладывать нечего.";
+
+/// Puts the lines into packages, each through its dialog; all together are one step of the user's,
+/// of this name. A line that the control refuses is left as it was, and the next follows. The
+/// report counts the lines that have a part to be put somewhere, and names what stays unpacked too.
 AssistantReport distribute(const Assistance& with, const DistributionChoice& choice,
-                           const std::vector<LinePlan>& plans, const GoOn& goOn);
+                           const std::vector<LinePlan>& plans, const GoOn& goOn,
+                           const std::string& step = "раскладка по упаковкам");
 
 /// What the user should know of it; empty where all was done.
 std::string distributionWords(const AssistantReport& report);

@@ -6,14 +6,12 @@
 namespace awizo {
 namespace {
 
-constexpr Thousandths one = 1000;
-
 /// The largest quantity of the dialog. The difference is that of the floating numbers, as there.
 Thousandths largest(Thousandths despatched, Thousandths packed) {
-  constexpr auto decimals = static_cast<double>(one);
+  constexpr auto decimals = static_cast<double>(wholeUnit);
   const double rest =
       static_cast<double>(despatched) / decimals - static_cast<double>(packed) / decimals;
-  return static_cast<Thousandths>(std::nearbyint(rest)) * one;
+  return static_cast<Thousandths>(std::nearbyint(rest)) * wholeUnit;
 }
 
 /// Makes the parts of a line, one after the other.
@@ -34,10 +32,10 @@ class Planner {
     quantity = std::min(quantity, rest());
     if (add(package, quantity)) return;
     // What is a little more than the largest goes in by two parts, as 8.25 by 7.25 and 1.
-    if (quantity >= 2 * one && add(package, quantity - one)) {
-      add(package, one);
+    if (quantity >= 2 * wholeUnit && add(package, quantity - wholeUnit)) {
+      add(package, wholeUnit);
     } else {
-      add(package, std::min(quantity, largest(line_.despatched, packed_)) / one * one);
+      add(package, std::min(quantity, largest(line_.despatched, packed_)) / wholeUnit * wholeUnit);
     }
   }
 
@@ -56,18 +54,18 @@ class Planner {
 
 /// Shares of so much for so many packages, or for fewer where each would have less than 1.
 std::vector<Thousandths> evenShares(Thousandths rest, std::size_t packages, bool isCounted) {
-  const Thousandths unit = isCounted ? one : 1;
+  const Thousandths unit = isCounted ? wholeUnit : 1;
   const Thousandths count = std::clamp<Thousandths>(static_cast<Thousandths>(packages), 1,
-                                                    std::max<Thousandths>(rest / one, 1));
+                                                    std::max<Thousandths>(rest / wholeUnit, 1));
   const Thousandths units = rest / unit;
   std::vector<Thousandths> shares(static_cast<std::size_t>(count), units / count * unit);
   for (Thousandths i = 0; i < units % count; ++i) shares[static_cast<std::size_t>(i)] += unit;
   shares.front() += rest % unit;
   // Of a last share like 1.25 only 1 would go in; the one before can take the rest of it.
   Thousandths& last = shares.back();
-  if (count > 1 && last > one && last < 2 * one && !isLetThrough(last, last, 0)) {
-    shares[shares.size() - 2] += last - one;
-    last = one;
+  if (count > 1 && last > wholeUnit && last < 2 * wholeUnit && !isLetThrough(last, last, 0)) {
+    shares[shares.size() - 2] += last - wholeUnit;
+    last = wholeUnit;
   }
   return shares;
 }
@@ -77,7 +75,7 @@ std::vector<Thousandths> evenShares(Thousandths rest, std::size_t packages, bool
 bool isLetThrough(Thousandths quantity, Thousandths despatched, Thousandths packed) {
   constexpr Thousandths hundredth = 10;
   const Thousandths seen = (quantity + hundredth / 2) / hundredth * hundredth;
-  return seen >= one && seen <= largest(despatched, packed);
+  return seen >= wholeUnit && seen <= largest(despatched, packed);
 }
 
 LinePlan planOf(const LineRest& line, std::size_t packages, Spread spread, Thousandths each) {

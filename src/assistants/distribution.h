@@ -10,6 +10,8 @@ namespace awizo {
 /// A quantity with three decimals, as the tables have it, as a whole number of thousandths.
 using Thousandths = std::int64_t;
 
+inline constexpr Thousandths wholeUnit = 1000;
+
 /// Whether the quantity dialog lets the quantity through for a line of which so much is packed: it
 /// sees two decimals, of which the least is 1 and the most is what is left, rounded to a whole with
 /// the half to the even neighbour.
@@ -32,6 +34,7 @@ enum class Spread {
 struct PlannedPart {
   std::size_t package = 0;  ///< its place among the chosen ones
   Thousandths quantity = 0;
+  int replaced = 0;  ///< row that is taken out for it; 0 for none
   bool operator==(const PlannedPart&) const = default;
 };
 

@@ -106,12 +106,12 @@ DistributionChoice DistributionDialog::choice() const {
 
 std::string DistributionDialog::refusal() const {
   if (order_.choice.packages.empty()) return "В документе нет упаковок.";
-  if (order_.choice.spread == Spread::soMany && order_.choice.each < 1000) {
+  if (order_.choice.spread == Spread::soMany && order_.choice.each < wholeUnit) {
     return "По сколько класть в каждую? Меньше единицы нельзя.";
   }
   const bool isAnything =
       std::ranges::any_of(order_.plans, [](const LinePlan& plan) { return !plan.parts.empty(); });
-  return isAnything ? "" : "Раскладывать нечего.";
+  return isAnything ? "" : std::string(nothingToPack);
 }
 
 void DistributionDialog::remake() {

@@ -36,7 +36,9 @@ std::vector<Command> packingCommands() {
       {.words = "Несколько упа&ковок…", .task = HostTask::addPackages, .keys = {withControl('N')}},
       {.words = "Разло&жить по упаковкам…",
        .task = HostTask::distribute,
-       .keys = {withControl('D')}}};
+       .keys = {withControl('D')}},
+      {.words = "Что &где лежит", .task = HostTask::showPacking, .keys = {key(keys::f6)}},
+      {.words = "Сканер кладё&т в упаковку", .task = HostTask::scannerPacks, .isSwitch = true}};
 }
 
 std::vector<Command> findCommands() {
@@ -58,7 +60,8 @@ std::vector<Command> paperCommands() {
           {.words = "&Упаковочный лист…",
            .task = HostTask::showPackingList,
            .keys = {withControl('P')}},
-          {.words = "&Листы в упаковки…", .task = HostTask::showPackageSheets}};
+          {.words = "&Листы в упаковки…", .task = HostTask::showPackageSheets},
+          {.words = "Упаковочный лист &таблицей…", .task = HostTask::showPackingCsv}};
 }
 
 std::vector<Command> numberCommands() {

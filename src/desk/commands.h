@@ -34,8 +34,11 @@ enum class HostTask {
   showPackageSheets,
   showPapersOfFile,
   showNumbers,
+  showPackingCsv,
   addPackages,
   distribute,
+  showPacking,
+  scannerPacks,
   showGuide,
   showAbout
 };
@@ -49,6 +52,7 @@ struct Command {
   HostTask task = HostTask::none;
   std::vector<CommandKey> keys = {};
   const Control* place = nullptr;  ///< its keys work while this has the focus; null: anywhere
+  bool isSwitch = false;           ///< on or off, which the host shows
   /// It acts on the current row of that table, which must be seen before.
   bool onCurrentRow = false;
   /// A double click in that table does the same, after what the table itself does.

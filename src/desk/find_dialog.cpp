@@ -2,6 +2,7 @@
 
 #include "desk/layout_words.h"
 #include "desk/line_search.h"
+#include "desk/scan_marks.h"
 #include "platform/text.h"
 
 namespace awizo {
@@ -29,7 +30,12 @@ std::optional<int> FindDialog::ask() {
   return found_;
 }
 
-std::optional<int> FindDialog::again() const { return findLine(editor_, txtWhat.text()); }
+std::optional<int> FindDialog::again() const {
+  if (const auto row = findLine(editor_, txtWhat.text())) return row;
+  const std::string code = withoutScanMarks(txtWhat.text());
+  // An EAN in the symbol of a label has 14 digits.
+  return code.empty() ? std::nullopt : findScanned(editor_, code);
+}
 
 void FindDialog::btnFind_Click() {
   if (txtWhat.text().empty()) return;

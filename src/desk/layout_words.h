@@ -35,6 +35,8 @@ inline constexpr std::string_view noGuide = "Руководство не уст�
 
 // Papers.
 inline constexpr std::string_view paperPreview = "Лист, каким он будет";
+inline constexpr std::string_view packingListTitle = "Упаковочный лист";
+inline constexpr std::string_view csvKind = "Таблицы CSV (*.csv)";
 inline constexpr std::string_view pdfKind = "Файлы PDF (*.pdf)";
 inline constexpr std::string_view savedDocumentTitle = "Сохранённый документ";
 inline constexpr std::string_view savedDocumentKind = "Документы (*.xml);;Все файлы (*)";
@@ -45,6 +47,19 @@ inline constexpr std::string_view stop = "&Остановить";
 /// How many are done, and how many there are.
 inline constexpr std::string_view packagesAdded = "Добавлено упаковок: %1 из %2";
 inline constexpr std::string_view linesPacked = "Разложено строк: %1 из %2";
+
+// The pane that shows what lies where.
+inline constexpr std::string_view packingOnlyRest = "&Только не упакованное";
+inline constexpr std::string_view packRest = "&Положить остаток сюда";
+inline constexpr std::string_view packRestTip =
+    "Положить остаток отмеченных строк в упаковку, на которой вы стоите (Ins)";
+inline constexpr std::string_view packingLines = "Строки, что из них упаковано";
+inline constexpr std::string_view packingPackages = "Упаковки, что в них лежит";
+inline constexpr std::string_view packingNumber = "№";
+inline constexpr std::string_view packingGoods = "Товар";
+inline constexpr std::string_view packingPacked = "Упаковано";
+inline constexpr std::string_view packingPackage = "Упаковка";
+inline constexpr std::string_view packingQuantity = "Сколько";
 
 // Main form: groups of the header's fields, the country that is written over all lines.
 inline constexpr std::string_view documentGroup = "Документ";

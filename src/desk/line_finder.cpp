@@ -56,6 +56,7 @@ bool LineFinder::takeKey(std::int16_t code) {
 
 void LineFinder::goToScanned(std::string_view code) {
   const std::string_view number = packageNumberIn(code);
+  if (number.empty() && takeProduct) return tell(takeProduct(code));
   if (number.empty()) {
     return goToRow(findScanned(editor_, code), joined({words::noSuchCode, code}));
   }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -25,6 +26,10 @@ class LineFinder {
 
   /// Faults beside those of the document itself. May be empty.
   std::function<std::vector<DocumentFault>()> moreFaults;
+
+  /// What becomes of a scanned EAN in place of going to its line; returns words for the user. May
+  /// be empty.
+  std::function<std::string(std::string_view ean)> takeProduct;
 
   /// Shows these words in place of the current line's until another line is the current one; the
   /// line's own again for empty ones.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <initializer_list>
 
 #include "tables/columns/columns.h"
 
@@ -27,6 +28,28 @@ std::string_view withoutZeros(std::string_view code) {
   return code;
 }
 
+/// The digits after one of these.
+std::string_view digitsAfter(std::string_view code, std::initializer_list<std::string_view> signs,
+                             std::size_t digits) {
+  for (const std::string_view before : signs) {
+    if (code.size() == before.size() + digits && code.starts_with(before)) {
+      return code.substr(before.size());
+    }
+  }
+  return {};
+}
+
+/// The EAN in a scanned code, without the zeros before it.
+std::string_view eanIn(std::string_view code) {
+  const std::string_view after = digitsAfter(code, {"01", "02", "101", "102"}, 14);
+  return withoutZeros(after.empty() ? code : after);
+}
+
+bool hasEan(const Editor& editor, int row, std::string_view code) {
+  const std::string_view ean = eanIn(code);
+  return !ean.empty() && withoutZeros(editor.form.grdPozycje.cell(row, GRD_POZ_EAN)) == ean;
+}
+
 }  // namespace
 
 std::optional<int> findLine(const Editor& editor, std::string_view text) {
@@ -42,20 +65,22 @@ std::optional<int> findLine(const Editor& editor, std::string_view text) {
 }
 
 std::optional<int> findScanned(const Editor& editor, std::string_view code) {
-  const std::string_view wanted = withoutZeros(code);
-  const Table& lines = editor.form.grdPozycje;
-  return nextRow(editor,
-                 [&](int row) { return withoutZeros(lines.cell(row, GRD_POZ_EAN)) == wanted; });
+  return nextRow(editor, [&](int row) { return hasEan(editor, row, code); });
+}
+
+std::vector<int> linesScanned(const Editor& editor, std::string_view code) {
+  const int count = editor.session.LineCount;
+  const int current = std::max(editor.form.grdPozycje.row(), 1);
+  std::vector<int> rows;
+  for (int step = 0; step < count; ++step) {
+    const int row = (current - 1 + step) % count + 1;
+    if (hasEan(editor, row, code)) rows.push_back(row);
+  }
+  return rows;
 }
 
 std::string_view packageNumberIn(std::string_view code) {
-  constexpr std::size_t digits = 18;
-  for (const std::string_view before : {"", "00", "100"}) {
-    if (code.size() == before.size() + digits && code.starts_with(before)) {
-      return code.substr(before.size());
-    }
-  }
-  return {};
+  return digitsAfter(code, {"", "00", "100"}, 18);
 }
 
 std::optional<int> findPackage(const Editor& editor, std::string_view number) {

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "session/record/editor.h"
 
@@ -12,8 +13,12 @@ namespace awizo {
 /// or one of the item codes holds the text, case ignored. Nothing for the empty text.
 std::optional<int> findLine(const Editor& editor, std::string_view text);
 
-/// The same for a scanned code: a line of this EAN, zeros before it apart.
+/// The same for a scanned code: a line of this EAN, zeros before it apart. Before 14 digits "01" or
+/// "02" says on the label what they are, after the "1" of "]C1".
 std::optional<int> findScanned(const Editor& editor, std::string_view code);
+
+/// All lines of this EAN, the current one first.
+std::vector<int> linesScanned(const Editor& editor, std::string_view code);
 
 /// The package number (SSCC) in a scanned code: 18 digits, after "00" where that says on the label
 /// what they are, and after the "1" of "]C1", by which scanners name the symbol. Empty for others.

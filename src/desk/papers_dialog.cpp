@@ -31,6 +31,10 @@ std::string_view paperWords(int paper) {
   return words[static_cast<std::size_t>(paper)];
 }
 
+std::string titleOf(std::string_view paper, std::string_view number) {
+  return joined({paper, number.empty() ? "" : " ", number});
+}
+
 }  // namespace
 
 PapersDialog::PapersDialog(Screen& screen, const papers::TextMeasure& measure,
@@ -86,16 +90,20 @@ const papers::Page* PapersDialog::page() const {
 }
 
 std::string PapersDialog::title() const {
-  const std::string& number = source_.advice.header.number;
-  return joined({paperWords(cboPaper.index()), number.empty() ? "" : " ", number});
+  return titleOf(paperWords(cboPaper.index()), source_.advice.header.number);
 }
 
 std::string PapersDialog::fileName() const {
-  std::string name = replaceAll(title(), " ", "_");
+  return paperFileName(paperWords(cboPaper.index()), source_.advice.header.number, ".pdf");
+}
+
+std::string paperFileName(std::string_view paper, std::string_view number,
+                          std::string_view ending) {
+  std::string name = replaceAll(titleOf(paper, number), " ", "_");
   for (const char* separator : {"/", "\\", ":", "*", "?", "\"", "<", ">", "|"}) {
     name = replaceAll(name, separator, "_");
   }
-  return withoutControlCharacters(name) + ".pdf";
+  return joined({withoutControlCharacters(name), ending});
 }
 
 std::vector<std::size_t> PapersDialog::chosenNumbers() const {

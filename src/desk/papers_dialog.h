@@ -17,6 +17,9 @@ namespace awizo {
 
 enum class Paper { labels, packingList, packageSheets };
 
+/// A name for the file of this paper, without a folder: "Этикетки_ТН-6.pdf".
+std::string paperFileName(std::string_view paper, std::string_view number, std::string_view ending);
+
 /// Shows the papers of one despatch advice sheet by sheet, and lets the user write and print them.
 /// The host draws the sheet, writes and prints.
 class PapersDialog : public Form {
@@ -36,7 +39,6 @@ class PapersDialog : public Form {
   /// The sheet that is shown; null where there is none.
   const papers::Page* page() const;
   std::string title() const;
-  /// A name for the file, without a folder: "Этикетки_ТН-6.pdf".
   std::string fileName() const;
 
   /// The sheet to be shown is another.

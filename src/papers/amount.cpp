@@ -5,6 +5,8 @@ namespace {
 
 constexpr std::int64_t one = 1'000'000;
 constexpr std::size_t decimals = 6;
+/// So many that no document with numbers of its own comes near, and far from what an Amount holds.
+constexpr std::int64_t mostMillionths = 4'000'000'000'000'000'000;
 
 }  // namespace
 
@@ -22,6 +24,11 @@ std::optional<Amount> amountOf(std::string_view text) {
     millionths = millionths * 10 + (digit - '0');
   }
   return Amount{millionths};
+}
+
+std::optional<Amount> sumOf(std::optional<Amount> left, std::optional<Amount> right) {
+  if (!left || !right || left->millionths > mostMillionths - right->millionths) return std::nullopt;
+  return Amount{left->millionths + right->millionths};
 }
 
 std::string amountText(Amount amount) {

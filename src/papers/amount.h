@@ -17,6 +17,9 @@ struct Amount {
 /// zero, of a milliard or more, or with more than six decimals.
 std::optional<Amount> amountOf(std::string_view text);
 
+/// Nothing where one of them is nothing, or the sum is beyond all bounds.
+std::optional<Amount> sumOf(std::optional<Amount> left, std::optional<Amount> right);
+
 /// "7,5": with a comma, without zeros at the end.
 std::string amountText(Amount amount);
 

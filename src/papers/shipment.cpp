@@ -10,15 +10,6 @@
 namespace awizo::papers {
 namespace {
 
-/// So many that no document with numbers of its own comes near, and far from what an Amount holds.
-constexpr std::int64_t mostMillionths = 4'000'000'000'000'000'000;
-
-/// Nothing where the sum is beyond all bounds.
-std::optional<Amount> sumOf(std::optional<Amount> left, std::optional<Amount> right) {
-  if (!left || !right || left->millionths > mostMillionths - right->millionths) return std::nullopt;
-  return Amount{left->millionths + right->millionths};
-}
-
 class ShipmentMaker {
  public:
   explicit ShipmentMaker(const DespatchAdvice& advice) { shipment_.advice = &advice; }

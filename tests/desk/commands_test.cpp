@@ -51,7 +51,7 @@ TEST_F(CommandsTest, EachDoesOneThingAndNoTwoTheSame) {
     EXPECT_TRUE(isNew) << command->words;
   }
   EXPECT_EQ(buttons.size(), 10U);
-  EXPECT_EQ(tasks.size(), 17U);
+  EXPECT_EQ(tasks.size(), 20U);
 }
 
 TEST_F(CommandsTest, NoTwoOfAMenuShareALetterAndNoTwoOfAPlaceAKey) {

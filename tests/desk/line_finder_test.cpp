@@ -62,6 +62,31 @@ TEST_F(LineFinderTest, ShowsNothingOverAFormThatTakesNoInput) {
   EXPECT_TRUE(test.face.modalForms().empty());
 }
 
+TEST_F(LineFinderTest, FindsWhatIsScannedIntoTheSearchToo) {
+  test.face.onModal([&] {
+    finder.findDialog.txtWhat.userType("]C10104607000000113");
+    finder.findDialog.txtWhat.userKey(keys::enter);
+  });
+  finder.find();
+  EXPECT_EQ(lines.row(), 3);
+}
+
+TEST_F(LineFinderTest, AScannedProductCanBeAnothers) {
+  std::string taken;
+  finder.takeProduct = [&](std::string_view ean) {
+    taken = ean;
+    return "взято";
+  };
+  scan("4607000000113");
+  finder.takeKey(keys::enter);
+  EXPECT_EQ(taken, "4607000000113");
+  EXPECT_EQ(said.back(), "взято");
+  EXPECT_EQ(lines.row(), 1);
+  scan("395200010000000011");
+  finder.takeKey(keys::enter);
+  EXPECT_EQ(said.back(), "Нет упаковки с номером 395200010000000011");
+}
+
 TEST_F(LineFinderTest, AScannedCodeLeadsToItsLine) {
   scan("4607000000113");
   EXPECT_EQ(said.back(), "Код: 4607000000113");

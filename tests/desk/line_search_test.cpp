@@ -55,6 +55,20 @@ TEST_F(LineSearch, AScannedCodeIsAWholeEanButForZerosBeforeIt) {
   EXPECT_EQ(findScanned(test.editor, "460700000011"), std::nullopt);
 }
 
+TEST_F(LineSearch, AScannedEanMayStandAfterTheSignsOfItsKind) {
+  for (const char* code : {"0104607000000113", "0204607000000113", "10104607000000113"}) {
+    EXPECT_EQ(findScanned(test.editor, code), 3) << code;
+  }
+  lines.setCell(2, GRD_POZ_EAN, "");
+  EXPECT_EQ(findScanned(test.editor, "00000000"), std::nullopt);
+}
+
+TEST_F(LineSearch, AllLinesOfAScannedEanBeginWithTheCurrentOne) {
+  for (int row : {1, 3, 4}) lines.setCell(row, GRD_POZ_EAN, "4607000000116");
+  lines.setRow(3);
+  EXPECT_EQ(linesScanned(test.editor, "4607000000116"), (std::vector<int>{3, 4, 1}));
+}
+
 TEST(PackageNumberIn, IsWhatStandsBehindTheSignsOfItsKind) {
   EXPECT_EQ(packageNumberIn("395200010000000011"), "395200010000000011");
   EXPECT_EQ(packageNumberIn("00395200010000000011"), "395200010000000011");

@@ -1,5 +1,7 @@
 #include <QApplication>
 #include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <filesystem>
 
 #include "adapters/memory/fixed_clock.h"
@@ -52,6 +54,18 @@ TEST_F(NumbersTest, ThePackageDialogOffersTheNextOne) {
   EXPECT_EQ(numbers.range()->next, 2U) << "it was stored before it was shown";
   // Another window of the same user gets another one.
   EXPECT_EQ(numbers.take(1, "").front(), "395200010000000028");
+}
+
+TEST_F(NumbersTest, TheDialogHasRoomForWhatIsSaidOfThem) {
+  open(offLineOptions());
+  opening([this] {
+    letLayoutsSettle();
+    for (const QScrollArea* area :
+         QApplication::activeModalWidget()->findChildren<QScrollArea*>()) {
+      EXPECT_FALSE(area->verticalScrollBar()->isVisible());
+    }
+    dialog().userClose();
+  });
 }
 
 TEST_F(NumbersTest, AReplayTakesNone) {

@@ -76,6 +76,25 @@ TEST_F(PapersTest, WritesThePapersOfASavedDocument) {
   EXPECT_TRUE(readFile(target).starts_with("%PDF-"));
 }
 
+TEST_F(PapersTest, WritesThePackingListAsATable) {
+  open(offLineOptions());
+  form().txtNrAwiza.userType("ТН/7");
+  const std::string target = (place.folder() / "list.csv").string();
+  maker().askTarget = [&](const QString& proposed) {
+    EXPECT_EQ(proposed, "Упаковочный_лист_ТН_7.csv");
+    return QString::fromStdString(target);
+  };
+  maker().writePackingCsv();
+  EXPECT_TRUE(readFile(target).starts_with("\xEF\xBB\xBF"))
+      << "spreadsheets know the letters by it";
+  EXPECT_NE(readFile(target).find(";"), std::string::npos);
+  maker().askTarget = [](const QString&) { return QString(); };
+  EXPECT_TRUE(answerWithEnter([this] { maker().writePackingCsv(); }).empty());
+  maker().askTarget = [](const QString&) { return QString("/nowhere/list.csv"); };
+  EXPECT_THAT(answerWithEnter([this] { maker().writePackingCsv(); }),
+              ::testing::ElementsAre(::testing::HasSubstr("нет такой папки")));
+}
+
 TEST_F(PapersTest, TellsWhatCannotBeWrittenOrRead) {
   open(offLineOptions());
   const std::string sample = (projectFolder() / "samples/despatch-advice.xml").string();

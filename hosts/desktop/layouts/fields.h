@@ -33,6 +33,17 @@ class Fields {
   QGridLayout* grid_;
 };
 
+/// Fields one below the other, each with the caption that it has itself.
+template <class... Controls>
+QWidget* makeColumn(FormFace& faces, const Controls&... controls) {
+  auto* holder = new QWidget;
+  Fields fields(faces, holder);
+  fields.grid()->setContentsMargins(0, 0, 0, 0);
+  int row = 0;
+  (fields.add(row++, 0, fromText(controls.caption()), controls), ...);
+  return holder;
+}
+
 /// A box with a heading.
 QGroupBox* makeGroup(std::string_view heading);
 

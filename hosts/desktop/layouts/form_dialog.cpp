@@ -29,7 +29,14 @@ void FormDialog::makeScrollable() {
   whole->addWidget(new Scrolled(content_));
 }
 
-void FormDialog::takeRoom() { resize(sizeHint().boundedTo(roomFor(*this))); }
+void FormDialog::takeRoom() {
+  if (content_ != nullptr) {
+    // What scrolls doesn't hear that its content has grown.
+    content_->layout()->activate();
+    layout()->itemAt(0)->widget()->updateGeometry();
+  }
+  resize(sizeHint().boundedTo(roomFor(*this)));
+}
 
 void FormDialog::open() {
   setWindowModality(Qt::ApplicationModal);

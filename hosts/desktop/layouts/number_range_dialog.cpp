@@ -12,16 +12,9 @@ void layOut(NumberRangeDialog& form, FormDialog& dialog) {
   FormFace& faces = dialog.faces();
   auto* rows = new QVBoxLayout(&dialog);
   rows->setSpacing(10);
-  auto* holder = new QWidget;
-  Fields fields(faces, holder);
-  fields.grid()->setContentsMargins(0, 0, 0, 0);
-  int row = 0;
-  for (const TextField* field :
-       {&form.txtExtension, &form.txtPrefix, &form.txtFirst, &form.txtLast, &form.txtNext}) {
-    fields.add(row++, 0, fromText(field->caption()), *field);
-  }
   faces.widget(form.txtPrefix)->setMinimumWidth(dialog.fontMetrics().averageCharWidth() * 30);
-  rows->addWidget(holder);
+  rows->addWidget(makeColumn(faces, form.txtExtension, form.txtPrefix, form.txtFirst, form.txtLast,
+                             form.txtNext));
   addNotes(*rows, faces, {&form.lblExample, &form.lblLeft, &form.lblDoubt});
   rows->addStretch(1);
   rows->addLayout(makeButtonRow(faces, form.btnSave, form.btnClose));

@@ -92,7 +92,7 @@ void MainWindow::makeSession() {
   bag_ = std::make_unique<OptionsBag>(options_);
   widget_ = new AwizoWysylkiWidget(givenParts());
   widget_->mayStart = [this] { return mayStart(); };
-  widget_->waiting().onEnd = [this] { askedWhileWorking_ = false; };
+  widget_->waiting().onEnd.add([this](const Waiting&) { askedWhileWorking_ = false; });
   connect(widget_, &AwizoWysylkiWidget::standingChanged, this,
           [this] { setWindowTitle(fromText(widget_->watch().title())); });
   // The widget may go then, which it can't within its own call.

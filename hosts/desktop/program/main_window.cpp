@@ -21,6 +21,7 @@
 #include "hosts/desktop/program/kept_shape.h"
 #include "hosts/desktop/window/assistants.h"
 #include "hosts/desktop/window/finder.h"
+#include "hosts/desktop/window/packing_pane.h"
 #include "hosts/desktop/window/paper_maker.h"
 #include "hosts/version.h"
 #include "platform/at_exit.h"
@@ -133,6 +134,10 @@ QAction* MainWindow::makeTask(const Command& command) {
   auto* action = new QAction(fromText(command.words), menuBar());
   if (command.task == HostTask::takeBack) takeBack_ = action;
   if (command.task == HostTask::doAgain) doAgain_ = action;
+  if (command.isSwitch) {
+    action->setCheckable(true);
+    action->setChecked(widget_->scannerPacks());
+  }
   if (!command.icon.empty()) action->setIcon(iconNamed(fromText(command.icon)));
   for (const CommandKey& key : command.keys) action->setShortcut(keysOf(key));
   // What may take the menu away waits until it has closed.
@@ -169,6 +174,8 @@ void MainWindow::perform(HostTask task) {
       return widget_->paperMaker().show(Paper::packingList);
     case HostTask::showPackageSheets:
       return widget_->paperMaker().show(Paper::packageSheets);
+    case HostTask::showPackingCsv:
+      return widget_->paperMaker().writePackingCsv();
     case HostTask::showPapersOfFile:
       return widget_->paperMaker().showSaved();
     case HostTask::showNumbers:
@@ -177,6 +184,10 @@ void MainWindow::perform(HostTask task) {
       return widget_->assistants().addPackages();
     case HostTask::distribute:
       return widget_->assistants().distribute();
+    case HostTask::showPacking:
+      return widget_->packingPane().toggle();
+    case HostTask::scannerPacks:
+      return widget_->letScannerPack(!widget_->scannerPacks());
     case HostTask::showGuide:
       return openGuide(*this);
     case HostTask::showAbout:

@@ -5,7 +5,9 @@
 #include <QTimer>
 #include <iostream>
 
+#include "desk/number_range_dialog.h"
 #include "hosts/desktop/window/assistants.h"
+#include "hosts/desktop/window/packing_pane.h"
 #include "hosts/desktop/window/paper_maker.h"
 #include "session/awizo_wysylki.h"
 #include "tables/columns/columns.h"
@@ -40,8 +42,20 @@ void DemoUser::fillHeader() {
   form.txtEstimatedDeliveryDate.userSet(makeDate(2026, 11, 30));
 }
 
-void DemoUser::addPackage(int kind, const std::string& description, const std::string& serial,
-                          int parent, const std::string& picture) {
+void DemoUser::setNumberRange() {
+  during([&] { widget_.showNumberRange(); },
+         [&] {
+           NumberRangeDialog& dialog = widget_.numberRangeDialog();
+           dialog.txtPrefix.userType("9520001");
+           dialog.txtLast.userType("999999");
+           take("number-range");
+           dialog.btnSave.userClick();
+         });
+}
+
+/// Its number comes from the firm's range.
+void DemoUser::addPackage(int kind, const std::string& description, int parent,
+                          const std::string& picture) {
   AwizoWysylki& control = widget_.control();
   during([&] { control.form.btnDodajOpak.userClick(); },
          [&] {
@@ -50,7 +64,6 @@ void DemoUser::addPackage(int kind, const std::string& description, const std::s
            dialog.txtPackageDesc.userType(description);
            if (parent >= 0) dialog.cboxParentPackage.userChoose(parent);
            dialog.cboxILNLokalizacji.userType(std::string(warehouse));
-           dialog.txtSerialNumberN.userType(serial);
            if (!picture.empty()) take(picture);
            dialog.btnDodaj.userClick();
          });
@@ -126,6 +139,13 @@ void DemoUser::showPapers() {
   showPaper(Paper::packingList, "packing-list");
 }
 
+void DemoUser::showPacking() {
+  PackingPane& pane = widget_.packingPane();
+  pane.toggle();
+  take("packing-pane");
+  pane.toggle();
+}
+
 void DemoUser::showAssistants() {
   Assistants& assistants = widget_.assistants();
   during([&] { assistants.addPackages(); },
@@ -145,12 +165,14 @@ void DemoUser::showAssistants() {
 void DemoUser::work() {
   take("order");
   fillHeader();
-  addPackage(0, "Паллета 1", "035200010000000016", -1, "");
-  addPackage(1, "Коробка 1", "035200010000000023", 0, "package");
-  addPackage(1, "Коробка 2", "035200010000000030", 0, "");
+  setNumberRange();
+  addPackage(0, "Паллета 1", -1, "");
+  addPackage(1, "Коробка 1", 0, "package");
+  addPackage(1, "Коробка 2", 0, "");
   for (int row = 1; row <= 4; ++row) packLine(row, 1 + row % 2, row == 1 ? "line" : "");
   widget_.control().form.grdPozycje.userCell(1, GRD_POZ_NAME);
   take("main");
+  showPacking();
   showAssistants();
   showPapers();
   showOtherForms();

@@ -26,11 +26,12 @@ class DemoUser {
   void during(const std::function<void()>& action, const std::function<void()>& inside);
   void take(const std::string& name);
   void fillHeader();
-  void addPackage(int kind, const std::string& description, const std::string& serial, int parent,
-                  const std::string& picture);
+  void addPackage(int kind, const std::string& description, int parent, const std::string& picture);
   void packLine(int row, int package, const std::string& picture);
   void openDocuments();
   void showOtherForms();
+  void setNumberRange();
+  void showPacking();
   void showAssistants();
   void showPapers();
 

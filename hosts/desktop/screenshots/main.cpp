@@ -92,8 +92,9 @@ int draw(const fs::path& pictures, const QSize& size) {
   if (!takeStartPage({bag, page, *settings, options.locale, clock.get()}, pictures, size)) return 1;
   desktop::DemoHttp http(fs::path(AWIZO_DEMO_FOLDER) / "data");
   QMainWindow window;
-  auto* widget =
-      new desktop::AwizoWysylkiWidget({bag, page, *settings, options.locale, clock.get(), &http});
+  desktop::GivenParts parts{bag, page, *settings, options.locale, clock.get(), &http};
+  parts.numbersBeginning = folder.documents() + "/.numbers-";
+  auto* widget = new desktop::AwizoWysylkiWidget(parts);
   window.setCentralWidget(widget);
   window.resize(size);
   QObject::connect(widget, &desktop::AwizoWysylkiWidget::startEnded, &window, [&] {

@@ -48,9 +48,20 @@ void Assistants::addPackages() {
 void Assistants::distribute() {
   if (!mayAct()) return;
   const std::optional<DistributionOrder> order = distributionDialog_.ask();
-  if (!order) return;
+  if (order) distribute(*order);
+}
+
+void Assistants::packRest(const std::vector<int>& lines, int package) {
+  if (!mayAct()) return;
+  DistributionOrder order{{.lines = lines, .packages = {package}, .spread = Spread::allHere}, {}};
+  order.plans = plansOf(with_.control.editor, order.choice);
+  if (order.plans.empty()) return tell(std::string(nothingToPack));
+  distribute(order);
+}
+
+void Assistants::distribute(const DistributionOrder& order) {
   tell(distributionWords(run(fromText(words::linesPacked), [&](const GoOn& goOn) {
-    return awizo::distribute(with_, order->choice, order->plans, goOn);
+    return awizo::distribute(with_, order.choice, order.plans, goOn);
   })));
 }
 

@@ -5,6 +5,7 @@
 #include "assistants/assistance.h"
 #include "assistants/distribution_dialog.h"
 #include "assistants/packages_dialog.h"
+#include "assistants/scanned_unit.h"
 #include "hosts/desktop/window/host_screen_face.h"
 
 namespace awizo::desktop {
@@ -17,12 +18,17 @@ class Assistants {
 
   void addPackages();
   void distribute();
+  /// What is left of these lines goes into this package; both are rows of their tables.
+  void packRest(const std::vector<int>& lines, int package);
+  /// Returns words for the user.
+  std::string packScannedUnit(std::string_view ean) { return awizo::packScannedUnit(with_, ean); }
 
   PackagesDialog& packagesDialog() { return packagesDialog_; }
   DistributionDialog& distributionDialog() { return distributionDialog_; }
 
  private:
   bool mayAct() const;
+  void distribute(const DistributionOrder& order);
   /// Runs what can be stopped by the user, and by the window's end. `words`: before the numbers.
   AssistantReport run(const QString& words,
                       const std::function<AssistantReport(const GoOn& goOn)>& work);

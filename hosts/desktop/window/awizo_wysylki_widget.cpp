@@ -1,24 +1,30 @@
 #include "hosts/desktop/window/awizo_wysylki_widget.h"
 
 #include <QLabel>
+#include <QSplitter>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <utility>
 
 #include "desk/choose_path.h"
+#include "desk/desk_settings.h"
 #include "desk/document_watch.h"
 #include "desk/host_boxes.h"
+#include "desk/kept_sizes.h"
 #include "desk/layout_words.h"
 #include "desk/step_words.h"
 #include "hosts/common/program/kept_record.h"
 #include "hosts/desktop/faces/form_face.h"
 #include "hosts/desktop/layouts/command_actions.h"
+#include "hosts/desktop/layouts/wrapping.h"
 #include "hosts/desktop/screen/message_box.h"
 #include "hosts/desktop/window/assistants.h"
 #include "hosts/desktop/window/finder.h"
 #include "hosts/desktop/window/main_layout.h"
 #include "hosts/desktop/window/package_numbers.h"
+#include "hosts/desktop/window/packing_pane.h"
 #include "hosts/desktop/window/paper_maker.h"
+#include "hosts/desktop/window/scanner_fields.h"
 #include "hosts/desktop/window/surroundings.h"
 #include "journal/history.h"
 #include "journal/recording.h"
@@ -34,6 +40,16 @@ namespace {
 void showText(QLabel& label, const QString& text) {
   label.setText(text);
   label.setToolTip(text);
+}
+
+// Names by which sizes are kept.
+constexpr const char* documentAndPacking = "documentAndPacking";
+constexpr const char* packingLinesAndPackages = "packingLinesAndPackages";
+
+void takeKeptSizes(QSplitter& splitter, const char* name, SettingsStore& settings) {
+  const std::vector<int> kept =
+      KeptSizes(settings).of(name, static_cast<std::size_t>(splitter.count()));
+  if (!kept.empty()) splitter.setSizes({kept.begin(), kept.end()});
 }
 
 }  // namespace
@@ -62,7 +78,8 @@ struct AwizoWysylkiWidget::Parts {
         recording(tape, taped, control),
         history(tape, control),
         watch(control, surroundings.platform.clock),
-        faces(nullptr) {
+        faces(nullptr),
+        scannerFields(control, face) {
     // Dates and times are written as the control writes them.
     content->setLocale(localeNamed(given.locale));
     faces = new FormFace(control.form, *content);
@@ -72,12 +89,20 @@ struct AwizoWysylkiWidget::Parts {
     face.releaseDialogs();
     delete faces;
     // What is shown besides the faces follows the control too, which is destroyed now.
+    delete packingPane;
     delete content;
   }
   Parts(const Parts&) = delete;
   Parts& operator=(const Parts&) = delete;
 
+  /// What is hidden has no size that could be kept.
+  void nameParts(bool paneIsShown) const {
+    whole->setObjectName(paneIsShown ? documentAndPacking : "");
+    packingPane->splitter()->setObjectName(paneIsShown ? packingLinesAndPackages : "");
+  }
+
   QWidget* content;
+  QSplitter* whole = nullptr;  ///< what is beside the content
   Surroundings surroundings;
   Waiting& waiting = surroundings.waiting;
   HostScreenFace& face = surroundings.face;
@@ -92,12 +117,14 @@ struct AwizoWysylkiWidget::Parts {
   journal::History history;
   DocumentWatch watch;
   FormFace* faces;
+  ScannerFields scannerFields;
   Status status;
   CommandActions* commands = nullptr;
   Finder* finder = nullptr;  ///< belongs to `content`
   std::unique_ptr<PaperMaker> paperMaker;
   std::unique_ptr<PackageNumbers> packageNumbers;  ///< null where the firm has none
   std::unique_ptr<Assistants> assistants;
+  QPointer<PackingPane> packingPane;  ///< belongs to the widget
 };
 
 AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
@@ -133,9 +160,69 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
     control->observers.add([this](const Change&) { showStandingSoon(); });
   }
 
-  auto* whole = new QVBoxLayout(this);
-  whole->setContentsMargins(0, 0, 0, 0);
-  whole->addWidget(parts.content);
+  parts.whole = new QSplitter(Qt::Horizontal);
+  parts.whole->setChildrenCollapsible(false);
+  parts.whole->addWidget(parts.content);
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->addWidget(parts.whole);
+  SettingsStore& settings = parts.surroundings.platform.settings;
+  if (isOn(settings, DeskSwitch::packingPane)) {
+    packingPane().show();
+    parts.nameParts(true);
+  }
+  if (isOn(settings, DeskSwitch::scannerPacks)) letScannerPack(true);
+}
+
+/// Few want it at the start, so it is made when it is asked for.
+PackingPane& AwizoWysylkiWidget::packingPane() {
+  Parts& parts = *parts_;
+  if (parts.packingPane != nullptr) return *parts.packingPane;
+  SettingsStore& settings = parts.surroundings.platform.settings;
+  auto* pane = new PackingPane(parts.control.editor, *parts.faces, parts.waiting,
+                               [&parts](const std::vector<int>& lines, int package) {
+                                 parts.assistants->packRest(lines, package);
+                               });
+  parts.packingPane = pane;
+  pane->hide();
+  for (QTreeView* view : {pane->lines(), pane->packages()}) parts.finder->listen(*view);
+  parts.whole->addWidget(pane);
+  parts.whole->setStretchFactor(0, 1);
+  parts.whole->setStretchFactor(1, 0);
+  takeKeptSizes(*parts.whole, documentAndPacking, settings);
+  takeKeptSizes(*pane->splitter(), packingLinesAndPackages, settings);
+  pane->onToggle = [this, &settings](bool shown) {
+    setOn(settings, DeskSwitch::packingPane, shown);
+    parts_->nameParts(shown);
+    if (shown) growWindow();
+  };
+  parts.nameParts(false);
+  return *pane;
+}
+
+/// What has come beside the document shall not push its edge out of sight.
+void AwizoWysylkiWidget::growWindow() {
+  layout()->activate();
+  QWidget& whole = *window();
+  const int missing = minimumSizeHint().width() - whole.width();
+  if (missing > 0) {
+    whole.resize(
+        (whole.size() + QSize(missing, 0)).boundedTo(roomFor(whole).expandedTo(whole.size())));
+  }
+}
+
+bool AwizoWysylkiWidget::scannerPacks() const {
+  return parts_->finder->rules().takeProduct != nullptr;
+}
+
+void AwizoWysylkiWidget::letScannerPack(bool on) {
+  Parts& parts = *parts_;
+  setOn(parts.surroundings.platform.settings, DeskSwitch::scannerPacks, on);
+  parts.finder->rules().takeProduct = nullptr;
+  if (!on) return;
+  parts.finder->rules().takeProduct = [&parts](std::string_view ean) {
+    return parts.assistants->packScannedUnit(ean);
+  };
 }
 
 AwizoWysylkiWidget::~AwizoWysylkiWidget() {
@@ -193,6 +280,10 @@ PaperMaker& AwizoWysylkiWidget::paperMaker() { return *parts_->paperMaker; }
 
 void AwizoWysylkiWidget::showNumberRange() {
   if (parts_->packageNumbers) parts_->packageNumbers->showRange();
+}
+
+NumberRangeDialog& AwizoWysylkiWidget::numberRangeDialog() {
+  return parts_->packageNumbers->rangeDialog();
 }
 
 Assistants& AwizoWysylkiWidget::assistants() { return *parts_->assistants; }

@@ -12,6 +12,7 @@
 namespace awizo {
 class AwizoWysylki;
 class DocumentWatch;
+class NumberRangeDialog;
 }  // namespace awizo
 
 namespace awizo::journal {
@@ -23,6 +24,7 @@ namespace awizo::desktop {
 class Assistants;
 class CommandActions;
 class Finder;
+class PackingPane;
 class PaperMaker;
 class FormFace;
 
@@ -90,7 +92,13 @@ class AwizoWysylkiWidget : public QWidget {
   PaperMaker& paperMaker();
   /// Lets the user set the range of package numbers, where the firm has any.
   void showNumberRange();
+  /// Only where the firm has one.
+  NumberRangeDialog& numberRangeDialog();
   Assistants& assistants();
+  PackingPane& packingPane();
+  /// Whether a scanned product is put into the current package; the settings keep it.
+  bool scannerPacks() const;
+  void letScannerPack(bool on);
   Waiting& waiting();
 
  signals:
@@ -110,6 +118,7 @@ class AwizoWysylkiWidget : public QWidget {
   struct Parts;
 
   void connectRecording();
+  void growWindow();
   void tellOfRecording(const std::string& why);
   template <class Replay>
   void replayOr(Replay&& replay);

@@ -12,7 +12,7 @@ Finder::Finder(const Editor& editor, FormFace& faces)
     : QObject(&faces.window()), faces_(faces), finder_(editor), strip_(new LineStrip(editor)) {
   finder_.say = [this](std::string_view words) { strip_->say(fromText(words)); };
   for (Table* table : {&editor.form.grdPozycje, &editor.form.grdOpakowania}) {
-    faces.table(*table).view()->installEventFilter(this);
+    listen(*faces.table(*table).view());
   }
 }
 

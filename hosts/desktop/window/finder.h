@@ -18,6 +18,9 @@ class Finder : public QObject {
   LineStrip& strip() { return *strip_; }
   LineFinder& rules() { return finder_; }
 
+  /// What is scanned while this view has the focus counts as typed into a table.
+  void listen(QWidget& view) { view.installEventFilter(this); }
+
   void find();
   void findAgain();
   void showFaults();

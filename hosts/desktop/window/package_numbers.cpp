@@ -42,6 +42,8 @@ void PackageNumbers::opened() {
   }
   window.faces().act([this] { offer_.opened(); });
   showWords();
+  // The dialog has taken its size without these words.
+  window.takeRoom();
 }
 
 void PackageNumbers::showWords() {

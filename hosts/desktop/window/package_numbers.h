@@ -20,6 +20,7 @@ class PackageNumbers {
 
   void showRange();
   NumberOffer& offer() { return offer_; }
+  NumberRangeDialog& rangeDialog() { return rangeDialog_; }
   std::vector<DocumentFault> faults() { return offer_.faults(); }
 
  private:

@@ -11,9 +11,15 @@
 #include "desk/host_boxes.h"
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/text.h"
+#include "papers/packing_csv.h"
 #include "session/record/off_line_path.h"
 
 namespace awizo::desktop {
+namespace {
+
+constexpr std::string_view csvEnding = ".csv";
+
+}  // namespace
 
 PaperMaker::PaperMaker(const Editor& editor, Files& files, SettingsStore& settings, QWidget& window)
     : editor_(editor),
@@ -23,8 +29,10 @@ PaperMaker::PaperMaker(const Editor& editor, Files& files, SettingsStore& settin
       dialog_(editor.screen(), measure_, encoder_, settings) {
   askTarget = [this](const QString& proposed) {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    return QFileDialog::getSaveFileName(&window_, fromText(dialog_.title()),
-                                        QDir(folder).filePath(proposed), fromText(words::pdfKind));
+    const bool isTable = proposed.endsWith(fromText(csvEnding));
+    return QFileDialog::getSaveFileName(
+        &window_, isTable ? fromText(words::packingListTitle) : fromText(dialog_.title()),
+        QDir(folder).filePath(proposed), fromText(isTable ? words::csvKind : words::pdfKind));
   };
   askDocument = [this] {
     return QFileDialog::getOpenFileName(&window_, fromText(words::savedDocumentTitle), QString(),
@@ -42,13 +50,26 @@ PaperMaker::PaperMaker(const Editor& editor, Files& files, SettingsStore& settin
   dialog_.onPrint = [this] { return print(dialog_.pages()); };
 }
 
-void PaperMaker::show(Paper paper) {
-  if (!editor_.form.takesInput()) return;
-  PapersSource source;
+std::optional<PapersSource> PaperMaker::source() {
+  if (!editor_.form.takesInput()) return std::nullopt;
+  std::optional<PapersSource> source;
   if (const auto error = caughtError([&] { source = papersSource(editor_); })) {
-    return tell(std::string(words::noPapers), *error);
+    tell(std::string(words::noPapers), *error);
   }
-  dialog_.show(std::move(source), paper);
+  return source;
+}
+
+void PaperMaker::show(Paper paper) {
+  if (std::optional<PapersSource> shown = source()) dialog_.show(std::move(*shown), paper);
+}
+
+void PaperMaker::writePackingCsv() {
+  const std::optional<PapersSource> shown = source();
+  if (!shown) return;
+  const std::string name =
+      paperFileName(words::packingListTitle, shown->advice.header.number, csvEnding);
+  write(askTarget(fromText(name)),
+        [&] { return papers::packingCsv(papers::shipmentOf(shown->advice)); });
 }
 
 void PaperMaker::showSaved() {
@@ -65,11 +86,14 @@ void PaperMaker::showSaved() {
 }
 
 bool PaperMaker::write() {
-  const QString path = askTarget(fromText(dialog_.fileName()));
+  return write(askTarget(fromText(dialog_.fileName())),
+               [this] { return pdfOf(dialog_.pages(), dialog_.title()); });
+}
+
+bool PaperMaker::write(const QString& path, const std::function<std::string()>& content) {
   if (path.isEmpty()) return false;
   const auto error = caughtError([&] {
-    files_.replace(posix::classicPath(toText(QDir().absoluteFilePath(path))),
-                   pdfOf(dialog_.pages(), dialog_.title()));
+    files_.replace(posix::classicPath(toText(QDir().absoluteFilePath(path))), content());
   });
   if (error) tell(toText(path), *error);
   return !error;

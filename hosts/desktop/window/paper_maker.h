@@ -19,6 +19,8 @@ class PaperMaker {
 
   void show(Paper paper);
   void showSaved();
+  /// The packing list as a table for spreadsheets.
+  void writePackingCsv();
 
   PapersDialog& dialog() { return dialog_; }
 
@@ -29,7 +31,10 @@ class PaperMaker {
   std::function<bool(const papers::Pages&)> print;
 
  private:
+  /// The document as papers show it; the user is told why there are none.
+  std::optional<PapersSource> source();
   bool write();
+  bool write(const QString& path, const std::function<std::string()>& content);
   void tell(const std::string& what, const RunTimeError& error);
 
   const Editor& editor_;

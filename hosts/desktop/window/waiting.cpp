@@ -97,7 +97,7 @@ void Waiting::end() {
   apply();
   if (spans_ > 0) return;
   if (answered_) answered_->close();
-  if (onEnd) onEnd();
+  onEnd.tell(*this);
 }
 
 void Waiting::setAside() {

@@ -8,6 +8,7 @@
 
 #include "hosts/desktop/window/moving_bar.h"
 #include "platform/at_exit.h"
+#include "platform/observers.h"
 
 namespace awizo::desktop {
 
@@ -32,8 +33,8 @@ class Waiting : public QObject {
   /// Lets the user answer this window while the work goes on; it is closed when the wait ends.
   void letAnswer(QWidget* window) { answered_ = window; }
 
-  /// Called when the wait has ended. May be empty.
-  std::function<void()> onEnd;
+  /// Told when the wait has ended.
+  Observers<const Waiting&> onEnd;
 
   bool lasts() const { return spans_ > 0; }
   QString text() const { return text_->text(); }
