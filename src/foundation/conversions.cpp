@@ -95,10 +95,11 @@ std::string Conversions::AddPeriodToDate(Date date, std::string_view count,
 }
 
 bool Conversions::isNumeric(std::string_view text) const {
-  return readNumber(text, locale_.facts()).has_value();
+  return plainValue(text, locale_.facts()) || readNumber(text, locale_.facts());
 }
 
 double Conversions::toDouble(std::string_view text) const {
+  if (const auto plain = plainValue(text, locale_.facts())) return *plain;
   const std::optional<DecimalNumber> number = readNumberOfAnySize(text, locale_.facts());
   if (!number) throw errors::typeMismatch();
   const double value = toFloating(*number);

@@ -201,6 +201,31 @@ std::optional<DecimalNumber> readNumber(std::string_view text, const LocaleFacts
   return number;
 }
 
+std::optional<double> plainValue(std::string_view text, const LocaleFacts& facts) {
+  // Both the digits as a whole number and the power of ten are floating numbers exactly, so their
+  // quotient is the nearest one to the number.
+  constexpr std::array<double, 16> powers{1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                          1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  std::int64_t whole = 0;
+  std::size_t digits = 0, decimals = 0;
+  bool fraction = false;
+  while (!text.empty()) {
+    if (isDigit(text.front())) {
+      whole = whole * 10 + (text.front() - '0');
+      if (++digits >= powers.size()) return std::nullopt;
+      if (fraction) ++decimals;
+      text.remove_prefix(1);
+    } else if (!fraction && text.starts_with(facts.decimalSeparator)) {
+      fraction = true;
+      text.remove_prefix(facts.decimalSeparator.size());
+    } else {
+      return std::nullopt;
+    }
+  }
+  if (digits == 0) return std::nullopt;
+  return static_cast<double>(whole) / powers[decimals];
+}
+
 bool fitsFloating(const DecimalNumber& number) { return std::isfinite(toFloating(number)); }
 
 double toFloating(const DecimalNumber& number) {

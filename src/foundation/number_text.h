@@ -27,6 +27,10 @@ std::optional<DecimalNumber> readNumber(std::string_view text, const LocaleFacts
 std::optional<DecimalNumber> readNumberOfAnySize(std::string_view text, const LocaleFacts& facts);
 bool fitsFloating(const DecimalNumber& number);
 
+/// The value of a text of at most 15 digits with one decimal separator at most, as nearly all
+/// numbers of a document are; nothing for any other text, which may be a number too.
+std::optional<double> plainValue(std::string_view text, const LocaleFacts& facts);
+
 /// The floating number nearest to a number that fits one.
 double toFloating(const DecimalNumber& number);
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <limits>
+#include <random>
 
 #include "foundation/locale_facts.h"
 
@@ -227,6 +228,35 @@ TEST(FloatingText, TakesAnExponentFromFifteenZerosOn) {
 }
 
 TEST(FloatingText, NegativeZeroIsZero) { EXPECT_EQ(floatingText(-0.0, ","), "0"); }
+
+TEST(PlainValue, IsTheSameNumberToTheLastBit) {
+  std::mt19937 random(2026);
+  const auto below = [&](std::size_t count) {
+    return static_cast<int>(std::uniform_int_distribution<std::size_t>(0, count - 1)(random));
+  };
+  for (const LocaleFacts& facts : {russianFacts(), americanFacts()}) {
+    int plain = 0;
+    for (int i = 0; i < 20'000; ++i) {
+      std::string text;
+      for (int left = 1 + below(17); left > 0; --left) text += static_cast<char>('0' + below(10));
+      if (below(4) != 0) {
+        text.insert(static_cast<std::size_t>(below(text.size() + 1)), facts.decimalSeparator);
+      }
+      const std::optional<double> value = plainValue(text, facts);
+      plain += value ? 1 : 0;
+      EXPECT_EQ(value.value_or(numberOf(text, facts)), numberOf(text, facts)) << text;
+    }
+    EXPECT_GT(plain, 15'000);
+  }
+}
+
+TEST(PlainValue, IsNoneOfWhatMayBeReadInOtherWays) {
+  for (const char* text : {"", ",", "1,2,3", "1.5", "-1", "1 ", "1e2", "1234567890123456", "x"}) {
+    EXPECT_EQ(plainValue(text, russianFacts()), std::nullopt) << text;
+  }
+  EXPECT_EQ(plainValue(",5", russianFacts()), 0.5);
+  EXPECT_EQ(plainValue("5,", russianFacts()), 5);
+}
 
 }  // namespace
 }  // namespace awizo::test
