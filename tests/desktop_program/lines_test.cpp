@@ -170,5 +170,44 @@ TEST_F(LinesTest, AFaultOfTheHeaderLeadsToItsField) {
   EXPECT_EQ(form().focus(), &form().txtNrAwiza);
 }
 
+/// Each dialog begins where something was chosen without the user, however he left it before.
+TEST_F(LinesTest, PackingBeginsAtThePackageEachTime) {
+  open(offLineOptions());
+  putLines(control().editor, 5);
+  const Form& small = control().dlgdodajPule;
+  for (const char* description : {"Паллета 1", "Паллета 2"}) {
+    then([&] {
+      DlgSzczegoly& package = control().dlgSzczegoly;
+      EXPECT_EQ(package.focus(), &package.cboxPackageType) << description;
+      package.txtPackageDesc.userType(description);
+      package.cboxILNLokalizacji.userType("9520002001016");
+      package.txtSerialNumberN.userType("035200010000000016");
+      package.btnDodaj.userClick();
+    });
+    form().btnDodajOpak.userClick();
+  }
+  ASSERT_EQ(control().editor.session.IloscPozycjiOpak, 2);
+  form().grdPozycje.setCell(1, GRD_POZ_QTY_DESPATCHED, "5,000");
+  form().grdPozycje.userCell(1, GRD_POZ_NAME);
+  int seen = 0;
+  const auto pack = [&] {
+    then([&] {
+      ++seen;
+      EXPECT_EQ(small.focus(), &control().dlgdodajPule.cboxPackages);
+      press(Qt::Key_Tab);
+      type("2");
+      press(Qt::Key_Return);
+    });
+    control().dlgDodaj.Command1.userClick();
+  };
+  then([&] {
+    pack();
+    pack();
+    control().dlgDodaj.userClose();
+  });
+  form().btnEdytuj.userClick();
+  EXPECT_EQ(seen, 2);
+}
+
 }  // namespace
 }  // namespace awizo::test

@@ -9,6 +9,7 @@
 #include "desk/choose_path.h"
 #include "desk/desk_settings.h"
 #include "desk/document_watch.h"
+#include "desk/first_stop.h"
 #include "desk/host_boxes.h"
 #include "desk/kept_sizes.h"
 #include "desk/layout_words.h"
@@ -141,6 +142,11 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
         parts.surroundings.platform.clock, parts.face);
     parts.finder->rules().moreFaults = [&parts] { return parts.packageNumbers->faults(); };
   }
+  parts.face.onModal = [&parts, before = parts.face.onModal](Form& form) {
+    if (before) before(form);
+    Control* stop = firstStop(parts.control, form);
+    if (stop != nullptr) parts.face.dialog(form).faces().act([stop] { stop->userFocus(); });
+  };
   parts.assistants = std::make_unique<Assistants>(
       Assistance{parts.surroundings.assistedFace, parts.control, parts.history,
                  parts.packageNumbers ? &parts.packageNumbers->offer() : nullptr},
