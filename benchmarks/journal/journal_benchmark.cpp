@@ -8,6 +8,7 @@
 #include <string>
 
 #include "adapters/posix/posix_growing_file.h"
+#include "adapters/posix/posix_record_folder.h"
 #include "benchmarks/support/compare.h"
 #include "benchmarks/support/full_size.h"
 #include "journal/history.h"
@@ -41,6 +42,11 @@ void start(test::TapedControl& session) {
   if (desk.session.LineCount != mostOrderLines) std::abort();
 }
 
+test::TapedControl recordedInto(const NewRecord& record) {
+  return test::TapedControl(record.file.get(), {}, test::TapedControl::unchanged, "ru_RU",
+                            record.texts.get());
+}
+
 /// Accepts each line as it is; makes top packages.
 void actOn(AwizoWysylki& control, const Form& form) {
   if (&form == &control.dlgDodaj) return control.dlgDodaj.btnDodaj.userClick();
@@ -69,6 +75,30 @@ void work(test::TapedControl& session) {
   for (int field = 0; field < headerFields; ++field) {
     control.form.txtNrAwiza.userType(std::to_string(field));
   }
+}
+
+/// The time from the start to the user's turn with a record in a folder, against none: with a
+/// catalogue that lies there already for another session, and with one that has to be written.
+void StartingWithARecord(benchmark::State& state, bool shared) {
+  double with = 0;
+  double without = 0;
+  for ([[maybe_unused]] const auto turn : state) {
+    const test::TemporaryFolder home;
+    PosixRecordFolder folder((home.path() / "records").string());
+    const NewRecord another = folder.create();
+    const NewRecord own = folder.create();
+    if (shared) {
+      test::TapedControl earlier = recordedInto(another);
+      start(earlier);
+    }
+    test::TapedControl recorded = recordedInto(own);
+    test::TapedControl bare(nullptr);
+    const double seconds = secondsOf([&] { start(recorded); });
+    with += seconds;
+    without += secondsOf([&] { start(bare); });
+    state.SetIterationTime(seconds);
+  }
+  state.counters["ratio"] = with / without;
 }
 
 /// The processor's time that a record takes of an act, the state's digests included.
@@ -146,6 +176,8 @@ void TakingBackAfterADay(benchmark::State& state) {
   state.counters["ratio"] = longest / secondsAllowedForTakingBack;
 }
 
+BENCHMARK_CAPTURE(StartingWithARecord, shared, true)->UseManualTime()->Iterations(5);
+BENCHMARK_CAPTURE(StartingWithARecord, alone, false)->UseManualTime()->Iterations(5);
 BENCHMARK(RecordingAnAct)->UseManualTime()->Iterations(3);
 BENCHMARK(ReplayingADay)->UseManualTime()->Iterations(3);
 BENCHMARK(TakingBackAfterADay)->UseManualTime()->Iterations(3);
