@@ -17,9 +17,8 @@ constexpr const char* pagePath = "/vird/page/editor.html";
 /// As strict as a portal's may be: the page takes nothing from elsewhere, no style within it
 /// counts.
 constexpr const char* pagePolicy =
-    "default-src 'none'; script-src 'self' 'wasm-unsafe-eval'; style-src 'self'; connect-src "
-    "'self'; "
-    "worker-src 'self'; base-uri 'none'; form-action 'none'";
+    "default-src 'none'; script-src 'self' 'wasm-unsafe-eval'; style-src 'self'; img-src 'self'; "
+    "connect-src 'self'; worker-src 'self'; base-uri 'none'; form-action 'none'";
 constexpr int patienceSeconds = 60;
 
 std::optional<std::string> header(const httplib::Request& request, const char* name) {
@@ -68,7 +67,8 @@ void fillCut(std::string reply, httplib::Response& response) {
 std::string typeOf(std::string_view file) {
   if (file.ends_with(".html")) return htmlType;
   if (file.ends_with(".mjs")) return "text/javascript";
-  return file.ends_with(".wasm") ? "application/wasm" : "text/xml; charset=utf-8";
+  if (file.ends_with(".svg")) return "image/svg+xml";
+  return file.ends_with(".wasm") ? "application/wasm" : xmlType;
 }
 
 bool replacesReply(FaultKind kind) {
@@ -137,7 +137,7 @@ void DemoService::offerPage(const std::filesystem::path& folder) {
   server_.Get("/", [](const httplib::Request&, httplib::Response& response) {
     response.set_redirect(pagePath);
   });
-  server_.Get(R"(/(?:.*/)?page/([\w-]+\.(?:html|mjs|wasm|xml)))",
+  server_.Get(R"(/(?:.*/)?page/([\w-]+\.(?:html|mjs|svg|wasm|xml)))",
               [folder](const httplib::Request& request, httplib::Response& response) {
                 const std::string name = request.matches[1];
                 std::ifstream file(folder / name, std::ios::binary);

@@ -232,11 +232,13 @@ export class AwizoWysylki extends ControlElement {
     const title = make("h2", { id: `title-${name}` });
     const closer = make("button", { type: "button", class: "closer", "aria-label": "Закрыть" }, ["×"]);
     const element = make("dialog", { lang: "ru", "aria-labelledby": `title-${name}` }, [
-      make("header", {}, [title, closer]), view.element,
+      make("div", { class: "title" }, [title, closer]), view.element,
     ]);
     if (this.kinds[`${name}.btnWczytaj`]?.caption === readingMode) element.append(this.fromComputer());
     closer.addEventListener("click", () => void this.closingOf({ do: "close", on: name }));
     element.addEventListener("cancel", (event) => {
+      // A file field in the dialog is left so too.
+      if (event.target !== element) return;
       event.preventDefault();
       void this.host().act(view.focus, { do: "key", code: 27, shift: false });
     });
@@ -278,7 +280,7 @@ export class AwizoWysylki extends ControlElement {
       return button;
     });
     const element = make("dialog", { role: "alertdialog", class: `box ${icon}`, lang: "ru", "aria-labelledby": "box-title", "aria-describedby": "box-text box-advice" }, [
-      make("header", {}, [make("h2", { id: "box-title" }, [title])]),
+      make("div", { class: "title" }, [make("h2", { id: "box-title" }, [title])]),
       make("p", { id: "box-text" }, [text.replaceAll("\r\n", "\n").replaceAll("\r", "\n")]),
       ...(advice === undefined ? [] : [make("p", { id: "box-advice" }, [advice])]),
       make("div", { class: "beside buttons" }, buttons),

@@ -63,7 +63,8 @@ button:disabled { color: var(--awizo-pale); cursor: default; }
 .cell.right { text-align: right; }
 .cell.centre { text-align: center; }
 .cell.bold { font-weight: 600; }
-.cell.coloured { background: color-mix(in srgb, var(--cell) 70%, var(--awizo-paper)); }
+/* The models' colours are light ones: what is written on them is dark in a dark scheme too. */
+.cell.coloured { background: color-mix(in srgb, var(--cell) 70%, white); color: #1c2024; }
 .row.current .cell { background: color-mix(in srgb, var(--awizo-accent) 14%, transparent); }
 .cell.marked { background: color-mix(in srgb, var(--awizo-accent) 28%, transparent); }
 .cell.current { outline: 2px solid var(--awizo-accent); outline-offset: -2px; }
@@ -76,7 +77,7 @@ dialog.box { width: min(480px, calc(100vw - 16px)); }
 dialog.box p { white-space: pre-line; overflow-wrap: anywhere; }
 dialog.critical { border-top: 4px solid light-dark(#b3261e, #f2b8b5); }
 ::backdrop { background: #0007; }
-header { display: flex; justify-content: space-between; align-items: center; gap: 10px; }
+.title { display: flex; justify-content: space-between; align-items: center; gap: 10px; }
 h2 { font-size: 17px; margin: 12px 0; }
 .closer { border: 0; background: none; font-size: 20px; padding: 0 8px; }
 .buttons { justify-content: end; }

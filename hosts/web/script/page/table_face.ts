@@ -130,7 +130,7 @@ export class TableFace extends Face {
       const isCurrent = number === this.facts.row;
       const element = make("div", {
         role: "row", class: isCurrent ? "row current" : "row", "data-row": number, "aria-rowindex": number + 1,
-        "aria-selected": String(isCurrent),
+        "aria-selected": String(isCurrent), id: `${this.id}-${number}`,
       }, row === undefined ? [] : columns.map((column) => this.cell(row, column, "gridcell")));
       element.style.top = `${(number - this.fixed) * rowHeight}px`;
       for (const cell of element.children) {
@@ -141,7 +141,14 @@ export class TableFace extends Face {
     }
     this.body.replaceChildren(...drawn, ...(this.overCell === undefined ? [] : [this.overCell]));
     this.placeOverCell();
-    this.element.setAttribute("aria-activedescendant", `${this.id}-${this.facts.row}-${this.facts.col}`);
+    this.tellCurrent();
+  }
+
+  /// For those who don't see it: the current cell, its row where the cell's column is hidden.
+  private tellCurrent(): void {
+    const current = this.body.querySelector(".cell.current") ?? this.body.querySelector(".row.current");
+    if (current === null) this.element.removeAttribute("aria-activedescendant");
+    else this.element.setAttribute("aria-activedescendant", current.id);
   }
 
   /// The field that is edited in a cell's place.

@@ -2,11 +2,10 @@
 // usage: node files.mjs ADDRESS_OF_THE_PAGE
 
 import assert from "node:assert/strict";
-import fs from "node:fs";
 
 import type { ElementHandle } from "playwright-core";
 
-import { User, withPage } from "./user.ts";
+import { handedOut, User, withPage } from "./user.ts";
 
 const oldNumber = "ТН/8";
 const newNumber = "ТН-9";
@@ -35,15 +34,13 @@ await withPage(async (page) => {
   await user.open();
   await user.field("txtNrAwiza").fill(oldNumber);
   await user.addPackage("Паллета 1", "035200010000000016");
-  const downloading = page.waitForEvent("download");
-  await user.control("btnZapisz").click();
-  assert.match(await user.answer("Yes"), /упакован не полностью/);
-  await fileDialog.waitFor();
-  assert.equal(await fileDialog.getByRole("button", { name: "С компьютера…" }).count(), 0);
-  await user.control("DlgWczytajZapisz.ImageZapisz").click();
-  const download = await downloading;
-  assert.equal(download.suggestedFilename(), "Подтверждение_отгрузки_ТН_8.xml");
-  const saved = fs.readFileSync(await download.path(), "utf8");
+  const saved = await handedOut(page, "Подтверждение_отгрузки_ТН_8.xml", async () => {
+    await user.control("btnZapisz").click();
+    assert.match(await user.answer("Yes"), /упакован не полностью/);
+    await fileDialog.waitFor();
+    assert.equal(await fileDialog.getByRole("button", { name: "С компьютера…" }).count(), 0);
+    await user.control("DlgWczytajZapisz.ImageZapisz").click();
+  });
   assert.ok(saved.includes(oldNumber) && saved.includes("035200010000000016"), saved.slice(0, 500));
 
   const other = Buffer.from(saved.replaceAll(oldNumber, newNumber));

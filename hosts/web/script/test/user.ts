@@ -1,11 +1,14 @@
 // A user of the page in a real browser: clicks and keys alone.
 
 import assert from "node:assert/strict";
+import fs from "node:fs";
+import os from "node:os";
+import path from "node:path";
 
-import { chromium, type Locator, type Page } from "playwright-core";
+import { chromium, firefox, type Browser, type Locator, type Page } from "playwright-core";
 
 const pictures = process.env["AWIZO_PICTURES"] || undefined;
-const browserFile = "/usr/bin/chromium";
+const inFirefox = process.env["AWIZO_BROWSER"] === "firefox";
 const patience = 20_000;
 
 /// Of the page; the service stands beside it.
@@ -114,6 +117,15 @@ export class User {
     return (await requests()).at(-1)!;
   }
 
+  /// The colours that the browser can be told to prefer.
+  schemes(): ("light" | "dark")[] {
+    return inFirefox ? ["light"] : ["light", "dark"];
+  }
+
+  async useScheme(colorScheme: "light" | "dark"): Promise<void> {
+    if (!inFirefox) await this.page.emulateMedia({ colorScheme });
+  }
+
   async picture(name: string): Promise<void> {
     if (pictures === undefined) return;
     for (const width of [360, 800, 1920]) {
@@ -124,9 +136,39 @@ export class User {
   }
 }
 
+const downloads = fs.mkdtempSync(path.join(os.tmpdir(), "downloads-"));
+process.on("exit", () => fs.rmSync(downloads, { recursive: true, force: true }));
+
+function launch(): Promise<Browser> {
+  return inFirefox
+    // The channel is the one that a Firefox as it comes can be driven by.
+    ? firefox.launch({ channel: "moz-firefox", executablePath: "/usr/bin/firefox-esr", downloadsPath: downloads })
+    : chromium.launch({ executablePath: "/usr/bin/chromium", args: ["--no-sandbox"] });
+}
+
+/// The text of the document that the act makes the page hand out under this name.
+export async function handedOut(page: Page, name: string, act: () => Promise<void>): Promise<string> {
+  if (!inFirefox) {
+    const downloading = page.waitForEvent("download");
+    await act();
+    const download = await downloading;
+    assert.equal(download.suggestedFilename(), name);
+    return fs.readFileSync(await download.path(), "utf8");
+  }
+  // Firefox's downloads aren't told of; they come to the folder, and get their names at the end.
+  const changes = fs.promises.watch(downloads, { recursive: true, signal: AbortSignal.timeout(patience) });
+  await act();
+  for await (const { filename } of changes) {
+    if (filename === null || path.basename(filename) !== name) continue;
+    const text = fs.readFileSync(path.join(downloads, filename), "utf8");
+    if (text.trimEnd().endsWith("</Document-DespatchAdvice>")) return text;
+  }
+  throw new Error("Nothing was handed out.");
+}
+
 /// Does the work in a browser of its own, whose page may complain of nothing.
 export async function withPage(work: (page: Page) => Promise<void>): Promise<void> {
-  const browser = await chromium.launch({ executablePath: browserFile, args: ["--no-sandbox"] });
+  const browser = await launch();
   const complaints: string[] = [];
   try {
     const context = await browser.newContext({ locale: "ru-RU", viewport: { width: 1280, height: 900 } });
