@@ -23,18 +23,21 @@ FindDialog::FindDialog(Screen& screen, const Editor& editor)
   btnClose.onClick = [this] { hide(); };
 }
 
-std::optional<int> FindDialog::ask() {
+std::optional<FoundRow> FindDialog::ask() {
   found_.reset();
   lblNothing.setCaption("");
   showModal();
   return found_;
 }
 
-std::optional<int> FindDialog::again() const {
-  if (const auto row = findLine(editor_, txtWhat.text())) return row;
+std::optional<FoundRow> FindDialog::again() const {
+  Table& lines = editor_.form.grdPozycje;
+  if (const auto row = findLine(editor_, txtWhat.text())) return rowIn(lines, row);
   const std::string code = withoutScanMarks(txtWhat.text());
-  // An EAN in the symbol of a label has 14 digits.
-  return code.empty() ? std::nullopt : findScanned(editor_, code);
+  if (const auto row = findScanned(editor_, code)) return rowIn(lines, row);
+  const std::string_view number = packageNumberIn(code);
+  if (number.empty()) return std::nullopt;
+  return rowIn(editor_.form.grdOpakowania, findPackage(editor_, number));
 }
 
 void FindDialog::btnFind_Click() {

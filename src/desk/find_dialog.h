@@ -11,7 +11,18 @@
 
 namespace awizo {
 
-/// Asks for a text and finds the next line that holds it. Where none does it says so and stays.
+struct FoundRow {
+  Table* table = nullptr;  ///< of lines or of packages
+  int row = 0;
+};
+
+/// Nothing where there is no row.
+inline std::optional<FoundRow> rowIn(Table& table, std::optional<int> row) {
+  return row ? std::optional(FoundRow{&table, *row}) : std::nullopt;
+}
+
+/// Asks for a text and finds the next line that holds it; a scanned text also finds the line of its
+/// EAN and the package of its number. Where nothing is found it says so and stays.
 class FindDialog : public Form {
  public:
   FindDialog(Screen& screen, const Editor& editor);
@@ -20,16 +31,16 @@ class FindDialog : public Form {
   Label lblNothing;  ///< that nothing was found; empty before
   Button btnFind, btnClose;
 
-  /// Shows the dialog until a line is found or the user closes it. Returns the row of grdPozycje.
-  std::optional<int> ask();
-  /// The next line of the text asked for last.
-  std::optional<int> again() const;
+  /// Shows the dialog until something is found or the user closes it.
+  std::optional<FoundRow> ask();
+  /// The next row of the text asked for last.
+  std::optional<FoundRow> again() const;
 
  private:
   void btnFind_Click();
 
   const Editor& editor_;
-  std::optional<int> found_;
+  std::optional<FoundRow> found_;
 };
 
 }  // namespace awizo

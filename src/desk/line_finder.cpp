@@ -15,14 +15,14 @@ void LineFinder::tell(std::string_view words) const {
   if (say) say(words);
 }
 
-void LineFinder::goToRow(std::optional<int> row, std::string_view nothing) {
-  if (!row) return tell(nothing);
-  editor_.form.grdPozycje.userRow(*row);
+void LineFinder::goToRow(const std::optional<FoundRow>& found, std::string_view nothing) {
+  if (!found) return tell(nothing);
+  found->table->userRow(found->row);
 }
 
 void LineFinder::find() {
   if (!editor_.form.takesInput()) return;
-  if (const std::optional<int> row = findDialog.ask()) goToRow(row, "");
+  goToRow(findDialog.ask(), "");
 }
 
 void LineFinder::findAgain() {
@@ -57,12 +57,13 @@ bool LineFinder::takeKey(std::int16_t code) {
 void LineFinder::goToScanned(std::string_view code) {
   const std::string_view number = packageNumberIn(code);
   if (number.empty() && takeProduct) return tell(takeProduct(code));
+  AwizoForm& form = editor_.form;
   if (number.empty()) {
-    return goToRow(findScanned(editor_, code), joined({words::noSuchCode, code}));
+    const auto row = findScanned(editor_, code);
+    return goToRow(rowIn(form.grdPozycje, row), joined({words::noSuchCode, code}));
   }
-  const std::optional<int> row = findPackage(editor_, number);
-  if (!row) return tell(joined({words::noSuchPackage, number}));
-  editor_.form.grdOpakowania.userRow(*row);
+  const auto row = findPackage(editor_, number);
+  goToRow(rowIn(form.grdOpakowania, row), joined({words::noSuchPackage, number}));
 }
 
 void LineFinder::forgetCode() {

@@ -49,7 +49,7 @@ class LineFinder {
   void forgetCode();
 
  private:
-  void goToRow(std::optional<int> row, std::string_view nothing);
+  void goToRow(const std::optional<FoundRow>& found, std::string_view nothing);
   void goToScanned(std::string_view code);
   void tell(std::string_view words) const;
 

@@ -71,6 +71,18 @@ TEST_F(LineFinderTest, FindsWhatIsScannedIntoTheSearchToo) {
   EXPECT_EQ(lines.row(), 3);
 }
 
+TEST_F(LineFinderTest, FindsThePackageOfANumberThatIsScannedThere) {
+  putPackages(test.editor, 3, [](int) { return 0; });
+  test.form.grdOpakowania.setCell(2, GRD_OPAK_SERIAL_NUMBER, "395200010000000011");
+  test.face.onModal([&] {
+    finder.findDialog.txtWhat.userType("(00)395200010000000011");
+    finder.findDialog.txtWhat.userKey(keys::enter);
+  });
+  finder.find();
+  EXPECT_EQ(test.form.grdOpakowania.row(), 2);
+  EXPECT_EQ(test.form.focus(), &test.form.grdOpakowania);
+}
+
 TEST_F(LineFinderTest, AScannedProductCanBeAnothers) {
   std::string taken;
   finder.takeProduct = [&](std::string_view ean) {

@@ -107,8 +107,11 @@ TEST_F(FindDialogTest, EnterFindsAndCloses) {
     dialog.txtWhat.userType("какао");
     dialog.txtWhat.userKey(keys::enter);
   });
-  EXPECT_EQ(dialog.ask(), 3);
-  EXPECT_EQ(dialog.again(), 3);
+  const auto found = dialog.ask();
+  ASSERT_TRUE(found);
+  EXPECT_EQ(found->table, &lines);
+  EXPECT_EQ(found->row, 3);
+  EXPECT_EQ(dialog.again()->row, 3);
 }
 
 TEST_F(FindDialogTest, SaysThatNothingIsFoundAndStays) {
@@ -121,7 +124,7 @@ TEST_F(FindDialogTest, SaysThatNothingIsFoundAndStays) {
     EXPECT_EQ(dialog.lblNothing.caption(), "");
     dialog.txtWhat.userKey(keys::escape);
   });
-  EXPECT_EQ(dialog.ask(), std::nullopt);
+  EXPECT_FALSE(dialog.ask());
 }
 
 }  // namespace

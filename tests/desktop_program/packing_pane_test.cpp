@@ -95,6 +95,7 @@ TEST_F(PackingPaneTest, ComesByItsKeyAndShowsWhatLiesWhere) {
   settle();
   ASSERT_TRUE(pane().isVisible());
   EXPECT_EQ(QApplication::focusWidget(), pane().lines());
+  EXPECT_GE(window().width(), widget().minimumSizeHint().width()) << "nothing is pushed out";
   EXPECT_EQ(summary(), "упаковано 0 из 3 строк");
   EXPECT_THAT(shownPlaces(), ElementsAre("Паллета 1|", ".Короб 1|", ".Короб 2|"));
   EXPECT_THAT(shownLines(), ElementsAre("Чай|0 из 8,25", "Рис|0 из 5", "Соль|0 из 0,5"));
@@ -251,7 +252,7 @@ TEST_F(PackingPaneTest, AsManyLinesAsThereCanBeArePackedInTheWindowInFiveSeconds
       pane().lines()->selectAll();
       pane().packages()->setFocus();
     }
-    const double taken = secondsOf([&, this] {
+    const double taken = secondsOf([&] {
       if (isShown) {
         press(Qt::Key_Insert);
       } else {
