@@ -11,10 +11,7 @@
 #include "hosts/desktop/faces/table_face.h"
 
 namespace awizo::desktop {
-namespace {
 
-/// Scrolls what holds the widget until it is seen. Under the mouse nothing moves: what is pressed
-/// there is seen.
 void bringIntoSight(QWidget& widget) {
   if (QApplication::mouseButtons() != Qt::NoButton) return;
   for (QWidget* holder = widget.parentWidget(); holder != nullptr;
@@ -22,8 +19,6 @@ void bringIntoSight(QWidget& widget) {
     if (auto* area = qobject_cast<QScrollArea*>(holder)) area->ensureWidgetVisible(&widget);
   }
 }
-
-}  // namespace
 
 FormFace::FormFace(Form& form, QWidget& window) : QObject(&window), form_(form), window_(window) {
   for (Control* control : form.controls()) faces_[control] = makeFace(*this, *control, &window);

@@ -23,6 +23,10 @@ namespace awizo::desktop {
 class ButtonFace;
 class TableFace;
 
+/// Scrolls what holds the widget until it is seen. Under the mouse nothing moves: what is pressed
+/// there is seen.
+void bringIntoSight(QWidget& widget);
+
 /// The faces of one form in one window, by the controls' names, and the focus between them: a
 /// user's move goes to the model first, and Qt's focus follows the model, wherever it goes.
 class FormFace : public QObject {

@@ -143,6 +143,9 @@ void PackingPane::toggle() {
   if (Face* face = faces_.focusedFace()) face->finishTyping();
   refresh();
   lines_->setFocus(Qt::ShortcutFocusReason);
+  // On a small screen the window scrolls, once it has laid out what has come.
+  QMetaObject::invokeMethod(
+      this, [this] { bringIntoSight(*lines_); }, Qt::QueuedConnection);
 }
 
 void PackingPane::showEvent(QShowEvent* event) {
@@ -255,6 +258,7 @@ bool PackingPane::eventFilter(QObject* watched, QEvent* event) {
 void PackingPane::focusDocument() {
   if (const Face* face = faces_.focusedFace()) {
     face->focusWidget()->setFocus(Qt::OtherFocusReason);
+    bringIntoSight(*face->focusWidget());
   } else {
     faces_.window().setFocus(Qt::OtherFocusReason);
   }
