@@ -103,6 +103,15 @@ TEST_F(TableOnDesktop, TheWholeCurrentRowIsMarkedThoughItsCellIsHidden) {
   EXPECT_EQ(colourAt(4, 3), currentColour(Qt::white));
 }
 
+TEST_F(TableOnDesktop, AMarkedCellOfADisabledTableIsNoDarkBlock) {
+  table.setRow(3);
+  table.setColumn(1);
+  table.setEnabled(false);
+  settle();
+  EXPECT_GT(colourAt(3, 1).lightness(), 200);
+  EXPECT_NE(colourAt(3, 1), colourAt(4, 1));
+}
+
 TEST_F(TableOnDesktop, ThePinkOfTheCurrentRowIsSeenThroughTheMark) {
   table.setBackground(3, 3, pink);
   table.setRow(3);

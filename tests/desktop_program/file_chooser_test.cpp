@@ -1,6 +1,8 @@
 #include "hosts/desktop/window/file_chooser.h"
 
 #include <QMenu>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QToolButton>
 #include <filesystem>
 #include <fstream>
@@ -49,6 +51,16 @@ class FileChooserTest : public ProgramTest {
  private:
   QByteArray earlier_ = qgetenv("HOME");
 };
+
+TEST_F(FileChooserTest, LeavesTheWholeDialogInSight) {
+  open(offLineOptions());
+  inReading([] {
+    for (const auto* area : QApplication::activeModalWidget()->findChildren<QScrollArea*>()) {
+      EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
+      EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
+    }
+  });
+}
 
 TEST_F(FileChooserTest, BeginsInTheDocumentsAndStaysWhereTheUserWent) {
   open(offLineOptions());

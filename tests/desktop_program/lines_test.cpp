@@ -170,6 +170,17 @@ TEST_F(LinesTest, AFaultOfTheHeaderLeadsToItsField) {
   EXPECT_EQ(form().focus(), &form().txtNrAwiza);
 }
 
+TEST_F(LinesTest, TheTabKeyLeadsToTheCurrentRowWhereverItIs) {
+  openLines();
+  table().setRow(40);
+  table().userScroll(1);
+  letLayoutsSettle();
+  ASSERT_FALSE(isSeen(table(), 40));
+  tabTo(table());
+  letLayoutsSettle();
+  EXPECT_TRUE(isSeen(table(), 40));
+}
+
 /// Each dialog begins where something was chosen without the user, however he left it before.
 TEST_F(LinesTest, PackingBeginsAtThePackageEachTime) {
   open(offLineOptions());

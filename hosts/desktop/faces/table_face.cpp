@@ -13,6 +13,14 @@
 #include "platform/forms/table_text.h"
 
 namespace awizo::desktop {
+namespace {
+
+bool isByKeyboard(const QFocusEvent& focus) {
+  return focus.reason() == Qt::TabFocusReason || focus.reason() == Qt::BacktabFocusReason;
+}
+
+}  // namespace
+
 TableFace::TableFace(FormFace& form, Table& table, QWidget* parent)
     : Face(form, table, new TableView(parent)),
       table_(table),
@@ -376,6 +384,13 @@ bool TableFace::eventFilter(QObject* watched, QEvent* event) {
       if (onCells) {
         takeViewHeight();
         placeEditor();
+      }
+      break;
+    case QEvent::FocusIn:
+      // Who comes with the mouse sees where he goes.
+      if (!onCells && isByKeyboard(static_cast<const QFocusEvent&>(*event))) {
+        QMetaObject::invokeMethod(
+            this, [this] { bringRowIntoView(); }, Qt::QueuedConnection);
       }
       break;
     case QEvent::FontChange:

@@ -47,7 +47,7 @@ TableView::TableView(QWidget* parent) : QTableView(parent) { setItemDelegate(new
 
 void TableView::initViewItemOption(QStyleOptionViewItem* option) const {
   QTableView::initViewItemOption(option);
-  if (hasFocus() || !isEnabled()) return;
+  if (hasFocus()) return;
   const QColor pale =
       mixed(palette().color(QPalette::Base), palette().color(QPalette::Highlight), 3);
   option->palette.setColor(QPalette::Highlight, pale);

@@ -100,10 +100,15 @@ void helpToChooseFiles(HostScreenFace& face, Files& files, SettingsStore& settin
     auto* dialog = dynamic_cast<DlgWczytajZapisz*>(&form);
     if (dialog == nullptr) return;
     QPointer<FileChooser>& chooser = (*choosers)[&form];
-    if (!chooser) {
+    const bool isNew = !chooser;
+    if (isNew) {
       chooser = new FileChooser(*dialog, face.dialog(form), files, settings, userFolders());
     }
     chooser->opened();
+    if (!isNew) return;
+    // What stands above the lists now needs room of its own, once it is shown.
+    chooser->show();
+    face.dialog(form).takeRoom();
   };
   face.onModalEnd = [choosers](Form& form) {
     const auto chooser = choosers->find(&form);
