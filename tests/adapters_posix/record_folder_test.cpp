@@ -2,7 +2,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
+#include <csignal>
 #include <filesystem>
+#include <sstream>
+#include <thread>
 
 #include "adapters/posix/posix_growing_file.h"
 #include "adapters/posix/posix_record_folder.h"
@@ -167,6 +171,38 @@ TEST_F(TextsBesideRecords, WrittenByTwoProgramsAtOnceAreWholeForBoth) {
     waitpid(child, &status, 0);
     ASSERT_EQ(status, 0);
   }
+}
+
+/// Writes long texts and then their names, until it is killed.
+[[noreturn]] void keepForEver(PosixRecordFolder& folder) {
+  const NewRecord record = folder.create();
+  for (int number = 1;; ++number) {
+    const std::string name = std::to_string(number);
+    record.texts->keep(name, std::string(500'000, static_cast<char>('a' + number % 20)));
+    record.file->append(name + "\n");
+  }
+}
+
+TEST_F(TextsBesideRecords, AreWholeWhereverTheProgramIsKilled) {
+  int named = 0;
+  for (int kill = 1; kill <= 20; ++kill) {
+    const pid_t child = fork();
+    if (child == 0) keepForEver(folder);
+    std::this_thread::sleep_for(std::chrono::milliseconds(kill));
+    ::kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    for (const FoundRecord& record : folder.records()) {
+      std::istringstream names(folder.read(record.name));
+      for (std::string kept; std::getline(names, kept); ++named) {
+        const std::string bytes = folder.readBeside(record.name, kept);
+        EXPECT_EQ(bytes, std::string(500'000, bytes.at(0)));
+      }
+      folder.remove(record.name);
+    }
+    folder.remove(folder.create().name);
+    EXPECT_EQ(entries(), 0U);
+  }
+  EXPECT_GT(named, 0);
 }
 
 TEST_F(RecordFolderTest, ThatCantBeMadeIsAnError) {
