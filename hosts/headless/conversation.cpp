@@ -113,7 +113,9 @@ void Conversation::emit(const protocol::Json& event) {
 }
 
 void Conversation::runModal(Form& form) {
+  if (onModal) onModal(form);
   while (form.shown()) serve(nextLine());
+  if (onModalEnd) onModalEnd(form);
 }
 
 void Conversation::workBegins(std::string_view what) {

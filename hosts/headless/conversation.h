@@ -41,6 +41,9 @@ class Conversation : public ScreenFace {
   // nest.
   std::function<void(std::string_view what)> onWork;
   std::function<void()> onWorkEnd;
+  // Called when a form has come up for the user, and when it has gone.
+  std::function<void(Form& form)> onModal;
+  std::function<void(Form& form)> onModalEnd;
   /// Whether a line waits to be read. None where that can't be seen.
   std::function<bool()> lineWaits;
   /// Nothing is told for now.

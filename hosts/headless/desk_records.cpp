@@ -24,7 +24,7 @@ constexpr std::array tasks{
     NamedTask{HostTask::doAgain, "doAgain"},         NamedTask{HostTask::findLine, "findLine"},
     NamedTask{HostTask::findAgain, "findAgain"},     NamedTask{HostTask::showFaults, "showFaults"},
     NamedTask{HostTask::addPackages, "addPackages"}, NamedTask{HostTask::distribute, "distribute"},
-    NamedTask{HostTask::showAbout, "showAbout"},
+    NamedTask{HostTask::showNumbers, "showNumbers"}, NamedTask{HostTask::showAbout, "showAbout"},
 };
 
 std::string keyWords(const CommandKey& key) {
@@ -62,7 +62,7 @@ Json jsonOf(const Command& command, const NameOf& nameOfControl) {
   const bool presses = command.button != nullptr;
   return {{"words", command.plainWords()},
           {"icon", command.icon},
-          {presses ? "on" : "task", presses ? name(command.button) : Json(nameOf(command.task))},
+          {presses ? "on" : "task", presses ? name(command.button) : Json(taskName(command.task))},
           {"keys", keysOf(command)},
           {"place", name(command.place)},
           {"onCurrentRow", command.onCurrentRow},
@@ -71,15 +71,16 @@ Json jsonOf(const Command& command, const NameOf& nameOfControl) {
 
 }  // namespace
 
-std::string_view nameOf(HostTask task) {
+std::string_view taskName(HostTask task) {
   const auto found = std::ranges::find(tasks, task, &NamedTask::task);
   return found == tasks.end() ? "" : found->name;
 }
 
 HostTask taskNamed(std::string_view name) {
   const auto found = std::ranges::find(tasks, name, &NamedTask::name);
-  if (found == tasks.end())
+  if (found == tasks.end()) {
     throw protocol::BadLine("There is no task \"" + std::string(name) + "\".");
+  }
   return found->task;
 }
 
@@ -89,12 +90,10 @@ Json menusJson(const std::vector<CommandMenu>& menus) {
     Json commands = Json::array();
     for (const auto& group : menu.groups) {
       for (const Command& command : group) {
-        if (command.button == nullptr && nameOf(command.task).empty()) continue;
         commands.push_back(jsonOf(command, [](const Control* control) { return control->name(); }));
       }
     }
-    if (!commands.empty())
-      all.push_back({{"heading", menu.heading}, {"commands", std::move(commands)}});
+    all.push_back({{"heading", menu.heading}, {"commands", std::move(commands)}});
   }
   return all;
 }

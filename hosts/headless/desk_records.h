@@ -10,14 +10,14 @@
 
 namespace awizo::headless {
 
-/// The menus, as far as something is done here: each command with the button that it presses or its
+/// The menus: each command with the button that it presses or its
 /// task, its keys, and the table on whose current row it acts.
 protocol::Json menusJson(const std::vector<CommandMenu>& menus);
 /// A command of a dialog, its controls by the names that lines use.
 protocol::Json commandJson(const Command& command, const protocol::FormDirectory& forms);
 
 /// A task as lines call it; empty for one that isn't done here.
-std::string_view nameOf(HostTask task);
+std::string_view taskName(HostTask task);
 /// Throws BadLine for a name that no task has.
 HostTask taskNamed(std::string_view name);
 

@@ -20,6 +20,7 @@
 #include "hosts/protocol/answers.h"
 #include "hosts/protocol/changes/feed_actions.h"
 #include "hosts/protocol/control_access.h"
+#include "hosts/protocol/list_proposals.h"
 #include "hosts/version.h"
 #include "journal/history.h"
 #include "journal/recording.h"
@@ -29,6 +30,12 @@
 namespace awizo::headless {
 
 namespace {
+
+std::unique_ptr<ServedNumbers> numbersOf(Machine& machine, const Clock& clock,
+                                         AwizoWysylki& control) {
+  if (machine.numbers() == nullptr) return nullptr;
+  return std::make_unique<ServedNumbers>(*machine.numbers(), clock, control);
+}
 
 /// The control in its surroundings, with a client that speaks lines to it.
 class Program {
@@ -66,9 +73,11 @@ class Program {
   AwizoWysylki control_;
   journal::Recording recording_;
   journal::History history_;
+  std::unique_ptr<ServedNumbers> numbers_;
   ServedDesk desk_;
   protocol::ControlAccess access_;
   protocol::ChangeFeed feed_;
+  protocol::ListProposals proposals_;
   int savings_ = 0;
   bool tellsFiles_ = false;
   protocol::Json steps_;  ///< as they were told last; null for a client that isn't told
@@ -109,17 +118,24 @@ Program::Program(Beginning&& beginning, Machine& machine, Conversation& conversa
       control_(taped_.platform, session_),
       recording_(tape_, taped_, control_),
       history_(tape_, control_),
-      desk_({.face = face_, .control = control_, .history = history_}, *clock_, conversation_),
+      numbers_(numbersOf(machine, *clock_, control_)),
+      desk_({.face = face_,
+             .control = control_,
+             .history = history_,
+             .numbers = numbers_ ? &numbers_->offer() : nullptr},
+            numbers_.get(), *clock_, conversation_),
       access_(control_, bag_),
       feed_(access_.forms(),
-            [this](const protocol::Json& changes) { conversation_.emit(changes); }) {
+            [this](const protocol::Json& changes) { conversation_.emit(changes); }),
+      proposals_(access_.forms(), *locale_,
+                 [this](const protocol::Json& event) { conversation_.emit(event); }) {
   addLines();
   for (Form* dialog : access_.dialogs()) conversation_.watch(*dialog);
   conversation_.act = [this](const protocol::Json& line) { return access_.act(line); };
   conversation_.beforeWaiting = [this] {
     feed_.flush();
     tellSteps();
-    desk_.tellLine();
+    desk_.tellWords();
   };
   recording_.performHostAct = [this](const std::vector<std::string>& texts) {
     access_.act(lineOf(texts));
@@ -143,6 +159,8 @@ Program::~Program() {
   conversation_.beforeWaiting = nullptr;
   conversation_.onWork = nullptr;
   conversation_.onWorkEnd = nullptr;
+  conversation_.onModal = nullptr;
+  conversation_.onModalEnd = nullptr;
 }
 
 void Program::addLines() {
@@ -151,6 +169,9 @@ void Program::addLines() {
   desk_.serve(access_);
   addFileLines(dispatcher, control_);
   addStepLines(dispatcher, control_, history_, [this](const std::string& words) { tell(words); });
+  dispatcher.clientActions["propose"] = [this](const protocol::Json& line) {
+    proposals_.propose(line);
+  };
   dispatcher.clientActions["followSteps"] = [this](const protocol::Json&) {
     steps_ = protocol::Json::object();
   };

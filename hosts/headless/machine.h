@@ -11,6 +11,7 @@
 #include "platform/locale.h"
 #include "platform/record_folder.h"
 #include "platform/settings.h"
+#include "platform/shared_store.h"
 
 namespace awizo::headless {
 
@@ -33,6 +34,8 @@ class Machine {
   /// Where sessions are recorded, so that nothing of them is lost; null where the machine's user
   /// says by the options what is recorded.
   virtual RecordFolder* records() { return nullptr; }
+  /// Where the firm's package numbers are; null where the machine's user has none.
+  virtual SharedStore* numbers() { return nullptr; }
   /// Whether a line of input waits; false where the machine can't see that.
   virtual bool lineWaits() { return false; }
   virtual std::string absolutePath(const std::string& path) = 0;

@@ -31,6 +31,22 @@ std::vector<Command> allButtonCommands(AwizoWysylki& control,
   return commands;
 }
 
+/// The menus without what nobody does here.
+std::vector<CommandMenu> doneMenus(AwizoForm& form, bool hasNumbers) {
+  std::vector<CommandMenu> menus = commandMenus(form);
+  for (CommandMenu& menu : menus) {
+    for (std::vector<Command>& group : menu.groups) {
+      std::erase_if(group, [&](const Command& command) {
+        const bool isDone = command.task != HostTask::showNumbers || hasNumbers;
+        return command.button == nullptr && (!isDone || taskName(command.task).empty());
+      });
+    }
+    std::erase_if(menu.groups, [](const auto& group) { return group.empty(); });
+  }
+  std::erase_if(menus, [](const CommandMenu& menu) { return menu.groups.empty(); });
+  return menus;
+}
+
 Json boxWithAdvice(const MessageBox& box) {
   Json event = protocol::boxEvent(box);
   const std::string advice = adviceOn(box);
@@ -44,11 +60,13 @@ std::string progress(std::string_view words, int done, int all) {
 
 }  // namespace
 
-ServedDesk::ServedDesk(const Assistance& with, const Clock& clock, Conversation& conversation)
+ServedDesk::ServedDesk(const Assistance& with, ServedNumbers* numbers, const Clock& clock,
+                       Conversation& conversation)
     : with_(with),
+      numbers_(numbers),
       control_(with.control),
       conversation_(conversation),
-      menus_(commandMenus(control_.form)),
+      menus_(doneMenus(control_.form, numbers != nullptr)),
       commands_(allButtonCommands(control_, menus_)),
       watch_(control_, clock),
       line_(control_.editor),
@@ -66,6 +84,10 @@ void ServedDesk::serve(protocol::ControlAccess& access) {
         static_cast<Form*>(&packagesDialog_), static_cast<Form*>(&distributionDialog_)}) {
     access.add(*form);
     conversation_.watch(*form);
+  }
+  if (numbers_ != nullptr) {
+    access.add(numbers_->rangeDialog());
+    conversation_.watch(numbers_->rangeDialog());
   }
   dispatcher.records["commands"] = [this] { return menusJson(menus_); };
   dispatcher.records["dialogCommands"] = [this, &access] {
@@ -94,18 +116,28 @@ void ServedDesk::serve(protocol::ControlAccess& access) {
 void ServedDesk::follow() {
   follows_ = true;
   conversation_.describe = boxWithAdvice;
+  if (numbers_ != nullptr) {
+    conversation_.onModal = [this](Form& form) { numbers_->opened(form); };
+    conversation_.onModalEnd = [this](Form& form) { numbers_->closed(form); };
+    finder_.moreFaults = [this] { return numbers_->offer().faults(); };
+  }
   conversation_.onWork = [this](std::string_view what) { workBegins(what); };
   conversation_.onWorkEnd = [this] { workEnds(); };
 }
 
 void ServedDesk::tell(const std::string& words) { watch_.tell(words); }
 
-void ServedDesk::tellLine() {
+void ServedDesk::tellWords() {
   if (!follows_) return;
-  std::string words = line_.words();
-  if (words == toldLine_) return;
-  conversation_.emit({{"event", "line"}, {"text", words}});
-  toldLine_ = std::move(words);
+  if (std::string words = line_.words(); words != toldLine_) {
+    conversation_.emit({{"event", "line"}, {"text", words}});
+    toldLine_ = std::move(words);
+  }
+  if (numbers_ == nullptr) return;
+  if (const auto words = numbers_->changedWords()) {
+    conversation_.emit(
+        {{"event", "note"}, {"on", "DlgSzczegoly.txtSerialNumberN"}, {"text", *words}});
+  }
 }
 
 void ServedDesk::choose(const Json& line) {
@@ -129,7 +161,7 @@ void ServedDesk::perform(HostTask task) {
       return startAgain();
     case HostTask::takeBack:
     case HostTask::doAgain:
-      return act_({{"do", nameOf(task)}});
+      return act_({{"do", taskName(task)}});
     case HostTask::findLine:
       return finder_.find();
     case HostTask::findAgain:
@@ -140,6 +172,9 @@ void ServedDesk::perform(HostTask task) {
       return addPackages();
     case HostTask::distribute:
       return distribute();
+    case HostTask::showNumbers:
+      if (numbers_ == nullptr) throw Refused("There are no package numbers here.");
+      return numbers_->showRange();
     case HostTask::showAbout:
       control_.screen.messageBox(aboutBox(versionText(programVersion)));
       return;
@@ -207,6 +242,8 @@ void ServedDesk::distribute() {
 
 AssistantReport ServedDesk::run(std::string_view words,
                                 const std::function<AssistantReport(const GoOn& goOn)>& work) {
+  // The dialog that asked for it is gone first.
+  conversation_.beforeWaiting();
   conversation_.dialogsAreUnseen = true;
   const AtExit over([this] {
     conversation_.dialogsAreUnseen = false;

@@ -12,6 +12,7 @@
 #include "desk/document_watch.h"
 #include "desk/line_finder.h"
 #include "hosts/headless/conversation.h"
+#include "hosts/headless/served_numbers.h"
 #include "hosts/protocol/control_access.h"
 #include "platform/clock.h"
 
@@ -27,8 +28,9 @@ namespace awizo::headless {
 ///   {"do":"stop"}         ends the work of an assistant
 class ServedDesk {
  public:
-  /// All outlive it.
-  ServedDesk(const Assistance& with, const Clock& clock, Conversation& conversation);
+  /// All outlive it. `numbers`: null where the firm has none.
+  ServedDesk(const Assistance& with, ServedNumbers* numbers, const Clock& clock,
+             Conversation& conversation);
   ServedDesk(const ServedDesk&) = delete;
   ServedDesk& operator=(const ServedDesk&) = delete;
 
@@ -36,8 +38,9 @@ class ServedDesk {
   void serve(protocol::ControlAccess& access);
   /// Words on what was done, until the next thing is done.
   void tell(const std::string& words);
-  /// Tells the current line where it isn't as it was told.
-  void tellLine();
+  /// Tells the current line, and the words on the package's number, where they aren't as they were
+  /// told.
+  void tellWords();
 
  private:
   using Json = protocol::Json;
@@ -61,6 +64,7 @@ class ServedDesk {
   std::string markedText() const;
 
   Assistance with_;
+  ServedNumbers* numbers_;
   AwizoWysylki& control_;
   Conversation& conversation_;
   std::function<void(const Json& line)> act_;  ///< does another line

@@ -151,7 +151,9 @@ TEST(Desk, AClientThatDoesntFollowItIsAskedNothing) {
   editor.show();
   editor.takeEvents();
   editor.click("btnWczytaj");
-  EXPECT_EQ(editor.takeEvents()[0]["form"], "DlgWczytajZapisz");
+  const std::vector<Json> events = editor.takeEvents();
+  ASSERT_FALSE(events.empty());
+  EXPECT_EQ(events[0]["form"], "DlgWczytajZapisz");
   editor.close("DlgWczytajZapisz");
 }
 

@@ -97,6 +97,10 @@ std::unique_ptr<GrowingFile> newPageFile(const std::string& path) {
   return std::make_unique<PageGrowingFile>(handleOf(path, "new"));
 }
 
+std::unique_ptr<GrowingFile> continuedPageFile(const std::string& path) {
+  return std::make_unique<PageGrowingFile>(handleOf(path, "continue"));
+}
+
 std::unique_ptr<GrowingFile> openedPageFile(const std::string& handle) {
   return std::make_unique<PageGrowingFile>(handle);
 }

@@ -24,6 +24,8 @@ class PageFiles final : public Files {
 std::string readPageFile(const std::string& path);
 /// Raises the error of a file that is there already.
 std::unique_ptr<GrowingFile> newPageFile(const std::string& path);
+/// One that may be there already, to be added to.
+std::unique_ptr<GrowingFile> continuedPageFile(const std::string& path);
 /// A file that the page's side has opened, by the name that it gave it.
 std::unique_ptr<GrowingFile> openedPageFile(const std::string& handle);
 

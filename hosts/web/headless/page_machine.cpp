@@ -11,6 +11,8 @@ namespace awizo::web {
 PageMachine::PageMachine() {
   const Fields folder = askNow({"recordFolder"});
   if (!folder.empty()) records_.emplace(folder[0]);
+  const Fields numbers = askNow({"numberFolder"});
+  if (!numbers.empty()) numbers_.emplace(numbers[0]);
 }
 
 std::unique_ptr<Clock> PageMachine::clock(const Options& options) {

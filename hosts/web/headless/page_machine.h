@@ -6,6 +6,7 @@
 #include "hosts/web/core/page_files.h"
 #include "hosts/web/core/page_http.h"
 #include "hosts/web/core/page_records.h"
+#include "hosts/web/core/page_shared_store.h"
 
 namespace awizo::web {
 
@@ -25,6 +26,7 @@ class PageMachine final : public headless::Machine {
     return newPageFile(path);
   }
   RecordFolder* records() override { return records_ ? &*records_ : nullptr; }
+  SharedStore* numbers() override { return numbers_ ? &*numbers_ : nullptr; }
   bool lineWaits() override;
   std::string absolutePath(const std::string& path) override;
 
@@ -32,6 +34,7 @@ class PageMachine final : public headless::Machine {
   PageHttp http_;
   PageFiles files_;
   std::optional<PageRecords> records_;
+  std::optional<PageSharedStore> numbers_;
 };
 
 }  // namespace awizo::web

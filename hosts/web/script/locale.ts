@@ -84,10 +84,13 @@ class Locale {
     const group = partOf(number.formatToParts(12345678.9), "group");
     const blanks = [noBreakSpace, " "];
     const groups = group === narrowNoBreakSpace ? [group, ...blanks] : blanks.includes(group) ? blanks : [group];
-    const figures = this.pieces.filter((piece) => piece.type !== "literal");
-    const order = figures.map((piece) => piece.type.charAt(0)).join("");
     const dots = this.pieces.some((piece) => piece.type === "literal" && piece.text.includes("."));
-    return [partOf(number.formatToParts(1.5), "decimal"), this.currencySign(), order, dots ? "1" : "0", ...groups];
+    return [partOf(number.formatToParts(1.5), "decimal"), this.currencySign(), this.dateOrder(), dots ? "1" : "0", ...groups];
+  }
+
+  /// "d", "m" and "y" in the order in which a short date has them.
+  dateOrder(): string {
+    return this.pieces.filter((piece) => piece.type !== "literal").map((piece) => piece.type.charAt(0)).join("");
   }
 
   shortDate(date: string): string {
@@ -159,6 +162,11 @@ class Locale {
       return size(other) === 1 ? other : character;
     }).join("");
   }
+}
+
+/// The locale of "ru_RU".
+export function localeNamed(name: string) {
+  return new Locale(name);
 }
 
 /// Answers the core's questions about locales; nothing for other questions. The first field names

@@ -64,8 +64,9 @@ const computer: Surroundings = {
       case "complain":
         write(standardError, bytesOf(fields[0]));
         return [];
-      // What is recorded there the options say.
+      // What is recorded there the options say; a firm's numbers are its users' alone.
       case "recordFolder":
+      case "numberFolder":
         return [];
       case "arguments":
         return given;

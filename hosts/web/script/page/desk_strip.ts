@@ -6,6 +6,9 @@ import type { Command, Standing, Steps } from "./facts.ts";
 
 type Step = keyof Steps;
 
+/// What is wanted seldom stands last.
+const seldom = ["showNumbers", "startAgain", "showAbout"];
+
 function isStep(task: string): task is Step {
   return task === "takeBack" || task === "doAgain";
 }
@@ -23,7 +26,9 @@ export class DeskStrip {
 
   showCommands(commands: Command[]): void {
     this.steps.clear();
-    this.buttons.replaceChildren(...commands.filter((one) => one.task !== undefined).map((one) => this.button(one)));
+    const tasks = commands.filter((one) => one.task !== undefined);
+    tasks.sort((one, other) => seldom.indexOf(one.task!) - seldom.indexOf(other.task!));
+    this.buttons.replaceChildren(...tasks.map((one) => this.button(one)));
     this.showSteps({ takeBack: null, doAgain: null });
   }
 

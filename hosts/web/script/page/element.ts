@@ -4,6 +4,7 @@ import * as deskWords from "#words";
 import { ControlElement } from "./control_element.ts";
 import { CoreClient, type Line, type Listener } from "./core_client.ts";
 import { focusable, make, plainWords } from "./dom.ts";
+import { dateForm } from "./date_form.ts";
 import { DeskStrip } from "./desk_strip.ts";
 import { Commands } from "./commands.ts";
 import type {
@@ -13,8 +14,9 @@ import type { Host } from "./face.ts";
 import { FormView } from "./form_view.ts";
 import { dialogs, mainForm } from "./layouts.ts";
 import { computerButton, handOut } from "./own_disk.ts";
-import { folderOf, startOf } from "./start.ts";
+import { folderOf, localeOf, startOf } from "./start.ts";
 import { styles } from "./styles.ts";
+import { ListFace } from "./list_face.ts";
 import { TableFace } from "./table_face.ts";
 import { TypingWatch } from "./typing_watch.ts";
 import { WorkBox } from "./work_box.ts";
@@ -152,6 +154,15 @@ export class AwizoWysylki extends ControlElement {
         this.lineWords.textContent = event.text;
         this.lineWords.title = event.text;
         return;
+      case "proposals":
+        for (const view of this.views.values()) {
+          const list = view.face(event.on);
+          if (list instanceof ListFace) list.propose(event.text, event.rows);
+        }
+        return;
+      case "note":
+        for (const view of this.views.values()) view.face(event.on)?.showNote(event.text);
+        return;
       case "works":
         this.work = event;
         this.workBox.show(event);
@@ -214,8 +225,9 @@ export class AwizoWysylki extends ControlElement {
 
   /// All at once: each hears of every change from the first on.
   private makeViews(): void {
+    const dates = dateForm(localeOf(this));
     for (const [name, layout] of Object.entries({ [mainName]: mainForm, ...dialogs })) {
-      const view = new FormView(name, layout, this.kinds, this.host(), this.commands);
+      const view = new FormView(name, layout, this.kinds, this.host(), this.commands, dates);
       for (const [control, facts] of Object.entries(this.kinds)) view.showControl(control, facts);
       this.views.set(name, view);
     }

@@ -2,6 +2,7 @@
 // decides nothing.
 
 import type { Line } from "./core_client.ts";
+import { make } from "./dom.ts";
 import type { ControlFacts } from "./facts.ts";
 
 export interface Host {
@@ -11,6 +12,7 @@ export interface Host {
 
 export abstract class Face {
   protected facts: ControlFacts = {};
+  private note: HTMLElement | undefined;
 
   constructor(readonly name: string, readonly element: HTMLElement, protected readonly host: Host) {
     element.dataset["name"] = name;
@@ -20,6 +22,15 @@ export abstract class Face {
     this.facts = { ...this.facts, ...changes };
     this.element.hidden = this.facts.visible === false || (this.facts.cover ?? null) !== null;
     this.showFacts(changes);
+  }
+
+  /// Words beside it, in addition to what the core says of the control.
+  showNote(text: string): void {
+    if (this.note === undefined) {
+      this.note = make("output", { class: "note" });
+      this.element.append(this.note);
+    }
+    this.note.textContent = text;
   }
 
   protected abstract showFacts(changes: ControlFacts): void;

@@ -28,6 +28,7 @@ export interface ControlFacts {
   min?: string | number;
   max?: string | number;
   allowsNone?: boolean;
+  long?: boolean;
   fixed?: number;
   cols?: number;
   row?: number;
@@ -116,6 +117,8 @@ export type Event =
   | ({ event: "steps" } & Steps)
   | { event: "told"; text: string }
   | { event: "line"; text: string }
+  | { event: "proposals"; on: string; text: string; rows: Row[] }
+  | { event: "note"; on: string; text: string }
   | ({ event: "works" } & Work)
   | { event: "rests" }
   | { event: "startAgain" }

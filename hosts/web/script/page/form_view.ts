@@ -1,12 +1,14 @@
 // A form: its controls as faces, in their places.
 
 import type { Commands } from "./commands.ts";
+import type { DateForm } from "./date_form.ts";
 import { make } from "./dom.ts";
 import { Face, type Host } from "./face.ts";
 import type { ControlFacts, FormFacts } from "./facts.ts";
 import { besideTheirHeading, overCells, ownWords, scanned, type Group } from "./layouts.ts";
 import { ListFace } from "./list_face.ts";
-import { ButtonFace, DateFace, LabelFace, PlainListFace, SpinFace, TextFace, TimeFace } from "./simple_faces.ts";
+import { DateFace, TimeFace } from "./picker_faces.ts";
+import { ButtonFace, LabelFace, PlainListFace, SpinFace, TextFace } from "./simple_faces.ts";
 import { TableFace } from "./table_face.ts";
 
 export class FormView {
@@ -21,6 +23,7 @@ export class FormView {
   constructor(
     readonly name: string, layout: Group, private readonly kinds: Record<string, ControlFacts>,
     private readonly host: Host, private readonly commands: Commands,
+    private readonly dates: DateForm,
   ) {
     this.prefix = name === "AwizoWysylki" ? "" : `${name}.`;
     this.element = this.group(layout);
@@ -75,7 +78,7 @@ export class FormView {
       case "dropDownList":
         return new ListFace(name, this.host, words);
       case "datePicker":
-        return new DateFace(name, this.host, words);
+        return new DateFace(name, this.host, this.dates, words);
       case "timePicker":
         return new TimeFace(name, this.host, words);
       case "spinButtons":

@@ -117,6 +117,12 @@ export const dialogs: Record<string, Group> = {
       "lblExample", "lblNumbers", "lblRefusal", { row: true, of: ["btnAdd", "btnClose"] },
     ],
   },
+  NumberRangeDialog: {
+    of: [
+      { row: true, of: ["txtExtension", "txtPrefix"] }, { row: true, of: ["txtFirst", "txtLast", "txtNext"] },
+      "lblExample", "lblLeft", "lblDoubt", { row: true, of: ["btnSave", "btnClose"] },
+    ],
+  },
   DistributionDialog: {
     of: [
       { row: true, of: ["cboLines", "cboPackages"] }, { row: true, of: ["cboSpread", "txtEach"] },

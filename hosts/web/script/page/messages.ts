@@ -11,6 +11,8 @@ export interface Start {
   folder: string;
   /// Where sessions are recorded.
   records: string;
+  /// Where the firm's package numbers are.
+  numbers: string;
   wasm: string;
 }
 

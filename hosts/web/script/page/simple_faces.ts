@@ -38,7 +38,7 @@ function captioned(input: HTMLElement, words: HTMLElement): HTMLLabelElement {
   return make("label", { class: "field" }, [words, input]);
 }
 
-abstract class InputFace extends Face {
+export abstract class InputFace extends Face {
   protected readonly input: HTMLInputElement;
   private readonly words: HTMLElement;
   /// What was typed and the core hasn't taken yet: what it says of the text is old.
@@ -56,18 +56,26 @@ abstract class InputFace extends Face {
 
   private readonly givenWords: string | undefined;
 
-  protected abstract line(): Record<string, unknown>;
+  /// What the user has done to it; nothing for what the core needn't hear.
+  protected abstract line(): Record<string, unknown> | undefined;
   protected abstract value(): string;
 
   protected override showFacts(_changes: ControlFacts): void {
     this.words.textContent = this.givenWords ?? plainWords(this.facts.caption ?? "");
     this.input.disabled = this.facts.enabled === false;
-    if (this.typing === 0 && this.input.value !== this.value()) this.input.value = this.value();
+    if (this.typing === 0 && !this.keepsText() && this.input.value !== this.value()) this.input.value = this.value();
+  }
+
+  /// Whether the text stays as it was typed.
+  protected keepsText(): boolean {
+    return false;
   }
 
   private async passOn(): Promise<void> {
+    const line = this.line();
+    if (line === undefined) return;
     ++this.typing;
-    await this.act(this.line());
+    await this.act(line);
     if (--this.typing === 0) this.showFacts({});
   }
 }
@@ -91,39 +99,6 @@ export class TextFace extends InputFace {
   }
 }
 
-export class DateFace extends InputFace {
-  constructor(name: string, host: Host, words?: string) {
-    super(name, host, "date", words);
-  }
-
-  protected override line() {
-    return { do: "date", value: this.input.value || null };
-  }
-
-  protected override value(): string {
-    return this.facts.date ?? "";
-  }
-
-  protected override showFacts(changes: ControlFacts): void {
-    super.showFacts(changes);
-    this.input.required = this.facts.allowsNone === false;
-  }
-}
-
-export class TimeFace extends InputFace {
-  constructor(name: string, host: Host, words?: string) {
-    super(name, host, "time", words);
-  }
-
-  protected override line() {
-    return { do: "time", value: this.input.value || null };
-  }
-
-  protected override value(): string {
-    return (this.facts.time ?? "").slice(0, 5);
-  }
-}
-
 export class SpinFace extends Face {
   constructor(name: string, host: Host) {
     const less = make("button", { type: "button", "aria-label": "меньше", tabindex: -1 }, ["−"]);
@@ -139,11 +114,14 @@ export class SpinFace extends Face {
 /// Drives, folders and files: a list that is all there.
 export class PlainListFace extends Face {
   private readonly select: HTMLSelectElement;
+  private readonly caption: HTMLElement;
 
-  constructor(name: string, host: Host, words: string, private readonly kind: "drive" | "folder" | "file") {
+  constructor(name: string, host: Host, private readonly words: string, private readonly kind: "drive" | "folder" | "file") {
     const select = make("select", { size: kind === "drive" ? 1 : 8 });
-    super(name, captioned(select, make("span", { class: "caption" }, [words])), host);
+    const caption = make("span", { class: "caption" });
+    super(name, captioned(select, caption), host);
     this.select = select;
+    this.caption = caption;
     select.addEventListener("change", () => void this.choose());
     select.addEventListener("dblclick", () => {
       if (kind === "file") void this.act({ do: "doubleClick" });
@@ -155,6 +133,7 @@ export class PlainListFace extends Face {
     this.select.replaceChildren(...rows.map((row) => make("option", {}, [row])));
     this.select.selectedIndex = this.kind === "file" ? (this.facts.index ?? -1) : this.kind === "drive" ? 0 : -1;
     this.select.disabled = this.facts.enabled === false;
+    this.caption.textContent = this.kind === "folder" ? `${this.words} ${this.facts.path ?? ""}` : this.words;
   }
 
   /// A folder list also leads up.

@@ -20,13 +20,18 @@ function keptSettings(): [string, string][] {
 }
 
 /// Beside the folder. A name that begins so is in no list of folders.
-function recordsBeside(folder: string): string {
-  return folder.replace(/([^/]*)\/*$/, ".$1.records");
+function beside(folder: string, what: string): string {
+  return folder.replace(/([^/]*)\/*$/, `.$1.${what}`);
 }
 
 /// The local folder.
 export function folderOf(element: HTMLElement): string {
   return element.getAttribute("folder") ?? defaultFolder;
+}
+
+/// The locale's name as the core takes it.
+export function localeOf(element: HTMLElement): string {
+  return (element.closest("[lang]")?.getAttribute("lang") ?? "ru-RU").replace("-", "_");
 }
 
 export function startOf(element: HTMLElement): Start {
@@ -38,7 +43,7 @@ export function startOf(element: HTMLElement): Start {
   }
   // A "/" in the query would move the base of the service's addresses.
   given.push("--page-url", location.origin + location.pathname, "--cookie", document.cookie);
-  given.push("--locale", (element.closest("[lang]")?.getAttribute("lang") ?? "ru-RU").replace("-", "_"));
+  given.push("--locale", localeOf(element));
   given.push("--offline-path", folder);
   const now = element.getAttribute("now");
   if (now !== null) given.push("--now", now);
@@ -46,7 +51,7 @@ export function startOf(element: HTMLElement): Start {
   const userInfo = element.getAttribute("user-info");
   if (userInfo !== null) files.push([`${folder}/userinfo.xml`, new URL(userInfo, document.baseURI).href]);
   return {
-    arguments: given, settings: keptSettings(), files, folder, records: recordsBeside(folder),
+    arguments: given, settings: keptSettings(), files, folder, records: beside(folder, "records"), numbers: beside(folder, "numbers"),
     wasm: new URL("awizo.wasm", import.meta.url).href,
   };
 }

@@ -20,10 +20,13 @@ main { padding: 12px; }
 .beside:has(> fieldset), .beside:has(> .stack) { align-items: start; }
 .beside > .field, .beside > fieldset, .beside > .stack { flex: 1 1 200px; min-width: 0; }
 .beside > .stack { gap: 4px; flex-basis: 180px; }
-.beside .beside > .field { flex-basis: 130px; }
+.beside .beside > .field, dialog .beside > .field { flex-basis: 130px; }
 .strip { display: flex; flex-wrap: wrap; gap: 8px 16px; align-items: baseline; margin-bottom: 10px; }
-.strip output, .line { color: var(--awizo-pale); overflow-wrap: anywhere; }
+.strip output, .line, .note { color: var(--awizo-pale); overflow-wrap: anywhere; }
 .tasks { display: flex; flex-wrap: wrap; gap: 6px; }
+.note { font-size: 13px; }
+.tasks button { white-space: nowrap; }
+@container (max-width: 640px) { .tasks { flex-wrap: nowrap; overflow-x: auto; max-width: 100%; padding: 3px; scrollbar-width: thin; } .tasks button { flex: none; } }
 h1 { font-size: 19px; margin: 0; overflow-wrap: anywhere; }
 fieldset { border: 1px solid var(--awizo-line); border-radius: 8px; padding: 10px 12px 12px; margin: 0;
   background: var(--awizo-paper); min-width: 0; }
@@ -42,8 +45,9 @@ button { font: inherit; color: var(--awizo-ink); background: var(--awizo-paper);
 button:hover:not(:disabled) { border-color: var(--awizo-accent); color: var(--awizo-accent); }
 button:disabled { color: var(--awizo-pale); cursor: default; }
 :focus-visible { outline: 2px solid var(--awizo-accent); outline-offset: 1px; }
-.list .opener { position: absolute; right: 1px; bottom: 1px; border: 0; padding: 0 10px; min-height: 32px; background: none; }
-.list input { padding-right: 32px; }
+.list .opener, .dated .opener { position: absolute; right: 1px; bottom: 1px; border: 0; padding: 0 10px; min-height: 32px; background: none; }
+.list input, .dated input { padding-right: 32px; }
+.dated input[type=date] { position: absolute; right: 0; bottom: 0; width: 1px; min-height: 0; height: 1px; padding: 0; border: 0; opacity: 0; pointer-events: none; }
 .popup { position: absolute; z-index: 5; top: 100%; left: 0; right: 0; overflow: auto; background: var(--awizo-paper);
   border: 1px solid var(--awizo-line); border-radius: 6px; box-shadow: 0 6px 20px #0003; }
 .space { position: relative; }
@@ -72,7 +76,8 @@ button:disabled { color: var(--awizo-pale); cursor: default; }
 .over .caption { position: absolute; clip-path: inset(50%); }
 .over input { padding: 2px 6px; min-height: 30px; }
 dialog { color: inherit; background: var(--awizo-ground); border: 1px solid var(--awizo-line); border-radius: 10px;
-  padding: 0 16px 16px; width: min(900px, calc(100vw - 16px)); max-height: calc(100dvh - 16px); }
+  padding: 0 16px 6px; width: min(900px, calc(100vw - 16px)); max-height: calc(100dvh - 16px); }
+dialog .form > .beside:last-child { position: sticky; bottom: -6px; z-index: 3; padding: 10px 0; background: var(--awizo-ground); }
 dialog.box { width: min(480px, calc(100vw - 16px)); }
 dialog.box p { white-space: pre-line; overflow-wrap: anywhere; }
 dialog.critical { border-top: 4px solid light-dark(#b3261e, #f2b8b5); }

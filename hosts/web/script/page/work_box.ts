@@ -29,6 +29,7 @@ export class WorkBox {
   }
 
   hide(): void {
+    this.element.close();
     this.element.remove();
   }
 }

@@ -8,6 +8,7 @@ import { Locales } from "../locale.ts";
 import { exchange } from "./http.ts";
 import type { FromWorker, Start, ToWorker } from "./messages.ts";
 import { answerAboutRecords } from "./records.ts";
+import { answerAboutTurns, answerAboutTurnsEnd } from "./turns.ts";
 import { answerAboutFiles, answerAboutOpenFiles, makeFolders, putFile } from "./opfs.ts";
 
 const lines: string[] = [];
@@ -57,7 +58,8 @@ function browser(start: Start): Surroundings {
       if (question === "line") return nextLine();
       if (question === "lineWaits") return lineWaits();
       if (question === "http") return exchange(fields);
-      return answerAboutFiles(question, fields) ?? answerAboutRecords(question, fields) ?? unknown(question);
+      return answerAboutFiles(question, fields) ?? answerAboutRecords(question, fields) ??
+        answerAboutTurns(question, fields) ?? unknown(question);
     },
     askNow(question, fields) {
       switch (question) {
@@ -71,6 +73,8 @@ function browser(start: Start): Surroundings {
           return start.arguments;
         case "recordFolder":
           return [start.records];
+        case "numberFolder":
+          return [start.numbers];
         case "clock":
           return localMoment();
         case "localeName":
@@ -84,7 +88,8 @@ function browser(start: Start): Surroundings {
           tell({ kept: [nameOf(fields), textOf(fields[4])] });
           return [good];
         default:
-          return locales.answer(question, fields) ?? answerAboutOpenFiles(question, fields) ?? unknown(question);
+          return locales.answer(question, fields) ?? answerAboutOpenFiles(question, fields) ??
+            answerAboutTurnsEnd(question, fields) ?? unknown(question);
       }
     },
   };

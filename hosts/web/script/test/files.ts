@@ -39,6 +39,7 @@ await withPage(async (page) => {
     assert.match(await user.answer("Yes"), /упакован не полностью/);
     await fileDialog.waitFor();
     assert.equal(await fileDialog.getByRole("button", { name: "С компьютера…" }).count(), 0);
+    await user.picture("save");
     await user.control("DlgWczytajZapisz.ImageZapisz").click();
   });
   assert.ok(saved.includes(oldNumber) && saved.includes("035200010000000016"), saved.slice(0, 500));

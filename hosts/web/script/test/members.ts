@@ -37,11 +37,19 @@ await withPage(async (page) => {
   ])), [25, 16, 7]);
   await assert.rejects(script((element) => element.say({ call: "NoProcedure" })));
 
+  await script((element) => {
+    const told = element.say({ do: "click", on: "btnDodajOpak" }).then(() => "done", (error: Error) => error.message);
+    Object.assign(globalThis, { told });
+  });
+  await user.dialog("DlgSzczegoly").waitFor();
+
   // Without a control the properties are the attributes.
   assert.deepEqual(await script((element) => {
     element.remove();
     element.OnLine = "On";
     return [element.OnLine, element.getAttribute("online"), element.DebugLevel];
   }), ["On", "On", ""]);
+  // The click waited for its dialog's end.
+  assert.equal(await page.evaluate("told"), "The control has ended.");
 });
 console.log("A script used the element's members.");

@@ -97,6 +97,7 @@ export class User {
     await this.control("DlgDodaj.Command1").click();
     await this.control("DlgdodajPule.cboxPackages").locator(".opener").click();
     await this.control("DlgdodajPule.cboxPackages").getByRole("option").first().click();
+    await this.picture("quantity");
     await this.control("DlgdodajPule.btnDodaj").click();
     await this.dialog("DlgdodajPule").waitFor({ state: "detached" });
     await this.picture("line-dialog");
@@ -132,6 +133,9 @@ export class User {
       await this.page.setViewportSize({ width, height: 900 });
       await this.page.screenshot({ path: `${pictures}/${name}-${width}.png`, fullPage: true });
     }
+    await this.page.emulateMedia({ colorScheme: "dark" });
+    await this.page.screenshot({ path: `${pictures}/${name}-dark.png` });
+    await this.page.emulateMedia({ colorScheme: "light" });
     await this.page.setViewportSize({ width: 1280, height: 900 });
   }
 }
