@@ -25,6 +25,10 @@ void Conversation::run() {
   while (const std::optional<std::string> line = waitForLine()) serve(*line);
 }
 
+void Conversation::serveUntil(const std::function<bool()>& isOver) {
+  while (!isOver()) serve(nextLine());
+}
+
 Choice Conversation::choose(const Question& question) {
   emit(questionEvent(question));
   Choice choice{};
@@ -114,7 +118,7 @@ void Conversation::emit(const protocol::Json& event) {
 
 void Conversation::runModal(Form& form) {
   if (onModal) onModal(form);
-  while (form.shown()) serve(nextLine());
+  serveUntil([&form] { return !form.shown(); });
   if (onModalEnd) onModalEnd(form);
 }
 

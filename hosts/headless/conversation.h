@@ -55,6 +55,8 @@ class Conversation : public ScreenFace {
   void watch(Form& dialog);
   /// Serves lines until the end of input.
   void run();
+  /// Serves lines until that is so. Throws InputEnded where the input ends first.
+  void serveUntil(const std::function<bool()>& isOver);
   /// Writes an event; nothing is written any more once the input has ended under an open box or
   /// form.
   void emit(const protocol::Json& event);

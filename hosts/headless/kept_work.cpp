@@ -3,9 +3,11 @@
 #include <optional>
 
 #include "desk/host_boxes.h"
+#include "desk/launch_file.h"
 #include "desk/unfinished_question.h"
 #include "hosts/common/program/recorded_options.h"
 #include "hosts/headless/recording.h"
+#include "hosts/headless/start_screen.h"
 #include "journal/texts_beside.h"
 #include "platform/run_time_error.h"
 
@@ -45,6 +47,9 @@ std::optional<Beginning> takenUp(const Options& options, RecordFolder& records,
 Beginning beginningOf(const Options& options, Machine& machine, Conversation& conversation) {
   if (machine.records() != nullptr && !options.replayFile) {
     if (auto beginning = takenUp(options, *machine.records(), conversation)) return *beginning;
+  }
+  if (machine.hasStartPage() && !namesSession(options) && !options.replayFile) {
+    return {chosenAtStart(options, machine, conversation), {}, askedToday(options)};
   }
   journal::RecordedSession replayed = sessionToReplay(options, machine);
   const Options whole = withRecorded(options, replayed.header);

@@ -34,6 +34,8 @@ class Machine {
   /// Where sessions are recorded, so that nothing of them is lost; null where the machine's user
   /// says by the options what is recorded.
   virtual RecordFolder* records() { return nullptr; }
+  /// Whether a user without a session is shown the start page.
+  virtual bool hasStartPage() { return false; }
   /// Where the firm's package numbers are; null where the machine's user has none.
   virtual SharedStore* numbers() { return nullptr; }
   /// Whether a line of input waits; false where the machine can't see that.

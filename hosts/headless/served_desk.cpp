@@ -5,6 +5,8 @@
 
 #include "assistants/package_adding.h"
 #include "desk/box_advice.h"
+#include "desk/file_places.h"
+#include "desk/first_stop.h"
 #include "desk/host_boxes.h"
 #include "desk/layout_words.h"
 #include "hosts/headless/desk_records.h"
@@ -13,6 +15,7 @@
 #include "platform/at_exit.h"
 #include "platform/forms/table_text.h"
 #include "platform/text.h"
+#include "session/record/off_line_path.h"
 #include "session/set_up.h"
 
 namespace awizo::headless {
@@ -60,15 +63,16 @@ std::string progress(std::string_view words, int done, int all) {
 
 }  // namespace
 
-ServedDesk::ServedDesk(const Assistance& with, ServedNumbers* numbers, const Clock& clock,
+ServedDesk::ServedDesk(const Assistance& with, ServedNumbers* numbers, const DeskMachine& machine,
                        Conversation& conversation)
     : with_(with),
       numbers_(numbers),
+      machine_(machine),
       control_(with.control),
       conversation_(conversation),
       menus_(doneMenus(control_.form, numbers != nullptr)),
       commands_(allButtonCommands(control_, menus_)),
-      watch_(control_, clock),
+      watch_(control_, machine.clock),
       line_(control_.editor),
       finder_(control_.editor),
       packagesDialog_(control_.editor, with.numbers),
@@ -116,13 +120,23 @@ void ServedDesk::serve(protocol::ControlAccess& access) {
 void ServedDesk::follow() {
   follows_ = true;
   conversation_.describe = boxWithAdvice;
+  conversation_.onModal = [this](Form& form) { opened(form); };
   if (numbers_ != nullptr) {
-    conversation_.onModal = [this](Form& form) { numbers_->opened(form); };
     conversation_.onModalEnd = [this](Form& form) { numbers_->closed(form); };
     finder_.moreFaults = [this] { return numbers_->offer().faults(); };
   }
   conversation_.onWork = [this](std::string_view what) { workBegins(what); };
   conversation_.onWorkEnd = [this] { workEnds(); };
+}
+
+void ServedDesk::opened(const Form& form) {
+  if (numbers_ != nullptr) numbers_->opened(form);
+  if (Control* stop = firstStop(control_, form)) stop->userFocus();
+  DlgWczytajZapisz& files = control_.dlgWczytajZapisz;
+  if (&form != &files) return;
+  const UserFolders user{.home = "", .documents = keptOffLinePath(machine_.settings)};
+  const std::string folder = proposedFolder(files, machine_.files, machine_.settings, user);
+  if (!folder.empty()) userGoTo(files, {.words = "", .folder = folder, .file = ""});
 }
 
 void ServedDesk::tell(const std::string& words) { watch_.tell(words); }

@@ -15,8 +15,17 @@
 #include "hosts/headless/served_numbers.h"
 #include "hosts/protocol/control_access.h"
 #include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/settings.h"
 
 namespace awizo::headless {
+
+/// The machine, as nothing of it is recorded.
+struct DeskMachine {
+  const Clock& clock;
+  Files& files;
+  SettingsStore& settings;
+};
 
 /// What the desk shows beside the forms, for a client that shows it to a user:
 ///   {"do":"command","on":"btnEdytuj"}, {"do":"command","task":"showFaults"}   chooses a command
@@ -29,7 +38,7 @@ namespace awizo::headless {
 class ServedDesk {
  public:
   /// All outlive it. `numbers`: null where the firm has none.
-  ServedDesk(const Assistance& with, ServedNumbers* numbers, const Clock& clock,
+  ServedDesk(const Assistance& with, ServedNumbers* numbers, const DeskMachine& machine,
              Conversation& conversation);
   ServedDesk(const ServedDesk&) = delete;
   ServedDesk& operator=(const ServedDesk&) = delete;
@@ -46,6 +55,8 @@ class ServedDesk {
   using Json = protocol::Json;
 
   void follow();
+  /// A form has come up for the user.
+  void opened(const Form& form);
   void choose(const Json& line);
   void perform(HostTask task);
   void press(const Command& command);
@@ -65,6 +76,7 @@ class ServedDesk {
 
   Assistance with_;
   ServedNumbers* numbers_;
+  DeskMachine machine_;
   AwizoWysylki& control_;
   Conversation& conversation_;
   std::function<void(const Json& line)> act_;  ///< does another line

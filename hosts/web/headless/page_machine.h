@@ -26,6 +26,8 @@ class PageMachine final : public headless::Machine {
     return newPageFile(path);
   }
   RecordFolder* records() override { return records_ ? &*records_ : nullptr; }
+  /// Under Node a session is named by the options.
+  bool hasStartPage() override { return records_.has_value(); }
   SharedStore* numbers() override { return numbers_ ? &*numbers_ : nullptr; }
   bool lineWaits() override;
   std::string absolutePath(const std::string& path) override;

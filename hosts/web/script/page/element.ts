@@ -12,7 +12,7 @@ import type {
 } from "./facts.ts";
 import type { Host } from "./face.ts";
 import { FormView } from "./form_view.ts";
-import { dialogs, mainForm } from "./layouts.ts";
+import { dialogs, mainForm, startPage } from "./layouts.ts";
 import { computerButton, handOut } from "./own_disk.ts";
 import { folderOf, localeOf, startOf } from "./start.ts";
 import { styles } from "./styles.ts";
@@ -24,6 +24,7 @@ import { WorkBox } from "./work_box.ts";
 /// The caption by which the file dialog says that it opens a document.
 const readingMode = "&Wczytaj";
 const mainName = "AwizoWysylki";
+const startName = "StartPage";
 const linesTable = "grdPozycje";
 /// The whole document is looked at for how it stands: not at each key.
 const standingDelay = 100;
@@ -98,6 +99,7 @@ export class AwizoWysylki extends ControlElement {
     this.shown.length = 0;
     this.box = undefined;
     this.strip.clear();
+    this.lineWords.textContent = "";
     this.workBox.hide();
     this.work = undefined;
     this.isUnsent = false;
@@ -111,9 +113,11 @@ export class AwizoWysylki extends ControlElement {
     return this.core.say(line);
   }
 
-  private async begin(core: CoreClient): Promise<void> {
+  /// `opens`: the user is asked for a file to open.
+  private async begin(core: CoreClient, opens = false): Promise<void> {
     const [menus, ofDialogs] = await Promise.all([core.say({ get: "commands" }), core.say({ get: "dialogCommands" })]);
     if (this.core !== core) return;
+    if (!menus.ok) return void core.say({ do: "subscribe" });  // It is the start page's turn.
     const ofMenus = (menus.value as { commands: Command[] }[]).flatMap((menu) => menu.commands);
     this.commands.take([...ofMenus, ...(ofDialogs.value as Command[])]);
     this.strip.showCommands(ofMenus);
@@ -124,6 +128,7 @@ export class AwizoWysylki extends ControlElement {
     await core.say({ do: "subscribe" });
     // Work that was gone on with is shown already.
     if (this.forms[mainName]?.shown !== true) await core.say({ do: "show" });
+    if (opens) void this.choose({ on: "btnWczytaj" });
   }
 
   private listener(): Listener {
@@ -171,6 +176,11 @@ export class AwizoWysylki extends ControlElement {
         this.work = undefined;
         this.workBox.hide();
         return this.showStandingSoon();
+      case "begins":
+        // The start page and its folder dialog are no more.
+        this.forget();
+        if (this.core !== undefined) void this.begin(this.core, event.opens);
+        return;
       case "startAgain":
         this.startsAgain = true;
         this.core?.finish();
@@ -215,7 +225,7 @@ export class AwizoWysylki extends ControlElement {
   private takeForm(name: string, facts: FormFacts): void {
     const whole = { ...this.forms[name], ...facts };
     this.forms[name] = whole;
-    if (facts.shown === true) this.openForm(name);
+    if (facts.shown === true) this.openForm(name, whole);
     if (facts.shown === false) this.closeForm(name);
     this.views.get(name)?.showForm(whole);
     const dialog = this.shown.find((shown) => shown.name === name);
@@ -226,7 +236,7 @@ export class AwizoWysylki extends ControlElement {
   /// All at once: each hears of every change from the first on.
   private makeViews(): void {
     const dates = dateForm(localeOf(this));
-    for (const [name, layout] of Object.entries({ [mainName]: mainForm, ...dialogs })) {
+    for (const [name, layout] of Object.entries({ [mainName]: mainForm, [startName]: startPage, ...dialogs })) {
       const view = new FormView(name, layout, this.kinds, this.host(), this.commands, dates);
       for (const [control, facts] of Object.entries(this.kinds)) view.showControl(control, facts);
       this.views.set(name, view);
@@ -234,9 +244,14 @@ export class AwizoWysylki extends ControlElement {
     this.views.get(mainName)?.face(linesTable)?.element.after(this.lineWords);
   }
 
-  private openForm(name: string): void {
+  private openForm(name: string, facts: FormFacts): void {
     const view = this.views.get(name);
     if (view === undefined) return;
+    if (name === startName) {
+      const fetched = this.fromComputer(() => void this.closingOf({ do: "refresh" }));
+      this.root.replaceChildren(make("main", { lang: "ru" }, [make("h1", {}, [facts.caption ?? ""]), view.element, fetched]));
+      return;
+    }
     if (name === mainName) {
       this.root.replaceChildren(make("main", { lang: "ru" }, [this.strip.element, view.element]));
       return;
@@ -246,7 +261,7 @@ export class AwizoWysylki extends ControlElement {
     const element = make("dialog", { lang: "ru", "aria-labelledby": `title-${name}` }, [
       make("div", { class: "title" }, [title, closer]), view.element,
     ]);
-    if (this.kinds[`${name}.btnWczytaj`]?.caption === readingMode) element.append(this.fromComputer());
+    if (this.kinds[`${name}.btnWczytaj`]?.caption === readingMode) element.append(this.fromComputer((path) => this.openBrought(path)));
     closer.addEventListener("click", () => void this.closingOf({ do: "close", on: name }));
     element.addEventListener("cancel", (event) => {
       // A file field in the dialog is left so too.
@@ -259,12 +274,14 @@ export class AwizoWysylki extends ControlElement {
     this.shown.push({ name, element });
   }
 
-  private fromComputer(): HTMLElement {
-    return computerButton(folderOf(this), (path) => {
-      // The lists show a folder as it was when it was opened: it is opened anew.
-      void this.closingOf({ do: "path", on: "DlgWczytajZapisz.DirList", value: "c:\\" });
-      void this.closingOf({ do: "choosePath", path });
-    });
+  private fromComputer(brought: (path: string) => void): HTMLElement {
+    return computerButton(folderOf(this), brought);
+  }
+
+  private openBrought(path: string): void {
+    // The lists show a folder as it was when it was opened: it is opened anew.
+    void this.closingOf({ do: "path", on: "DlgWczytajZapisz.DirList", value: "c:\\" });
+    void this.closingOf({ do: "choosePath", path });
   }
 
   private closeForm(name: string): void {
@@ -356,7 +373,8 @@ export class AwizoWysylki extends ControlElement {
 
   /// The view that the user acts on.
   private top(): FormView | undefined {
-    return this.views.get(this.shown.at(-1)?.name ?? mainName);
+    const main = this.forms[startName]?.shown === true ? startName : mainName;
+    return this.views.get(this.shown.at(-1)?.name ?? main);
   }
 
   private followModel(): void {

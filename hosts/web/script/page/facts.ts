@@ -122,6 +122,7 @@ export type Event =
   | ({ event: "works" } & Work)
   | { event: "rests" }
   | { event: "startAgain" }
+  | { event: "begins"; opens: boolean }
   | { event: "saved"; path: string }
   | { event: "modal" | "hidden"; form: string; caption?: string }
   | { event: "changed"; property: string }

@@ -5,7 +5,7 @@ import type { DateForm } from "./date_form.ts";
 import { make } from "./dom.ts";
 import { Face, type Host } from "./face.ts";
 import type { ControlFacts, FormFacts } from "./facts.ts";
-import { besideTheirHeading, overCells, ownWords, scanned, type Group } from "./layouts.ts";
+import { besideTheirHeading, mainForms, overCells, ownWords, scanned, type Group } from "./layouts.ts";
 import { ListFace } from "./list_face.ts";
 import { DateFace, TimeFace } from "./picker_faces.ts";
 import { ButtonFace, LabelFace, PlainListFace, SpinFace, TextFace } from "./simple_faces.ts";
@@ -25,7 +25,7 @@ export class FormView {
     private readonly host: Host, private readonly commands: Commands,
     private readonly dates: DateForm,
   ) {
-    this.prefix = name === "AwizoWysylki" ? "" : `${name}.`;
+    this.prefix = mainForms.has(name) ? "" : `${name}.`;
     this.element = this.group(layout);
     this.element.classList.add("form");
   }

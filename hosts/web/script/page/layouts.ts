@@ -12,6 +12,9 @@ export interface Group {
   row?: boolean;
 }
 
+/// Forms that are the page itself; all others are dialogs.
+export const mainForms = new Set(["AwizoWysylki", "StartPage"]);
+
 export const mainForm: Group = {
   of: [
     {
@@ -51,6 +54,14 @@ export const mainForm: Group = {
     { row: true, of: ["btnWczytaj", "btnZapisz", "btnPrzeslij"] },
     { row: true, of: ["lblOnLineStatus", "lblVersion"] },
   ],
+};
+
+export const startPage: Group = {
+  of: [{
+    frame: "frmOffLine", of: [
+      "lblFolder", "lblSeller", "lblMissing", "cboxPartner", { row: true, of: ["btnOffLine", "btnOpen"] },
+    ],
+  }],
 };
 
 export const dialogs: Record<string, Group> = {

@@ -112,7 +112,11 @@ export class ListFace extends Face {
   private drop(wanted: boolean): void {
     this.popup.hidden = !wanted;
     this.input.setAttribute("aria-expanded", String(wanted));
-    if (!wanted) return;
+    if (!wanted) {
+      this.space.replaceChildren();
+      this.input.removeAttribute("aria-activedescendant");
+      return;
+    }
     this.popup.style.height = `${Math.min(rowsSeen, Math.max(this.rowsShown, 1)) * rowHeight + 2}px`;
     this.drawRows();
   }
@@ -140,7 +144,9 @@ export class ListFace extends Face {
       options.push(option);
     }
     this.space.replaceChildren(...options);
-    this.input.setAttribute("aria-activedescendant", `${this.id}-${this.marked}`);
+    const marked = options.find((option) => option.id === `${this.id}-${this.marked}`);
+    if (marked === undefined) this.input.removeAttribute("aria-activedescendant");
+    else this.input.setAttribute("aria-activedescendant", marked.id);
   }
 
   private mark(proposal: number): void {

@@ -34,6 +34,11 @@ export function localeOf(element: HTMLElement): string {
   return (element.closest("[lang]")?.getAttribute("lang") ?? "ru-RU").replace("-", "_");
 }
 
+/// Without one the core shows its start page.
+function namesSession(element: HTMLElement): boolean {
+  return element.hasAttribute("online") || element.hasAttribute("partner-iln");
+}
+
 export function startOf(element: HTMLElement): Start {
   const folder = folderOf(element);
   const given: string[] = [];
@@ -41,8 +46,10 @@ export function startOf(element: HTMLElement): Start {
     const value = element.getAttribute(attribute);
     if (value !== null) given.push("--property", `${property}=${value}`);
   }
-  // A "/" in the query would move the base of the service's addresses.
-  given.push("--page-url", location.origin + location.pathname, "--cookie", document.cookie);
+  if (namesSession(element)) {
+    // A "/" in the query would move the base of the service's addresses.
+    given.push("--page-url", location.origin + location.pathname, "--cookie", document.cookie);
+  }
   given.push("--locale", localeOf(element));
   given.push("--offline-path", folder);
   const now = element.getAttribute("now");

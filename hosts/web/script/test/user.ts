@@ -133,9 +133,9 @@ export class User {
       await this.page.setViewportSize({ width, height: 900 });
       await this.page.screenshot({ path: `${pictures}/${name}-${width}.png`, fullPage: true });
     }
-    await this.page.emulateMedia({ colorScheme: "dark" });
+    await this.useScheme("dark");
     await this.page.screenshot({ path: `${pictures}/${name}-dark.png` });
-    await this.page.emulateMedia({ colorScheme: "light" });
+    await this.useScheme("light");
     await this.page.setViewportSize({ width: 1280, height: 900 });
   }
 }

@@ -1,0 +1,48 @@
+#include "hosts/headless/start_screen.h"
+
+#include <optional>
+#include <utility>
+
+#include "desk/session_start.h"
+#include "desk/start_page.h"
+#include "hosts/headless/quiet_surroundings.h"
+#include "hosts/protocol/changes/feed_actions.h"
+#include "platform/at_exit.h"
+
+namespace awizo::headless {
+
+Options chosenAtStart(const Options& options, Machine& machine, Conversation& conversation) {
+  const QuietSurroundings surroundings(options, machine, conversation);
+  StartPage page(surroundings.platform);
+  protocol::FormDirectory forms(page);
+  forms.add(page, nullptr);
+  forms.add(page.dlgFolder, nullptr);
+  protocol::Dispatcher dispatcher(page.screen(), forms);
+  protocol::ChangeFeed feed(forms,
+                            [&](const protocol::Json& changes) { conversation.emit(changes); });
+  protocol::addFeedActions(dispatcher, forms, feed);
+  dispatcher.clientActions["refresh"] = [&](const protocol::Json&) { page.refresh(); };
+
+  std::optional<Partner> partner;
+  bool opens = false;
+  page.onOffLine = [&](const Partner& chosen) { partner = chosen; };
+  page.onOpen = [&](const Partner& chosen) {
+    partner = chosen;
+    opens = true;
+  };
+  conversation.act = [&](const protocol::Json& line) { return dispatcher.act(line); };
+  conversation.beforeWaiting = [&] { feed.flush(); };
+  const AtExit over([&] {
+    conversation.act = nullptr;
+    conversation.beforeWaiting = [] {};
+  });
+  page.show("", false);
+  conversation.serveUntil([&] { return partner.has_value(); });
+
+  Options session = options;
+  static_cast<GivenSession&>(session) = offLineSession(*partner);
+  conversation.emit({{"event", "begins"}, {"opens", opens}});
+  return session;
+}
+
+}  // namespace awizo::headless
