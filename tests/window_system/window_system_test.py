@@ -283,6 +283,11 @@ class WindowSystemTest(unittest.TestCase):
                 self.expect_names(editor.wait_for_window(title))
                 press("Escape")
                 editor.wait_for_window(main)
+        # What shows itself in the window.
+        before = len(list(acted_on(editor.active_window())))
+        press("F6")
+        wait_for("the packing pane", lambda: len(list(acted_on(editor.active_window()))) > before)
+        self.expect_names(editor.active_window())
 
     def test_no_control_of_the_start_page_or_the_file_dialog_is_nameless(self):
         editor = self.editor()
