@@ -39,7 +39,11 @@ void NumberRangeDialog::show(std::string sellerILN) {
 
 void NumberRangeDialog::fill() {
   std::optional<NumberRange> range;
-  caughtError([&] { range = numbers_.range(); });
+  handed_.clear();
+  caughtError([&] {
+    range = numbers_.range();
+    for (const HandedPart& part : numbers_.handedOut()) handed_ += "\n" + handedWords(part);
+  });
   txtExtension.setText(range ? range->extension : "0");
   txtPrefix.setText(range ? range->prefix : "");
   txtFirst.setText(range ? std::to_string(range->first) : "1");
@@ -58,7 +62,7 @@ void NumberRangeDialog::tell() {
   const std::optional<NumberRange> range = typedRange(refusal);
   const bool hasNext = range && numbersLeft(*range) > 0;
   lblExample.setCaption(hasNext ? "Следующий номер: " + containerNumber(*range, range->next) : "");
-  lblLeft.setCaption(range ? leftWords(*range) : "");
+  lblLeft.setCaption(range ? joined({leftWords(*range), handed_}) : "");
   lblDoubt.setCaption(range ? prefixDoubt(*range, sellerILN_) : refusal);
 }
 

@@ -30,6 +30,7 @@ class NumberRangeDialog : public Form {
 
   GivenNumbers& numbers_;
   std::string sellerILN_;
+  std::string handed_;  ///< parts that other places have, each on a line of its own
 };
 
 }  // namespace awizo

@@ -10,13 +10,29 @@ namespace {
 
 constexpr std::string_view rangeName = "range";
 constexpr std::string_view recordName = "given";
+constexpr std::string_view handedName = "handed";
 
 /// A document's number as one word of a line.
 std::string wordOf(std::string_view document) {
   return replaceAll(withoutControlCharacters(std::string(document)), " ", "\u00a0");
 }
 
+/// The part that this serial of the range is in; null for none.
+const HandedPart* partWith(const std::vector<HandedPart>& parts, const NumberRange& range) {
+  const auto found = std::ranges::find_if(parts, [&](const HandedPart& part) {
+    return part.range.extension == range.extension && part.range.prefix == range.prefix &&
+           part.range.first <= range.next && range.next <= part.range.last;
+  });
+  return found == parts.end() ? nullptr : &*found;
+}
+
 }  // namespace
+
+std::string handedWords(const HandedPart& part) {
+  return joined({"отданы ", std::to_string(part.range.first), "–", std::to_string(part.range.last),
+                 ": ", part.place, ", ", part.date.substr(8), ".", part.date.substr(5, 2), ".",
+                 part.date.substr(0, 4)});
+}
 
 std::optional<NumberRange> GivenNumbers::range() { return rangeInStore(store_.read(rangeName)); }
 
@@ -31,8 +47,13 @@ std::vector<std::string> GivenNumbers::take(std::size_t count, std::string_view 
     std::optional<NumberRange> stored = range();
     if (!stored) return;
     catchUp();
+    const std::vector<HandedPart> parts = handedOut();
     const std::uint64_t before = stored->next;
     for (; taken.size() < count && numbersLeft(*stored) > 0; ++stored->next) {
+      if (const HandedPart* part = partWith(parts, *stored)) {
+        stored->next = std::min(part->range.last, stored->last);
+        continue;
+      }
       std::string number = containerNumber(*stored, stored->next);
       const bool isFree = !own.contains(number) && !knownElsewhere(number, document);
       if (isFree) taken.push_back(std::move(number));
@@ -42,6 +63,40 @@ std::vector<std::string> GivenNumbers::take(std::size_t count, std::string_view 
     record("given", taken, document);
   });
   return taken;
+}
+
+std::optional<NumberRange> GivenNumbers::handOut(std::uint64_t count, std::string_view place) {
+  std::optional<NumberRange> part;
+  store_.alone([&] {
+    std::optional<NumberRange> stored = range();
+    if (!stored || count == 0 || numbersLeft(*stored) == 0) return;
+    const std::uint64_t first = stored->last + 1 - std::min(count, numbersLeft(*stored));
+    part = *stored;
+    part->first = part->next = first;
+    // A range of no serial can't be stored; one whose numbers are all given can.
+    if (first > stored->first) {
+      stored->last = first - 1;
+    } else {
+      stored->next = stored->last + 1;
+    }
+    store_.replace(rangeName, storedText(*stored));
+    store_.append(handedName, joined({"\n", part->extension, " ", part->prefix, " ",
+                                      std::to_string(part->first), " ", std::to_string(part->last),
+                                      " ", today(), " ", wordOf(place), "\n"}));
+  });
+  return part;
+}
+
+std::vector<HandedPart> GivenNumbers::handedOut() {
+  std::vector<HandedPart> parts;
+  for (const std::string& line : split(store_.read(handedName), "\n")) {
+    const std::vector<std::string> fields = split(line, " ");
+    std::string refusal;
+    if (fields.size() != 6 || fields[4].size() != 10) continue;
+    auto range = rangeOf(fields[0], fields[1], fields[2], fields[3], "", refusal);
+    if (range) parts.push_back({*range, fields[4], replaceAll(fields[5], "\u00a0", " ")});
+  }
+  return parts;
 }
 
 void GivenNumbers::noteUse(const std::vector<std::string>& numbers, std::string_view document) {

@@ -20,6 +20,16 @@ struct NumberUse {
   std::string document;  ///< its number; empty where it had none yet
 };
 
+/// A part of the range whose numbers another place gives.
+struct HandedPart {
+  NumberRange range;
+  std::string date;  ///< "yyyy-mm-dd"
+  std::string place;
+};
+
+/// "отданы 901–1000: Склад 2, 22.11.2026".
+std::string handedWords(const HandedPart& part);
+
 /// Gives numbers of the firm's range, none of them twice: they are taken while no other program
 /// takes any, and stored as taken before anyone sees them. All that were given or used are on
 /// record with date and document.
@@ -35,6 +45,13 @@ class GivenNumbers {
   /// within twelve months are passed over, and so are `own`, which the document has already.
   std::vector<std::string> take(std::size_t count, std::string_view document,
                                 const std::set<std::string>& own = {});
+
+  /// Hands the last serials of the range, so many, to another place, which takes them for its own
+  /// range; fewer where fewer are left, nothing where none is. This range ends before them from now
+  /// on, and whoever makes it longer again finds them passed over.
+  std::optional<NumberRange> handOut(std::uint64_t count, std::string_view place);
+  /// All parts that were handed out, in their order.
+  std::vector<HandedPart> handedOut();
 
   /// Puts on record that the document has these numbers; what is on record for it stays once.
   void noteUse(const std::vector<std::string>& numbers, std::string_view document);

@@ -175,6 +175,15 @@ TEST_F(NumberRangeDialogTest, ShowsAndKeepsTheRange) {
   EXPECT_EQ(numbers.range(), (NumberRange{"3", "9520001", 1, 500, 100}));
 }
 
+TEST_F(NumberRangeDialogTest, SaysWhichPartsOtherPlacesHave) {
+  numbers.handOut(5, "Склад 2");
+  shown([this] {
+    EXPECT_EQ(dialog.txtLast.text(), "15");
+    EXPECT_THAT(dialog.lblLeft.caption(),
+                ::testing::StartsWith("осталось номеров: 15\nотданы 16–20: Склад 2, "));
+  });
+}
+
 TEST_F(NumberRangeDialogTest, DoubtsAnothersPrefixAndRefusesABadOne) {
   shown([this] {
     dialog.txtPrefix.userType("4600001");

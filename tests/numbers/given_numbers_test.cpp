@@ -104,6 +104,50 @@ TEST_F(GivenNumbersTest, AreTakenOneAfterAnotherToTheEnd) {
   EXPECT_EQ(numbersLeft(*numbers.range()), 0U);
 }
 
+TEST_F(GivenNumbersTest, APartIsHandedToAnotherPlaceAndGivenThereAlone) {
+  numbers.setRange(range(1, 10));
+  numbers.take(2, "А");
+  const auto part = numbers.handOut(3, "Склад 2");
+  ASSERT_TRUE(part);
+  EXPECT_EQ(*part, (NumberRange{"3", "9520001", 8, 10, 8}));
+  EXPECT_EQ(numbersLeft(*numbers.range()), 5U);
+  ASSERT_THAT(numbers.handedOut(), SizeIs(1));
+  EXPECT_EQ(handedWords(numbers.handedOut().front()), "отданы 8–10: Склад 2, 22.11.2026");
+  test::StoreInMemory store2;
+  GivenNumbers there(store2, clock);
+  there.setRange(*part);
+  std::vector<std::string> all = numbers.take(99, "А");
+  for (const std::string& number : there.take(99, "Б")) all.push_back(number);
+  EXPECT_THAT(all, SizeIs(8));
+  EXPECT_EQ(std::set<std::string>(all.begin(), all.end()).size(), 8U) << "none twice";
+}
+
+TEST_F(GivenNumbersTest, WhatWasHandedOutIsPassedOverInALongerRangeToo) {
+  numbers.setRange(range(1, 4));
+  numbers.handOut(2, "Склад");
+  numbers.setRange(range(1, 6));
+  EXPECT_THAT(numbers.take(9, "А"), ElementsAre(number(1), number(2), number(5), number(6)));
+}
+
+TEST_F(GivenNumbersTest, NoMoreIsHandedOutThanIsLeft) {
+  EXPECT_FALSE(numbers.handOut(1, "Склад"));
+  numbers.setRange(range(1, 4));
+  EXPECT_FALSE(numbers.handOut(0, "Склад"));
+  EXPECT_EQ(numbers.handOut(99, "Склад")->first, 1U);
+  EXPECT_EQ(numbersLeft(*numbers.range()), 0U);
+  EXPECT_THAT(numbers.take(1, "А"), IsEmpty());
+  EXPECT_FALSE(numbers.handOut(1, "Склад"));
+}
+
+TEST_F(GivenNumbersTest, NothingIsHandedOutThatCanNotBeStored) {
+  numbers.setRange(range(1, 4));
+  store.isFull = true;
+  EXPECT_THROW(numbers.handOut(2, "Склад"), RunTimeError);
+  store.isFull = false;
+  EXPECT_EQ(numbersLeft(*numbers.range()), 4U);
+  EXPECT_THAT(numbers.handedOut(), IsEmpty());
+}
+
 TEST_F(GivenNumbersTest, AreOnRecordWithDateAndDocument) {
   numbers.setRange(range(1, 9));
   numbers.take(1, "ТН 6");
