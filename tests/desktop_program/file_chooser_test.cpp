@@ -52,14 +52,27 @@ class FileChooserTest : public ProgramTest {
   QByteArray earlier_ = qgetenv("HOME");
 };
 
+void expectWholeInSight() {
+  for (const auto* area : QApplication::activeModalWidget()->findChildren<QScrollArea*>()) {
+    EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
+  }
+}
+
 TEST_F(FileChooserTest, LeavesTheWholeDialogInSight) {
   open(offLineOptions());
-  inReading([] {
-    for (const auto* area : QApplication::activeModalWidget()->findChildren<QScrollArea*>()) {
-      EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
-      EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
-    }
+  inReading(expectWholeInSight);
+}
+
+TEST_F(FileChooserTest, GrowsWhereMoreIsShownThanTheLastTime) {
+  open(offLineOptions());
+  inReading([] {});
+  then([this] {
+    EXPECT_TRUE(chooser().lblOffLinePath.visible());
+    expectWholeInSight();
+    press(Qt::Key_Escape);
   });
+  widget().askOffLineFolder();
 }
 
 TEST_F(FileChooserTest, BeginsInTheDocumentsAndStaysWhereTheUserWent) {

@@ -29,18 +29,24 @@ void FormDialog::makeScrollable() {
   whole->addWidget(new Scrolled(content_));
 }
 
-void FormDialog::takeRoom() {
-  if (content_ != nullptr) {
-    // What scrolls doesn't hear that its content has grown.
-    content_->layout()->activate();
-    layout()->itemAt(0)->widget()->updateGeometry();
+QSize FormDialog::roomWanted() {
+  // What scrolls doesn't hear that its content has grown, nor does a dialog that isn't seen.
+  if (content_ != nullptr) content_->layout()->activate();
+  for (int place = 0; place < layout()->count(); ++place) {
+    if (QWidget* part = layout()->itemAt(place)->widget()) part->updateGeometry();
   }
-  resize(sizeHint().boundedTo(roomFor(*this)));
+  return sizeHint().boundedTo(roomFor(*this));
 }
+
+void FormDialog::takeRoom() { resize(roomWanted()); }
+
+void FormDialog::takeMoreRoom() { resize(size().expandedTo(roomWanted())); }
 
 void FormDialog::open() {
   setWindowModality(Qt::ApplicationModal);
   faces_.showAll();
+  // More may be seen of it than the last time.
+  takeMoreRoom();
   {
     const auto following = faces_.following();
     show();

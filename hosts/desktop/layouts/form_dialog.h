@@ -23,6 +23,8 @@ class FormDialog : public QDialog {
   QWidget& content() const { return *content_; }
   /// Takes the size that the content asks for, as far as the screen has it.
   void takeRoom();
+  /// The same where it is smaller.
+  void takeMoreRoom();
 
   /// Shows itself over all other windows, with the focus where the model's is.
   void open() override;
@@ -38,6 +40,7 @@ class FormDialog : public QDialog {
 
  private:
   void showChange(const Change& change);
+  QSize roomWanted();
 
   FormFace faces_;
   QWidget* content_ = nullptr;

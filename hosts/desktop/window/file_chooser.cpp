@@ -108,7 +108,7 @@ void helpToChooseFiles(HostScreenFace& face, Files& files, SettingsStore& settin
     if (!isNew) return;
     // What stands above the lists now needs room of its own, once it is shown.
     chooser->show();
-    face.dialog(form).takeRoom();
+    face.dialog(form).takeMoreRoom();
   };
   face.onModalEnd = [choosers](Form& form) {
     const auto chooser = choosers->find(&form);
