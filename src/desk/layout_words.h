@@ -49,7 +49,7 @@ inline constexpr std::string_view packagesAdded = "Добавлено упако
 inline constexpr std::string_view linesPacked = "Разложено строк: %1 из %2";
 
 // The pane that shows what lies where.
-inline constexpr std::string_view packingOnlyRest = "&Только не упакованное";
+inline constexpr std::string_view packingOnlyRest = "&Только неупакованное";
 inline constexpr std::string_view packRest = "&Положить остаток сюда";
 inline constexpr std::string_view packRestTip =
     "Положить остаток отмеченных строк в упаковку, на которой вы стоите (Ins)";

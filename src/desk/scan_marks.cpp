@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace awizo {
 namespace {
@@ -10,6 +11,7 @@ namespace {
 constexpr std::array<std::string_view, 4> signsBeforeKind{"C1", "e0", "d2", "Q3"};
 constexpr std::size_t signLength = 2;
 constexpr std::size_t kindLength = 2;
+constexpr std::size_t longestKind = 4;
 
 bool isFunction(char character) {
   return static_cast<unsigned char>(character) < ' ' || character == '\x7f';
@@ -17,73 +19,94 @@ bool isFunction(char character) {
 
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
 
+bool isLetter(char character) {
+  return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
+}
+
 }  // namespace
 
-bool ScanMarks::lets(char character, bool isFirst) {
+std::string ScanMarks::given(char character, bool isFirst) {
   if (!isFirst) {
-    forget();
-    return !isFunction(character);
+    giveBack();
+    return isFunction(character) ? "" : std::string(1, character);
   }
   if (isFunction(character)) {
     // Before all else it says what the sign of the symbol says.
-    if (state_ == State::outside) enter(State::inKind);
-    return false;
+    return state_ == State::outside ? cutOff(State::inKind) : "";
   }
   switch (state_) {
     case State::outside:
-      if (character == ']') enter(State::inSign);
-      if (character == '(') enter(State::inBracket);
-      return state_ == State::outside;
+      return outside(character);
     case State::inSign:
-      held_ += character;
-      if (held_.size() == signLength) {
-        const bool isBeforeKind =
-            std::ranges::find(signsBeforeKind, held_) != signsBeforeKind.end();
-        enter(isBeforeKind ? State::inKind : State::outside);
-      }
-      return false;
+      return inSign(character);
     case State::inBracket:
-      held_ += character;
-      if (isDigit(character)) return false;
-      held_.pop_back();
-      enterNumber();
-      return character != ')';
+      return inBracket(character);
     case State::inKind:
-      if (character == '(' && held_.empty()) {
-        enter(State::inBracket);
-        return false;
-      }
-      if (!isDigit(character)) {
-        enter(State::outside);
-        return true;
-      }
-      held_ += character;
-      if (held_.size() == kindLength) enterNumber();
-      return false;
+      return inKind(character);
     case State::beforeProduct:
-      enter(State::outside);
-      return character != '0';
+      return character == '0' ? cutOff(State::outside) : noMark(character);
   }
-  return true;
+  return noMark(character);
 }
 
-void ScanMarks::enterNumber() {
-  const bool isProduct = held_ == "01" || held_ == "02";
-  enter(isProduct ? State::beforeProduct : State::outside);
+std::string ScanMarks::giveBack() {
+  state_ = State::outside;
+  return std::exchange(held_, {});
 }
 
-void ScanMarks::enter(State state) {
+std::string ScanMarks::outside(char character) {
+  if (character == ']') return holding(State::inSign, character);
+  if (character == '(') return holding(State::inBracket, character);
+  return noMark(character);
+}
+
+std::string ScanMarks::inSign(char character) {
+  if (held_.size() < signLength) {
+    return isLetter(character) ? holding(State::inSign, character) : noMark(character);
+  }
+  if (!isLetter(character) && !isDigit(character)) return noMark(character);
+  const std::string sign = held_.substr(1) + character;
+  const bool isBeforeKind = std::ranges::find(signsBeforeKind, sign) != signsBeforeKind.end();
+  return cutOff(isBeforeKind ? State::inKind : State::outside);
+}
+
+std::string ScanMarks::inBracket(char character) {
+  const std::string kind = held_.substr(1);
+  if (isDigit(character) && kind.size() < longestKind) return holding(state_, character);
+  return character == ')' && kind.size() >= kindLength ? cutKind(kind) : noMark(character);
+}
+
+std::string ScanMarks::inKind(char character) {
+  if (character == '(' && held_.empty()) return holding(State::inBracket, character);
+  if (!isDigit(character)) return noMark(character);
+  if (held_.size() + 1 < kindLength) return holding(state_, character);
+  return cutKind(held_ + character);
+}
+
+std::string ScanMarks::holding(State state, char character) {
   state_ = state;
-  held_.clear();
+  held_ += character;
+  return {};
 }
+
+std::string ScanMarks::cutOff(State next) {
+  state_ = next;
+  held_.clear();
+  return {};
+}
+
+std::string ScanMarks::cutKind(std::string_view kind) {
+  const bool isProduct = kind == "01" || kind == "02";
+  return cutOff(isProduct ? State::beforeProduct : State::outside);
+}
+
+std::string ScanMarks::noMark(char character) { return giveBack() + character; }
 
 std::string withoutScanMarks(std::string_view text) {
   ScanMarks marks;
   std::string left;
-  for (const char character : text) {
-    if (marks.lets(character, left.empty())) left += character;
-  }
-  return left;
+  for (const char character : text) left += marks.given(character, left.empty());
+  return left + marks.giveBack();
 }
 
 }  // namespace awizo

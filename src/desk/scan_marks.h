@@ -11,27 +11,34 @@ namespace awizo {
 /// fields that take numbers alone, in which nobody types a bracket.
 class ScanMarks {
  public:
-  /// A character typed into the field; `isFirst`: nothing of the field's text would be before it.
-  /// Returns whether the field gets it.
-  bool lets(char character, bool isFirst);
-  /// The field has been left.
-  void forget() { enter(State::outside); }
+  /// What the field gets of a character typed into it: nothing while it may be a mark's, else
+  /// itself, after all that was held back where no mark came of it. `isFirst`: nothing of the
+  /// field's text would be before it.
+  std::string given(char character, bool isFirst);
+  /// What is held back, which is held no longer: no mark will come of it.
+  std::string giveBack();
 
  private:
   enum class State {
     outside,
-    inSign,         ///< after "]"
-    inBracket,      ///< after "("
-    inKind,         ///< before or within the number's kind
+    inSign,         ///< within "]C1"
+    inBracket,      ///< within "(00)"
+    inKind,         ///< before or within "00" after such a sign
     beforeProduct,  ///< an EAN follows, brought to 14 digits by a zero
   };
 
-  void enter(State state);
+  std::string outside(char character);
+  std::string inSign(char character);
+  std::string inBracket(char character);
+  std::string inKind(char character);
+  std::string holding(State state, char character);
+  std::string cutOff(State next);
   /// The number's kind is known.
-  void enterNumber();
+  std::string cutKind(std::string_view kind);
+  std::string noMark(char character);
 
   State state_ = State::outside;
-  std::string held_;  ///< what was cut off since the state began
+  std::string held_;  ///< what may be a mark
 };
 
 /// The same for a text that comes at once.

@@ -27,25 +27,28 @@ TEST(ScanMarks, OfAnEanAreCutOffWithTheZeroThatFillsItUp) {
 
 TEST(ScanMarks, LeaveWhatIsTypedByHand) {
   for (const char* typed :
-       {"", "0", "00", "003520001000000001", "04607000000116", "12(3)", "1]2"}) {
+       {"", "0", "00", "003520001000000001", "04607000000116", "12(3)", "1]2", "(4607000000116",
+        "(12", "(", "(1)", "]4607000000116", "]C", "(12345)6"}) {
     EXPECT_EQ(withoutScanMarks(typed), typed);
   }
 }
 
-TEST(ScanMarks, ThatWereBegunAreForgottenWithTheField) {
+TEST(ScanMarks, ThatWereOnlyBegunAreGivenBack) {
   ScanMarks marks;
-  EXPECT_FALSE(marks.lets('(', true));
-  EXPECT_FALSE(marks.lets('0', true));
-  marks.forget();
-  EXPECT_TRUE(marks.lets('0', true));
+  EXPECT_EQ(marks.given('(', true), "");
+  EXPECT_EQ(marks.given('0', true), "");
+  EXPECT_EQ(marks.giveBack(), "(0");
+  EXPECT_EQ(marks.given('0', true), "0");
+  EXPECT_EQ(marks.given('(', true), "");
+  EXPECT_EQ(marks.given('a', true), "(a");
 }
 
 TEST(ScanMarks, AreLookedForBeforeANumberOnly) {
   ScanMarks marks;
-  EXPECT_TRUE(marks.lets('4', true));
-  EXPECT_TRUE(marks.lets('(', false));
-  EXPECT_TRUE(marks.lets('0', false));
-  EXPECT_FALSE(marks.lets('\x1d', false)) << "a function character is no part of any number";
+  EXPECT_EQ(marks.given('4', true), "4");
+  EXPECT_EQ(marks.given('(', false), "(");
+  EXPECT_EQ(marks.given('0', false), "0");
+  EXPECT_EQ(marks.given('\x1d', false), "") << "a function character is no part of any number";
 }
 
 }  // namespace

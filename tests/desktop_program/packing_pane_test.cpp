@@ -131,6 +131,50 @@ TEST_F(PackingPaneTest, TheKeyPutsTheRestOfTheMarkedLinesIntoThePackage) {
   EXPECT_EQ(summary(), "упаковано 0 из 3 строк");
 }
 
+TEST_F(PackingPaneTest, AScannedUnitGoesWhereTheUserStandsInIt) {
+  openDocument();
+  widget().letScannerPack(true);
+  press(Qt::Key_F6);
+  settle();
+  press(Qt::Key_Tab);
+  press(Qt::Key_Down);
+  type("4607000000116");
+  press(Qt::Key_Return);
+  settle();
+  EXPECT_EQ(form().grdPozycje.cell(1, GRD_POZ_PACK_REFS), "3@Короб 1@2@1,000");
+}
+
+TEST_F(PackingPaneTest, ThePackageStaysTheSameWhereOneAboveItGoes) {
+  openDocument();
+  addBox("Короб 3", 0);
+  press(Qt::Key_F6);
+  settle();
+  press(Qt::Key_Tab);
+  press(Qt::Key_End);
+  const auto current = [&] { return pane().packages()->currentIndex().data().toString(); };
+  ASSERT_EQ(current(), "Короб 3");
+  form().grdOpakowania.userRow(2);
+  form().btnUsunOpak.userClick();
+  settle();
+  EXPECT_EQ(current(), "Короб 3");
+}
+
+TEST_F(PackingPaneTest, WhatIsDraggedFromAnotherProgramIsNotTaken) {
+  openDocument();
+  press(Qt::Key_F6);
+  settle();
+  const std::unique_ptr<QMimeData> dragged(
+      pane().lines()->model()->mimeData({pane().lines()->model()->index(0, 0)}));
+  QMimeData others;
+  others.setData("application/x-awizo-lines-1", dragged->data(dragged->formats().front()));
+  const QAbstractItemModel* places = pane().packages()->model();
+  const auto takes = [&](const QMimeData& data) {
+    return places->canDropMimeData(&data, Qt::CopyAction, 0, 0, places->index(0, 0));
+  };
+  EXPECT_TRUE(takes(*dragged));
+  EXPECT_FALSE(takes(others));
+}
+
 TEST_F(PackingPaneTest, WhatCanNotGoInIsListed) {
   openDocument();
   press(Qt::Key_F6);

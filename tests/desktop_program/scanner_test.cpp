@@ -72,7 +72,9 @@ TEST_F(ScannerTest, TheNumberOfAPackageComesWithoutTheScannersMarks) {
       EXPECT_EQ(shownText(field), "395200010000000011") << scanned;
       EXPECT_EQ(seen.find_first_of("(]"), seen.npos) << scanned;
     }
+    press(Qt::Key_A, Qt::ControlModifier);
     paste("(00)395200010000000028");
+    EXPECT_EQ(dialog.txtSerialNumberN.text(), "395200010000000028");
     dialog.userClose();
   });
   form().btnDodajOpak.userClick();
@@ -86,6 +88,12 @@ TEST_F(ScannerTest, AnEanComesWithoutThemTooAndANameKeepsItsBrackets) {
     EXPECT_EQ(dialog.txtlEANProdWart.text(), "4607000000116");
     typeOver(dialogFace(dialog.txtlEANProdWart), "(01)04607000000123");
     EXPECT_EQ(dialog.txtlEANProdWart.text(), "4607000000123");
+    typeOver(dialogFace(dialog.txtlEANProdWart), "");
+    paste("(01)04607000000130");
+    EXPECT_EQ(dialog.txtlEANProdWart.text(), "4607000000130");
+    typeOver(dialogFace(dialog.txtlEANProdWart), "(12");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(dialog.txtlEANProdWart.text(), "(12") << "what is no mark isn't lost";
     typeOver(dialogFace(dialog.txtNazwaProdWart), "(00) краска ]C1");
     EXPECT_EQ(dialog.txtNazwaProdWart.text(), "(00) краска ]C1");
     dialog.userClose();

@@ -188,6 +188,11 @@ void MainWindow::chooseLaunchFile() {
   if (!path.isEmpty()) beginByLaunchFile(path);
 }
 
+bool MainWindow::showsLaunched() const {
+  return options_.properties == launch_.properties && options_.pageUrl == launch_.pageUrl &&
+         options_.cookie == launch_.cookie;
+}
+
 void MainWindow::openFile(const QString& path) {
   const QString whole = QFileInfo(path).absoluteFilePath();
   if (isDocument(whole)) {

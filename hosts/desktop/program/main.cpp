@@ -89,11 +89,13 @@ std::string launchName(const std::vector<std::string>& arguments, const std::str
   return journal::nameBeside(said);
 }
 
-/// Brings the window before all others when another program calls.
-void raiseWhenCalled(const PosixOneProgram& program, QWidget& window) {
+/// Brings the window before all others when another program calls for the same launch file, which
+/// is opened where the window has gone on to other work meanwhile.
+void raiseWhenCalled(const PosixOneProgram& program, desktop::MainWindow& window,
+                     const std::string& launchFile) {
   if (program.calls() < 0) return;
   auto* calls = new QSocketNotifier(program.calls(), QSocketNotifier::Read, &window);
-  QObject::connect(calls, &QSocketNotifier::activated, &window, [&program, &window] {
+  QObject::connect(calls, &QSocketNotifier::activated, &window, [&program, &window, launchFile] {
     program.takeCalls();
     window.setWindowState((window.windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
     window.show();
@@ -101,6 +103,7 @@ void raiseWhenCalled(const PosixOneProgram& program, QWidget& window) {
     window.activateWindow();
     // Where the window manager doesn't let it come by itself.
     QApplication::alert(&window);
+    if (!window.showsLaunched()) window.openFile(QString::fromStdString(launchFile));
   });
 }
 
@@ -116,10 +119,13 @@ int run(const QApplication& application) {
   PosixRecordFolder records(PosixRecordFolder::usersOwnPath());
   desktop::MainWindow window(what.options, nullptr, &records);
   if (!window.isUsable()) return exitEndedBySystem;
-  if (program) raiseWhenCalled(*program, window);
+  if (program) raiseWhenCalled(*program, window, what.launchFile);
   if (!what.file.isEmpty()) window.openFile(what.file);
   window.show();
-  return QApplication::exec();
+  const int status = QApplication::exec();
+  // Who calls from now on begins anew, while the work here is put away.
+  program.reset();
+  return status;
 }
 
 }  // namespace

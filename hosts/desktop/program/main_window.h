@@ -42,6 +42,9 @@ class MainWindow : public QMainWindow {
   /// in a box where there is a session.
   void openFile(const QString& path);
 
+  /// Whether the session is the one that the program was started with.
+  bool showsLaunched() const;
+
   /// Ends the session and begins another, as the program's start does.
   void startAgain();
   void chooseFolder();

@@ -227,6 +227,7 @@ void AwizoWysylkiWidget::letScannerPack(bool on) {
   parts.finder->rules().takeProduct = nullptr;
   if (!on) return;
   parts.finder->rules().takeProduct = [&parts](std::string_view ean) {
+    if (parts.packingPane != nullptr) parts.packingPane->standOnItsPackage();
     return parts.assistants->packScannedUnit(ean);
   };
 }

@@ -43,7 +43,7 @@ void PackageNumbers::opened() {
   window.faces().act([this] { offer_.opened(); });
   showWords();
   // The dialog has taken its size without these words.
-  window.takeRoom();
+  window.takeMoreRoom();
 }
 
 void PackageNumbers::showWords() {

@@ -1,5 +1,6 @@
 #include "hosts/desktop/window/packing_models.h"
 
+#include <QCoreApplication>
 #include <QDataStream>
 #include <QIODevice>
 #include <QMimeData>
@@ -10,8 +11,11 @@
 namespace awizo::desktop {
 namespace {
 
-/// Of rows of grdPozycje; only this program reads it.
-const char* const linesKind = "application/x-awizo-lines";
+/// Of rows of grdPozycje. Only the program that it comes from reads it: another's rows are other
+/// lines.
+QString linesKind() {
+  return "application/x-awizo-lines-" + QString::number(QCoreApplication::applicationPid());
+}
 
 QVariant heading(int section, Qt::Orientation orientation, int role,
                  std::initializer_list<std::string_view> headings) {
@@ -57,7 +61,7 @@ Qt::ItemFlags PackingLinesModel::flags(const QModelIndex& index) const {
   return QAbstractTableModel::flags(index) | Qt::ItemIsDragEnabled;
 }
 
-QStringList PackingLinesModel::mimeTypes() const { return {linesKind}; }
+QStringList PackingLinesModel::mimeTypes() const { return {linesKind()}; }
 
 QMimeData* PackingLinesModel::mimeData(const QModelIndexList& indexes) const {
   QList<int> rows;
@@ -68,7 +72,7 @@ QMimeData* PackingLinesModel::mimeData(const QModelIndexList& indexes) const {
   QDataStream stream(&bytes, QIODevice::WriteOnly);
   stream << rows;
   auto* data = new QMimeData;
-  data->setData(linesKind, bytes);
+  data->setData(linesKind(), bytes);
   return data;
 }
 
@@ -139,13 +143,13 @@ Qt::ItemFlags PackingPlacesModel::flags(const QModelIndex& index) const {
   return index.isValid() ? usual | Qt::ItemIsDropEnabled : usual;
 }
 
-QStringList PackingPlacesModel::mimeTypes() const { return {linesKind}; }
+QStringList PackingPlacesModel::mimeTypes() const { return {linesKind()}; }
 
 bool PackingPlacesModel::dropMimeData(const QMimeData* data, Qt::DropAction, int, int,
                                       const QModelIndex& parent) {
-  if (!parent.isValid() || !data->hasFormat(linesKind) || !onDrop) return false;
+  if (!parent.isValid() || !data->hasFormat(linesKind()) || !onDrop) return false;
   QList<int> rows;
-  QDataStream stream(data->data(linesKind));
+  QDataStream stream(data->data(linesKind()));
   stream >> rows;
   onDrop({rows.begin(), rows.end()}, place(parent).package);
   return true;

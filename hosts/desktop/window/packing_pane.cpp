@@ -1,5 +1,6 @@
 #include "hosts/desktop/window/packing_pane.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -222,7 +223,13 @@ void PackingPane::showPackages() {
     }
   }
   isShowing_ = false;
-  QModelIndex index = packagesModel_->indexOfPackage(current.package);
+  // Its row is another where one above it has gone.
+  const auto same = std::ranges::find_if(overview_.places, [&](const PackingPlace& place) {
+    return place.line == 0 && place.serial == current.serial;
+  });
+  QModelIndex index = same == overview_.places.end()
+                          ? QModelIndex()
+                          : packagesModel_->indexOfPackage(same->package);
   if (!index.isValid()) index = packagesModel_->index(0, 0);
   packages_->setCurrentIndex(index);
   packages_->verticalScrollBar()->setValue(top);
@@ -245,7 +252,8 @@ bool PackingPane::eventFilter(QObject* watched, QEvent* event) {
       watched == lines_ ? goToLine() : goToPlace();
       return true;
     case Qt::Key_Insert:
-      packMarked();
+      // A key held down would pack what nobody marked.
+      if (!key.isAutoRepeat()) packMarked();
       return true;
     case Qt::Key_Escape:
       focusDocument();
@@ -280,6 +288,13 @@ void PackingPane::goToPlace() {
   const PackingPlace& place = packagesModel_->place(index);
   if (place.line > 0) return goTo(editor_.form.grdPozycje, place.line);
   goTo(editor_.form.grdOpakowania, place.package);
+}
+
+void PackingPane::standOnItsPackage() {
+  const QModelIndex index = packages_->currentIndex();
+  if (stale_ || !index.isValid() || !isAncestorOf(QApplication::focusWidget())) return;
+  const int package = packagesModel_->place(index).package;
+  faces_.act([&] { editor_.form.grdOpakowania.userRow(package); });
 }
 
 std::vector<int> PackingPane::markedLines() const {

@@ -28,6 +28,9 @@ class PackingPane : public QWidget {
 
   /// Comes with the focus; where it has the focus already, it goes.
   void toggle();
+  /// While the user is here, the package that is current here is made the document's own current
+  /// one.
+  void standOnItsPackage();
   /// It came or went. May be empty.
   std::function<void(bool shown)> onToggle;
 

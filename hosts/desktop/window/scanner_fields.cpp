@@ -1,5 +1,7 @@
 #include "hosts/desktop/window/scanner_fields.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QKeyEvent>
 
@@ -34,31 +36,59 @@ void prepareField(Field& field, FormFace& faces, std::string (*number)(const std
 ScannedField::ScannedField(QWidget& keys, QLineEdit& edit,
                            std::function<std::string(const std::string&)> number,
                            std::function<void(const std::string&)> type)
-    : QObject(&keys), edit_(edit) {
+    : QObject(&keys), edit_(edit), number_(std::move(number)), type_(std::move(type)) {
   keys.installEventFilter(this);
-  connect(&edit, &QLineEdit::textEdited, this,
-          [number = std::move(number), type = std::move(type)](const QString& text) {
-            const std::string typed = toText(text);
-            if (const std::string wanted = number(typed); wanted != typed) type(wanted);
-          });
+  connect(&edit, &QLineEdit::textEdited, this, &ScannedField::takeEdited);
 }
 
-bool ScannedField::isKeptOut(const QKeyEvent& key) {
+void ScannedField::takeEdited(const QString& text) {
+  // Where no more fits, the end of what was pasted may have been lost: it isn't made to look whole.
+  if (text.size() >= edit_.maxLength()) return;
+  const std::string typed = toText(text);
+  if (const std::string wanted = number_(typed); wanted != typed) type_(wanted);
+}
+
+void ScannedField::giveBack() {
+  if (const std::string held = marks_.giveBack(); !held.empty()) type_(held);
+}
+
+bool ScannedField::isBegun() const {
+  return edit_.text().isEmpty() || edit_.selectedText() == edit_.text();
+}
+
+bool ScannedField::isKeptOut(QKeyEvent& key) {
   const QString text = key.text();
-  if (text.size() != 1 || text[0].unicode() > 0x7f) return false;
   // Enter, Tab and the like have a text too, and aren't typed into a field. The separator comes
   // with Ctrl held.
   constexpr char separator = '\x1d';
   const bool isCommand =
       key.key() >= Qt::Key_Escape ||
       (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
-  if (isCommand && text[0] != separator) return false;
-  const bool isFirst = edit_.text().isEmpty() || edit_.selectedText() == edit_.text();
-  return !marks_.lets(text[0].toLatin1(), isFirst);
+  const bool isTyped = text.size() == 1 && (!isCommand || text[0] == separator);
+  if (!isTyped) {
+    const bool isModifier = key.key() >= Qt::Key_Shift && key.key() <= Qt::Key_AltGr;
+    if (!isModifier) giveBack();
+    if (!key.matches(QKeySequence::Paste) || !isBegun()) return false;
+    // The whole of it, before the field's length cuts off its end.
+    const std::string pasted = toText(QApplication::clipboard()->text().trimmed());
+    const std::string wanted = number_(pasted);
+    if (wanted == pasted) return false;
+    type_(wanted);
+    return true;
+  }
+  if (text[0].unicode() > 0x7f) {
+    giveBack();
+    return false;
+  }
+  const char typed = text[0].toLatin1();
+  const std::string given = marks_.given(typed, isBegun());
+  if (given == std::string(1, typed)) return false;
+  if (!given.empty()) type_(given);
+  return true;
 }
 
 bool ScannedField::eventFilter(QObject*, QEvent* event) {
-  if (event->type() == QEvent::FocusOut) marks_.forget();
+  if (event->type() == QEvent::FocusOut || event->type() == QEvent::MouseButtonPress) giveBack();
   return event->type() == QEvent::KeyPress && isKeptOut(static_cast<QKeyEvent&>(*event));
 }
 

@@ -23,9 +23,15 @@ class ScannedField : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  bool isKeptOut(const QKeyEvent& key);
+  void takeEdited(const QString& text);
+  void giveBack();
+  bool isKeptOut(QKeyEvent& key);
+  /// Whether what is typed next is all that the field will hold.
+  bool isBegun() const;
 
   QLineEdit& edit_;
+  std::function<std::string(const std::string&)> number_;
+  std::function<void(const std::string&)> type_;
   ScanMarks marks_;
 };
 

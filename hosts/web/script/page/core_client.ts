@@ -14,6 +14,13 @@ export interface Listener {
   ended(words?: string): void;
 }
 
+/// None for an end in order.
+function wordsOfEnd(status: number): string | undefined {
+  if (status === 0) return undefined;
+  if (status === replayDiffers) return words.replayFailed;
+  return `Редактор остановился (код ${status}). Начатая работа записана: новый запуск предложит её продолжить.`;
+}
+
 export class CoreClient {
   private readonly worker: Worker;
   private readonly waiting = new Map<number, (closing: Closing) => void>();
@@ -23,7 +30,9 @@ export class CoreClient {
   constructor(workerAddress: URL, start: Start, private readonly listener: Listener) {
     this.worker = new Worker(workerAddress, { type: "module" });
     this.worker.addEventListener("message", (event: MessageEvent<FromWorker>) => this.take(event.data));
-    this.worker.addEventListener("error", (event) => listener.ended(event.message));
+    this.worker.addEventListener("error", (event) => {
+      listener.ended(event.message || "Файл worker.mjs не загрузился или не запустился.");
+    });
     this.worker.postMessage({ start });
   }
 
@@ -53,7 +62,7 @@ export class CoreClient {
     else if ("kept" in message) this.listener.kept(...message.kept);
     else if ("complaint" in message) this.listener.complaint(message.complaint);
     else if ("failed" in message) this.listener.ended(message.failed);
-    else this.listener.ended(message.ended === replayDiffers ? words.replayFailed : undefined);
+    else this.listener.ended(wordsOfEnd(message.ended));
   }
 
   private takeText(text: string): void {

@@ -15,7 +15,8 @@ export async function exchange(fields: Uint8Array[]): Promise<readonly Field[]> 
       method: textOf(method), body: new Blob([body!.slice()]), redirect: "manual", cache: "no-store",
     });
   } catch {
-    return failed("hostNotFound");
+    // Browsers don't say how far the request came: only without any network it surely didn't arrive.
+    return failed(navigator.onLine ? "downloadFailed" : "hostNotFound");
   }
   try {
     const bytes = new Uint8Array(await response.arrayBuffer());

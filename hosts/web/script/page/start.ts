@@ -31,7 +31,7 @@ export function folderOf(element: HTMLElement): string {
 
 /// The locale's name as the core takes it.
 export function localeOf(element: HTMLElement): string {
-  return (element.closest("[lang]")?.getAttribute("lang") ?? "ru-RU").replace("-", "_");
+  return (element.closest("[lang]")?.getAttribute("lang") || "ru-RU").replace("-", "_");
 }
 
 /// Without one the core shows its start page.
