@@ -17,11 +17,15 @@ std::string wordOf(std::string_view document) {
   return replaceAll(withoutControlCharacters(std::string(document)), " ", "\u00a0");
 }
 
+bool isPartOf(const NumberRange& range, const HandedPart& part) {
+  return part.range.extension == range.extension && part.range.prefix == range.prefix;
+}
+
 /// The part that this serial of the range is in; null for none.
-const HandedPart* partWith(const std::vector<HandedPart>& parts, const NumberRange& range) {
+const HandedPart* partWith(const std::vector<HandedPart>& parts, const NumberRange& range,
+                           std::uint64_t serial) {
   const auto found = std::ranges::find_if(parts, [&](const HandedPart& part) {
-    return part.range.extension == range.extension && part.range.prefix == range.prefix &&
-           part.range.first <= range.next && range.next <= part.range.last;
+    return isPartOf(range, part) && part.range.first <= serial && serial <= part.range.last;
   });
   return found == parts.end() ? nullptr : &*found;
 }
@@ -50,7 +54,7 @@ std::vector<std::string> GivenNumbers::take(std::size_t count, std::string_view 
     const std::vector<HandedPart> parts = handedOut();
     const std::uint64_t before = stored->next;
     for (; taken.size() < count && numbersLeft(*stored) > 0; ++stored->next) {
-      if (const HandedPart* part = partWith(parts, *stored)) {
+      if (const HandedPart* part = partWith(parts, *stored, stored->next)) {
         stored->next = std::min(part->range.last, stored->last);
         continue;
       }
@@ -70,7 +74,17 @@ std::optional<NumberRange> GivenNumbers::handOut(std::uint64_t count, std::strin
   store_.alone([&] {
     std::optional<NumberRange> stored = range();
     if (!stored || count == 0 || numbersLeft(*stored) == 0) return;
-    const std::uint64_t first = stored->last + 1 - std::min(count, numbersLeft(*stored));
+    const std::vector<HandedPart> parts = handedOut();
+    // A longer range may end in what was handed out before, and have some of it further back.
+    while (const HandedPart* given = partWith(parts, *stored, stored->last)) {
+      if (given->range.first <= stored->next) return;
+      stored->last = given->range.first - 1;
+    }
+    std::uint64_t first = stored->last + 1 - std::min(count, numbersLeft(*stored));
+    for (const HandedPart& given : parts) {
+      const bool isBefore = isPartOf(*stored, given) && given.range.last < stored->last;
+      if (isBefore) first = std::max(first, given.range.last + 1);
+    }
     part = *stored;
     part->first = part->next = first;
     // A range of no serial can't be stored; one whose numbers are all given can.

@@ -129,6 +129,15 @@ TEST_F(GivenNumbersTest, WhatWasHandedOutIsPassedOverInALongerRangeToo) {
   EXPECT_THAT(numbers.take(9, "А"), ElementsAre(number(1), number(2), number(5), number(6)));
 }
 
+TEST_F(GivenNumbersTest, WhatWasHandedOutIsNotHandedOutAgain) {
+  numbers.setRange(range(1, 4));
+  numbers.handOut(2, "Склад");
+  numbers.setRange(range(1, 6));
+  EXPECT_EQ(*numbers.handOut(4, "Склад 2"), (NumberRange{"3", "9520001", 5, 6, 5}));
+  EXPECT_EQ(*numbers.handOut(4, "Склад 3"), (NumberRange{"3", "9520001", 1, 2, 1}));
+  EXPECT_FALSE(numbers.handOut(4, "Склад 4"));
+}
+
 TEST_F(GivenNumbersTest, NoMoreIsHandedOutThanIsLeft) {
   EXPECT_FALSE(numbers.handOut(1, "Склад"));
   numbers.setRange(range(1, 4));
