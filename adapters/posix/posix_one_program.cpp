@@ -38,8 +38,8 @@ bool makeOwnFolder(const std::string& path) {
   std::filesystem::create_directories(path, error);
   struct stat status {};
   // Another user's folder could lead calls anywhere.
-  return !error && chmod(path.c_str(), S_IRWXU) == 0 && lstat(path.c_str(), &status) == 0 &&
-         S_ISDIR(status.st_mode);
+  return !error && lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
+         status.st_uid == geteuid() && chmod(path.c_str(), S_IRWXU) == 0;
 }
 
 }  // namespace
