@@ -53,6 +53,7 @@ export class AwizoWysylki extends ControlElement {
   private readonly kinds: Record<string, ControlFacts> = {};
   private readonly forms: Record<string, FormFacts> = {};
   private readonly shown: { name: string; element: HTMLDialogElement }[] = [];
+  private beginsAfterAnswer = false;
   private box: HTMLDialogElement | undefined;
   private readonly commands = new Commands(mainName);
   private readonly strip = new DeskStrip((task) => void this.choose({ task }));
@@ -101,6 +102,7 @@ export class AwizoWysylki extends ControlElement {
     this.strip.clear();
     this.lineWords.textContent = "";
     this.workBox.hide();
+    this.beginsAfterAnswer = false;
     this.work = undefined;
     this.isUnsent = false;
     clearTimeout(this.standingTimer);
@@ -125,7 +127,11 @@ export class AwizoWysylki extends ControlElement {
     void core.say({ do: "followDesk" });
     void core.say({ do: "followSteps" });
     void core.say({ do: "followFiles" });
-    await core.say({ do: "subscribe" });
+    const followed = await core.say({ do: "subscribe" });
+    if (this.core !== core) return;
+    // A box in which work that is gone on with stood is answered before anything else.
+    this.beginsAfterAnswer = !followed.ok;
+    if (this.beginsAfterAnswer) return;
     // Work that was gone on with is shown already.
     if (this.forms[mainName]?.shown !== true) await core.say({ do: "show" });
     if (opens) void this.choose({ on: "btnWczytaj" });
@@ -329,6 +335,7 @@ export class AwizoWysylki extends ControlElement {
     this.box?.remove();
     this.box = undefined;
     void this.closingOf({ answer });
+    if (this.beginsAfterAnswer && this.core !== undefined) void this.begin(this.core);
   }
 
   /// The user has chosen a command.
@@ -395,7 +402,7 @@ export class AwizoWysylki extends ControlElement {
 
   private pressKey(event: KeyboardEvent): void {
     const top = this.top();
-    if (this.box !== undefined || top === undefined) return;
+    if (this.box !== undefined || this.workBox.isShown || top === undefined) return;
     const command: Command | undefined = top.name === mainName && isDoAgain(event)
       ? this.commands.task("doAgain") : this.commands.at(event, top.name);
     if (command !== undefined && isStep(command) && this.typing.ownsKey(event)) return;

@@ -20,10 +20,14 @@ export class WorkBox {
     });
   }
 
+  get isShown(): boolean {
+    return this.element.isConnected;
+  }
+
   show(work: Work): void {
     if (!work.mayStop) return;
     this.text.textContent = work.what;
-    if (this.element.isConnected) return;
+    if (this.isShown) return;
     this.root.append(this.element);
     this.element.showModal();
   }

@@ -50,6 +50,14 @@ await withPage(async (page) => {
   await everythingIsThere(user);
   assert.equal((await requests()).length, askedByOther);
 
+  // Work that stood in an open box goes on there.
+  await user.control("btnPrzeslij").click();
+  await user.editor.getByRole("alertdialog").waitFor();
+  await page.reload();
+  assert.match(await user.answer("goOn"), offer);
+  assert.match(await user.answer("No"), /упакован не полностью/);
+  await everythingIsThere(user);
+
   const sent = await user.send();
   assert.equal(sent.exchange, "upload");
   assert.ok(sent.body.includes("ТН-6") && sent.body.includes("035200010000000016"), sent.body.slice(0, 500));
