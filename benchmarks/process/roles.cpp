@@ -5,6 +5,7 @@
 #include <QTableView>
 
 #include "benchmarks/support/full_size.h"
+#include "hosts/desktop/faces/program_style.h"
 #include "hosts/desktop/program/main_window.h"
 
 namespace awizo::benchmarks {
@@ -42,6 +43,7 @@ int showBareWindow() {
 }
 
 int showMainWindow(const std::vector<std::string>& arguments) {
+  desktop::setProgramStyle();
   const QtProgram program;
   desktop::MainWindow window(parseOptions(arguments));
   bool started = false;

@@ -6,11 +6,18 @@
 #include <QListView>
 #include <QScreen>
 #include <QScrollBar>
+#include <QStyleOptionComboBox>
+#include <algorithm>
 
 #include "hosts/desktop/faces/form_face.h"
 #include "hosts/desktop/faces/key_codes.h"
 
 namespace awizo::desktop {
+namespace {
+
+constexpr int usualLength = 12;  ///< of the text that a list has room for, in characters
+
+}  // namespace
 
 int ListRows::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : count_; }
 
@@ -33,6 +40,18 @@ void ListBox::showPopup() {
   QComboBox::showPopup();
 }
 
+/// As `AdjustToMinimumContentsLengthWithIcon` has it, a policy that makes the pop-up to begin with.
+QSize ListBox::sizeHint() const {
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  const int icon = iconSize().width() + 4;
+  const QSize text(usualLength * fontMetrics().horizontalAdvance('X') + icon,
+                   std::max(fontMetrics().height(), 14) + 2);
+  return style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, this);
+}
+
+QSize ListBox::minimumSizeHint() const { return sizeHint(); }
+
 bool ListBox::focusNextPrevChild(bool next) {
   onTab(next);
   return true;
@@ -43,8 +62,6 @@ ListFace::ListFace(FormFace& form, DropDownList& list, QWidget* parent)
       list_(list),
       box_(static_cast<ListBox*>(widget())),
       rows_(new ListRows(list, this)) {
-  box_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  box_->setMinimumContentsLength(12);
   box_->setMaxVisibleItems(15);
   box_->setInsertPolicy(QComboBox::NoInsert);
   box_->setModel(rows_);

@@ -29,6 +29,8 @@ class ListRows : public QAbstractListModel {
 class ListBox : public QComboBox {
  public:
   using QComboBox::QComboBox;
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
   void showPopup() override;
   std::function<void(bool forwards)> onTab;
   std::function<int()> rowsWidth;

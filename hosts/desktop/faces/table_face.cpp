@@ -272,7 +272,8 @@ void TableFace::stretchColumn(int column) {
 }
 
 void TableFace::placeEditor() {
-  if (!editor_) return;
+  // Nothing has its place before the view has its size, and that is told.
+  if (!editor_ || !view_->isVisible()) return;
   const QModelIndex current = rows_->indexOf(table_.row(), table_.column());
   editor_->widget()->setGeometry(view_->visualRect(current));
   editor_->widget()->raise();

@@ -1,5 +1,6 @@
 #include "hosts/desktop/faces/table_view.h"
 
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -37,13 +38,29 @@ class RowTint : public QStyledItemDelegate {
   TableView& view_;
 };
 
+/// Headings of one line: the first that is shown tells the height of all.
+class Headings : public QHeaderView {
+ public:
+  explicit Headings(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {}
+
+  QSize sizeHint() const override {
+    for (int column = 0; column < count(); ++column) {
+      if (!isSectionHidden(column)) return {length(), sectionSizeFromContents(column).height()};
+    }
+    return QHeaderView::sizeHint();
+  }
+};
+
 }  // namespace
 
 QColor currentRowColour(const QPalette& palette, const QColor& background) {
   return mixed(background, palette.color(QPalette::Highlight), 2);
 }
 
-TableView::TableView(QWidget* parent) : QTableView(parent) { setItemDelegate(new RowTint(*this)); }
+TableView::TableView(QWidget* parent) : QTableView(parent) {
+  setItemDelegate(new RowTint(*this));
+  setHorizontalHeader(new Headings(this));
+}
 
 void TableView::initViewItemOption(QStyleOptionViewItem* option) const {
   QTableView::initViewItemOption(option);

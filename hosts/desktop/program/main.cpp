@@ -16,6 +16,7 @@
 #include "desk/host_boxes.h"
 #include "hosts/common/program/about.h"
 #include "hosts/desktop/faces/icons.h"
+#include "hosts/desktop/faces/program_style.h"
 #include "hosts/desktop/program/launch_file.h"
 #include "hosts/desktop/program/main_window.h"
 #include "hosts/desktop/screen/message_box.h"
@@ -139,6 +140,7 @@ int main(int argumentCount, char** arguments) {
     std::cout << about;
     return 0;
   }
+  desktop::setProgramStyle();
   QApplication application(argumentCount, arguments);
   QApplication::setApplicationName("awizo");
   QApplication::setDesktopFileName("awizo");

@@ -151,6 +151,13 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
       Assistance{parts.surroundings.assistedFace, parts.control, parts.history,
                  parts.packageNumbers ? &parts.packageNumbers->offer() : nullptr},
       parts.face, parts.waiting, *this);
+  // While it is empty, for a splitter measures at once all that comes in.
+  parts.whole = new QSplitter(Qt::Horizontal);
+  parts.whole->setChildrenCollapsible(false);
+  parts.whole->addWidget(parts.content);
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->addWidget(parts.whole);
   parts.status = layOutMain(parts.control.editor, *parts.faces, parts.finder->strip());
   parts.faces->showAll();
   parts.commands =
@@ -166,12 +173,6 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
     control->observers.add([this](const Change&) { showStandingSoon(); });
   }
 
-  parts.whole = new QSplitter(Qt::Horizontal);
-  parts.whole->setChildrenCollapsible(false);
-  parts.whole->addWidget(parts.content);
-  auto* rows = new QVBoxLayout(this);
-  rows->setContentsMargins(0, 0, 0, 0);
-  rows->addWidget(parts.whole);
   SettingsStore& settings = parts.surroundings.platform.settings;
   if (isOn(settings, DeskSwitch::packingPane)) {
     packingPane().show();
