@@ -21,7 +21,7 @@ class Copy:
         self._update(project)
         self._run(["cmake", "-S", self.root, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
                    "-DCMAKE_CXX_FLAGS=-w", "-DCMAKE_CXX_FLAGS_DEBUG=-O0",
-                   "-DAWIZO_JOIN=OFF"],
+                   "-DAWIZO_JOIN=OFF", "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=gold"],
                   "the copy could not be configured")
         self._libraries = self._libraries_of_tests(tests)
 
