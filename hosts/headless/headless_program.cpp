@@ -123,7 +123,11 @@ Program::Program(Beginning&& beginning, Machine& machine, Conversation& conversa
              .control = control_,
              .history = history_,
              .numbers = numbers_ ? &numbers_->offer() : nullptr},
-            numbers_.get(), {.clock = *clock_, .files = machine.files(), .settings = *settings_},
+            numbers_.get(),
+            {.clock = *clock_,
+             .files = machine.files(),
+             .settings = *settings_,
+             .isBrowser = machine.isBrowser()},
             conversation_),
       access_(control_, bag_),
       feed_(access_.forms(),
@@ -222,7 +226,9 @@ void Program::run() {
 
 int runHeadless(const Options& options, Machine& machine, std::istream& in, std::ostream& out) {
   Conversation conversation(in, out);
-  conversation.lineWaits = [&machine] { return machine.lineWaits(); };
+  if (machine.seesWaitingLines()) {
+    conversation.lineWaits = [&machine] { return machine.lineWaits(); };
+  }
   try {
     Program(beginningOf(options, machine, conversation), machine, conversation).run();
   } catch (const journal::ReplayDiffers& differs) {

@@ -36,9 +36,12 @@ class Machine {
   virtual RecordFolder* records() { return nullptr; }
   /// Whether a user without a session is shown the start page.
   virtual bool hasStartPage() { return false; }
+  /// Whether the user works in a browser, which keeps some keys to itself.
+  virtual bool isBrowser() { return false; }
   /// Where the firm's package numbers are; null where the machine's user has none.
   virtual SharedStore* numbers() { return nullptr; }
-  /// Whether a line of input waits; false where the machine can't see that.
+  /// Whether the machine can see that a line of input waits.
+  virtual bool seesWaitingLines() { return false; }
   virtual bool lineWaits() { return false; }
   virtual std::string absolutePath(const std::string& path) = 0;
 };

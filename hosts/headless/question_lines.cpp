@@ -26,6 +26,8 @@ std::string_view nameOf(Choice choice) {
       return "startAfresh";
     case Choice::later:
       return "later";
+    case Choice::replace:
+      return "replace";
     case Choice::cancel:
       break;
   }

@@ -5,10 +5,12 @@
 
 #include "assistants/package_adding.h"
 #include "desk/box_advice.h"
+#include "desk/choose_path.h"
 #include "desk/file_places.h"
 #include "desk/first_stop.h"
 #include "desk/host_boxes.h"
 #include "desk/layout_words.h"
+#include "hosts/headless/brought_files.h"
 #include "hosts/headless/desk_records.h"
 #include "hosts/protocol/answers.h"
 #include "hosts/version.h"
@@ -35,8 +37,9 @@ std::vector<Command> allButtonCommands(AwizoWysylki& control,
 }
 
 /// The menus without what nobody does here.
-std::vector<CommandMenu> doneMenus(AwizoForm& form, bool hasNumbers) {
+std::vector<CommandMenu> doneMenus(AwizoForm& form, bool hasNumbers, bool isBrowser) {
   std::vector<CommandMenu> menus = commandMenus(form);
+  if (isBrowser) leaveToBrowser(menus);
   for (CommandMenu& menu : menus) {
     for (std::vector<Command>& group : menu.groups) {
       std::erase_if(group, [&](const Command& command) {
@@ -70,7 +73,7 @@ ServedDesk::ServedDesk(const Assistance& with, ServedNumbers* numbers, const Des
       machine_(machine),
       control_(with.control),
       conversation_(conversation),
-      menus_(doneMenus(control_.form, numbers != nullptr)),
+      menus_(doneMenus(control_.form, numbers != nullptr, machine.isBrowser)),
       commands_(allButtonCommands(control_, menus_)),
       watch_(control_, machine.clock),
       line_(control_.editor),
@@ -114,6 +117,10 @@ void ServedDesk::serve(protocol::ControlAccess& access) {
     takeAct(closes ? nullptr : &access.forms().control(protocol::textMember(line, "on")), line,
             act);
   };
+  dispatcher.clientActions["bring"] = [this](const Json& line) { bring(line); };
+  // What began before the client followed ends after it.
+  conversation_.onWork = [this](std::string_view what) { workBegins(what); };
+  conversation_.onWorkEnd = [this] { workEnds(); };
   act_ = [&dispatcher](const Json& line) { dispatcher.act(line); };
 }
 
@@ -125,8 +132,7 @@ void ServedDesk::follow() {
     conversation_.onModalEnd = [this](Form& form) { numbers_->closed(form); };
     finder_.moreFaults = [this] { return numbers_->offer().faults(); };
   }
-  conversation_.onWork = [this](std::string_view what) { workBegins(what); };
-  conversation_.onWorkEnd = [this] { workEnds(); };
+  if (!works_.empty()) tellWork();
 }
 
 void ServedDesk::opened(const Form& form) {
@@ -199,7 +205,8 @@ void ServedDesk::perform(HostTask task) {
 
 void ServedDesk::takeAct(Control* control, const Json& line, const std::function<void()>& act) {
   const Json& action = line["do"];
-  if (control != nullptr && action == "key" && takeKey(*control, line)) return;
+  const bool isHere = control != nullptr && control->form().takesInput();
+  if (isHere && action == "key" && takeKey(*control, line)) return;
   if (action != "key") finder_.forgetCode();
   if (const auto* button = dynamic_cast<const Button*>(control);
       button != nullptr && action == "click" && !watch_.mayPress(*button)) {
@@ -236,6 +243,18 @@ void ServedDesk::startAgain() {
   conversation_.emit({{"event", "startAgain"}});
 }
 
+void ServedDesk::bring(const Json& line) {
+  DlgWczytajZapisz& dialog = control_.dlgWczytajZapisz;
+  if (!dialog.takesInput()) throw Refused("No file is being chosen.");
+  const std::string folder = keptOffLinePath(machine_.settings);
+  const BroughtPlace place = broughtBy(line, machine_.files, folder, conversation_);
+  if (place.path.empty()) return;
+  // The lists show a folder as it was when it was opened.
+  dialog.DirList.userOpen("c:\\");
+  dialog.DirList.userOpen(folder);
+  if (!place.isNamed) choosePath(dialog, place.path);
+}
+
 void ServedDesk::addPackages() {
   if (!control_.form.takesInput()) return;
   const auto plan = packagesDialog_.ask();
@@ -266,7 +285,7 @@ AssistantReport ServedDesk::run(std::string_view words,
   return work([&](int done, int all) {
     conversation_.emit({{"event", "works"},
                         {"what", progress(words, done, all)},
-                        {"mayStop", true},
+                        {"mayStop", static_cast<bool>(conversation_.lineWaits)},
                         {"asks", false}});
     return !conversation_.isToldToStop();
   });
@@ -281,13 +300,19 @@ void ServedDesk::showBox(const std::string& words) {
 }
 
 void ServedDesk::workBegins(std::string_view what) {
-  ++works_;
+  works_.emplace_back(what);
+  if (follows_) tellWork();
+}
+
+void ServedDesk::tellWork() {
   const bool asks = watch_.questionWhileWorking().has_value();
-  conversation_.emit({{"event", "works"}, {"what", what}, {"mayStop", false}, {"asks", asks}});
+  conversation_.emit(
+      {{"event", "works"}, {"what", works_.back()}, {"mayStop", false}, {"asks", asks}});
 }
 
 void ServedDesk::workEnds() {
-  if (--works_ == 0) conversation_.emit({{"event", "rests"}});
+  works_.pop_back();
+  if (follows_ && works_.empty()) conversation_.emit({{"event", "rests"}});
 }
 
 Json ServedDesk::standing() const {

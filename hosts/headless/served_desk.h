@@ -25,6 +25,7 @@ struct DeskMachine {
   const Clock& clock;
   Files& files;
   SettingsStore& settings;
+  bool isBrowser = false;
 };
 
 /// What the desk shows beside the forms, for a client that shows it to a user:
@@ -34,6 +35,9 @@ struct DeskMachine {
 ///   {"do":"followDesk"}   from now on the user is asked before the document would be lost, keys in
 ///                         tables are those of commands and scanners too, and events tell the
 ///                         current line in words, work that lasts, and words beside the boxes
+///   {"do":"bring","name":"awizo.xml","from":"c:\\.brought"}
+///                         puts a file into the local folder, and opens it where a document is
+///                         being chosen
 ///   {"do":"stop"}         ends the work of an assistant
 class ServedDesk {
  public:
@@ -55,6 +59,7 @@ class ServedDesk {
   using Json = protocol::Json;
 
   void follow();
+  void tellWork();
   /// A form has come up for the user.
   void opened(const Form& form);
   void choose(const Json& line);
@@ -64,6 +69,7 @@ class ServedDesk {
   void takeAct(Control* control, const Json& line, const std::function<void()>& act);
   bool takeKey(const Control& control, const Json& line);
   void startAgain();
+  void bring(const Json& line);
   void addPackages();
   void distribute();
   AssistantReport run(std::string_view words,
@@ -89,7 +95,7 @@ class ServedDesk {
   DistributionDialog distributionDialog_;
   bool follows_ = false;
   std::string toldLine_;
-  int works_ = 0;
+  std::vector<std::string> works_;  ///< those that last, what began last behind the others
 };
 
 }  // namespace awizo::headless

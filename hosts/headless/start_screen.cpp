@@ -5,9 +5,11 @@
 
 #include "desk/session_start.h"
 #include "desk/start_page.h"
+#include "hosts/headless/brought_files.h"
 #include "hosts/headless/quiet_surroundings.h"
 #include "hosts/protocol/changes/feed_actions.h"
 #include "platform/at_exit.h"
+#include "session/record/off_line_path.h"
 
 namespace awizo::headless {
 
@@ -21,7 +23,11 @@ Options chosenAtStart(const Options& options, Machine& machine, Conversation& co
   protocol::ChangeFeed feed(forms,
                             [&](const protocol::Json& changes) { conversation.emit(changes); });
   protocol::addFeedActions(dispatcher, forms, feed);
-  dispatcher.clientActions["refresh"] = [&](const protocol::Json&) { page.refresh(); };
+  dispatcher.clientActions["bring"] = [&](const protocol::Json& line) {
+    const std::string folder = keptOffLinePath(surroundings.platform.settings);
+    broughtBy(line, machine.files(), folder, conversation);
+    page.refresh();
+  };
 
   std::optional<Partner> partner;
   bool opens = false;
@@ -36,6 +42,12 @@ Options chosenAtStart(const Options& options, Machine& machine, Conversation& co
     conversation.act = nullptr;
     conversation.beforeWaiting = [] {};
   });
+  // The folder is the page's, and a session on line the server's matter.
+  for (Control* control :
+       {static_cast<Control*>(&page.btnFolder), static_cast<Control*>(&page.frmOnLine),
+        static_cast<Control*>(&page.lblOnLine), static_cast<Control*>(&page.btnLaunchFile)}) {
+    control->setVisible(false);
+  }
   page.show("", false);
   conversation.serveUntil([&] { return partner.has_value(); });
 

@@ -32,13 +32,14 @@ std::vector<Command> stepCommands() {
 }
 
 std::vector<Command> packingCommands() {
-  return {
-      {.words = "Несколько упа&ковок…", .task = HostTask::addPackages, .keys = {withControl('N')}},
-      {.words = "Разло&жить по упаковкам…",
-       .task = HostTask::distribute,
-       .keys = {withControl('D')}},
-      {.words = "Что &где лежит", .task = HostTask::showPacking, .keys = {key(keys::f6)}},
-      {.words = "Сканер кладё&т в упаковку", .task = HostTask::scannerPacks, .isSwitch = true}};
+  return {{.words = "Несколько упа&ковок…",
+           .task = HostTask::addPackages,
+           .keys = {withControl('N'), key(keys::f7)}},
+          {.words = "Разло&жить по упаковкам…",
+           .task = HostTask::distribute,
+           .keys = {withControl('D')}},
+          {.words = "Что &где лежит", .task = HostTask::showPacking, .keys = {key(keys::f6)}},
+          {.words = "Сканер кладё&т в упаковку", .task = HostTask::scannerPacks, .isSwitch = true}};
 }
 
 std::vector<Command> findCommands() {
@@ -193,6 +194,15 @@ std::vector<Command> buttonCommands(const std::vector<CommandMenu>& menus) {
     }
   }
   return commands;
+}
+
+void leaveToBrowser(std::vector<CommandMenu>& menus) {
+  const auto isBrowsers = [](const CommandKey& key) { return key == withControl('N'); };
+  for (CommandMenu& menu : menus) {
+    for (std::vector<Command>& group : menu.groups) {
+      for (Command& command : group) std::erase_if(command.keys, isBrowsers);
+    }
+  }
 }
 
 std::vector<CommandMenu> commandMenus(AwizoForm& form) {

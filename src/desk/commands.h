@@ -88,6 +88,8 @@ std::vector<Command> countryListCommands(DlgIsoCodes& dialog);
 std::vector<CommandMenu> commandMenus(AwizoForm& form);
 /// Those of the menus that press buttons.
 std::vector<Command> buttonCommands(const std::vector<CommandMenu>& menus);
+/// Takes the keys out that a browser keeps to itself.
+void leaveToBrowser(std::vector<CommandMenu>& menus);
 /// The menus beside the start page.
 std::vector<CommandMenu> startMenus();
 

@@ -49,6 +49,11 @@ std::string diskRefusal(const RunTimeError& error) {
   }
 }
 
+MessageBox fileRefusal(std::string_view name, const RunTimeError& error) {
+  return {joined({"Файл ", name, " не взят в папку: ", diskRefusal(error), "."}),
+          std::string(words::boxTitle), BoxIcon::critical, BoxButtons::ok};
+}
+
 MessageBox paperRefusal(std::string_view what, const RunTimeError& error) {
   const bool isNoAdvice = error.number() == 5;
   const std::string reason =

@@ -17,6 +17,8 @@ MessageBox newAddressQuestion(std::string_view origin);
 MessageBox launchFileRefusal(std::string_view file, std::string_view why);
 /// No paper came of it. `what`: a file, or words.
 MessageBox paperRefusal(std::string_view what, const RunTimeError& error);
+/// The file that the user brought isn't in the folder.
+MessageBox fileRefusal(std::string_view name, const RunTimeError& error);
 /// What a disk refuses, in the user's language; else the error's own description.
 std::string diskRefusal(const RunTimeError& error);
 // A record of earlier work that can't be removed, or not be read.

@@ -13,6 +13,8 @@ namespace {
 constexpr std::string_view infoPath = "/*/partner-info/info/";
 constexpr std::string_view buyerPath = "/Document-DespatchAdvice/DespatchAdvice-Parties/Buyer/ILN";
 
+constexpr std::string_view partnerEnd = "_partner_INFO.xml";
+
 /// The document in the file; an empty one where there is none.
 std::unique_ptr<XmlDocument> loaded(const Xml& xml, Files& files, std::string_view path) {
   std::unique_ptr<XmlDocument> document = xml.createDocument();
@@ -39,16 +41,29 @@ std::vector<std::string> filesIn(Files& files, std::string_view folder) {
 /// The buyer's ILN in the name of a partner's file; empty for any other file.
 std::string buyerInName(std::string_view file, std::string_view sellerIln) {
   const std::string beginning = joined({sellerIln, "_"});
-  constexpr std::string_view end = "_partner_INFO.xml";
-  if (!file.starts_with(beginning) || !file.ends_with(end)) return "";
-  if (file.size() <= beginning.size() + end.size()) return "";
+  if (!file.starts_with(beginning) || !file.ends_with(partnerEnd)) return "";
+  if (file.size() <= beginning.size() + partnerEnd.size()) return "";
   const std::string_view iln =
-      file.substr(beginning.size(), file.size() - beginning.size() - end.size());
+      file.substr(beginning.size(), file.size() - beginning.size() - partnerEnd.size());
   const bool digits = std::ranges::all_of(iln, [](char c) { return c >= '0' && c <= '9'; });
   return digits ? std::string(iln) : "";
 }
 
+bool isSame(std::string_view one, std::string_view other) {
+  return std::ranges::equal(one, other, {}, lowerLatin, lowerLatin);
+}
+
 }  // namespace
+
+std::string nameInFolder(std::string_view file) {
+  const std::string user = userInfoFile("");
+  const std::string_view userName = std::string_view(user).substr(1);
+  if (isSame(file, userName)) return std::string(userName);
+  if (file.find_first_of("\\/") != file.npos || file.size() <= partnerEnd.size()) return "";
+  const std::string_view numbers = file.substr(0, file.size() - partnerEnd.size());
+  if (!isSame(file.substr(numbers.size()), partnerEnd)) return "";
+  return joined({numbers, partnerEnd});
+}
 
 FolderContent lookIntoFolder(const Xml& xml, Files& files, std::string_view folder) {
   FolderContent content;

@@ -26,6 +26,10 @@ struct FolderContent {
 /// Looks into the folder of this classic path, "" where none is set. Raises nothing.
 FolderContent lookIntoFolder(const Xml& xml, Files& files, std::string_view folder);
 
+/// The name by which the control looks for such a file in the local folder, whatever the case of
+/// its letters; empty for a document, which may have any name.
+std::string nameInFolder(std::string_view file);
+
 /// The buyer's ILN in a saved document of this classic path; empty where the file is no despatch
 /// advice. Raises nothing.
 std::string buyerOfDocument(const Xml& xml, Files& files, std::string_view path);

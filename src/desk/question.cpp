@@ -20,6 +20,8 @@ std::string_view wordsOf(Choice choice) {
       return "&Начать заново";
     case Choice::later:
       return "О&тложить";
+    case Choice::replace:
+      return "&Заменить";
     case Choice::cancel:
       break;
   }

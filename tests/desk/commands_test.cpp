@@ -70,6 +70,27 @@ TEST_F(CommandsTest, NoTwoOfAMenuShareALetterAndNoTwoOfAPlaceAKey) {
   }
 }
 
+TEST_F(CommandsTest, WhatABrowserTakesHasAnotherKeyThere) {
+  std::vector<CommandMenu> inBrowser = commandMenus(form);
+  leaveToBrowser(inBrowser);
+  const auto keysOf = [](const std::vector<CommandMenu>& of, HostTask task) {
+    std::vector<CommandKey> keys;
+    for (const CommandMenu& menu : of) {
+      for (const auto& group : menu.groups) {
+        for (const Command& command : group) {
+          if (command.task == task) keys = command.keys;
+        }
+      }
+    }
+    return keys;
+  };
+  constexpr CommandKey ctrlN{.code = 'N', .control = true};
+  constexpr CommandKey f7{.code = 118};
+  EXPECT_THAT(keysOf(menus, HostTask::addPackages), ElementsAre(ctrlN, f7));
+  EXPECT_THAT(keysOf(inBrowser, HostTask::addPackages), ElementsAre(f7));
+  EXPECT_EQ(keysOf(inBrowser, HostTask::findLine), keysOf(menus, HostTask::findLine));
+}
+
 TEST_F(CommandsTest, PlainWordsHaveNeitherMarkNorDots) {
   EXPECT_EQ(documentCommands(form).front().plainWords(), "Открыть");
   EXPECT_EQ(lineCommands(form).back().plainWords(), "Удалить строку");

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "support/files/files.h"
 #include "support/supplier/supplier.h"
 
 namespace awizo::test {
@@ -197,6 +198,27 @@ TEST_F(DeskTest, SaysWhatIsMarkedAsSpreadsheetsTakeIt) {
   EXPECT_EQ(text, editor.cellText("grdPozycje", 1, 1) + "\t" + editor.cellText("grdPozycje", 1, 2) +
                       "\n" + editor.cellText("grdPozycje", 2, 1) + "\t" +
                       editor.cellText("grdPozycje", 2, 2) + "\n");
+}
+
+TEST_F(DeskTest, NoKeyReachesATableBelowADialog) {
+  editor.cell("grdPozycje", 1, 1);
+  perform("findLine");
+  editor.refused({{"do", "key"}, {"on", "grdPozycje"}, {"code", '4'}});
+  editor.refused({{"do", "key"}, {"on", "grdPozycje"}, {"code", f2}});
+  editor.close("FindDialog");
+}
+
+TEST_F(DeskTest, OpensADocumentThatIsBrought) {
+  const std::string sample = (projectFolder() / "samples/despatch-advice.xml").string();
+  const Json brought{{"do", "bring"}, {"name", "a.xml"}, {"from", sample}};
+  editor.refused(brought);
+  press("btnWczytaj");
+  editor.answer("letGo");
+  editor.act(brought);
+  editor.answerAll();
+  EXPECT_EQ(editor.text("txtNrAwiza"),
+            ReadDocument(readFile(sample)).text("//DespatchAdviceNumber"));
+  EXPECT_EQ(readFile(supplier.place.folder() / "a.xml"), readFile(sample));
 }
 
 TEST_F(DeskTest, NothingIsThereToStop) { editor.refused({{"do", "stop"}}); }

@@ -139,7 +139,9 @@ QAction* MainWindow::makeTask(const Command& command) {
     action->setChecked(widget_->scannerPacks());
   }
   if (!command.icon.empty()) action->setIcon(iconNamed(fromText(command.icon)));
-  for (const CommandKey& key : command.keys) action->setShortcut(keysOf(key));
+  QList<QKeySequence> keys;
+  for (const CommandKey& key : command.keys) keys << keysOf(key);
+  action->setShortcuts(keys);
   // What may take the menu away waits until it has closed.
   const bool takesMenu = command.task == HostTask::startAgain || command.task == HostTask::quit ||
                          command.task == HostTask::chooseFolder;

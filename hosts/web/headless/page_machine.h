@@ -29,6 +29,8 @@ class PageMachine final : public headless::Machine {
   /// Under Node a session is named by the options.
   bool hasStartPage() override { return records_.has_value(); }
   SharedStore* numbers() override { return numbers_ ? &*numbers_ : nullptr; }
+  bool isBrowser() override { return true; }
+  bool seesWaitingLines() override { return true; }
   bool lineWaits() override;
   std::string absolutePath(const std::string& path) override;
 

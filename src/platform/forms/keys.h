@@ -28,6 +28,7 @@ inline constexpr std::int16_t f1 = 112;
 inline constexpr std::int16_t f2 = 113;
 inline constexpr std::int16_t f3 = 114;
 inline constexpr std::int16_t f6 = 117;
+inline constexpr std::int16_t f7 = 118;
 inline constexpr std::int16_t f8 = 119;
 inline constexpr std::int16_t f9 = 120;
 

@@ -6,6 +6,14 @@ export interface DateForm {
   write(iso: string): string;
   /// The date that the text says; nothing for no date, and for one that isn't whole.
   read(text: string): string | undefined;
+  /// The same of a date whose year may have two figures: 2000 to 2029 and 1930 to 1999.
+  readShort(text: string): string | undefined;
+}
+
+const lastShortYear = 29;
+
+function wholeYear(year: string): string {
+  return year.length === 2 ? `${Number(year) > lastShortYear ? "19" : "20"}${year}` : year;
 }
 
 const parts = ["d", "m", "y"];
@@ -20,15 +28,18 @@ function isDay(year: number, month: number, day: number): boolean {
 export function dateForm(name: string): DateForm {
   const locale = localeNamed(name);
   const order = [...locale.dateOrder()];
+  const read = (text: string, yearOf: (figures: string) => string) => {
+    const figures = text.match(/\d+/g) ?? [];
+    if (figures.length !== parts.length) return undefined;
+    const [day, month, shownYear] = parts.map((part) => figures[order.indexOf(part)] ?? "");
+    const year = yearOf(shownYear!);
+    if (year.length !== 4 || !isDay(Number(year), Number(month), Number(day))) return undefined;
+    return `${year}-${month!.padStart(2, "0")}-${day!.padStart(2, "0")}`;
+  };
   return {
     write: (iso) => (iso === "" ? "" : locale.shortDate(iso)),
-    read(text) {
-      const figures = text.match(/\d+/g) ?? [];
-      if (figures.length !== parts.length) return undefined;
-      const [day, month, year] = parts.map((part) => figures[order.indexOf(part)] ?? "");
-      if (year!.length !== 4 || !isDay(Number(year), Number(month), Number(day))) return undefined;
-      return `${year}-${month!.padStart(2, "0")}-${day!.padStart(2, "0")}`;
-    },
+    read: (text) => read(text, (year) => year),
+    readShort: (text) => read(text, wholeYear),
   };
 }
 

@@ -2,6 +2,7 @@
 // and words on what was done last.
 
 import { make, plainWords } from "./dom.ts";
+import { extraButtons } from "./extra_buttons.ts";
 import type { Command, Standing, Steps } from "./facts.ts";
 
 type Step = keyof Steps;
@@ -17,10 +18,11 @@ export class DeskStrip {
   readonly element: HTMLElement;
   private readonly title = make("h1");
   private readonly told = make("output", { "aria-live": "polite" });
-  private readonly buttons = make("div", { class: "tasks" });
+  private readonly buttons = extraButtons();
   private readonly steps = new Map<Step, { button: HTMLButtonElement; command: Command }>();
 
   constructor(private readonly go: (task: string) => void) {
+    this.buttons.classList.add("tasks");
     this.element = make("div", { class: "strip" }, [this.title, this.buttons, this.told]);
   }
 

@@ -10,11 +10,12 @@ import { Commands } from "./commands.ts";
 import type {
   Box, Changes, Closing, Command, ControlFacts, Event as CoreEvent, FormFacts, Question, Standing, Work,
 } from "./facts.ts";
+import { firstExtra, isExtra } from "./extra_buttons.ts";
 import type { Host } from "./face.ts";
 import { FormView } from "./form_view.ts";
 import { dialogs, mainForm, startPage } from "./layouts.ts";
 import { computerButton, handOut } from "./own_disk.ts";
-import { folderOf, localeOf, startOf } from "./start.ts";
+import { localeOf, startOf } from "./start.ts";
 import { styles } from "./styles.ts";
 import { ListFace } from "./list_face.ts";
 import { TableFace } from "./table_face.ts";
@@ -40,6 +41,11 @@ function isDoAgain(event: KeyboardEvent): boolean {
 
 function isStep(command: Command): boolean {
   return command.task === "takeBack" || command.task === "doAgain";
+}
+
+/// It leads to the buttons that no form has.
+function isWayToExtras(event: KeyboardEvent): boolean {
+  return event.key === "F10" && !event.ctrlKey && !event.shiftKey && !event.altKey;
 }
 
 function isCopy(event: KeyboardEvent): boolean {
@@ -105,6 +111,7 @@ export class AwizoWysylki extends ControlElement {
     this.beginsAfterAnswer = false;
     this.work = undefined;
     this.isUnsent = false;
+    this.startsAgain = false;
     clearTimeout(this.standingTimer);
     this.standingTimer = undefined;
     this.forgetProperties();
@@ -177,10 +184,13 @@ export class AwizoWysylki extends ControlElement {
       case "works":
         this.work = event;
         this.workBox.show(event);
+        this.holdStill();
         return this.strip.tell(event.what);
       case "rests":
         this.work = undefined;
         this.workBox.hide();
+        this.holdStill();
+        this.followModel();
         return this.showStandingSoon();
       case "begins":
         // The start page and its folder dialog are no more.
@@ -212,6 +222,12 @@ export class AwizoWysylki extends ControlElement {
     }
     this.followModel();
     this.showStandingSoon();
+  }
+
+  /// While work lasts that nothing can stop, what the user does would be lost: nothing can be done.
+  private holdStill(): void {
+    const isStill = this.work !== undefined && !this.work.mayStop;
+    for (const child of this.root.children) (child as HTMLElement).inert = isStill && child !== this.box;
   }
 
   private showStandingSoon(): void {
@@ -254,20 +270,19 @@ export class AwizoWysylki extends ControlElement {
     const view = this.views.get(name);
     if (view === undefined) return;
     if (name === startName) {
-      const fetched = this.fromComputer(() => void this.closingOf({ do: "refresh" }));
-      this.root.replaceChildren(make("main", { lang: "ru" }, [make("h1", {}, [facts.caption ?? ""]), view.element, fetched]));
-      return;
+      this.root.replaceChildren(make("main", { lang: "ru" }, [make("h1", {}, [facts.caption ?? ""]), view.element, this.fromComputer()]));
+      return this.holdStill();
     }
     if (name === mainName) {
       this.root.replaceChildren(make("main", { lang: "ru" }, [this.strip.element, view.element]));
-      return;
+      return this.holdStill();
     }
     const title = make("h2", { id: `title-${name}` });
     const closer = make("button", { type: "button", class: "closer", "aria-label": "Закрыть" }, ["×"]);
     const element = make("dialog", { lang: "ru", "aria-labelledby": `title-${name}` }, [
       make("div", { class: "title" }, [title, closer]), view.element,
     ]);
-    if (this.kinds[`${name}.btnWczytaj`]?.caption === readingMode) element.append(this.fromComputer((path) => this.openBrought(path)));
+    if (this.kinds[`${name}.btnWczytaj`]?.caption === readingMode) element.append(this.fromComputer());
     closer.addEventListener("click", () => void this.closingOf({ do: "close", on: name }));
     element.addEventListener("cancel", (event) => {
       // A file field in the dialog is left so too.
@@ -280,14 +295,8 @@ export class AwizoWysylki extends ControlElement {
     this.shown.push({ name, element });
   }
 
-  private fromComputer(brought: (path: string) => void): HTMLElement {
-    return computerButton(folderOf(this), brought);
-  }
-
-  private openBrought(path: string): void {
-    // The lists show a folder as it was when it was opened: it is opened anew.
-    void this.closingOf({ do: "path", on: "DlgWczytajZapisz.DirList", value: "c:\\" });
-    void this.closingOf({ do: "choosePath", path });
+  private fromComputer(): HTMLElement {
+    return computerButton((name, from) => this.closingOf({ do: "bring", name, from }));
   }
 
   private closeForm(name: string): void {
@@ -340,11 +349,11 @@ export class AwizoWysylki extends ControlElement {
 
   /// The user has chosen a command.
   private async choose(command: Pick<Command, "on" | "task">): Promise<void> {
-    if (this.box !== undefined) return;
+    if (this.box !== undefined || this.work !== undefined) return;
     this.typing.forget();
     this.reveal(command.on);
     await this.closingOf({ do: "command", ...(command.on === undefined ? { task: command.task } : { on: command.on }) });
-    this.followModel();
+    this.leaveExtras();
   }
 
   /// What a command acts on must be seen.
@@ -385,11 +394,33 @@ export class AwizoWysylki extends ControlElement {
   }
 
   private followModel(): void {
-    if (this.box !== undefined) return;
+    if (this.box !== undefined || !this.mayTakeFocus() || isExtra(this.root.activeElement)) return;
+    const target = this.modelsFocus();
+    if (target !== null && this.root.activeElement !== target) target.focus();
+  }
+
+  private modelsFocus(): HTMLElement | null {
     const top = this.top();
     const face = top?.face(top.focus);
-    const target = face === undefined ? null : focusable(face.element);
-    if (target !== null && this.root.activeElement !== target && this.root.host.isConnected) target.focus();
+    return face === undefined ? null : focusable(face.element);
+  }
+
+  /// The focus is here or nowhere: from what else the page has it is never taken away.
+  private mayTakeFocus(): boolean {
+    const holder = (this.getRootNode() as Document | ShadowRoot).activeElement;
+    const isNowhere = document.activeElement === null || document.activeElement === document.body;
+    return this.isConnected && (holder === this || isNowhere);
+  }
+
+  private visitExtras(): void {
+    const within = this.shown.at(-1)?.element ?? this.root.querySelector("main");
+    if (isExtra(this.root.activeElement)) this.leaveExtras();
+    else if (within !== null) firstExtra(within)?.focus();
+  }
+
+  private leaveExtras(): void {
+    if (this.box === undefined && isExtra(this.root.activeElement)) this.modelsFocus()?.focus();
+    this.followModel();
   }
 
   /// The user has put the focus somewhere: the model says whether it stays there.
@@ -402,7 +433,12 @@ export class AwizoWysylki extends ControlElement {
 
   private pressKey(event: KeyboardEvent): void {
     const top = this.top();
-    if (this.box !== undefined || this.workBox.isShown || top === undefined) return;
+    if (this.box !== undefined || this.work !== undefined || top === undefined) return;
+    const isFromExtra = isExtra(event.target as Element);
+    if (isWayToExtras(event) || (isFromExtra && event.key === "Escape")) {
+      event.preventDefault();
+      return this.visitExtras();
+    }
     const command: Command | undefined = top.name === mainName && isDoAgain(event)
       ? this.commands.task("doAgain") : this.commands.at(event, top.name);
     if (command !== undefined && isStep(command) && this.typing.ownsKey(event)) return;
@@ -417,7 +453,8 @@ export class AwizoWysylki extends ControlElement {
     }
     const isButton = (event.target as Element).closest("button") !== null;
     const isModels = event.key === "Tab" || (event.key === "Enter" && !isButton) || event.key === "Escape";
-    if (!isModels || top.focus === "") return;
+    // From the buttons beside a form Tab leads the browser's way, out of the element too.
+    if (!isModels || top.focus === "" || isFromExtra) return;
     event.preventDefault();
     void this.host().act(top.focus, { do: "key", code: event.keyCode, shift: event.shiftKey });
   }

@@ -2,7 +2,7 @@
 // decides nothing.
 
 import type { Line } from "./core_client.ts";
-import { make } from "./dom.ts";
+import { focusable, make } from "./dom.ts";
 import type { ControlFacts } from "./facts.ts";
 
 export interface Host {
@@ -21,16 +21,20 @@ export abstract class Face {
   show(changes: ControlFacts): void {
     this.facts = { ...this.facts, ...changes };
     this.element.hidden = this.facts.visible === false || (this.facts.cover ?? null) !== null;
+    if (this.note !== undefined) this.note.hidden = this.element.hidden;
     this.showFacts(changes);
   }
 
   /// Words beside it, in addition to what the core says of the control.
   showNote(text: string): void {
     if (this.note === undefined) {
-      this.note = make("output", { class: "note" });
-      this.element.append(this.note);
+      this.note = make("output", { class: "note", id: `note-${this.name}` });
+      // Not within: it would become a part of the field's name.
+      this.element.after(this.note);
+      focusable(this.element)?.setAttribute("aria-describedby", this.note.id);
     }
     this.note.textContent = text;
+    this.note.hidden = this.element.hidden;
   }
 
   protected abstract showFacts(changes: ControlFacts): void;

@@ -76,7 +76,7 @@ export async function readFile(path: string): Promise<Uint8Array> {
   return new Uint8Array(await (await (await fileOf(path, false)).getFile()).arrayBuffer());
 }
 
-export async function exists(path: string): Promise<boolean> {
+async function exists(path: string): Promise<boolean> {
   try {
     await fileOf(path, false);
     return true;
@@ -130,6 +130,12 @@ export async function makeFolders(path: string): Promise<void> {
 
 export async function putFile(path: string, bytes: Uint8Array): Promise<void> {
   await replace(path, bytes);
+}
+
+export async function removeFile(path: string): Promise<void> {
+  const names = namesOf(path);
+  const name = names.pop() ?? "";
+  await (await folderOf(names)).removeEntry(name);
 }
 
 /// Answers the core's questions about files that take time; nothing for other questions.

@@ -1,7 +1,8 @@
 // Documents between the browser's files and the disk of the user's own computer.
 
 import { make } from "./dom.ts";
-import { exists, putFile, readFile } from "./opfs.ts";
+import { extraButtons } from "./extra_buttons.ts";
+import { putFile, readFile, removeFile } from "./opfs.ts";
 
 const ending = ".xml";
 
@@ -14,28 +15,27 @@ function pathOf(classic: string): string {
   return classic.replace(/^[a-z]:/i, "").replaceAll("\\", "/");
 }
 
-/// A path of the folder that no file has, whose name the file lists show.
-async function freePath(folder: string, name: string): Promise<string> {
-  const plain = name.replace(/^\.+/, "");
-  const stem = plain.toLowerCase().endsWith(ending) ? plain.slice(0, -ending.length) : plain;
-  let path = `${folder}/${stem}${ending}`;
-  for (let number = 2; await exists(path); ++number) path = `${folder}/${stem} (${number})${ending}`;
-  return path;
-}
-
-/// A button that brings a file of the user's computer into the folder, and tells its path there.
-export function computerButton(folder: string, brought: (path: string) => void): HTMLElement {
-  const input = make("input", { type: "file", accept: ending, hidden: true });
+/// A button that fetches a file of the user's computer. `bring` puts it into the local folder from where
+/// it is for a while.
+export function computerButton(bring: (name: string, from: string) => Promise<unknown>): HTMLElement {
   const button = make("button", { type: "button" }, ["С компьютера…"]);
-  button.addEventListener("click", () => input.click());
-  input.addEventListener("change", async () => {
-    const file = input.files?.[0];
+  const element = make("div", { class: "beside" }, [extraButtons([button])]);
+  const take = async (file: File | undefined) => {
     if (file === undefined) return;
-    const path = await freePath(folder, file.name);
+    const path = `/.brought-${crypto.randomUUID()}`;
     await putFile(path, new Uint8Array(await file.arrayBuffer()));
-    brought(classicPath(path));
+    await bring(file.name, classicPath(path));
+    await removeFile(path);
+  };
+  button.addEventListener("click", () => {
+    // A new field each time: the same file may be brought again.
+    const input = make("input", { type: "file", accept: ending, hidden: true });
+    input.addEventListener("change", () => void take(input.files?.[0]));
+    element.querySelector("input")?.remove();
+    element.append(input);
+    input.click();
   });
-  return make("div", { class: "beside" }, [button, input]);
+  return element;
 }
 
 /// Hands a saved document to the user as a download.

@@ -14,13 +14,18 @@ abstract class PickerFace extends InputFace {
   constructor(name: string, host: Host, words?: string) {
     super(name, host, "text", words);
     this.input.inputMode = "numeric";
-    this.input.addEventListener("blur", () => {
-      this.isTyping = false;
-      this.showFacts({});
+    this.input.addEventListener("keydown", (event) => {
+      if (event.key === "Tab" || event.key === "Enter") this.finish();
     });
+    this.input.addEventListener("blur", () => this.finish());
   }
 
   protected abstract read(text: string): string | undefined;
+
+  /// What counts as a value only when no more is typed.
+  protected readLeft(_text: string): string | undefined {
+    return undefined;
+  }
   /// The name of the user's act.
   protected abstract readonly deed: string;
 
@@ -30,6 +35,16 @@ abstract class PickerFace extends InputFace {
     const value = this.read(text);
     if (value !== undefined) return { do: this.deed, value };
     return text === "" && this.mayBeEmpty() ? { do: this.deed, value: null } : undefined;
+  }
+
+  /// Nothing more is typed. The act comes before that of the key or of the next field.
+  private finish(): void {
+    if (!this.isTyping) return;
+    this.isTyping = false;
+    const text = this.input.value.trim();
+    const value = this.read(text) === undefined ? this.readLeft(text) : undefined;
+    if (value === undefined) this.showFacts({});
+    else void this.pass({ do: this.deed, value });
   }
 
   protected mayBeEmpty(): boolean {
@@ -66,6 +81,10 @@ export class DateFace extends PickerFace {
 
   protected override read(text: string): string | undefined {
     return this.form.read(text);
+  }
+
+  protected override readLeft(text: string): string | undefined {
+    return this.form.readShort(text);
   }
 
   protected override value(): string {

@@ -1,6 +1,7 @@
 // Faces of all kinds but tables and drop-down lists.
 
 import { make, plainWords } from "./dom.ts";
+import type { Line } from "./core_client.ts";
 import { Face, type Host } from "./face.ts";
 import type { ControlFacts } from "./facts.ts";
 
@@ -73,7 +74,10 @@ export abstract class InputFace extends Face {
 
   private async passOn(): Promise<void> {
     const line = this.line();
-    if (line === undefined) return;
+    if (line !== undefined) await this.pass(line);
+  }
+
+  protected async pass(line: Line): Promise<void> {
     ++this.typing;
     await this.act(line);
     if (--this.typing === 0) this.showFacts({});

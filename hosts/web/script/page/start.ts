@@ -24,11 +24,6 @@ function beside(folder: string, what: string): string {
   return folder.replace(/([^/]*)\/*$/, `.$1.${what}`);
 }
 
-/// The local folder.
-export function folderOf(element: HTMLElement): string {
-  return element.getAttribute("folder") ?? defaultFolder;
-}
-
 /// The locale's name as the core takes it.
 export function localeOf(element: HTMLElement): string {
   return (element.closest("[lang]")?.getAttribute("lang") || "ru-RU").replace("-", "_");
@@ -40,7 +35,7 @@ function namesSession(element: HTMLElement): boolean {
 }
 
 export function startOf(element: HTMLElement): Start {
-  const folder = folderOf(element);
+  const folder = element.getAttribute("folder") ?? defaultFolder;
   const given: string[] = [];
   for (const [attribute, property] of Object.entries(properties)) {
     const value = element.getAttribute(attribute);

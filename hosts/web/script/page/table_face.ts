@@ -39,8 +39,9 @@ export class TableFace extends Face {
     this.body = body;
     this.element.addEventListener("scroll", () => this.seeRows());
     this.element.addEventListener("mousedown", (event) => this.press(event));
-    this.element.addEventListener("mouseup", (event) => this.release(event));
-    this.element.addEventListener("dblclick", () => void this.act({ do: "doubleClick" }));
+    this.element.addEventListener("dblclick", (event) => {
+      if (this.cellAt(event) !== undefined) void this.act({ do: "doubleClick" });
+    });
     this.element.addEventListener("keydown", (event) => this.pressKey(event));
     new ResizeObserver(() => this.seeRows()).observe(this.element);
   }
@@ -162,14 +163,20 @@ export class TableFace extends Face {
   }
 
   private cellAt(event: MouseEvent): Cell | undefined {
-    const cell = (event.target as Element).closest<HTMLElement>(".cell");
+    // What happens outside of the element tells its target by the path alone.
+    const cell = (event.composedPath()[0] as Element).closest?.<HTMLElement>(".cell") ?? null;
+    if (cell !== null && !this.body.contains(cell)) return undefined;
     const row = Number(cell?.parentElement?.dataset["row"] ?? -1);
     return cell === null || row < 0 ? undefined : { row, col: Number(cell.dataset["col"]) };
   }
 
   private press(event: MouseEvent): void {
+    if (event.button !== 0) return;
     this.pressed = this.cellAt(event);
-    if (this.pressed !== undefined) event.preventDefault();
+    if (this.pressed === undefined) return;
+    event.preventDefault();
+    // The button may be released anywhere.
+    addEventListener("mouseup", (up) => this.release(up), { once: true });
   }
 
   private release(event: MouseEvent): void {

@@ -12,7 +12,7 @@ await withPage(async (page) => {
   const packages = user.control("grdOpakowania");
   const rowsArePackages = (count: number) => packages.and(page.locator(`[aria-rowcount="${count + 1}"]`)).waitFor();
   const several = async (count: string, description: string) => {
-    await packages.press("Control+n");
+    await packages.press("F7");
     await user.field("PackagesDialog.txtCount").fill(count);
     await user.field("PackagesDialog.txtDescription").fill(description);
     await user.field("PackagesDialog.txtPlace").fill("9520002001016");

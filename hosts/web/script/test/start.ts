@@ -22,13 +22,49 @@ await withPage(async (page) => {
   assert.ok(await user.control("btnOffLine").isDisabled());
   assert.notEqual(await user.control("lblMissing").innerText(), "");
 
-  const chooser = page.waitForEvent("filechooser");
-  await user.editor.getByRole("button", { name: "С компьютера…" }).click();
+  const bring = async (buffer: Buffer) => {
+    const chooser = page.waitForEvent("filechooser");
+    await user.editor.getByRole("button", { name: "С компьютера…" }).click();
+    await (await chooser).setFiles({ name: partnerFile, mimeType: "application/xml", buffer });
+  };
+  const kept = () => page.evaluate(async (name) => {
+    const root = await navigator.storage.getDirectory();
+    const folder = await root.getDirectoryHandle("ДРУГАЯ");
+    const names = async (of: FileSystemDirectoryHandle) => {
+      const all: string[] = [];
+      for await (const one of of.keys()) all.push(one);
+      return all;
+    };
+    const left = (await names(root)).filter((one) => one.startsWith(".brought"));
+    return [await (await (await folder.getFileHandle(name)).getFile()).text(), (await names(folder)).length, left.length];
+  }, partnerFile);
   const buffer = fs.readFileSync(`demo/folder/${partnerFile}`);
-  await (await chooser).setFiles({ name: partnerFile, mimeType: "application/xml", buffer });
+  await bring(buffer);
   await user.control("btnOffLine").and(page.locator(":enabled")).waitFor();
   assert.match(await user.field("cboxPartner").inputValue(), /9520002000019/);
   await user.picture("start");
+
+  // Brought again it takes the old one's place, asked first where they differ.
+  const other = buffer.toString("utf8").replace("Магазины рядом", "Магазины далеко");
+  assert.notEqual(other, buffer.toString("utf8"));
+  await bring(Buffer.from(other));
+  assert.match(await user.answer("cancel"), /уже есть другой файл/);
+  await bring(Buffer.from(other));
+  await user.answer("replace");
+  await page.waitForFunction((field) => (field as HTMLInputElement).value.includes("далеко"),
+    await user.field("cboxPartner").elementHandle());
+  assert.deepEqual(await kept(), [other, 2, 0]);
+
+  // Tab stops where something is shown, and nowhere else.
+  await user.control("btnOffLine").focus();
+  const stops: string[] = [];
+  for (let stop = 0; stop < 6; ++stop) {
+    await page.keyboard.press("Tab");
+    await user.editor.evaluate((element) => (element as unknown as { say(line: object): Promise<unknown> }).say({ get: "focus" }));
+    stops.push(await user.editor.evaluate((element) =>
+      element.shadowRoot!.activeElement?.closest<HTMLElement>("[data-name]")?.dataset["name"] ?? ""));
+  }
+  assert.deepEqual(stops, ["btnOpen", "cboxPartner", "btnOffLine", "btnOpen", "cboxPartner", "btnOffLine"]);
 
   await user.control("btnOffLine").click();
   await user.isReady();

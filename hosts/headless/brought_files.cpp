@@ -1,0 +1,21 @@
+#include "hosts/headless/brought_files.h"
+
+#include "desk/host_boxes.h"
+#include "hosts/protocol/answers.h"
+
+namespace awizo::headless {
+
+BroughtPlace broughtBy(const protocol::Json& line, Files& files, std::string_view folder,
+                       Conversation& conversation) {
+  const std::string name = protocol::textMember(line, "name");
+  const std::string from = protocol::textMember(line, "from");
+  try {
+    return bring(files, folder, {.name = name, .bytes = files.readAll(from)},
+                 [&](const Question& question) { return conversation.ask(question); });
+  } catch (const RunTimeError& error) {
+    conversation.ask(fileRefusal(name, error));
+    return {};
+  }
+}
+
+}  // namespace awizo::headless

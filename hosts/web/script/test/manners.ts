@@ -1,0 +1,102 @@
+// What one who works in pages expects: work that lasts takes nothing, the page's own fields keep the
+// focus, every button is within the keyboard's reach, a click is the left button's, a short year is one.
+// usage: node manners.mjs ADDRESS_OF_THE_PAGE
+
+import assert from "node:assert/strict";
+
+import { makeFaulty, User, withPage } from "./user.ts";
+
+await withPage(async (page) => {
+  const user = new User(page);
+  await user.open();
+  const focused = () => user.editor.evaluate((element) => {
+    const active = element.shadowRoot!.activeElement;
+    return active?.closest<HTMLElement>("[data-name]")?.dataset["name"] ?? active?.textContent ?? "";
+  });
+  const focusIs = async (name: string) => {
+    for (let tries = 0; tries < 100 && (await focused()) !== name; ++tries) await page.evaluate(() => new Promise(requestAnimationFrame));
+    assert.equal(await focused(), name);
+  };
+  const say = (line: object) =>
+    user.editor.evaluate((element, said) => (element as unknown as { say(line: object): Promise<unknown> }).say(said), line);
+  const lines = user.control("grdPozycje");
+  const currentRow = async () => Number(await lines.locator(".row.current").getAttribute("data-row"));
+
+  // The page's own field keeps the focus, whatever a script does to the editor.
+  await page.evaluate(() => document.body.append(Object.assign(document.createElement("input"), { id: "own" })));
+  await page.locator("#own").focus();
+  await say({ do: "type", on: "txtGoodsIdentity", text: "груз" });
+  await say({ do: "focus", on: "txtNrAwiza" });
+  await page.evaluate(() => new Promise(requestAnimationFrame));
+  assert.equal(await page.evaluate(() => document.activeElement?.id), "own");
+  await user.field("txtNrAwiza").click();
+  await focusIs("txtNrAwiza");
+
+  // F10 leads to the commands without a key, the arrows along them, Escape back.
+  const goAlongTo = async (words: string) => {
+    for (let steps = 0; steps < 20 && (await focused()) !== words; ++steps) await page.keyboard.press("ArrowRight");
+    assert.equal(await focused(), words);
+  };
+  await page.keyboard.press("F10");
+  await goAlongTo("Разложить по упаковкам");
+  await page.keyboard.press("ArrowLeft");
+  assert.equal(await focused(), "Несколько упаковок");
+  await page.keyboard.press("Escape");
+  await focusIs("txtNrAwiza");
+  await page.keyboard.press("F10");
+  await goAlongTo("О программе");
+  await page.keyboard.press("Enter");
+  assert.match(await user.answer("OK"), /Редактор подтверждений отгрузки/);
+  await focusIs("txtNrAwiza");
+
+  // A key that no browser takes.
+  assert.match((await user.editor.locator("[data-task=addPackages]").getAttribute("title"))!, /\(F7\)$/);
+  await page.keyboard.press("F7");
+  await user.dialog("PackagesDialog").waitFor();
+  await page.keyboard.press("Escape");
+  await user.dialog("PackagesDialog").waitFor({ state: "detached" });
+
+  // A table takes the left button's clicks, wherever the button is released.
+  await user.goToFirstLine();
+  const cell = (await lines.locator('[data-row="3"] [data-col="2"]').boundingBox())!;
+  await page.mouse.move(cell.x + 5, cell.y + 5);
+  await page.mouse.down();
+  await page.mouse.move(cell.x + 5, (await lines.boundingBox())!.y - 20);
+  await page.mouse.up();
+  await lines.locator('.row.current[data-row="3"]').waitFor();
+  await lines.locator('[data-row="4"] [data-col="2"]').click({ button: "right" });
+  await say({ get: "grdPozycje" });
+  assert.equal(await currentRow(), 3);
+  await page.keyboard.press("Escape");
+  await lines.locator(".head .cell").nth(2).dblclick();
+  await say({ get: "grdPozycje" });
+  assert.equal(await user.editor.locator("dialog").count(), 0);
+
+  // A year of two figures.
+  const date = user.control("txtEstimatedDeliveryDate").locator("input").first();
+  await date.fill("1.12.26");
+  await date.press("Tab");
+  await page.waitForFunction((field) => (field as HTMLInputElement).value === "01.12.2026", await date.elementHandle());
+  assert.equal(((await say({ get: "txtEstimatedDeliveryDate" })) as { date: string }).date, "2026-12-01");
+
+  // While a document is on its way nothing can be done.
+  await makeFaulty("upload=slow:1500");
+  const number = user.field("txtNrAwiza");
+  await number.fill("ТН/5");
+  await user.addPackage("Паллета 1", "035200010000000016");
+  await number.click();
+  const sending = user.send();
+  await user.editor.locator("main[inert]").waitFor();
+  await page.keyboard.type("99");
+  await sending;
+  await user.editor.locator("main:not([inert])").waitFor();
+  assert.equal(await number.inputValue(), "ТН/5");
+  await focusIs(((await say({ get: "focus" })) as string) ?? "");
+
+  // What no form has is within reach in a dialog, too.
+  await user.control("btnWczytaj").click();
+  await user.dialog("DlgWczytajZapisz").waitFor();
+  await page.keyboard.press("F10");
+  assert.equal(await focused(), "С компьютера…");
+});
+console.log("The page behaved as one expects.");
