@@ -57,6 +57,19 @@ export class User {
     await this.isReady();
   }
 
+  /// A new editor in the other's place, with a folder of its own. Its clock stands, and the order waits
+  /// again.
+  async startAt(now: string): Promise<void> {
+    await fetch(`${service}/_reset`, { method: "POST" });
+    await this.editor.evaluate(async (element, time) => {
+      const other = element.cloneNode() as HTMLElement;
+      other.setAttribute("now", time);
+      other.setAttribute("folder", "/OTHER");
+      element.replaceWith(other);
+    }, now);
+    await this.isReady();
+  }
+
   async isReady(): Promise<void> {
     await this.control("grdPozycje").getByRole("row").nth(1).waitFor();
   }
@@ -146,7 +159,11 @@ process.on("exit", () => fs.rmSync(downloads, { recursive: true, force: true }))
 function launch(): Promise<Browser> {
   return inFirefox
     // The channel is the one that a Firefox as it comes can be driven by.
-    ? firefox.launch({ channel: "moz-firefox", executablePath: "/usr/bin/firefox-esr", downloadsPath: downloads })
+    ? firefox.launch({
+        channel: "moz-firefox", executablePath: "/usr/bin/firefox-esr", downloadsPath: downloads,
+        // The list of downloads would take the keys.
+        firefoxUserPrefs: { "browser.download.alwaysOpenPanel": false },
+      })
     : chromium.launch({ executablePath: "/usr/bin/chromium", args: ["--no-sandbox"] });
 }
 
