@@ -106,7 +106,7 @@ class ListedRoadTest : public ProgramTest {
 
   const Json* acts_ = nullptr;
   std::size_t done_ = 0;
-  QObject turns_;  ///< what is due goes with it
+  QObject turns_;                 ///< what is due goes with it
   std::vector<QWidget*> within_;  ///< what was open when each act that still lasts began
 };
 
