@@ -196,6 +196,7 @@ TEST_F(CommandsTest, NoTwoItemsOfAMenuShareALetter) {
 
 TEST_F(CommandsTest, TheWindowFitsASmallScreenAndCutsNoButton) {
   openCounting();
+  window().resize(1024, 700);
   letLayoutsSettle();
   EXPECT_LE(widget().minimumSizeHint().width(), 1024);
   EXPECT_LE(widget().minimumSizeHint().height(), 676);

@@ -27,7 +27,8 @@ class LinesTest : public ProgramTest {
   std::string strip() { return shownText(window().findChild<QLabel*>("lineStrip")); }
   bool isSeen(const Table& shown, int row) {
     const QTableView* view = widget().faces().table(shown).view();
-    return view->viewport()->rect().contains(view->visualRect(view->model()->index(row - 1, 0)));
+    const int top = view->rowViewportPosition(row - 1);
+    return top >= 0 && top + view->rowHeight(row - 1) <= view->viewport()->height();
   }
 };
 

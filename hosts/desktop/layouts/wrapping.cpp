@@ -1,18 +1,20 @@
 #include "hosts/desktop/layouts/wrapping.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QScreen>
 #include <QStyle>
 #include <algorithm>
+#include <utility>
 
 namespace awizo::desktop {
 
-QLayoutItem* WrappingLayout::itemAt(int index) const {
+QLayoutItem* ListLayout::itemAt(int index) const {
   const bool exists = index >= 0 && index < count();
   return exists ? items_[static_cast<std::size_t>(index)].get() : nullptr;
 }
 
-QLayoutItem* WrappingLayout::takeAt(int index) {
+QLayoutItem* ListLayout::takeAt(int index) {
   if (itemAt(index) == nullptr) return nullptr;
   const auto taken = items_.begin() + index;
   QLayoutItem* item = taken->release();
@@ -20,7 +22,7 @@ QLayoutItem* WrappingLayout::takeAt(int index) {
   return item;
 }
 
-QSize WrappingLayout::sizeHint() const {
+QSize ListLayout::sizeHint() const {
   QSize whole(0, 0);
   for (const auto& item : items_) {
     if (item->isEmpty()) continue;
@@ -31,7 +33,7 @@ QSize WrappingLayout::sizeHint() const {
   return whole;
 }
 
-QSize WrappingLayout::minimumSize() const {
+QSize ListLayout::minimumSize() const {
   QSize least(0, 0);
   for (const auto& item : items_) {
     if (!item->isEmpty()) least = least.expandedTo(item->minimumSize());
@@ -48,7 +50,7 @@ int WrappingLayout::place(const QRect& area, Placing placing) const {
   int x = area.left();
   int y = area.top();
   const int lineHeight = sizeHint().height();
-  for (const auto& item : items_) {
+  for (const auto& item : items()) {
     if (item->isEmpty()) continue;
     const QSize size(std::min(item->sizeHint().width(), area.width()), item->sizeHint().height());
     if (x > area.left() && x + size.width() > area.left() + area.width()) {
@@ -62,16 +64,28 @@ int WrappingLayout::place(const QRect& area, Placing placing) const {
   return y + lineHeight - area.top();
 }
 
-void Wrapped::takeHeight() {
+void Wrapped::takeHeight(int width) {
   const bool wraps = layout()->hasHeightForWidth();
-  setFixedHeight(wraps ? layout()->heightForWidth(width()) : layout()->sizeHint().height());
+  const int needed = wraps ? layout()->heightForWidth(width) : layout()->sizeHint().height();
+  if (needed == minimumHeight() && needed == maximumHeight()) return;
+  setFixedHeight(needed);
+  // All around takes it at once, and not one after the other with paintings between.
+  for (QWidget* around = parentWidget(); around != nullptr; around = around->parentWidget()) {
+    QCoreApplication::sendPostedEvents(around, QEvent::LayoutRequest);
+  }
 }
 
 bool Wrapped::event(QEvent* event) {
   // A layout that is at work doesn't notice a height that changes meanwhile.
-  if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) {
+  const bool matters = event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
+  if (matters && !std::exchange(isDue_, true)) {
     QMetaObject::invokeMethod(
-        this, [this] { takeHeight(); }, Qt::QueuedConnection);
+        this,
+        [this] {
+          isDue_ = false;
+          takeHeight(width());
+        },
+        Qt::QueuedConnection);
   }
   return QWidget::event(event);
 }

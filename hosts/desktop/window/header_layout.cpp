@@ -6,7 +6,7 @@
 
 #include "desk/layout_words.h"
 #include "hosts/desktop/layouts/fields.h"
-#include "hosts/desktop/layouts/wrapping.h"
+#include "hosts/desktop/layouts/flowing_groups.h"
 #include "hosts/desktop/window/main_layout.h"
 
 namespace awizo::desktop {
@@ -34,9 +34,9 @@ Group makeHeaderGroup(std::string_view heading) {
   return {widget, grid};
 }
 
-QWidget* makeLine(QFrame::Shape shape) {
+QWidget* makeLine() {
   auto* line = new QFrame;
-  line->setFrameShape(shape);
+  line->setFrameShape(QFrame::HLine);
   line->setFrameShadow(QFrame::Sunken);
   return line;
 }
@@ -99,12 +99,19 @@ QLabel* caption(const std::string& text) {
   return label;
 }
 
-QWidget* makeParties(AwizoForm& form, FormFace& faces) {
-  auto* parties = new Wrapped;
-  auto* grid = new QGridLayout(parties);
+QGridLayout* makeGrid(QWidget& parent) {
+  auto* grid = new QGridLayout(&parent);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(8);
   grid->setVerticalSpacing(3);
+  // Both grids begin at the top, whichever is the higher.
+  grid->setRowStretch(2, 1);
+  return grid;
+}
+
+QWidget* makeSellerAndBuyer(AwizoForm& form, FormFace& faces) {
+  auto* parties = new QWidget;
+  QGridLayout* grid = makeGrid(*parties);
   const auto addParty = [&](int row, const Label& iln, const Label& name) {
     grid->addWidget(caption(iln.heading()), row, 0);
     grid->addWidget(value(faces, iln), row, 1);
@@ -112,43 +119,55 @@ QWidget* makeParties(AwizoForm& form, FormFace& faces) {
   };
   addParty(0, form.lblILNSprzedWart, form.lblNameSprzedWart);
   addParty(1, form.lblILNKupWart, form.lblNameKupWart);
-  grid->addWidget(caption(form.lblILNMiejscaDostValue.heading()), 0, 3);
-  grid->addWidget(value(faces, form.lblILNMiejscaDostValue), 0, 4);
-  grid->addWidget(caption(form.lblNazwaMiejscaDostWart.heading()), 0, 5);
-  grid->addWidget(value(faces, form.lblNazwaMiejscaDostWart), 0, 6);
-  grid->addWidget(caption(form.lblAdresMiejscaDostawy.heading()), 1, 3);
-  grid->addWidget(value(faces, form.lblNazwaMiejscaDostawy), 1, 4);
-  grid->addWidget(value(faces, form.lblAdresMiejscaDostawy), 1, 5, 1, 2);
-  grid->setColumnStretch(2, 2);
-  grid->setColumnStretch(4, 1);
-  grid->setColumnStretch(6, 2);
-  const int ilnWidth = parties->fontMetrics().horizontalAdvance('0') * 14;
-  for (const Label* iln :
-       {&form.lblILNSprzedWart, &form.lblILNKupWart, &form.lblILNMiejscaDostValue}) {
-    faces.widget(*iln)->setMinimumWidth(ilnWidth);
-  }
-  // Texts that need no second line have their height from the start: the window is painted once.
-  parties->takeHeight();
+  grid->setColumnStretch(2, 1);
   return parties;
+}
+
+QWidget* makePlace(AwizoForm& form, FormFace& faces) {
+  auto* place = new QWidget;
+  QGridLayout* grid = makeGrid(*place);
+  grid->addWidget(caption(form.lblILNMiejscaDostValue.heading()), 0, 0);
+  grid->addWidget(value(faces, form.lblILNMiejscaDostValue), 0, 1);
+  grid->addWidget(caption(form.lblNazwaMiejscaDostWart.heading()), 0, 2);
+  grid->addWidget(value(faces, form.lblNazwaMiejscaDostWart), 0, 3);
+  grid->addWidget(caption(form.lblAdresMiejscaDostawy.heading()), 1, 0);
+  grid->addWidget(value(faces, form.lblNazwaMiejscaDostawy), 1, 1);
+  grid->addWidget(value(faces, form.lblAdresMiejscaDostawy), 1, 2, 1, 2);
+  grid->setColumnStretch(1, 1);
+  grid->setColumnStretch(3, 2);
+  return place;
+}
+
+QLayout* makeFlow(int spacing, std::initializer_list<std::pair<QWidget*, int>> groups) {
+  auto* flow = new FlowingGroups;
+  flow->setSpacing(spacing);
+  for (const auto& [group, stretch] : groups) flow->addGroup(group, stretch);
+  return flow;
 }
 
 }  // namespace
 
 QWidget* makeHeader(AwizoForm& form, FormFace& faces) {
   QWidget* frame = faces.widget(form.frmDaneNaglowka);
-  auto* groups = new QHBoxLayout;
-  groups->setSpacing(10);
-  groups->addWidget(makeDocument(form, faces), 3);
-  groups->addWidget(makeLine(QFrame::VLine));
-  groups->addWidget(makeOrder(form, faces), 2);
-  groups->addWidget(makeLine(QFrame::VLine));
-  groups->addWidget(makeDelivery(form, faces), 3);
-  auto* rows = new QVBoxLayout(frame);
-  rows->setContentsMargins(insideFrame);
+  const int ilnWidth = frame->fontMetrics().horizontalAdvance('0') * 14;
+  for (const Label* iln :
+       {&form.lblILNSprzedWart, &form.lblILNKupWart, &form.lblILNMiejscaDostValue}) {
+    faces.widget(*iln)->setMinimumWidth(ilnWidth);
+  }
+  auto* whole = new Wrapped;
+  auto* rows = new QVBoxLayout(whole);
+  rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(6);
-  rows->addLayout(groups);
-  rows->addWidget(makeLine(QFrame::HLine));
-  rows->addWidget(makeParties(form, faces));
+  rows->addLayout(makeFlow(24, {{makeDocument(form, faces), 3},
+                                {makeOrder(form, faces), 2},
+                                {makeDelivery(form, faces), 3}}));
+  rows->addWidget(makeLine());
+  rows->addLayout(makeFlow(8, {{makeSellerAndBuyer(form, faces), 2}, {makePlace(form, faces), 3}}));
+  // Where the window is wide enough it has its height from the start, and is painted once.
+  whole->takeHeight(rows->sizeHint().width());
+  auto* inside = new QVBoxLayout(frame);
+  inside->setContentsMargins(insideFrame);
+  inside->addWidget(whole);
   frame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   return frame;
 }

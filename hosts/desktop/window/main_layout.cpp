@@ -1,14 +1,14 @@
 #include "hosts/desktop/window/main_layout.h"
 
-#include <QSplitter>
 #include <QVBoxLayout>
+
+#include "hosts/desktop/layouts/turning_splitter.h"
 
 namespace awizo::desktop {
 
 Status layOutMain(Editor& editor, FormFace& faces, QWidget& lineStrip) {
   AwizoForm& form = editor.form;
-  auto* below = new QSplitter(Qt::Horizontal);
-  below->setObjectName("packagesAndTotals");
+  auto* below = new TurningSplitter("packagesAndTotals");
   below->setChildrenCollapsible(false);
   below->addWidget(makePackages(form, faces));
   below->addWidget(makeTotals(form, faces));

@@ -142,7 +142,8 @@ QWidget* makePackages(AwizoForm& form, FormFace& faces) {
   QTableView* view = faces.table(form.grdOpakowania).view();
   new ColumnFill(*view, GRD_OPAK_DESC);
   view->setAccessibleName(fromText(words::packagesTable));
-  view->setMinimumHeight(view->fontMetrics().height() * 6);
+  view->setMinimumSize(view->fontMetrics().averageCharWidth() * 34,
+                       view->fontMetrics().height() * 6);
   row->addWidget(view);
   row->addLayout(makeRowButtons(faces, packageCommands(form)));
   return frame;
