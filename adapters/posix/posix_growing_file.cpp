@@ -4,7 +4,9 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <chrono>
+#include <thread>
 
 #include "platform/run_time_error.h"
 
@@ -13,13 +15,22 @@ namespace {
 
 constexpr std::chrono::milliseconds longestUnflushed{500};
 
+/// Where the system can't lock, nobody is told that the file is in use, which hurts nobody else.
+void lockForLife(const posix::Descriptor& file) {
+  constexpr int mostTries = 1000;
+  for (int tried = 0; tried < mostTries; ++tried) {
+    if (flock(file.number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) return;
+    // Who looks just now whether the file is in use holds it for a moment.
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+}
+
 }  // namespace
 
 PosixGrowingFile::PosixGrowingFile(const std::string& path)
     : file_(path, O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_NOFOLLOW, S_IRUSR | S_IWUSR),
       flusher_([this] { flushSoon(); }) {
-  // Where the system can't lock, nobody is told that the file is in use, which hurts nobody else.
-  flock(file_.number(), LOCK_EX | LOCK_NB);
+  lockForLife(file_);
 }
 
 PosixGrowingFile::~PosixGrowingFile() {

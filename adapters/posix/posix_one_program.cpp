@@ -42,6 +42,13 @@ bool makeOwnFolder(const std::string& path) {
          status.st_uid == geteuid() && chmod(path.c_str(), S_IRWXU) == 0;
 }
 
+bool isAt(const std::string& path, const posix::Descriptor& file) {
+  struct stat there {};
+  struct stat open {};
+  return lstat(path.c_str(), &there) == 0 && fstat(file.number(), &open) == 0 &&
+         there.st_ino == open.st_ino && there.st_dev == open.st_dev;
+}
+
 }  // namespace
 
 std::string PosixOneProgram::usersOwnFolder() {
@@ -54,22 +61,32 @@ PosixOneProgram::PosixOneProgram(const std::string& folder, std::string_view nam
     : path_(folder + "/" + std::string(name)) {
   if (!makeOwnFolder(folder)) return;
   caughtError([this] {
-    lock_ = std::make_unique<posix::Descriptor>(path_ + ".lock", O_RDWR | O_CREAT | O_NOFOLLOW,
-                                                ownersAlone);
-    claim();
+    lock();
+    if (isFirst_) claim();
   });
 }
 
 PosixOneProgram::~PosixOneProgram() {
-  if (socket_ < 0) return;
-  unlink(path_.c_str());
-  close(socket_);
+  if (socket_ >= 0) {
+    unlink(path_.c_str());
+    close(socket_);
+  }
+  // As long as it is locked, nobody else takes another file of this name for the lock.
+  if (isFirst_ && lock_) unlink(lockPath().c_str());
+}
+
+/// A program that has ended meanwhile takes its file away: then the next one is the lock.
+void PosixOneProgram::lock() {
+  do {
+    lock_ =
+        std::make_unique<posix::Descriptor>(lockPath(), O_RDWR | O_CREAT | O_NOFOLLOW, ownersAlone);
+    isFirst_ = flock(lock_->number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+  } while (isFirst_ && !isAt(lockPath(), *lock_));
 }
 
 void PosixOneProgram::claim() {
-  isFirst_ = flock(lock_->number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
   const auto address = addressOf(path_);
-  if (!isFirst_ || !address) return;
+  if (!address) return;
   // A program that was killed leaves its own.
   unlink(path_.c_str());
   socket_ = newSocket();

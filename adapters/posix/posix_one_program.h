@@ -30,6 +30,8 @@ class PosixOneProgram {
   void takeCalls() const;
 
  private:
+  std::string lockPath() const { return path_ + ".lock"; }
+  void lock();
   void claim();
 
   std::string path_;

@@ -22,8 +22,9 @@ std::optional<int> sizeIn(const std::string& text) {
   const char* const end = text.data() + text.size();
   const auto read = std::from_chars(text.data(), end, size);
   const bool whole = read.ec == std::errc{} && read.ptr == end;
-  if (!whole || size < 0 || size > largestSize) return std::nullopt;
-  return size;
+  if (!whole || size < 0) return std::nullopt;
+  // One that is too large leaves the others of its part as they are.
+  return std::min(size, largestSize);
 }
 
 std::string textOf(const std::vector<int>& sizes) {

@@ -15,6 +15,9 @@
 namespace awizo {
 namespace {
 
+/// Followed by how many amounts the sums beside it don't hold.
+constexpr std::string_view notAdded = "не сложено: ";
+
 /// Amounts by the words of their unit.
 class Contents {
  public:
@@ -22,15 +25,22 @@ class Contents {
     const auto found = std::ranges::find(sums_, unit, &papers::Sums::value_type::first);
     papers::Amount& sum =
         found != sums_.end() ? found->second : sums_.emplace_back(unit, papers::Amount{}).second;
-    sum = papers::sumOf(sum, amount).value_or(sum);
+    const auto whole = papers::sumOf(sum, amount);
+    sum = whole.value_or(sum);
+    if (!whole) ++leftOut_;
   }
   void add(const Contents& inside) {
     for (const auto& [unit, amount] : inside.sums_) add(unit, amount);
+    leftOut_ += inside.leftOut_;
   }
+  void leaveOut() { ++leftOut_; }
+
   const papers::Sums& sums() const { return sums_; }
+  int leftOut() const { return leftOut_; }
 
  private:
   papers::Sums sums_;
+  int leftOut_ = 0;  ///< amounts that no sum holds
 };
 
 class OverviewMaker {
@@ -80,7 +90,11 @@ class OverviewMaker {
     for (std::size_t i = packing_.packages.size(); i-- > 0;) {
       for (const PackedPart& part : packing_.packages[i].lines) {
         const auto amount = papers::amountOf(part.quantity.value_or(""));
-        if (amount) contents_[i].add(papers::unitWords(part.line->unit), *amount);
+        if (amount) {
+          contents_[i].add(papers::unitWords(part.line->unit), *amount);
+        } else {
+          contents_[i].leaveOut();
+        }
       }
       if (around[i] != i) contents_[around[i]].add(contents_[i]);
     }
@@ -89,15 +103,16 @@ class OverviewMaker {
   void addPackage(std::size_t number) {
     const PackedPackage& packed = packing_.packages[number];
     const int package = 1 + static_cast<int>(packed.package - advice_.packages.data());
-    std::string quantity;
+    std::vector<std::string> quantities;
     for (const auto& [unit, amount] : contents_[number].sums()) {
-      if (!quantity.empty()) quantity += " · ";
-      quantity += amountWords(papers::amountText(amount), unit);
+      quantities.push_back(amountWords(papers::amountText(amount), unit));
     }
+    const int leftOut = contents_[number].leftOut();
+    if (leftOut > 0) quantities.push_back(joined({notAdded, std::to_string(leftOut)}));
     const std::string& serial = packed.package->id;
     overview_.places.push_back({packed.level, package, 0, serial,
                                 editor_.form.grdOpakowania.cell(package, GRD_OPAK_DESC),
-                                std::move(quantity)});
+                                join(quantities, " · ")});
     for (const PackedPart& part : packed.lines) {
       const int line = 1 + static_cast<int>(part.line - advice_.lines.data());
       overview_.places.push_back({packed.level + 1, package, line, serial,

@@ -23,7 +23,8 @@ struct PackingPlace {
   int line = 0;        ///< row of grdPozycje; 0 for a package
   std::string serial;  ///< of the package
   std::string name;
-  /// Of a package all that is in it and in those inside: "12 шт. · 4,5 кг".
+  /// Of a package all that is in it and in those inside: "12 шт. · 4,5 кг"; what can't be added is
+  /// counted after it: "12 шт. · не сложено: 1".
   std::string quantity;
 };
 

@@ -1,10 +1,15 @@
 #include <gtest/gtest.h>
 #include <poll.h>
+#include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
+#include <chrono>
 #include <filesystem>
 #include <optional>
+#include <thread>
+#include <vector>
 
 #include "adapters/posix/posix_one_program.h"
 #include "support/files/files.h"
@@ -52,6 +57,47 @@ TEST_F(OneProgramTest, FreesItsNameWithItsEnd) {
   const PosixOneProgram next(folder, "a");
   EXPECT_TRUE(next.isFirst());
   EXPECT_NE(next.calls(), -1);
+}
+
+TEST_F(OneProgramTest, LeavesNothingBehind) {
+  {
+    const PosixOneProgram first(folder, "a");
+    const PosixOneProgram second(folder, "a");
+    EXPECT_FALSE(fs::is_empty(folder));
+  }
+  EXPECT_TRUE(fs::is_empty(folder));
+}
+
+/// Begins and ends programs of one name; answers whether it ever had the name beside another.
+bool sharesTheName(const std::string& folder, std::atomic<int>& holders) {
+  bool shared = false;
+  for (int round = 0; round < 2000; ++round) {
+    const PosixOneProgram program(folder, "a");
+    if (!program.isFirst()) continue;
+    const bool isAlone = holders.fetch_add(1) == 0;
+    std::this_thread::sleep_for(std::chrono::microseconds(20));
+    shared = shared || !isAlone;
+    holders.fetch_sub(1);
+  }
+  return shared;
+}
+
+TEST_F(OneProgramTest, IsTheOnlyOneHoweverManyComeAndGo) {
+  void* memory = mmap(nullptr, sizeof(std::atomic<int>), PROT_READ | PROT_WRITE,
+                      MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+  ASSERT_NE(memory, MAP_FAILED);
+  auto& holders = *new (memory) std::atomic<int>(0);
+  std::vector<pid_t> children;
+  for (int child = 0; child < 8; ++child) {
+    children.push_back(fork());
+    if (children.back() == 0) _exit(sharesTheName(folder, holders) ? 1 : 0);
+  }
+  for (const pid_t child : children) {
+    int status = -1;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+  }
+  munmap(memory, sizeof(std::atomic<int>));
 }
 
 TEST_F(OneProgramTest, ThatHasDiedStopsNobody) {

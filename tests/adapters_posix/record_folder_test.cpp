@@ -1,4 +1,6 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -8,6 +10,7 @@
 #include <sstream>
 #include <thread>
 
+#include "adapters/posix/descriptor.h"
 #include "adapters/posix/posix_growing_file.h"
 #include "adapters/posix/posix_record_folder.h"
 #include "support/error_of.h"
@@ -208,6 +211,27 @@ TEST_F(TextsBesideRecords, AreWholeWhereverTheProgramIsKilled) {
 TEST_F(RecordFolderTest, ThatCantBeMadeIsAnError) {
   test::writeFile(home.path() / "data", "a file");
   EXPECT_NE(errorNumberOf([&] { folder.create(); }), 0);
+}
+
+/// Holds the file for a moment as soon as it is there.
+void lookAt(const std::string& path) {
+  int file = -1;
+  while (file < 0) file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  flock(file, LOCK_SH | LOCK_NB);
+  std::this_thread::sleep_for(std::chrono::milliseconds(2));
+  close(file);
+}
+
+TEST(GrowingFile, IsInUseEvenIfSomebodyLooksJustWhenItComes) {
+  const test::TemporaryFolder home;
+  for (int round = 0; round < 50; ++round) {
+    const std::string path = (home.path() / std::to_string(round)).string();
+    std::thread looker(lookAt, path);
+    const PosixGrowingFile file(path);
+    looker.join();
+    const posix::Descriptor other(path, O_RDONLY);
+    ASSERT_NE(flock(other.number(), LOCK_SH | LOCK_NB), 0) << round;
+  }
 }
 
 TEST(GrowingFile, ThatIsThereAlreadyIsAnError) {

@@ -28,10 +28,16 @@ TEST_F(KeptSizesTest, AreThoseOfTheLastTime) {
 TEST_F(KeptSizesTest, OfAnotherProgramOrOfNoUseAreNone) {
   kept.keep("window", {1024, 700, 1});
   EXPECT_THAT(kept.of("window", 2), IsEmpty());
-  for (const char* text : {"0 0", "-1 700", "1024 20001", "1024 wide", "1024 700x", "1024  700"}) {
+  for (const char* text :
+       {"0 0", "-1 700", "1024 99999999999", "1024 wide", "1024 700x", "1024  700"}) {
     settings.values["Awizo\\Sizes\\window"] = text;
     EXPECT_THAT(kept.of("window", 2), IsEmpty()) << text;
   }
+}
+
+TEST_F(KeptSizesTest, ThatAreTooLargeLeaveTheOthersAsTheyAre) {
+  kept.keep("columns", {0, 2400, 20001, 1200});
+  EXPECT_THAT(kept.of("columns"), ElementsAre(0, 2400, 20000, 1200));
 }
 
 TEST_F(KeptSizesTest, ThatCannotBeWrittenDisturbNobody) {

@@ -53,6 +53,17 @@ TEST_F(PackingOverviewTest, ShowsPackagesAsATreeWithWhatIsInThemAndInThoseInside
                                     "3 2 Рис: 2,5 кг", "2 П4: 1 шт.", "3 1 Чай: 1 шт.", "1 П3: "));
 }
 
+TEST_F(PackingOverviewTest, CountsWhatNoSumHolds) {
+  putPackages(test.editor, 2, [](int row) { return row == 2 ? 1 : 0; });
+  putLines(test.editor, 3);
+  putLine(1, "Чай", "8,250", "8,250", "3@П2@2@много");
+  putLine(2, "Рис", "2,500", "2,500", "2@П1@1@2,500", "KGM");
+  putLine(3, "Соль", "2,500", "2,500", "2@П1@1@-1", "KGM");
+  EXPECT_THAT(places(),
+              ElementsAre("1 П1: 2,5 кг · не сложено: 2", "2 2 Рис: 2,5 кг", "2 3 Соль: -1 кг",
+                          "2 П2: не сложено: 1", "3 1 Чай: много шт."));
+}
+
 TEST_F(PackingOverviewTest, TellsOfEachLineHowMuchOfItIsPacked) {
   putLines(test.editor, 4);
   putLine(1, "Чай", "8,250", "8,250", "2@П1@1@8,250");

@@ -290,5 +290,24 @@ TEST_F(MainLayoutTest, ColumnsComeBackAsWideAsTheirUserMadeThem) {
   EXPECT_NEAR(lines()->columnWidth(GRD_POZ_EAN), wideEan, 1);
 }
 
+TEST_F(MainLayoutTest, ASplitterThatIsDraggedGivesNoColumnAWidth) {
+  open(offLineOptions());
+  window().resize(1024, 700);
+  letLayoutsSettle();
+  const auto* splitter = window().findChild<QSplitter*>("packagesAndTotals");
+  QWidget* handle = splitter->handle(1);
+  const auto& packages = widget().faces().table(form().grdOpakowania);
+  const int before = packages.view()->width();
+  QWindow* inWindow = window().windowHandle();
+  const QPoint from = handle->mapTo(&window(), handle->rect().center());
+  QTest::mousePress(inWindow, Qt::LeftButton, Qt::NoModifier, from);
+  QTest::mouseMove(inWindow, from - QPoint(60, 0));
+  letLayoutsSettle();
+  QTest::mouseRelease(inWindow, Qt::LeftButton, Qt::NoModifier, from - QPoint(60, 0));
+  letLayoutsSettle();
+  EXPECT_LT(packages.view()->width(), before);
+  EXPECT_TRUE(packages.givenWidths().empty());
+}
+
 }  // namespace
 }  // namespace awizo::test

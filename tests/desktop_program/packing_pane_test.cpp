@@ -10,6 +10,7 @@
 #include "hosts/desktop/faces/table_face.h"
 #include "hosts/desktop/layouts/wrapping.h"
 #include "support/documents.h"
+#include "tables/clear_tables.h"
 #include "tables/columns/columns.h"
 
 namespace awizo::test {
@@ -31,18 +32,6 @@ class PackingPaneTest : public ProgramTest {
       package.btnDodaj.userClick();
     });
     form().btnDodajOpak.userClick();
-  }
-  void addLine(const std::string& name, const std::string& despatched) {
-    answerWithEnter([&] {
-      then([=, this] {
-        DlgDodaj& line = control().dlgDodaj;
-        line.txtlEANProdWart.userType("4607000000116");
-        line.txtNazwaProdWart.userType(name);
-        line.txtIloscPotw.userType(despatched);
-        line.btnDodaj.userClick();
-      });
-      form().btnDodaj.userClick();
-    });
   }
   void openDocument() {
     open(offLineOptions());
@@ -231,6 +220,40 @@ TEST_F(PackingPaneTest, TheFilterLeavesWhatIsNotPacked) {
   EXPECT_THAT(shownLines(), ElementsAre("Соль|0 из 0,5"));
 }
 
+TEST_F(PackingPaneTest, TheFilterMarksNoLineInPlaceOfThoseThatWent) {
+  openDocument();
+  pane().onlyRest()->click();
+  press(Qt::Key_F6);
+  settle();
+  press(Qt::Key_Insert);
+  settle();
+  EXPECT_THAT(shownLines(), ElementsAre("Рис|0 из 5", "Соль|0 из 0,5"));
+  EXPECT_FALSE(pane().lines()->selectionModel()->hasSelection());
+  EXPECT_FALSE(pane().packButton()->isEnabled());
+  press(Qt::Key_Insert);
+  settle();
+  EXPECT_EQ(packed(2), "0,000") << "nobody has marked it";
+  press(Qt::Key_Down);
+  press(Qt::Key_Insert);
+  settle();
+  EXPECT_THAT(shownLines(), ElementsAre("Соль|0 из 0,5"));
+}
+
+TEST_F(PackingPaneTest, MarksGoWithTheDocumentTheyWereMadeIn) {
+  openDocument();
+  press(Qt::Key_F6);
+  settle();
+  press(Qt::Key_Down, Qt::ShiftModifier);
+  ASSERT_EQ(pane().lines()->selectionModel()->selectedRows().size(), 2);
+  ClearGrdPozycje(control().editor);
+  for (const char* name : {"Кофе", "Какао", "Сахар"}) addLine(name, "5");
+  settle();
+  ASSERT_EQ(shownLines().size(), 3U);
+  const QModelIndexList marked = pane().lines()->selectionModel()->selectedRows();
+  ASSERT_EQ(marked.size(), 1);
+  EXPECT_EQ(marked.front().row(), 0);
+}
+
 TEST_F(PackingPaneTest, EnterLeadsToTheRowInTheTable) {
   openDocument();
   press(Qt::Key_F6);
@@ -256,6 +279,22 @@ TEST_F(PackingPaneTest, AClosedPackageStaysClosedAfterAChange) {
   press(Qt::Key_Home);
   press(Qt::Key_Left);
   EXPECT_THAT(shownPlaces(), ElementsAre("Паллета 1|"));
+  addBox("Короб 3");
+  settle();
+  EXPECT_THAT(shownPlaces(), ElementsAre("Паллета 1|", "Короб 3|"));
+}
+
+TEST_F(PackingPaneTest, APackageClosedAroundTheCurrentOneStaysClosed) {
+  openDocument();
+  press(Qt::Key_F6);
+  settle();
+  pane().packages()->setFocus();
+  press(Qt::Key_Home);
+  press(Qt::Key_Down);
+  // As by the mouse on its arrow, which leaves the current one where it is.
+  const QModelIndex pallet = pane().packages()->model()->index(0, 0);
+  pane().packages()->collapse(pallet);
+  EXPECT_EQ(pane().packages()->currentIndex(), pallet) << "nobody stands where nothing is seen";
   addBox("Короб 3");
   settle();
   EXPECT_THAT(shownPlaces(), ElementsAre("Паллета 1|", "Короб 3|"));

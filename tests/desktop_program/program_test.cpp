@@ -92,6 +92,19 @@ std::vector<std::string> ProgramTest::answerWithEnter(const std::function<void()
   return boxes;
 }
 
+void ProgramTest::addLine(const std::string& name, const std::string& despatched) {
+  answerWithEnter([&] {
+    then([=, this] {
+      DlgDodaj& line = control().dlgDodaj;
+      line.txtlEANProdWart.userType("4607000000116");
+      line.txtNazwaProdWart.userType(name);
+      line.txtIloscPotw.userType(despatched);
+      line.btnDodaj.userClick();
+    });
+    form().btnDodaj.userClick();
+  });
+}
+
 void ProgramTest::tabTo(const Control& control) {
   const std::size_t most = control.form().controls().size();
   for (std::size_t step = 0; step <= most && control.form().focus() != &control; ++step) {

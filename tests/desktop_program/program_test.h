@@ -52,6 +52,9 @@ class ProgramTest : public testing::Test {
   /// Answers every box that comes while the act runs with the Enter key; returns what was seen.
   static std::vector<std::string> answerWithEnter(const std::function<void()>& act);
 
+  /// A line that is entered in its dialog, whose boxes are answered with Enter.
+  void addLine(const std::string& name, const std::string& despatched);
+
   /// A layout that moves another asks for one more turn of the event loop.
   static void letLayoutsSettle() {
     for (int turn = 0; turn < 5; ++turn) settle();

@@ -28,18 +28,6 @@ class ScannerTest : public ProgramTest {
     });
     form().btnDodajOpak.userClick();
   }
-  void addLine(const std::string& despatched) {
-    answerWithEnter([&] {
-      then([=, this] {
-        DlgDodaj& line = control().dlgDodaj;
-        line.txtlEANProdWart.userType("4607000000116");
-        line.txtNazwaProdWart.userType("Чай");
-        line.txtIloscPotw.userType(despatched);
-        line.btnDodaj.userClick();
-      });
-      form().btnDodaj.userClick();
-    });
-  }
   void scan(const QString& code) {
     tabTo(form().grdPozycje);
     type(code);
@@ -104,7 +92,7 @@ TEST_F(ScannerTest, AnEanComesWithoutThemTooAndANameKeepsItsBrackets) {
 TEST_F(ScannerTest, AScannedEanPutsAUnitInOnlyWhileTheSwitchIsOn) {
   open(offLineOptions());
   addBox();
-  addLine("2");
+  addLine("Чай", "2");
   scan("4607000000116");
   EXPECT_EQ(packed(1), "0,000");
   QAction* packs = entry("Сканер кладё&т в упаковку");

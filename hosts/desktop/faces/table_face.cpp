@@ -29,6 +29,7 @@ TableFace::TableFace(FormFace& form, Table& table, QWidget* parent)
   view_->currentRow = [this] { return markedRow(); };
   setUpView();
   watch(view_->viewport());
+  view_->horizontalHeader()->viewport()->installEventFilter(this);
   connect(view_->verticalScrollBar(), &QScrollBar::valueChanged, this, &TableFace::takeScroll);
   connect(view_->horizontalScrollBar(), &QScrollBar::valueChanged, this, &TableFace::placeEditor);
   connect(view_->horizontalHeader(), &QHeaderView::sectionResized, this,
@@ -169,9 +170,9 @@ void TableFace::showWidths() {
   }
 }
 
-/// Only the user resizes with the mouse held down.
+/// Only the user resizes with the mouse held down on the headings.
 void TableFace::takeWidth(int column, int width) {
-  if (QApplication::mouseButtons() == Qt::NoButton) return;
+  if (!headingIsHeld_) return;
   givenWidths_[column] = std::max(1, qRound(width / pointsPerTwip()));
 }
 
@@ -372,7 +373,17 @@ void TableFace::releaseMouse(const QMouseEvent& mouse) {
   });
 }
 
+void TableFace::watchHeading(const QEvent& event) {
+  const bool goesDown =
+      event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
+  if (goesDown || event.type() == QEvent::MouseButtonRelease) headingIsHeld_ = goesDown;
+}
+
 bool TableFace::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == view_->horizontalHeader()->viewport()) {
+    watchHeading(*event);
+    return false;
+  }
   const bool onCells = watched == view_->viewport();
   switch (event->type()) {
     case QEvent::MouseButtonRelease:

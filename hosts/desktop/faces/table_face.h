@@ -65,6 +65,7 @@ class TableFace : public Face {
   void showWidths();
   void relayColumn(int column);
   void takeWidth(int column, int width);
+  void watchHeading(const QEvent& event);
   void showHeights();
   int markedRow() const;
   bool pressCommonKey(const QKeyEvent& key);
@@ -85,6 +86,7 @@ class TableFace : public Face {
   QPointer<Face> editor_;
   std::vector<int> shownWidths_;    ///< twips, as the columns were last laid out
   std::map<int, int> givenWidths_;  ///< twips, by the column
+  bool headingIsHeld_ = false;      ///< the mouse button is down on it
   Cell pressed_;                    ///< where the mouse button went down and is still held
   std::optional<ListMoves> listMoves_;
   bool stale_ = true;

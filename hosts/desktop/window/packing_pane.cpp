@@ -122,7 +122,9 @@ void PackingPane::connectViews() {
             [this] { showStates(); });
   }
   connect(packages_, &QTreeView::collapsed, this, [this](const QModelIndex& index) {
-    if (!isShowing_) closed_.insert(packagesModel_->place(index).serial);
+    if (isShowing_) return;
+    closed_.insert(packagesModel_->place(index).serial);
+    packages_->setCurrentIndex(seen(packages_->currentIndex()));
   });
   connect(packages_, &QTreeView::expanded, this, [this](const QModelIndex& index) {
     if (!isShowing_) closed_.erase(packagesModel_->place(index).serial);
@@ -157,6 +159,7 @@ void PackingPane::showEvent(QShowEvent* event) {
 void PackingPane::follow(const Change& change) {
   if (!changesDocument(change)) return;
   stale_ = true;
+  linesWent_ = linesWent_ || editor_.session.LineCount == 0;
   refreshLater();
 }
 
@@ -178,7 +181,8 @@ void PackingPane::refresh() {
   stale_ = false;
   PackingOverview overview = packingOverview(editor_);
   // Other lines than those that were marked may be in their rows.
-  if (overview.lines.size() != overview_.lines.size()) lines_->clearSelection();
+  if (linesWent_ || overview.lines.size() != overview_.lines.size()) linesModel_->show({});
+  linesWent_ = false;
   overview_ = std::move(overview);
   summary_->setText(fromText(overview_.summary));
   showLines();
@@ -186,6 +190,7 @@ void PackingPane::refresh() {
 }
 
 void PackingPane::showLines() {
+  const bool isFirst = linesModel_->rowCount() == 0;
   const std::vector<int> marked = markedLines();
   const int current = lines_->currentIndex().row();
   const int top = lines_->verticalScrollBar()->value();
@@ -198,8 +203,9 @@ void PackingPane::showLines() {
   const int last = std::max(linesModel_->rowCount() - 1, 0);
   const QModelIndex there = linesModel_->index(std::clamp(current, 0, last), 0);
   lines_->selectionModel()->setCurrentIndex(there, QItemSelectionModel::NoUpdate);
-  // The current line is marked at least, as in the tables.
-  if (selection.isEmpty() && there.isValid()) selection.select(there, there);
+  // The first line is marked at least, as in the tables; but where the marked ones have gone,
+  // nobody has marked the one that is in their place.
+  if (isFirst && selection.isEmpty() && there.isValid()) selection.select(there, there);
   lines_->selectionModel()->select(selection,
                                    QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
   lines_->verticalScrollBar()->setValue(top);
@@ -231,10 +237,19 @@ void PackingPane::showPackages() {
                           ? QModelIndex()
                           : packagesModel_->indexOfPackage(same->package);
   if (!index.isValid()) index = packagesModel_->index(0, 0);
-  packages_->setCurrentIndex(index);
+  packages_->setCurrentIndex(seen(index));
   packages_->verticalScrollBar()->setValue(top);
   packages_->resizeColumnToContents(PackingPlacesModel::quantity);
   showStates();
+}
+
+/// The place itself, or the outermost closed package that hides it.
+QModelIndex PackingPane::seen(const QModelIndex& place) const {
+  QModelIndex found = place;
+  for (QModelIndex around = place.parent(); around.isValid(); around = around.parent()) {
+    if (!packages_->isExpanded(around)) found = around;
+  }
+  return found;
 }
 
 void PackingPane::showStates() {
@@ -247,6 +262,11 @@ bool PackingPane::eventFilter(QObject* watched, QEvent* event) {
   const auto& key = static_cast<QKeyEvent&>(*event);
   const bool isPlain = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
   switch (isPlain ? key.key() : 0) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+      return watched == lines_ && markCurrentLine(key.key());
     case Qt::Key_Return:
     case Qt::Key_Enter:
       watched == lines_ ? goToLine() : goToPlace();
@@ -261,6 +281,16 @@ bool PackingPane::eventFilter(QObject* watched, QEvent* event) {
     default:
       return QWidget::eventFilter(watched, event);
   }
+}
+
+/// Marks the line where the user is and nothing is marked. Returns whether that was all that the
+/// key does.
+bool PackingPane::markCurrentLine(int key) {
+  QItemSelectionModel* selection = lines_->selectionModel();
+  if (selection->hasSelection()) return false;
+  selection->select(lines_->currentIndex(),
+                    QItemSelectionModel::Select | QItemSelectionModel::Rows);
+  return key == Qt::Key_Up || key == Qt::Key_Down;
 }
 
 void PackingPane::focusDocument() {

@@ -55,6 +55,8 @@ class PackingPane : public QWidget {
   void refresh();
   void showLines();
   void showPackages();
+  QModelIndex seen(const QModelIndex& place) const;
+  bool markCurrentLine(int key);
   void focusDocument();
   void goTo(Table& table, int row);
   void goToLine();
@@ -80,6 +82,7 @@ class PackingPane : public QWidget {
   std::set<std::string> closed_;       ///< serials of the packages that the user has closed
   std::array<int, 3> observations_{};  ///< of lines, packages and waiting
   bool stale_ = true;
+  bool linesWent_ = false;  ///< all of them, since the last showing
   bool due_ = false;
   bool isShowing_ = false;
 };
