@@ -1,7 +1,7 @@
 """The checks by name, the quick ones first. A check takes the project and returns a list of problems."""
 
-from checks import (comments, compiled, documents, formatting, includes, levels, lockfiles, portable,
-                    scripts, tidy, words)
+from checks import (comments, compiled, documents, formatting, includes, levels, lockfiles, pages,
+                    portable, scripts, tidy, words)
 
 CHECKS = {
     "levels": levels.check_levels,
@@ -16,5 +16,6 @@ CHECKS = {
     "scripts": scripts.check,
     "formatting": formatting.check,
     "warnings": compiled.check,
+    "pages": pages.check,
     "clang-tidy": tidy.check,
 }

@@ -11,7 +11,7 @@ import tempfile
 
 from checks import CHECKS
 
-SLOW = {"formatting", "warnings", "clang-tidy"}
+SLOW = {"formatting", "warnings", "pages", "clang-tidy"}
 QUICK = [name for name in CHECKS if name not in SLOW]
 
 
@@ -115,6 +115,9 @@ BREACHES = [
      append("src/tables/planted.h", '#pragma once\n#pragma GCC diagnostic ignored "-Wshadow"\n')),
     ("warnings", "a source that no target compiles",
      append("demo/planted/planted.cpp", "int planted() { return 1; }\n")),
+    ("pages", "a count is taken for one of 64 bits",
+     append("src/tables/planted.cpp", "#include <cstddef>\n#include <cstdint>\n\nnamespace awizo {\n"
+            "std::size_t planted(std::uint64_t count) { return count; }\n}  // namespace awizo\n")),
     ("clang-tidy", "a global that can change",
      append("src/tables/planted.cpp", "namespace awizo {\nint planted = 1;\n}  // namespace awizo\n")),
     ("clang-tidy", "a text is copied for nothing",
