@@ -6,7 +6,10 @@ function(awizo_wasm_program name library)
   target_link_libraries(${name}-wasm PRIVATE
     "-Wl,--whole-archive" ${library} "-Wl,--no-whole-archive"
     "${libraries}/lib/unwind.o" "${libraries}/lib/stack_guard.o" -lc++ -lc++abi)
+  # The whole is optimised when it is linked, where the compiler's own option for exceptions counts no more:
+  # without these two nothing would ever be caught.
   target_link_options(${name}-wasm PRIVATE
+    "-Wl,-mllvm,-wasm-enable-eh,-mllvm,-exception-model=wasm"
     -mexec-model=reactor -nostdlib++ "-L${libraries}/lib" -fwasm-exceptions
     "-Wl,--export=malloc,--export=free,-z,stack-size=4194304,--strip-all")
   set_target_properties(${name}-wasm PROPERTIES

@@ -1,11 +1,11 @@
 #include "hosts/headless/check_program.h"
 
-#include <ostream>
 #include <stdexcept>
 
 #include "formats/upper/checking/document_check.h"
 #include "formats/upper/checking/scratch_editor.h"
 #include "hosts/headless/quiet_surroundings.h"
+#include "platform/text.h"
 #include "session/record/off_line_path.h"
 
 namespace awizo::headless {
@@ -35,14 +35,12 @@ std::string lineText(std::int64_t line) {
 
 }  // namespace
 
-int runCheck(const Options& options, Machine& machine, std::ostream& out) {
+int runCheck(const Options& options, Machine& machine, Lines& lines) {
   const std::vector<Finding> findings = check(options, machine);
   for (const Finding& finding : findings) {
-    out << lineText(finding.line) << ": ";
-    if (!finding.element.empty()) out << finding.element << ": ";
-    out << finding.text << '\n';
+    const std::string_view colon = finding.element.empty() ? "" : ": ";
+    lines.writeText(joined({lineText(finding.line), ": ", finding.element, colon, finding.text}));
   }
-  out.flush();
   return findings.empty() ? exitNothingFound : exitFound;
 }
 

@@ -1,12 +1,12 @@
 #include "hosts/headless/command_line.h"
 
 #include <exception>
-#include <iostream>
 #include <string_view>
 
 #include "hosts/common/program/about.h"
 #include "hosts/headless/check_program.h"
 #include "hosts/headless/headless_program.h"
+#include "platform/text.h"
 
 namespace awizo::headless {
 
@@ -20,23 +20,24 @@ constexpr std::string_view usage =
     "       awizo-headless --check FILE [option]...\n"
     "       awizo-headless --help | --version\n";
 
+/// A line is written with its end.
+std::string_view withoutEnd(std::string_view text) { return text.substr(0, text.size() - 1); }
+
 }  // namespace
 
-int runCommandLine(const std::vector<std::string>& arguments, Machine& machine, std::istream& in,
-                   std::ostream& out) {
+int runCommandLine(const std::vector<std::string>& arguments, Machine& machine, Lines& lines) {
   if (const std::string about = aboutProgram("awizo-headless", usage, arguments); !about.empty()) {
-    out << about;
-    out.flush();
+    lines.writeText(withoutEnd(about));
     return exitDone;
   }
   try {
     const Options options = parseOptions(arguments);
-    if (options.checkedFile) return runCheck(options, machine, out);
-    return runHeadless(options, machine, in, out);
+    if (options.checkedFile) return runCheck(options, machine, lines);
+    return runHeadless(options, machine, lines);
   } catch (const BadArguments& error) {
-    std::cerr << "awizo-headless: " << error.what() << '\n' << usage;
+    complain(joined({error.what(), "\n", withoutEnd(usage)}));
   } catch (const std::exception& error) {
-    std::cerr << "awizo-headless: " << error.what() << '\n';
+    complain(error.what());
   }
   return exitBadArguments;
 }

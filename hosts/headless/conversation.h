@@ -2,13 +2,12 @@
 
 #include <deque>
 #include <functional>
-#include <iosfwd>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "desk/question.h"
-#include "hosts/headless/line_stream.h"
+#include "hosts/headless/lines.h"
 #include "hosts/protocol/answers.h"
 #include "hosts/protocol/values/json.h"
 #include "platform/forms/screen_face.h"
@@ -26,7 +25,8 @@ struct ProgramEnded {};
 /// also the screen: a box or a modal form reads further lines until it is answered or has hidden.
 class Conversation : public ScreenFace {
  public:
-  Conversation(std::istream& in, std::ostream& out) : lines_(in, out) {}
+  /// The lines outlive it.
+  explicit Conversation(Lines& lines) : lines_(lines) {}
 
   /// Does what a line asks that is no answer to a box. What it returns is part of the closing line
   /// ("value", "args"). Throws protocol::BadLine, Refused or RunTimeError; nothing has changed then
@@ -87,7 +87,7 @@ class Conversation : public ScreenFace {
   std::string nextLine();
   void serve(const std::string& text);
 
-  LineStream lines_;
+  Lines& lines_;
   std::deque<std::string> early_;  ///< lines that came before a question was answered
   bool givenUp_ = false;
 };

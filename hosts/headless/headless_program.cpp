@@ -1,6 +1,5 @@
 #include "hosts/headless/headless_program.h"
 
-#include <iostream>
 #include <memory>
 #include <utility>
 
@@ -202,8 +201,8 @@ void Program::tell(const std::string& words) {
 }
 
 void Program::tellOfTrouble(const RunTimeError& error) {
-  std::cerr << "awizo-headless: the record can't be written any more: " << error.description()
-            << ". The work goes on without it.\n";
+  complain(joined({"the record can't be written any more: ", error.description(),
+                   ". The work goes on without it."}));
   if (record_ == nullptr) tell(joined({words::notRecorded, diskRefusal(error)}));
 }
 
@@ -224,16 +223,16 @@ void Program::run() {
 
 }  // namespace
 
-int runHeadless(const Options& options, Machine& machine, std::istream& in, std::ostream& out) {
-  Conversation conversation(in, out);
+int runHeadless(const Options& options, Machine& machine, Lines& lines) {
+  Conversation conversation(lines);
   if (machine.seesWaitingLines()) {
     conversation.lineWaits = [&machine] { return machine.lineWaits(); };
   }
   try {
     Program(beginningOf(options, machine, conversation), machine, conversation).run();
   } catch (const journal::ReplayDiffers& differs) {
-    std::cerr << "awizo-headless: the replay differs at act " << differs.deed << ": "
-              << differs.what << '\n';
+    complain(
+        joined({"the replay differs at act ", std::to_string(differs.deed), ": ", differs.what}));
     return exitReplayDiffers;
   } catch (const InputEnded&) {
     return exitInputEndedEarly;

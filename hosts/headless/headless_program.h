@@ -1,8 +1,7 @@
 #pragma once
 
-#include <iosfwd>
-
 #include "hosts/common/options.h"
+#include "hosts/headless/lines.h"
 #include "hosts/headless/machine.h"
 
 namespace awizo::headless {
@@ -14,8 +13,8 @@ inline constexpr int exitBadArguments = 2;
 inline constexpr int exitReplayDiffers = 4;
 inline constexpr int exitInputEndedEarly = 3;  ///< under an open box or modal form
 
-/// Creates the control, serves the lines of `in` and takes the control down at their end. Returns
+/// Creates the control, serves the lines and takes the control down at their end. Returns
 /// the exit status. Throws RunTimeError where the settings asked for can't be kept.
-int runHeadless(const Options& options, Machine& machine, std::istream& in, std::ostream& out);
+int runHeadless(const Options& options, Machine& machine, Lines& lines);
 
 }  // namespace awizo::headless

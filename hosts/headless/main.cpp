@@ -9,6 +9,7 @@
 #include "adapters/posix/posix_files.h"
 #include "hosts/headless/command_line.h"
 #include "hosts/headless/native/native_machine.h"
+#include "hosts/headless/native/stream_lines.h"
 
 int main(int argumentCount, char** arguments) {
   // Who no longer reads what is said must not end the program half-way.
@@ -18,6 +19,7 @@ int main(int argumentCount, char** arguments) {
   awizo::CurlHttp http;
   awizo::PosixFiles files;
   awizo::headless::NativeMachine machine(http, files);
+  awizo::headless::StreamLines lines(std::cin, std::cout);
   return awizo::headless::runCommandLine({arguments + 1, arguments + argumentCount}, machine,
-                                         std::cin, std::cout);
+                                         lines);
 }

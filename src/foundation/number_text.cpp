@@ -252,20 +252,8 @@ std::string fixedText(const DecimalNumber& number, int decimals, std::string_vie
 
 std::string floatingText(double value, std::string_view separator) {
   if (value == 0) return "0";
-  // Sign, digit, point, 14 digits, "e", sign and up to three digits of the exponent.
-  std::array<char, 32> buffer{};
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value),
-                                 std::chars_format::scientific, significantDigits - 1)
-                       .ptr;
-  const std::string_view scientific(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
-  const std::size_t mark = scientific.find('e');
-  std::string digits(scientific.substr(0, mark));
-  digits.erase(1, 1);
+  auto [digits, exponent] = leadingDigits(std::abs(value), significantDigits);
   digits.erase(digits.find_last_not_of('0') + 1);
-  const std::size_t size = mark + (scientific[mark + 1] == '+' ? 2 : 1);
-  int exponent = 0;
-  std::from_chars(scientific.data() + size, end, exponent);
-
   const int decimals = std::max(static_cast<int>(digits.size()) - 1 - exponent, 0);
   const std::string sign(value < 0 ? "-" : "");
   if (exponent >= significantDigits || decimals > significantDigits) {

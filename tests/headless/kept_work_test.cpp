@@ -6,6 +6,7 @@
 
 #include <sstream>
 
+#include "hosts/headless/native/stream_lines.h"
 #include "journal/record_file.h"
 #include "journal/unfinished_work.h"
 #include "platform/run_time_error.h"
@@ -64,7 +65,8 @@ struct RecordsAlone : Machine {
 struct KeptWorkTest : testing::Test {
   Beginning beginning(const std::string& lines) {
     std::istringstream in(lines);
-    Conversation conversation(in, out);
+    StreamLines streams(in, out);
+    Conversation conversation(streams);
     Options options;
     options.properties["PartnerILN"] = "today's";
     return beginningOf(options, machine, conversation);

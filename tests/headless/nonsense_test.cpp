@@ -84,7 +84,7 @@ TEST(Line, OfSomeMegabytesWorks) {
 
 TEST(Line, OverTheLimitIsRefusedAndTheNextOneWorks) {
   SampleConversation talk;
-  const std::string text(LineStream::longestLine, 'x');
+  const std::string text(Lines::longestLine, 'x');
   const std::vector<Json> lines =
       talk.playText(R"({"do":"type","on":"list","text":")" + text + "\"}\n{\"get\":\"focus\"}\n");
   ASSERT_EQ(lines.size(), 2U);

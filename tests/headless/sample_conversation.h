@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "hosts/headless/conversation.h"
+#include "hosts/headless/native/stream_lines.h"
 #include "protocol/sample_forms.h"
 
 namespace awizo::headless::test {
@@ -49,7 +50,8 @@ class SampleConversation {
   bool showFirst = true;
   std::istringstream in;
   std::ostringstream out;
-  Conversation conversation{in, out};
+  StreamLines streams{in, out};
+  Conversation conversation{streams};
   protocol::test::SampleForms sample{conversation};
   protocol::test::SampleForm& form = sample.form;
   protocol::test::SampleDialog& dialog = sample.dialog;

@@ -10,6 +10,7 @@
 #include "adapters/posix/posix_files.h"
 #include "hosts/headless/headless_program.h"
 #include "hosts/headless/native/native_machine.h"
+#include "hosts/headless/native/stream_lines.h"
 #include "packagedialog/serial_number.h"
 #include "support/files/files.h"
 
@@ -115,7 +116,8 @@ void PreparedEditor::run(const std::function<void()>& then) const {
   CurlHttp http;
   PosixFiles files;
   headless::NativeMachine machine(http, files);
-  headless::runHeadless(options, machine, in, out);
+  headless::StreamLines talk(in, out);
+  headless::runHeadless(options, machine, talk);
 }
 
 }  // namespace awizo::test
