@@ -11,22 +11,20 @@ namespace awizo {
 namespace {
 
 constexpr double inch = 25.4;
-/// Pages are laid out, and files written, in pixels of this size.
+/// Files are written in pixels of this size.
 constexpr int dotsPerInch = 1200;
-constexpr double pixelsPerMillimetre = dotsPerInch / inch;
-/// Without hinting a text's width grows with its size.
-constexpr int measuringSize = 500;
+/// Texts are measured and painted in this size, and scaled: fonts have whole sizes only. Without
+/// hinting a text's width grows with its size.
+constexpr int fontPixels = 500;
 
-int pixelSize(const papers::Font& font) {
-  return std::max(1, static_cast<int>(std::lround(font.size * pixelsPerMillimetre)));
-}
-
-QFont fontOf(int pixels, bool bold) {
+QFont fontOf(bool bold) {
   QFont font("DejaVu Sans");
   font.setStyleHint(QFont::SansSerif);
   font.setHintingPreference(QFont::PreferNoHinting);
-  font.setPixelSize(pixels);
+  font.setPixelSize(fontPixels);
   font.setBold(bold);
+  // A text is as wide as its characters, so that papers are the same in a window and in a page.
+  font.setKerning(false);
   return font;
 }
 
@@ -37,8 +35,7 @@ QPageLayout layoutOf(const papers::PageSize& size) {
 
 }  // namespace
 
-QtTextMeasure::QtTextMeasure()
-    : plain_(fontOf(measuringSize, false)), bold_(fontOf(measuringSize, true)) {}
+QtTextMeasure::QtTextMeasure() : plain_(fontOf(false)), bold_(fontOf(true)) {}
 
 double QtTextMeasure::measured(const QFontMetricsF& metrics, Known& known,
                                const std::string& text) {
@@ -52,7 +49,7 @@ double QtTextMeasure::measured(const QFontMetricsF& metrics, Known& known,
 double QtTextMeasure::width(const std::string& text, const papers::Font& font) const {
   const double pixels =
       font.bold ? measured(bold_, knownBold_, text) : measured(plain_, knownPlain_, text);
-  return pixels * pixelSize(font) / measuringSize / pixelsPerMillimetre;
+  return pixels * font.size / fontPixels;
 }
 
 void paintPage(QPainter& painter, const papers::Page& page, double scale) {
@@ -64,14 +61,15 @@ void paintPage(QPainter& painter, const papers::Page& page, double scale) {
                             rectangle.height * scale),
                      QColor(grey, grey, grey));
   }
-  // Texts have the size that they were measured in, whatever the device's.
-  const double shrink = scale / pixelsPerMillimetre;
-  painter.scale(shrink, shrink);
   painter.setPen(Qt::black);
   for (const papers::TextRun& run : page.texts) {
-    painter.setFont(fontOf(pixelSize(run.font), run.font.bold));
-    painter.drawText(QPointF(run.x * pixelsPerMillimetre, run.baseline * pixelsPerMillimetre),
-                     QString::fromStdString(run.text));
+    painter.save();
+    painter.translate(run.x * scale, run.baseline * scale);
+    const double size = run.font.size * scale / fontPixels;
+    painter.scale(size, size);
+    painter.setFont(fontOf(run.font.bold));
+    painter.drawText(QPointF(), QString::fromStdString(run.text));
+    painter.restore();
   }
   painter.restore();
 }

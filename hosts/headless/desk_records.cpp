@@ -20,11 +20,21 @@ struct NamedTask {
 };
 
 constexpr std::array tasks{
-    NamedTask{HostTask::startAgain, "startAgain"},   NamedTask{HostTask::takeBack, "takeBack"},
-    NamedTask{HostTask::doAgain, "doAgain"},         NamedTask{HostTask::findLine, "findLine"},
-    NamedTask{HostTask::findAgain, "findAgain"},     NamedTask{HostTask::showFaults, "showFaults"},
-    NamedTask{HostTask::addPackages, "addPackages"}, NamedTask{HostTask::distribute, "distribute"},
-    NamedTask{HostTask::showNumbers, "showNumbers"}, NamedTask{HostTask::showAbout, "showAbout"},
+    NamedTask{HostTask::startAgain, "startAgain"},
+    NamedTask{HostTask::takeBack, "takeBack"},
+    NamedTask{HostTask::doAgain, "doAgain"},
+    NamedTask{HostTask::findLine, "findLine"},
+    NamedTask{HostTask::findAgain, "findAgain"},
+    NamedTask{HostTask::showFaults, "showFaults"},
+    NamedTask{HostTask::addPackages, "addPackages"},
+    NamedTask{HostTask::distribute, "distribute"},
+    NamedTask{HostTask::showNumbers, "showNumbers"},
+    NamedTask{HostTask::showAbout, "showAbout"},
+    NamedTask{HostTask::showLabels, "showLabels"},
+    NamedTask{HostTask::showPackingList, "showPackingList"},
+    NamedTask{HostTask::showPackageSheets, "showPackageSheets"},
+    NamedTask{HostTask::showPackingCsv, "showPackingCsv"},
+    NamedTask{HostTask::showPapersOfFile, "showPapersOfFile"},
 };
 
 std::string keyWords(const CommandKey& key) {

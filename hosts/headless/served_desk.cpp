@@ -79,16 +79,17 @@ ServedDesk::ServedDesk(const Assistance& with, ServedNumbers* numbers, const Des
       line_(control_.editor),
       finder_(control_.editor),
       packagesDialog_(control_.editor, with.numbers),
-      distributionDialog_(control_.editor) {
+      distributionDialog_(control_.editor),
+      papers_(control_.editor, machine.files, machine.settings, conversation) {
   watch_.ask = [this](const Question& question) { return conversation_.ask(question); };
   finder_.say = [this](std::string_view words) { line_.say(words); };
 }
 
 void ServedDesk::serve(protocol::ControlAccess& access) {
   protocol::Dispatcher& dispatcher = access.dispatcher();
-  for (Form* form :
-       {static_cast<Form*>(&finder_.findDialog), static_cast<Form*>(&finder_.faultList),
-        static_cast<Form*>(&packagesDialog_), static_cast<Form*>(&distributionDialog_)}) {
+  for (Form* form : {static_cast<Form*>(&finder_.findDialog),
+                     static_cast<Form*>(&finder_.faultList), static_cast<Form*>(&packagesDialog_),
+                     static_cast<Form*>(&distributionDialog_), &papers_.dialog()}) {
     access.add(*form);
     conversation_.watch(*form);
   }
@@ -108,6 +109,9 @@ void ServedDesk::serve(protocol::ControlAccess& access) {
   dispatcher.records["standing"] = [this] { return standing(); };
   dispatcher.records["markedText"] = [this] { return Json(markedText()); };
   dispatcher.clientActions["followDesk"] = [this](const Json&) { follow(); };
+  dispatcher.clientActions["showPapersOf"] = [this](const Json& line) {
+    papers_.showSaved(protocol::textMember(line, "path"));
+  };
   dispatcher.clientActions["command"] = [this](const Json& line) { choose(line); };
   dispatcher.clientActions["stop"] = [](const Json&) { throw Refused("No assistant works."); };
   dispatcher.aroundUserAct = [this, &access](const Json& line, const auto& act) {
@@ -195,6 +199,16 @@ void ServedDesk::perform(HostTask task) {
     case HostTask::showNumbers:
       if (numbers_ == nullptr) throw Refused("There are no package numbers here.");
       return numbers_->showRange();
+    case HostTask::showLabels:
+      return papers_.show(Paper::labels);
+    case HostTask::showPackingList:
+      return papers_.show(Paper::packingList);
+    case HostTask::showPackageSheets:
+      return papers_.show(Paper::packageSheets);
+    case HostTask::showPackingCsv:
+      return papers_.handOutPackingCsv();
+    case HostTask::showPapersOfFile:
+      return conversation_.emit({{"event", "chooseDocument"}});
     case HostTask::showAbout:
       control_.screen.messageBox(aboutBox(versionText(programVersion)));
       return;

@@ -13,6 +13,7 @@
 #include "desk/line_finder.h"
 #include "hosts/headless/conversation.h"
 #include "hosts/headless/served_numbers.h"
+#include "hosts/headless/served_papers.h"
 #include "hosts/protocol/control_access.h"
 #include "platform/clock.h"
 #include "platform/files.h"
@@ -39,6 +40,8 @@ struct DeskMachine {
 ///                         puts a file into the local folder, and opens it where a document is
 ///                         being chosen
 ///   {"do":"stop"}         ends the work of an assistant
+///   {"do":"showPapersOf","path":"c:\\VIRD\\a.xml"}   after {"event":"chooseDocument"}: papers of
+///                         that saved document
 class ServedDesk {
  public:
   /// All outlive it. `numbers`: null where the firm has none.
@@ -93,6 +96,7 @@ class ServedDesk {
   LineFinder finder_;
   PackagesDialog packagesDialog_;
   DistributionDialog distributionDialog_;
+  ServedPapers papers_;
   bool follows_ = false;
   std::string toldLine_;
   std::vector<std::string> works_;  ///< those that last, what began last behind the others

@@ -74,6 +74,7 @@ PapersDialog::PapersDialog(Screen& screen, const papers::TextMeasure& measure,
 
 void PapersDialog::show(PapersSource source, Paper paper) {
   source_ = std::move(source);
+  btnPdf.setVisible(static_cast<bool>(onPdf));
   filling_ = true;
   cboPaper.setIndex(static_cast<int>(paper));
   cboPackages.setIndex(source_.marked.size() > 1 ? markedPackages : allPackages);

@@ -43,7 +43,8 @@ class PapersDialog : public Form {
 
   /// The sheet to be shown is another.
   std::function<void()> onSheet;
-  /// Writes or prints all pages; answers whether that was done.
+  /// Writes or prints all pages; answers whether that was done. A host that prints to files too has
+  /// no onPdf.
   std::function<bool()> onPdf, onPrint;
 
  private:

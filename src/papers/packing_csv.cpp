@@ -33,11 +33,12 @@ std::string number(std::string_view value) {
 
 std::string quoted(const std::string& cell) {
   if (cell.find_first_of(";\"") == cell.npos) return cell;
-  return "\"" + replaceAll(cell, "\"", "\"\"") + "\"";
+  return joined({"\"", replaceAll(cell, "\"", "\"\""), "\""});
 }
 
 void addRow(std::string& csv, const Cells& cells) {
-  for (std::size_t i = 0; i < cells.size(); ++i) csv += (i == 0 ? "" : ";") + quoted(cells[i]);
+  for (std::size_t i = 0; i < cells.size(); ++i)
+    csv += joined({i == 0 ? "" : ";", quoted(cells[i])});
   csv += "\r\n";
 }
 

@@ -14,7 +14,8 @@ import { firstExtra, isExtra } from "./extra_buttons.ts";
 import type { Host } from "./face.ts";
 import { FormView } from "./form_view.ts";
 import { dialogs, mainForm, startPage } from "./layouts.ts";
-import { computerButton, handOut } from "./own_disk.ts";
+import { computerButton, fetchFile, handOut, handOutTable } from "./own_disk.ts";
+import { printSheets } from "./sheets.ts";
 import { localeOf, startOf } from "./start.ts";
 import { styles } from "./styles.ts";
 import { ListFace } from "./list_face.ts";
@@ -26,6 +27,7 @@ import { WorkBox } from "./work_box.ts";
 const readingMode = "&Wczytaj";
 const mainName = "AwizoWysylki";
 const startName = "StartPage";
+const papersName = "PapersDialog";
 const linesTable = "grdPozycje";
 /// The whole document is looked at for how it stands: not at each key.
 const standingDelay = 100;
@@ -166,6 +168,14 @@ export class AwizoWysylki extends ControlElement {
       case "saved":
         void handOut(event.path);
         return;
+      case "sheet":
+        return this.views.get(papersName)?.showSheet(event.svg);
+      case "print":
+        return printSheets(this.root, event.title, event.sheets);
+      case "file":
+        return handOutTable(event.name, event.text);
+      case "chooseDocument":
+        return fetchFile(this.strip.element, (_, path) => this.closingOf({ do: "showPapersOf", path }));
       case "told":
         return this.strip.tell(event.text);
       case "line":

@@ -124,6 +124,10 @@ export type Event =
   | { event: "startAgain" }
   | { event: "begins"; opens: boolean }
   | { event: "saved"; path: string }
+  | { event: "sheet"; svg: string }
+  | { event: "print"; title: string; sheets: string[] }
+  | { event: "file"; name: string; text: string }
+  | { event: "chooseDocument" }
   | { event: "modal" | "hidden"; form: string; caption?: string }
   | { event: "changed"; property: string }
   | { event: "end" };

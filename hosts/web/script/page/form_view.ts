@@ -1,8 +1,10 @@
 // A form: its controls as faces, in their places.
 
+import { paperPreview } from "#words";
 import type { Commands } from "./commands.ts";
 import type { DateForm } from "./date_form.ts";
 import { make } from "./dom.ts";
+import { drawn } from "./sheets.ts";
 import { Face, type Host } from "./face.ts";
 import type { ControlFacts, FormFacts } from "./facts.ts";
 import { besideTheirHeading, mainForms, overCells, ownWords, scanned, type Group } from "./layouts.ts";
@@ -16,6 +18,7 @@ export class FormView {
   private readonly faces = new Map<string, Face>();
   private readonly headings = new Map<string, HTMLElement>();
   private readonly prefix: string;
+  private readonly sheet = make("div", { class: "sheet", role: "img", "aria-label": paperPreview });
   private facts: FormFacts = {};
 
   /// The main form's controls are called by their own names, those of dialogs with the form's. The
@@ -41,6 +44,11 @@ export class FormView {
     if (heading !== undefined && changes.caption !== undefined) heading.textContent = changes.caption.trim();
   }
 
+  /// An empty text for no sheet.
+  showSheet(svg: string): void {
+    this.sheet.replaceChildren(...(svg === "" ? [] : [drawn(svg, document)]));
+  }
+
   /// The name of the control that has the focus by the model.
   get focus(): string {
     return this.facts.focus ?? "";
@@ -51,6 +59,7 @@ export class FormView {
   }
 
   private group(group: Group): HTMLElement {
+    if (group.sheet === true) return this.sheet;
     const children = group.of.map((part) => (typeof part === "string" ? this.control(part) : this.group(part)));
     if (group.heading === undefined && group.frame === undefined) {
       return make("div", { class: group.row ? "beside" : "stack" }, children);

@@ -10,6 +10,8 @@ export interface Group {
   of: (string | Group)[];
   /// Beside each other, where there is room.
   row?: boolean;
+  /// The sheet of paper that the form shows.
+  sheet?: boolean;
 }
 
 /// Forms that are the page itself; all others are dialogs.
@@ -138,6 +140,13 @@ export const dialogs: Record<string, Group> = {
     of: [
       { row: true, of: ["cboLines", "cboPackages"] }, { row: true, of: ["cboSpread", "txtEach"] },
       "grdParts", "lblSummary", { row: true, of: ["btnDo", "btnClose"] },
+    ],
+  },
+  PapersDialog: {
+    of: [
+      { row: true, of: ["cboPaper", "cboPackages"] }, { row: true, of: ["cboSize", "cboCopies", "cboPrinter"] },
+      { sheet: true, of: [] }, "lblNotes",
+      { row: true, of: ["btnPrevious", "lblSheet", "btnNext", "btnPdf", "btnPrint", "btnClose"] },
     ],
   },
   DlgIsoCodes: { of: ["grdISO", { row: true, of: ["btnAccept", "btnCancel"] }] },

@@ -15,11 +15,11 @@ function pathOf(classic: string): string {
   return classic.replace(/^[a-z]:/i, "").replaceAll("\\", "/");
 }
 
-/// A button that fetches a file of the user's computer. `bring` puts it into the local folder from where
-/// it is for a while.
-export function computerButton(bring: (name: string, from: string) => Promise<unknown>): HTMLElement {
-  const button = make("button", { type: "button" }, ["С компьютера…"]);
-  const element = make("div", { class: "beside" }, [extraButtons([button])]);
+/// `name` is what the user calls the file, `from` where it is for a while.
+type Bring = (name: string, from: string) => Promise<unknown>;
+
+/// Lets the user choose a file of the computer. The field for that stands in the place meanwhile.
+export function fetchFile(place: ParentNode, bring: Bring): void {
   const take = async (file: File | undefined) => {
     if (file === undefined) return;
     const path = `/.brought-${crypto.randomUUID()}`;
@@ -27,21 +27,35 @@ export function computerButton(bring: (name: string, from: string) => Promise<un
     await bring(file.name, classicPath(path));
     await removeFile(path);
   };
-  button.addEventListener("click", () => {
-    // A new field each time: the same file may be brought again.
-    const input = make("input", { type: "file", accept: ending, hidden: true });
-    input.addEventListener("change", () => void take(input.files?.[0]));
-    element.querySelector("input")?.remove();
-    element.append(input);
-    input.click();
-  });
+  // A new field each time: the same file may be brought again.
+  const input = make("input", { type: "file", accept: ending, hidden: true });
+  input.addEventListener("change", () => void take(input.files?.[0]));
+  place.querySelector(":scope > input[type=file]")?.remove();
+  place.append(input);
+  input.click();
+}
+
+/// A button that fetches a file of the user's computer.
+export function computerButton(bring: Bring): HTMLElement {
+  const button = make("button", { type: "button" }, ["С компьютера…"]);
+  const element = make("div", { class: "beside" }, [extraButtons([button])]);
+  button.addEventListener("click", () => fetchFile(element, bring));
   return element;
+}
+
+function download(name: string, content: Blob): void {
+  const address = URL.createObjectURL(content);
+  make("a", { href: address, download: name }).click();
+  setTimeout(() => URL.revokeObjectURL(address), 60_000);
 }
 
 /// Hands a saved document to the user as a download.
 export async function handOut(classic: string): Promise<void> {
   const path = pathOf(classic);
-  const address = URL.createObjectURL(new Blob([new Uint8Array(await readFile(path))], { type: "application/xml" }));
-  make("a", { href: address, download: path.slice(path.lastIndexOf("/") + 1) }).click();
-  setTimeout(() => URL.revokeObjectURL(address), 60_000);
+  download(path.slice(path.lastIndexOf("/") + 1), new Blob([new Uint8Array(await readFile(path))], { type: "application/xml" }));
+}
+
+/// The same with a table for spreadsheets.
+export function handOutTable(name: string, text: string): void {
+  download(name, new Blob([text], { type: "text/csv" }));
 }

@@ -87,6 +87,9 @@ h2 { font-size: 17px; margin: 12px 0; }
 .closer { border: 0; background: none; font-size: 20px; padding: 0 8px; }
 .buttons { justify-content: end; }
 .waiting, .dead { padding: 24px; }
+.sheet { display: flex; justify-content: center; background: var(--awizo-line); border-radius: 6px; padding: 8px; height: min(62dvh, 700px); }
+.sheet svg { width: auto; max-width: 100%; height: 100%; background: linear-gradient(white, white); }
+.printed { position: absolute; width: 0; height: 0; border: 0; visibility: hidden; }
 `;
 
 let made: CSSStyleSheet | undefined;

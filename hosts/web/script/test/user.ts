@@ -167,8 +167,10 @@ function launch(): Promise<Browser> {
     : chromium.launch({ executablePath: "/usr/bin/chromium", args: ["--no-sandbox"] });
 }
 
-/// The text of the document that the act makes the page hand out under this name.
-export async function handedOut(page: Page, name: string, act: () => Promise<void>): Promise<string> {
+/// The text of the document or table that the act makes the page hand out under this name.
+export async function handedOut(
+  page: Page, name: string, act: () => Promise<void>, isWhole = (text: string) => text.trimEnd().endsWith("</Document-DespatchAdvice>"),
+): Promise<string> {
   if (!inFirefox) {
     const downloading = page.waitForEvent("download");
     await act();
@@ -182,7 +184,7 @@ export async function handedOut(page: Page, name: string, act: () => Promise<voi
   for await (const { filename } of changes) {
     if (filename === null || path.basename(filename) !== name) continue;
     const text = fs.readFileSync(path.join(downloads, filename), "utf8");
-    if (text.trimEnd().endsWith("</Document-DespatchAdvice>")) return text;
+    if (isWhole(text)) return text;
   }
   throw new Error("Nothing was handed out.");
 }
