@@ -39,6 +39,11 @@ bool isThere(Files& files, const std::string& folder) {
   return !folder.empty() && files.folderExists(folder);
 }
 
+bool isUsable(Files& files, const UserFolders& user, const std::string& folder, FileUse use) {
+  if (!isThere(files, folder)) return false;
+  return use == FileUse::read || !user.mayWrite || user.mayWrite(folder);
+}
+
 bool isThere(Files& files, const std::string& folder, std::string_view name) {
   try {
     return std::ranges::count(files.files(folder, ".xml"), name) > 0;
@@ -51,10 +56,13 @@ bool isThere(Files& files, const std::string& folder, std::string_view name) {
 
 std::string proposedFolder(const DlgWczytajZapisz& dialog, Files& files, SettingsStore& settings,
                            const UserFolders& user) {
+  const bool saves = !offersFiles(dialog) && !choosesFolder(dialog);
+  const FileUse use = saves ? FileUse::write : FileUse::read;
+  const std::string& kept = dialog.DirList.path();
   // Only the root of the drive is nobody's choice yet.
-  if (!dialog.DirList.path().ends_with('\\')) return "";
+  if (!kept.ends_with('\\') && isUsable(files, user, kept, use)) return "";
   return choosesFolder(dialog) ? firstOffLineParent(files, user)
-                               : firstFileFolder(files, settings, user);
+                               : firstFileFolder(files, settings, user, use);
 }
 
 bool offersFiles(const DlgWczytajZapisz& dialog) {
@@ -69,17 +77,18 @@ void userGoTo(DlgWczytajZapisz& dialog, const FilePlace& place) {
   if (found != names.end()) dialog.FileList.userChoose(static_cast<int>(found - names.begin()));
 }
 
-std::string firstFileFolder(Files& files, SettingsStore& settings, const UserFolders& user) {
+std::string firstFileFolder(Files& files, SettingsStore& settings, const UserFolders& user,
+                            FileUse use) {
   const std::vector<std::string> recent = recentFiles(settings);
   const std::string last = recent.empty() ? "" : folderOf(recent.front());
   for (const std::string& folder : {last, user.documents, user.home}) {
-    if (isThere(files, folder)) return folder;
+    if (isUsable(files, user, folder, use)) return folder;
   }
   return "";
 }
 
 std::string firstOffLineParent(Files& files, const UserFolders& user) {
-  return isThere(files, user.home) ? user.home : "";
+  return isUsable(files, user, user.home, FileUse::write) ? user.home : "";
 }
 
 std::vector<FilePlace> filePlaces(Files& files, SettingsStore& settings, const UserFolders& user) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,6 +17,8 @@ namespace awizo {
 struct UserFolders {
   std::string home;
   std::string documents;
+  /// Whether the user may make files in a folder. Where it is empty, he may everywhere.
+  std::function<bool(const std::string& folder)> mayWrite = {};
 };
 
 /// A place to go to at once: a folder or, where a file is named, that file in it.
@@ -26,7 +29,7 @@ struct FilePlace {
 };
 
 /// Where the dialog that has just come up goes by itself: its user's folder, unless it keeps one
-/// already; empty for nowhere.
+/// already in which its user can do what it is for; empty for nowhere.
 std::string proposedFolder(const DlgWczytajZapisz& dialog, Files& files, SettingsStore& settings,
                            const UserFolders& user);
 /// Whether the files used last are offered: a new file has a name of its own, and a folder is no
@@ -35,9 +38,12 @@ bool offersFiles(const DlgWczytajZapisz& dialog);
 /// The user goes to the place: opens its folder, and chooses its file.
 void userGoTo(DlgWczytajZapisz& dialog, const FilePlace& place);
 
-/// The folder used last where it is still there, else the user's documents, else the home folder;
-/// empty where there is none of them.
-std::string firstFileFolder(Files& files, SettingsStore& settings, const UserFolders& user);
+enum class FileUse { read, write };
+
+/// The folder used last where it is still there, else the user's documents, else the home folder,
+/// as far as files can be used so there; empty where there is none of them.
+std::string firstFileFolder(Files& files, SettingsStore& settings, const UserFolders& user,
+                            FileUse use = FileUse::read);
 
 /// The folder in which that of off-line work is proposed: one that the user may write to.
 std::string firstOffLineParent(Files& files, const UserFolders& user);

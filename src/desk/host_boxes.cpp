@@ -64,6 +64,20 @@ MessageBox paperRefusal(std::string_view what, const RunTimeError& error) {
           BoxButtons::ok};
 }
 
+MessageBox noPrinter() {
+  return {
+      "Печатать не на чем: в системе нет ни одного принтера.\r\n\r\nСохраните листы кнопкой "
+      "«В файл PDF…» и напечатайте их с другого компьютера.",
+      std::string(words::boxTitle), BoxIcon::exclamation, BoxButtons::ok};
+}
+
+MessageBox printRefusal() {
+  return {
+      "Листы не напечатаны: принтер или файл для печати не открывается.\r\n\r\nВыберите другой "
+      "принтер или сохраните листы кнопкой «В файл PDF…».",
+      std::string(words::boxTitle), BoxIcon::critical, BoxButtons::ok};
+}
+
 MessageBox recordThatStays(const RunTimeError& error) {
   return {joined({"Запись прежней работы не удаляется: ", diskRefusal(error),
                   ".\r\n\r\nРаботать можно. При следующем запуске её предложат снова."}),

@@ -17,6 +17,10 @@ MessageBox newAddressQuestion(std::string_view origin);
 MessageBox launchFileRefusal(std::string_view file, std::string_view why);
 /// No paper came of it. `what`: a file, or words.
 MessageBox paperRefusal(std::string_view what, const RunTimeError& error);
+/// There is nothing to print on.
+MessageBox noPrinter();
+/// The printer didn't take the papers.
+MessageBox printRefusal();
 /// The file that the user brought isn't in the folder.
 MessageBox fileRefusal(std::string_view name, const RunTimeError& error);
 /// What a disk refuses, in the user's language; else the error's own description.

@@ -77,6 +77,8 @@ inline constexpr std::string_view noSuchPackage = "Нет упаковки с н
 inline constexpr std::string_view linesTable = "Товарные позиции";
 inline constexpr std::string_view packagesTable = "Упаковки";
 inline constexpr std::string_view totalsTable = "Итоги";
+/// With the key that does the same, which tables have by themselves.
+inline constexpr std::string_view copyCells = "&Копировать\tCtrl+C";
 inline constexpr std::string_view quantityEditor = "Отгруженное количество";
 inline constexpr std::string_view linePackagesTable = "Упаковки этой строки";
 inline constexpr std::string_view countriesTable = "Страны";

@@ -94,6 +94,22 @@ TEST_F(FileDialogPlaces, AreProposedWhereTheDialogKeepsNoFolderYet) {
   EXPECT_EQ(proposed(), "");
 }
 
+TEST_F(FileDialogPlaces, AreThoseWhereTheUserMayWriteWhenHeSaves) {
+  user.mayWrite = [](const std::string& folder) { return folder == "c:\\home\\anna"; };
+  dialog.setUpForReading();
+  EXPECT_EQ(proposed(), "c:\\drafts");
+  dialog.setUpForSaving("b.xml");
+  EXPECT_EQ(proposed(), "c:\\home\\anna");
+  dialog.DirList.setPath("c:\\drafts");
+  EXPECT_EQ(proposed(), "c:\\home\\anna") << "where a file was read from";
+  dialog.setUpForReading();
+  EXPECT_EQ(proposed(), "");
+  user.mayWrite = [](const std::string&) { return false; };
+  dialog.setUpForSaving("b.xml");
+  EXPECT_EQ(proposed(), "");
+  EXPECT_EQ(firstOffLineParent(files, user), "");
+}
+
 TEST_F(FileDialogPlaces, AreFilesOnlyWhereAFileIsRead) {
   dialog.setUpForReading();
   EXPECT_TRUE(offersFiles(dialog));

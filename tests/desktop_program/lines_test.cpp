@@ -1,6 +1,9 @@
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QLabel>
+#include <QMenu>
+#include <QTimer>
 
 #include "desktop_program/program_test.h"
 #include "hosts/desktop/faces/table_face.h"
@@ -133,6 +136,52 @@ TEST_F(LinesTest, CtrlCCopiesTheMarkedCells) {
   table().userSelect(1, GRD_POZ_NAME, 2, GRD_POZ_QTY_DESPATCHED);
   press(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QApplication::clipboard()->text(), "Кофе 1\t1,000\nКофе 2\t1,000\n");
+}
+
+TEST_F(LinesTest, TheMenuOfARowActsOnTheRowUnderIt) {
+  openLines();
+  QTableView* view = widget().faces().table(table()).view();
+  const QPoint there = view->visualRect(view->model()->index(2, GRD_POZ_NAME)).center();
+  QTest::mouseClick(view->viewport(), Qt::RightButton, Qt::NoModifier, there);
+  EXPECT_EQ(table().row(), 3);
+  QStringList entries;
+  const auto choose = [&](const QString& words) {
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      if (menu == nullptr) return;
+      look.stop();
+      entries.clear();
+      QAction* chosen = nullptr;
+      for (QAction* action : menu->actions()) {
+        entries << QString(action->text()).remove('&');
+        if (entries.back().startsWith(words)) chosen = action;
+      }
+      EXPECT_NE(chosen, nullptr) << words.toStdString();
+      menu->setActiveAction(chosen);
+      QTest::keyClick(menu, chosen == nullptr ? Qt::Key_Escape : Qt::Key_Return);
+    });
+    look.start(0);
+    QContextMenuEvent wanted(QContextMenuEvent::Mouse, there, view->viewport()->mapToGlobal(there));
+    QApplication::sendEvent(view->viewport(), &wanted);
+    settle();
+  };
+  choose("Копировать");
+  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "Кофе 3\n");
+  EXPECT_EQ(entries.size(), 4) << entries.join("|").toStdString();
+  choose("Удалить");
+  EXPECT_EQ(table().cell(3, GRD_POZ_NAME), "Кофе 4");
+}
+
+TEST_F(LinesTest, AMarkedRangeStaysWhereItsMenuComes) {
+  openLines();
+  table().userSelect(2, GRD_POZ_NAME, 4, GRD_POZ_NAME);
+  settle();
+  QTableView* view = widget().faces().table(table()).view();
+  QTest::mouseClick(view->viewport(), Qt::RightButton, Qt::NoModifier,
+                    view->visualRect(view->model()->index(2, GRD_POZ_NAME)).center());
+  EXPECT_EQ(table().row(), 2);
+  EXPECT_EQ(table().rowSel(), 4);
 }
 
 TEST_F(LinesTest, ADoubleClickOnAPackageEditsIt) {

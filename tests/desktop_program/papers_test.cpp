@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QPdfWriter>
 #include <QTimer>
 
 #include "desktop_program/program_test.h"
@@ -109,15 +110,44 @@ TEST_F(PapersTest, TellsWhatCannotBeWrittenOrRead) {
   EXPECT_THAT(boxes, ::testing::ElementsAre(::testing::HasSubstr("нет такой папки")));
 }
 
+/// A printer that prints into a file, as there is no other where tests run.
+auto printingInto(const std::string& file) {
+  return [file](const QString& title) {
+    EXPECT_FALSE(title.isEmpty());
+    return std::make_unique<QPdfWriter>(QString::fromStdString(file));
+  };
+}
+
 TEST_F(PapersTest, PrintsWhatIsShown) {
   open(offLineOptions());
-  std::size_t printed = 0;
-  maker().print = [&](const papers::Pages& pages) {
-    printed = pages.size();
-    return true;
-  };
+  const std::string target = (place.folder() / "printed.pdf").string();
+  maker().hasPrinter = [] { return true; };
+  maker().choosePrinter = printingInto(target);
   during([this] { maker().show(Paper::packingList); }, [this] { dialog().btnPrint.userClick(); });
-  EXPECT_EQ(printed, 1U);
+  EXPECT_TRUE(readFile(target).starts_with("%PDF-"));
+}
+
+TEST_F(PapersTest, TellsWhatIsNotPrinted) {
+  open(offLineOptions());
+  std::vector<std::string> boxes;
+  const auto print = [&, this] {
+    during([this] { maker().show(Paper::packingList); },
+           [&, this] { boxes = answerWithEnter([this] { dialog().btnPrint.userClick(); }); });
+  };
+  maker().hasPrinter = [] { return false; };
+  maker().choosePrinter = [](const QString&) {
+    ADD_FAILURE() << "there is none to choose";
+    return nullptr;
+  };
+  print();
+  EXPECT_THAT(boxes, ::testing::ElementsAre(::testing::HasSubstr("нет ни одного принтера")));
+  maker().hasPrinter = [] { return true; };
+  maker().choosePrinter = [](const QString&) { return nullptr; };
+  print();
+  EXPECT_THAT(boxes, ::testing::IsEmpty());
+  maker().choosePrinter = printingInto("/nowhere/printed.pdf");
+  print();
+  EXPECT_THAT(boxes, ::testing::ElementsAre(::testing::HasSubstr("Листы не напечатаны")));
 }
 
 }  // namespace

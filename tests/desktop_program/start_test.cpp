@@ -1,5 +1,7 @@
 #include <QApplication>
+#include <QDropEvent>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QTimer>
 #include <filesystem>
 
@@ -150,12 +152,40 @@ TEST_F(StartPageInWindow, ALaunchFileThatIsRefusedIsNamed) {
   EXPECT_FALSE(window().hasSession());
 }
 
+/// Drops files on the window as another program does.
+void dropOn(QWidget& window, const QList<QUrl>& files) {
+  QMimeData data;
+  data.setUrls(files);
+  const QPoint middle = window.rect().center();
+  QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&window, &enter);
+  if (!enter.isAccepted()) return;
+  QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&window, &drop);
+}
+
+TEST_F(StartPageInWindow, AFileDroppedOnTheWindowIsOpened) {
+  std::filesystem::copy(AWIZO_SAMPLES "/despatch-advice.xml", place.folder() / "saved.xml");
+  const QUrl file =
+      QUrl::fromLocalFile(QString::fromStdString((place.folder() / "saved.xml").string()));
+  open(offLineOptions());
+  dropOn(window(), {QUrl("https://portal.example/saved.xml")});
+  dropOn(window(), {file, file});
+  answerWithEnter([&] {
+    EXPECT_FALSE(QTest::qWaitFor([&] { return !form().txtNrAwiza.text().empty(); }, 100));
+    dropOn(window(), {file});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form().txtNrAwiza.text() == "ОТГ-0318"; }, 10000));
+  });
+}
+
 TEST_F(StartPageInWindow, AFileDroppedOnUnsentWorkIsAskedAbout) {
   open(offLineOptions());
   type("ТН-1");
   std::string box;
+  const std::string file = (place.folder() / "saved.xml").string();
+  dropOn(window(), {QUrl::fromLocalFile(QString::fromStdString(file))});
   answerNext("&Отмена", &box);
-  window().openFile(QString::fromStdString((place.folder() / "saved.xml").string()));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !box.empty(); }, 10000));
   EXPECT_NE(box.find("ТН-1 не отправлен"), box.npos);
   EXPECT_EQ(form().txtNrAwiza.text(), "ТН-1");
 }

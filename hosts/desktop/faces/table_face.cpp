@@ -294,10 +294,27 @@ void TableFace::takeViewHeight() {
   table_.setViewHeight((table_.fixedRows() + wholeRows) * Table::normalRowHeight);
 }
 
+void TableFace::copyMarked() const {
+  QApplication::clipboard()->setText(fromText(markedText(table_)));
+}
+
+void TableFace::offerMenu(const QString& copyWords) {
+  auto* copy = new QAction(copyWords, view_);
+  connect(copy, &QAction::triggered, this, [this] { copyMarked(); });
+  view_->addAction(copy);
+  view_->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+bool TableFace::isMarked(const Cell& cell) const {
+  const auto [top, bottom] = std::minmax({table_.row(), table_.rowSel()});
+  const auto [left, right] = std::minmax({table_.column(), table_.columnSel()});
+  return cell.row >= top && cell.row <= bottom && cell.column >= left && cell.column <= right;
+}
+
 /// The keys that tables have everywhere else too, and the model's table doesn't know.
 bool TableFace::pressCommonKey(const QKeyEvent& key) {
   if (key.matches(QKeySequence::Copy)) {
-    QApplication::clipboard()->setText(fromText(markedText(table_)));
+    copyMarked();
     return true;
   }
   const bool toStart = key.matches(QKeySequence::MoveToStartOfDocument);
@@ -347,9 +364,15 @@ TableFace::Cell TableFace::cellAt(const QPoint& point) const {
 bool TableFace::pressMouse(QMouseEvent& mouse) {
   showNow();
   pressed_ = {};
-  if (mouse.button() != Qt::LeftButton) return true;
   const Cell cell = cellAt(mouse.position().toPoint());
   if (cell == Cell{}) return true;
+  const bool bringsMenu =
+      mouse.button() == Qt::RightButton && view_->contextMenuPolicy() == Qt::ActionsContextMenu;
+  // It is that of the row under it.
+  if (bringsMenu && !isMarked(cell)) {
+    form().act([&] { table_.userCell(cell.row, cell.column); });
+  }
+  if (mouse.button() != Qt::LeftButton) return true;
   const bool again = mouse.type() == QEvent::MouseButtonDblClick;
   if (again && cell == Cell{table_.row(), table_.column()}) {
     const bool taken = form().act([&] { table_.userDoubleClick(); });

@@ -41,6 +41,8 @@ class TableFace : public Face {
   /// as it began.
   std::vector<int> givenWidths() const;
   void giveWidths(const std::vector<int>& twips);
+  /// Gives the table a menu of its own: copying, and the commands whose keys are the table's.
+  void offerMenu(const QString& copyWords);
   /// The column takes the room that the others leave.
   void stretchColumn(int column);
 
@@ -65,6 +67,8 @@ class TableFace : public Face {
   void showWidths();
   void relayColumn(int column);
   void takeWidth(int column, int width);
+  void copyMarked() const;
+  bool isMarked(const Cell& cell) const;
   void watchHeading(const QEvent& event);
   void showHeights();
   int markedRow() const;

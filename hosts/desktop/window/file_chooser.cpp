@@ -1,5 +1,6 @@
 #include "hosts/desktop/window/file_chooser.h"
 
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPointer>
@@ -34,7 +35,9 @@ QToolButton* makeButton(const QString& words, QWidget* parent) {
 /// As Qt knows them.
 UserFolders userFolders() {
   return {classicFolder(QStandardPaths::HomeLocation),
-          classicFolder(QStandardPaths::DocumentsLocation)};
+          classicFolder(QStandardPaths::DocumentsLocation), [](const std::string& folder) {
+            return QFileInfo(fromText(posix::systemPath(folder))).isWritable();
+          }};
 }
 
 }  // namespace

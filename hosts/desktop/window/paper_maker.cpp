@@ -5,7 +5,9 @@
 #include <QFileDialog>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QStandardPaths>
+#include <utility>
 
 #include "adapters/posix/paths/paths.h"
 #include "desk/host_boxes.h"
@@ -38,16 +40,17 @@ PaperMaker::PaperMaker(const Editor& editor, Files& files, SettingsStore& settin
     return QFileDialog::getOpenFileName(&window_, fromText(words::savedDocumentTitle), QString(),
                                         fromText(words::savedDocumentKind));
   };
-  print = [this](const papers::Pages& pages) {
-    QPrinter printer(QPrinter::HighResolution);
+  choosePrinter = [this](const QString& title) -> std::unique_ptr<QPagedPaintDevice> {
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     // A label that is fitted to other paper has bars of another width.
-    printer.setFullPage(true);
-    printer.setDocName(fromText(dialog_.title()));
-    QPrintDialog choice(&printer, &window_);
-    return choice.exec() == QDialog::Accepted && printPages(pages, printer);
+    printer->setFullPage(true);
+    printer->setDocName(title);
+    const bool isChosen = QPrintDialog(printer.get(), &window_).exec() == QDialog::Accepted;
+    return isChosen ? std::move(printer) : nullptr;
   };
+  hasPrinter = [] { return !QPrinterInfo::availablePrinterNames().isEmpty(); };
   dialog_.onPdf = [this] { return write(); };
-  dialog_.onPrint = [this] { return print(dialog_.pages()); };
+  dialog_.onPrint = [this] { return print(); };
 }
 
 std::optional<PapersSource> PaperMaker::source() {
@@ -83,6 +86,18 @@ void PaperMaker::showSaved() {
   });
   if (error) return tell(toText(path), *error);
   dialog_.show(std::move(source), Paper::labels);
+}
+
+bool PaperMaker::print() {
+  if (!hasPrinter()) {
+    editor_.screen().messageBox(noPrinter());
+    return false;
+  }
+  const auto printer = choosePrinter(fromText(dialog_.title()));
+  if (!printer) return false;
+  const bool isDone = printPages(dialog_.pages(), *printer);
+  if (!isDone) editor_.screen().messageBox(printRefusal());
+  return isDone;
 }
 
 bool PaperMaker::write() {

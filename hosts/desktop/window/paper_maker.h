@@ -3,6 +3,7 @@
 #include <QString>
 #include <QWidget>
 #include <functional>
+#include <memory>
 
 #include "adapters/qt_paper/qt_paper.h"
 #include "adapters/zint/zint_encoder.h"
@@ -27,12 +28,14 @@ class PaperMaker {
   /// Ask for a path of the system; empty for none.
   std::function<QString(const QString& proposed)> askTarget;
   std::function<QString()> askDocument;
-  /// Lets the user choose a printer and prints; answers whether that was done.
-  std::function<bool(const papers::Pages&)> print;
+  /// Lets the user choose a printer for what has this title; null where he doesn't.
+  std::function<std::unique_ptr<QPagedPaintDevice>(const QString& title)> choosePrinter;
+  std::function<bool()> hasPrinter;
 
  private:
   /// The document as papers show it; the user is told why there are none.
   std::optional<PapersSource> source();
+  bool print();
   bool write();
   bool write(const QString& path, const std::function<std::string()>& content);
   void tell(const std::string& what, const RunTimeError& error);

@@ -131,6 +131,7 @@ QWidget* makeLines(Editor& editor, FormFace& faces, QWidget& strip) {
   nameBy(faces.label(form.lblStawkaVAT), faces.face(form.comboStawkaVAT));
   nameBy(*country, faces.face(form.comboCountry));
   table.view()->setAccessibleName(fromText(words::linesTable));
+  table.offerMenu(fromText(words::copyCells));
   return frame;
 }
 
@@ -139,9 +140,11 @@ QWidget* makePackages(AwizoForm& form, FormFace& faces) {
   auto* row = new QHBoxLayout(frame);
   row->setContentsMargins(insideFrame);
   row->setSpacing(6);
-  QTableView* view = faces.table(form.grdOpakowania).view();
+  TableFace& table = faces.table(form.grdOpakowania);
+  QTableView* view = table.view();
   new ColumnFill(*view, GRD_OPAK_DESC);
   view->setAccessibleName(fromText(words::packagesTable));
+  table.offerMenu(fromText(words::copyCells));
   view->setMinimumSize(view->fontMetrics().averageCharWidth() * 34,
                        view->fontMetrics().height() * 6);
   row->addWidget(view);
