@@ -11,7 +11,7 @@ function(awizo_wasm_program name library)
   target_link_options(${name}-wasm PRIVATE
     "-Wl,-mllvm,-wasm-enable-eh,-mllvm,-exception-model=wasm"
     -mexec-model=reactor -nostdlib++ "-L${libraries}/lib" -fwasm-exceptions
-    "-Wl,--export=malloc,--export=free,-z,stack-size=4194304,--strip-all")
+    "-Wl,-z,stack-size=4194304,--strip-all")
   set_target_properties(${name}-wasm PROPERTIES
     OUTPUT_NAME ${name} SUFFIX .wasm RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}")
 endfunction()

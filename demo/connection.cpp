@@ -32,6 +32,9 @@ void announceNoBody(httplib::Request& request) {
   request.headers.emplace("Content-Length", "0");
 }
 
+/// The library compresses as strongly as it can, for half a minute where a catalogue is large.
+void askForPlainReply(httplib::Request& request) { request.headers.erase("Accept-Encoding"); }
+
 }  // namespace
 
 ssize_t Connection::read(char* target, size_t size) {
@@ -87,6 +90,7 @@ bool OneShotServer::process_and_close_socket(socket_t socket) {
       process_request(connection, true, connectionClosed, [&](httplib::Request& request) {
         addEmptyHeaders(connection.takeHead(), request);
         announceNoBody(request);
+        askForPlainReply(request);
       });
   const std::lock_guard lock(mutex_);
   open_.erase(socket);

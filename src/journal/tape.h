@@ -205,7 +205,7 @@ auto Tape::outcome(Source source, Call&& call, Asked asked) {
     const Record record = takeOutcome(source);
     return asked == Asked::asRecorded ? recordedValue<Value>(record, 0) : call();
   }
-  return noted<Value>(call, [&](Record record) {
+  return noted<Value>(call, [&](Record& record) {
     record.kind = RecordKind::outcome;
     record.numbers.insert(record.numbers.begin(), static_cast<std::int64_t>(source));
     write(record);
@@ -223,14 +223,14 @@ auto Tape::fact(Source source, std::string_view about, Call&& call) {
     if (found == facts_.end()) differs("a question that nobody asked before");
     return recordedValue<Value>(found->second, 1);
   }
-  return noted<Value>(call, [&](Record record) {
+  return noted<Value>(call, [&](Record& record) {
     record.kind = RecordKind::fact;
     record.numbers.insert(record.numbers.begin(), static_cast<std::int64_t>(source));
     record.texts.insert(record.texts.begin(), key.second);
     if (const auto found = facts_.find(key); found != facts_.end() && found->second == record)
       return;
     write(record);
-    facts_[key] = std::move(record);
+    facts_[key] = record;
   });
 }
 

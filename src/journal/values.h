@@ -42,22 +42,28 @@ inline bool isMoment(const std::vector<std::int64_t>& numbers) {
              .ok();
 }
 
-/// Calls, and hands the outcome to `note`, an error too.
+/// Calls, and shows the outcome to `note`, an error too. What `note` leaves as the last text is the
+/// value, so that a long one isn't copied.
 template <class Value, class Call, class Note>
 Value noted(Call&& call, Note&& note) {
   Record record{{}, {endedWell}, {}};
   try {
     if constexpr (std::is_void_v<Value>) {
       call();
-      note(std::move(record));
+      note(record);
+    } else if constexpr (std::is_same_v<Value, std::string>) {
+      record.texts.push_back(call());
+      note(record);
+      return std::move(record.texts.back());
     } else {
       Value value = call();
       put(record, value);
-      note(std::move(record));
+      note(record);
       return value;
     }
   } catch (const RunTimeError& error) {
-    note({{}, {endedByError, error.number()}, {error.description()}});
+    Record ended{{}, {endedByError, error.number()}, {error.description()}};
+    note(ended);
     throw;
   }
 }

@@ -142,8 +142,8 @@ TEST_F(Distributing, IsTakenBackAsOneStep) {
 }
 
 TEST_F(Distributing, OfAsManyLinesAsThereCanBeTakesLessThanFiveSeconds) {
-#ifdef __SANITIZE_ADDRESS__
-  constexpr int count = 100;  // checked memory is slow
+#if defined(__SANITIZE_ADDRESS__) || !defined(__OPTIMIZE__)
+  constexpr int count = 100;  // checked memory is slow, and so is plain code
 #else
   constexpr int count = 1423;
 #endif

@@ -264,6 +264,16 @@ TEST(Service, HandsOutACatalogueOfManyMegabytesWhole) {
   EXPECT_GT(service.wireReply(cataloguePath, catalogueRequest).size(), 10'000'000U);
 }
 
+TEST(Service, RepliesPlainlyToABrowserThatTakesCompressedReplies) {
+  const RunningService service;
+  const std::string request = orderRequest;
+  const std::string reply = service.wireReply(
+      std::string("POST ") + orderPath +
+      " HTTP/1.1\r\nHost: 127.0.0.1\r\nAccept-Encoding: gzip, br\r\nContent-Length: " +
+      std::to_string(request.size()) + "\r\n\r\n" + request);
+  EXPECT_THAT(reply, HasSubstr("<Document-Order>"));
+}
+
 TEST(Service, DoesNotStartWithoutItsDataFolder) {
   EXPECT_THROW(RunningService({"--data", "/no/such/folder"}), std::runtime_error);
 }

@@ -1,8 +1,6 @@
 #include "web/played_border.h"
 
-#include <cstdint>
-#include <cstdlib>
-#include <cstring>
+#include <algorithm>
 
 namespace awizo::web::test {
 
@@ -10,43 +8,6 @@ namespace {
 
 /// The border is a pair of functions, so who stands behind it is known to all.
 PlayedBorder* current = nullptr;
-
-Fields unpacked(const char* bytes) {
-  const auto take = [&bytes] {
-    std::uint32_t count = 0;
-    std::memcpy(&count, bytes, sizeof count);
-    bytes += sizeof count;
-    return count;
-  };
-  Fields fields(take());
-  for (std::string& field : fields) {
-    const std::uint32_t size = take();
-    field.assign(bytes, size);
-    bytes += size;
-  }
-  return fields;
-}
-
-char* packed(const Fields& fields) {
-  std::string bytes;
-  const auto put = [&bytes](std::size_t count) {
-    const auto word = static_cast<std::uint32_t>(count);
-    bytes.append(reinterpret_cast<const char*>(&word), sizeof word);
-  };
-  put(fields.size());
-  for (const std::string& field : fields) {
-    put(field.size());
-    bytes += field;
-  }
-  auto* const memory = static_cast<char*>(std::malloc(bytes.size()));
-  std::memcpy(memory, bytes.data(), bytes.size());
-  return memory;
-}
-
-char* answerTo(const char* question) {
-  current->questions.push_back(unpacked(question));
-  return packed(current->answer(current->questions.back()));
-}
 
 }  // namespace
 
@@ -56,15 +17,26 @@ PlayedBorder::~PlayedBorder() { current = nullptr; }
 
 }  // namespace awizo::web::test
 
+using awizo::web::AskedField;
+using awizo::web::Fields;
+
 extern "C" {
-char* awizoPageAsk(const char* question, std::size_t size);
-char* awizoPageAskNow(const char* question, std::size_t size);
+void awizoPageAsk(const AskedField* question, std::size_t count, Fields* answer);
+void awizoPageAskNow(const AskedField* question, std::size_t count, Fields* answer);
+char* awizoAddField(Fields* answer, std::size_t size);
 }
 
-char* awizoPageAsk(const char* question, std::size_t) {
-  return awizo::web::test::answerTo(question);
+void awizoPageAsk(const AskedField* question, std::size_t count, Fields* answer) {
+  Fields asked;
+  for (std::size_t at = 0; at < count; ++at)
+    asked.emplace_back(question[at].bytes, question[at].size);
+  awizo::web::test::PlayedBorder& border = *awizo::web::test::current;
+  border.questions.push_back(asked);
+  for (const std::string& field : border.answer(asked)) {
+    std::ranges::copy(field, awizoAddField(answer, field.size()));
+  }
 }
 
-char* awizoPageAskNow(const char* question, std::size_t) {
-  return awizo::web::test::answerTo(question);
+void awizoPageAskNow(const AskedField* question, std::size_t count, Fields* answer) {
+  awizoPageAsk(question, count, answer);
 }

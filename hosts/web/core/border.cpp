@@ -2,61 +2,42 @@
 
 #include <charconv>
 #include <cstdint>
-#include <cstdlib>
-#include <cstring>
 #include <string_view>
 
 #include "platform/run_time_error.h"
 
 #ifdef __wasm__
 #define AWIZO_IMPORT(name) __attribute__((import_module("page"), import_name(name)))
+#define AWIZO_EXPORT(name) __attribute__((export_name(name)))
 #else
 #define AWIZO_IMPORT(name)
+#define AWIZO_EXPORT(name)
 #endif
 
+using awizo::web::AskedField;
+using awizo::web::Fields;
+
 extern "C" {
-// They take a packed question, and return a packed answer in memory of malloc.
-AWIZO_IMPORT("ask") char* awizoPageAsk(const char* question, std::size_t size);
-AWIZO_IMPORT("askNow") char* awizoPageAskNow(const char* question, std::size_t size);
+AWIZO_IMPORT("ask") void awizoPageAsk(const AskedField* question, std::size_t, Fields* answer);
+AWIZO_IMPORT("askNow")
+void awizoPageAskNow(const AskedField* question, std::size_t, Fields* answer);
+AWIZO_EXPORT("addField") char* awizoAddField(Fields* answer, std::size_t size);
+}
+
+char* awizoAddField(Fields* answer, std::size_t size) {
+  return answer->emplace_back(size, '\0').data();
 }
 
 namespace awizo::web {
 
 namespace {
 
-void appendCount(std::string& bytes, std::size_t count) {
-  const auto word = static_cast<std::uint32_t>(count);
-  bytes.append(reinterpret_cast<const char*>(&word), sizeof word);
-}
-
-/// The number of fields, then of each its length and its bytes.
-std::string packed(const Fields& fields) {
-  std::string bytes;
-  appendCount(bytes, fields.size());
-  for (const std::string& field : fields) {
-    appendCount(bytes, field.size());
-    bytes += field;
-  }
-  return bytes;
-}
-
-std::uint32_t takeCount(const char*& bytes) {
-  std::uint32_t word = 0;
-  std::memcpy(&word, bytes, sizeof word);
-  bytes += sizeof word;
-  return word;
-}
-
-Fields unpacked(char* answer) {
-  const char* bytes = answer;
-  Fields fields(takeCount(bytes));
-  for (std::string& field : fields) {
-    const std::uint32_t size = takeCount(bytes);
-    field.assign(bytes, size);
-    bytes += size;
-  }
-  std::free(answer);
-  return fields;
+template <class Ask, class Question>
+Fields answerOf(Ask ask, const Question& question) {
+  const std::vector<AskedField> asked(question.begin(), question.end());
+  Fields answer;
+  ask(asked.data(), asked.size(), &answer);
+  return answer;
 }
 
 RunTimeError errorOf(std::int32_t number) {
@@ -72,14 +53,12 @@ RunTimeError errorOf(std::int32_t number) {
 
 }  // namespace
 
-Fields ask(const Fields& question) {
-  const std::string bytes = packed(question);
-  return unpacked(awizoPageAsk(bytes.data(), bytes.size()));
-}
+Fields ask(const Fields& question) { return answerOf(awizoPageAsk, question); }
 
-Fields askNow(const Fields& question) {
-  const std::string bytes = packed(question);
-  return unpacked(awizoPageAskNow(bytes.data(), bytes.size()));
+Fields askNow(const Fields& question) { return answerOf(awizoPageAskNow, question); }
+
+Fields askNow(std::initializer_list<std::string_view> question) {
+  return answerOf(awizoPageAskNow, question);
 }
 
 Fields checked(Fields answer) {

@@ -20,7 +20,7 @@ class OpenFile {
   OpenFile(const OpenFile&) = delete;
   OpenFile& operator=(const OpenFile&) = delete;
 
-  void append(std::string bytes) const { checked(askNow({"append", handle_, std::move(bytes)})); }
+  void append(std::string_view bytes) const { checked(askNow({"append", handle_, bytes})); }
   void flush() const { checked(askNow({"flush", handle_})); }
 
  private:
@@ -44,7 +44,7 @@ class PageText final : public TextStream {
 class PageGrowingFile final : public GrowingFile {
  public:
   explicit PageGrowingFile(std::string handle) : file_(std::move(handle)) {}
-  void append(std::string_view bytes) override { file_.append(std::string(bytes)); }
+  void append(std::string_view bytes) override { file_.append(bytes); }
   void flush() override { file_.flush(); }
 
  private:

@@ -36,8 +36,8 @@ PageLocale::PageLocale(std::string name) : name_(std::move(name)) {
   facts_.groupSeparators.assign(facts.begin() + 4, facts.end());
 }
 
-std::string PageLocale::text(const char* question, std::string argument) const {
-  return std::move(askNow({question, name_, std::move(argument)}).at(0));
+std::string PageLocale::text(const char* question, const std::string& argument) const {
+  return std::move(askNow({question, name_, argument}).at(0));
 }
 
 std::string PageLocale::shortDate(Date date) const { return text("shortDate", dateText(date)); }
@@ -70,7 +70,7 @@ std::vector<std::int32_t> PageLocale::ranks(const std::vector<std::string_view>&
 }
 
 int PageLocale::compare(std::string_view left, std::string_view right) const {
-  const std::string sign = askNow({"compare", name_, std::string(left), std::string(right)}).at(0);
+  const std::string sign = askNow({"compare", name_, left, right}).at(0);
   if (sign == "0") return 0;
   return sign == "-1" ? -1 : 1;
 }

@@ -24,7 +24,7 @@ class PageLocale final : public Locale {
   std::string fromSingleByte(std::string_view bytes) const override;
 
  private:
-  std::string text(const char* question, std::string argument) const;
+  std::string text(const char* question, const std::string& argument) const;
 
   std::string name_;
   LocaleFacts facts_;

@@ -1,12 +1,12 @@
 // The core: loaded, started, and connected with what answers its questions.
 
-import { bytesOf, pack, textOf, unpack, type Field } from "./fields.ts";
+import { bytesOf, textOf, type Field } from "./fields.ts";
 
 /// Answers the core. What the fields share with the core's memory changes once it goes on.
 export interface Surroundings {
   /// A question that may take time.
   ask(name: string, fields: Uint8Array[]): Promise<readonly Field[]>;
-  /// A question that is answered at once.
+  /// A question that is answered at once; its fields are the core's memory, and only until then.
   askNow(name: string, fields: Uint8Array[]): readonly Field[];
 }
 
@@ -19,14 +19,14 @@ export interface Core {
 
 interface Exports {
   memory: WebAssembly.Memory;
-  malloc(size: number): number;
+  addField(answer: number, size: number): number;
   run(): number;
   _initialize(): void;
 }
 
 /// What is missing from WebAssembly's declarations.
 interface Suspension {
-  Suspending: new (ask: (at: number, size: number) => Promise<number>) => WebAssembly.ImportValue;
+  Suspending: new (ask: (at: number, count: number, to: number) => Promise<void>) => WebAssembly.ImportValue;
   promising(run: () => number): () => Promise<number>;
 }
 
@@ -34,6 +34,7 @@ const success = 0;
 const badFile = 8;
 const notSupported = 52;
 const complaints = 2;
+/// Of a place in memory and a size.
 const vectorSize = 8;
 
 /// Whether this browser can suspend the core while it waits.
@@ -47,16 +48,19 @@ export async function loadCore(module: WebAssembly.Module, surroundings: Surroun
 
   const bytes = (at: number, size: number) => new Uint8Array(core.memory.buffer, at, size);
   const view = () => new DataView(core.memory.buffer);
-  const question = (at: number, size: number): [string, Uint8Array[]] => {
-    const [name, ...fields] = unpack(bytes(at, size).slice());
+  const vector = (at: number) => bytes(view().getUint32(at, true), view().getUint32(at + 4, true));
+  const question = (at: number, count: number): [string, Uint8Array[]] => {
+    const [name, ...fields] = Array.from({ length: count }, (_, place) => vector(at + place * vectorSize));
     return [textOf(name), fields];
   };
-  const answer = (fields: readonly Field[]): number => {
-    const packed = pack(fields);
-    const at = core.malloc(packed.length) >>> 0;
-    if (at === 0) throw new Error("the core is out of memory");
-    bytes(at, packed.length).set(packed);
-    return at;
+  // While a question is answered that takes time the core's memory may grow, and then lies elsewhere.
+  const copied = ([name, fields]: [string, Uint8Array[]]): [string, Uint8Array[]] =>
+    [name, fields.map((field) => field.slice())];
+  const answer = (to: number, fields: readonly Field[]): void => {
+    for (const field of fields.map(bytesOf)) {
+      const at = core.addField(to, field.length) >>> 0;
+      bytes(at, field.length).set(field);
+    }
   };
 
   // What the C++ library asks of a system: it only complains, and asks for nothing else.
@@ -64,8 +68,7 @@ export async function loadCore(module: WebAssembly.Module, surroundings: Surroun
     fd_write(file, vectors, count, written) {
       let size = 0;
       for (let i = 0; i < count!; ++i) {
-        const vector = vectors! + i * vectorSize;
-        const part = bytes(view().getUint32(vector, true), view().getUint32(vector + 4, true));
+        const part = vector(vectors! + i * vectorSize);
         if (file === complaints) surroundings.askNow("complain", [part.slice()]);
         size += part.length;
       }
@@ -92,8 +95,9 @@ export async function loadCore(module: WebAssembly.Module, surroundings: Surroun
 
   const instance = await WebAssembly.instantiate(module, {
     page: {
-      ask: new suspension.Suspending(async (at, size) => answer(await surroundings.ask(...question(at, size)))),
-      askNow: (at: number, size: number) => answer(surroundings.askNow(...question(at, size))),
+      ask: new suspension.Suspending(
+        async (at, count, to) => answer(to, await surroundings.ask(...copied(question(at, count))))),
+      askNow: (at: number, count: number, to: number) => answer(to, surroundings.askNow(...question(at, count))),
     },
     wasi_snapshot_preview1: systemOrNothing,
   });

@@ -168,7 +168,7 @@ export function answerAboutOpenFiles(question: string, fields: Uint8Array[]): re
   try {
     switch (question) {
       case "append":
-        file?.write(new Uint8Array(bytesOf(fields[1])), { at: file.getSize() });
+        file?.write(bytesOf(fields[1]) as Uint8Array<ArrayBuffer>, { at: file.getSize() });
         return [good];
       case "flush":
         file?.flush();
