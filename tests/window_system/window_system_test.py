@@ -168,14 +168,17 @@ class Editor:
             return window if window is not None and window.get_name().startswith(title) else None
         return wait_for(f"the window «{title}»", shown)
 
+    def parts(self):
+        window = self.active_window()
+        return within(window) if window is not None else ()
+
     def find(self, role, name):
         return wait_for(f"{role} «{name}»", lambda: next(
-            (thing for thing in within(self.active_window())
+            (thing for thing in self.parts()
              if thing.get_role() == role and heard_name(thing) == name), None))
 
     def focused(self):
-        return next((thing for thing in within(self.active_window())
-                     if has(thing, Atspi.StateType.FOCUSED)), None)
+        return next((thing for thing in self.parts() if has(thing, Atspi.StateType.FOCUSED)), None)
 
     def tab_to(self, name):
         for _ in range(60):
@@ -207,6 +210,8 @@ class WindowSystemTest(unittest.TestCase):
             os.environ["DISPLAY"] = f":{said.readline().strip()}"
         manager = subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL)
         ends.callback(cls.stop, manager)
+        # A window that comes before it is never the active one.
+        wait_for("the window manager", lambda: xdotool("get_desktop"))
 
     @staticmethod
     def stop(program):
@@ -243,10 +248,10 @@ class WindowSystemTest(unittest.TestCase):
         return editor
 
     @staticmethod
-    def trust(editor):
+    def trust(editor, answer="Да"):
         """Answers the question whether the service's address may be talked to."""
         editor.wait_for_window("VIRD")
-        editor.find(ROLE.PUSH_BUTTON, "Да").do_action(0)
+        editor.find(ROLE.PUSH_BUTTON, answer).do_action(0)
 
     def enterContext(self, context):  # Python 3.11 has it.
         entered = context.__enter__()
@@ -288,6 +293,104 @@ class WindowSystemTest(unittest.TestCase):
         press("F6")
         wait_for("the packing pane", lambda: len(list(acted_on(editor.active_window()))) > before)
         self.expect_names(editor.active_window())
+
+    def choose_last(self, editor, menu):
+        """The last entry of a menu, by keys once the menu is open."""
+        opener = editor.find(ROLE.MENU_ITEM, menu)
+        opener.do_action(0)
+        wait_for(f"the menu «{menu}»", lambda: any(
+            has(entry, Atspi.StateType.SHOWING) for thing in children(opener)
+            for entry in children(thing)))
+        press("Up", "Return")
+
+    def in_dialog(self, editor, title):
+        """The dialog with this title, in which every control says its name."""
+        dialog = editor.wait_for_window(title)
+        self.expect_names(dialog)
+        return dialog
+
+    @staticmethod
+    def type_into(editor, field, text):
+        editor.tab_to(field)
+        press("ctrl+a", *text)
+        wait_for(f"«{text}» in «{field}»",
+                 lambda: Atspi.Text.get_text(editor.focused(), 0, -1) == text)
+
+    def rows_of(self, editor, name):
+        return editor.find(ROLE.TABLE, name).get_n_rows()
+
+    def add_packages(self, editor, count):
+        """By keys alone; the order's place is offered."""
+        main = editor.active_window().get_name()
+        press("ctrl+n")
+        self.in_dialog(editor, "Несколько упаковок")
+        self.assertTrue(editor.is_at("Сколько упаковок:"))
+        self.type_into(editor, "Сколько упаковок:", str(count))
+        editor.tab_to("ILN места доставки:")
+        press("Return")
+        self.end_boxes(editor, main)
+
+    @staticmethod
+    def end_boxes(editor, main):
+        """Enter answers what is told on the way back to the main window."""
+        def is_back():
+            window = editor.active_window()
+            if window is None:
+                return False
+            if window.get_name().split(" *")[0] == main.split(" *")[0]:
+                return True
+            if window.get_role() == ROLE.ALERT or window.get_name() == "VIRD":
+                press("Return")
+                time.sleep(0.1)
+            return False
+        wait_for(f"the window «{main}»", is_back)
+
+    def test_no_control_of_the_packing_and_paper_forms_is_nameless_and_their_keys_work(self):
+        editor = self.with_order()
+        main = editor.active_window().get_name()
+        self.choose_last(editor, "Бумаги")
+        self.in_dialog(editor, "Номера упаковок (SSCC)")
+        self.type_into(editor, "Префикс фирмы (GS1):", "9520001")
+        self.type_into(editor, "по:", "1000")
+        press("Return")
+        editor.wait_for_window(main)
+        self.add_packages(editor, 3)
+        wait_for("three packages", lambda: self.rows_of(editor, "Упаковки") == 3)
+
+        press("ctrl+d")
+        self.in_dialog(editor, "Разложить по упаковкам")
+        self.assertTrue(editor.is_at("Что:"))
+        press("Escape")
+        editor.wait_for_window(main)
+
+        editor.tab_to("Товарные позиции")
+        press("ctrl+Home", "F2")
+        self.in_dialog(editor, "Издание продукта")
+        editor.tab_to("Упаковки этой строки")
+        press("Insert")
+        self.in_dialog(editor, "Добавь товар в упаковку")
+        press("Return")
+        editor.wait_for_window("Издание продукта")
+        press("Escape")
+        self.end_boxes(editor, main)
+
+        for key, title in (("ctrl+l", "Этикетки"), ("ctrl+p", "Упаковочный лист")):
+            press(key)
+            self.in_dialog(editor, title)
+            press("Escape")
+            editor.wait_for_window(main)
+
+        press("F6")
+        wait_for("the packing pane", lambda: editor.is_at("Строки, что из них упаковано"))
+        self.expect_names(editor.active_window())
+        press("Tab")
+        wait_for("the packages there", lambda: editor.is_at("Упаковки, что в них лежит"))
+        press("Insert")
+        wait_for("a line packed", lambda: any(
+            thing.get_role() == ROLE.LABEL and thing.get_name().startswith("упаковано 1 из")
+            for thing in editor.parts()))
+        press("Escape")
+        wait_for("the document again", lambda: editor.is_at("Товарные позиции"))
 
     def test_no_control_of_the_start_page_or_the_file_dialog_is_nameless(self):
         editor = self.editor()
@@ -368,6 +471,57 @@ class WindowSystemTest(unittest.TestCase):
         editor.programs.insert(0, editor.programs.pop())
         wait_for("a new window", lambda: editor.active_window() is not None)
         self.assertIsNone(again.poll())
+
+    def test_a_launch_file_is_opened_again_where_its_window_has_gone_on_to_other_work(self):
+        file = self.launch_file()
+        editor = self.editor(file)
+        self.trust(editor, "Нет")
+        editor.find(ROLE.PUSH_BUTTON, "Новый документ").do_action(0)
+        wait_for("work off line", lambda: editor.find(ROLE.LABEL, "Off-Line"))
+        self.assertEqual(editor.start(file).wait(PATIENCE), 0)
+        self.trust(editor)
+        editor.wait_for_window("Без номера")
+        self.assertIsNone(editor.programs[0].poll())
+
+    def test_an_ordinary_user_opens_a_file_by_its_name_and_saves_it_where_he_may(self):
+        home = pathlib.Path(tempfile.mkdtemp(prefix="awizo-user-"))
+        self.addCleanup(shutil.rmtree, home)
+        given = home / "given"
+        given.mkdir()
+        shutil.copy(PROJECT / "samples/despatch-advice.xml", given / "saved.xml")
+        shutil.copytree(PROJECT / "demo/folder", home / "VIRD")
+        # Where it was built may be nobody else's.
+        program = shutil.copy(BUILD / "hosts/desktop/program/awizo", home)
+        given.chmod(0o555)
+        self.addCleanup(given.chmod, 0o755)
+        home.chmod(0o700)
+        user = {}
+        if os.geteuid() == 0:
+            nobody = 65534
+            user = {"user": nobody, "group": nobody, "extra_groups": []}
+            for path in (home, home / "VIRD", *(home / "VIRD").iterdir()):
+                os.chown(path, nobody, nobody)
+        environment = dict(os.environ, HOME=str(home), XDG_RUNTIME_DIR=str(home),
+                           XDG_DATA_HOME=str(home / "data"), XDG_CONFIG_HOME=str(home / "config"),
+                           QT_QPA_PLATFORM="xcb")
+        editor = subprocess.Popen([program, "--offline-path", home / "VIRD", given / "saved.xml"],
+                                  env=environment, cwd="/", stdin=subprocess.DEVNULL, **user)
+        self.addCleanup(editor.wait)
+        self.addCleanup(editor.kill)
+
+        def answered():
+            """The reader tells what it forgets."""
+            if active_title() == "VIRDDesAdv":
+                press("Return")
+                time.sleep(0.1)
+            return active_title().startswith("ОТГ-0318")
+        wait_for("the document", answered)
+        press("ctrl+s")
+        wait_for("the question about unpacked goods", lambda: active_title() == "VIRD")
+        press("Return")
+        wait_for("the file dialog", lambda: active_title().startswith("Записать"))
+        press("Return")
+        wait_for("the saved file", lambda: list(home.glob("*ОТГ-0318.xml")))
 
 
 if __name__ == "__main__":
