@@ -1,5 +1,6 @@
 #include <cstdint>
 
+#include "hosts/web/core/page_clock.h"
 #include "hosts/web/core/page_files.h"
 #include "hosts/web/core/page_http.h"
 #include "hosts/web/core/page_locale.h"
@@ -35,6 +36,28 @@ TEST(Border, AnAnswerThatBeginsWithAnErrorRaisesIt) {
   }
   EXPECT_EQ(errorNumberOf([] { checked({"999"}); }), errors::pathFileAccess().number());
   EXPECT_THAT(checked({"0", "x"}), ElementsAre("x"));
+}
+
+TEST(PageClock, TellsTheLocalTime) {
+  PlayedBorder border([](const Fields&) { return Fields{}; });
+  border.localSeconds = 1795374599;
+  const Moment now = PageClock().now();
+  EXPECT_EQ(now.date, makeDate(2026, 11, 22));
+  EXPECT_EQ(now.time, (TimeOfDay{19, 9, 59}));
+  border.localSeconds = -1;
+  EXPECT_EQ(PageClock().now().date, makeDate(1969, 12, 31));
+}
+
+TEST(PageLocale, AsksForTheSameDayOnce) {
+  PlayedBorder border([](const Fields& question) -> Fields {
+    if (question[0] == "facts") return {",", "₽", "dmy", "1", " "};
+    return {question[2] + "!"};
+  });
+  const PageLocale locale("ru_RU");
+  for (int time = 0; time < 3; ++time) locale.shortDate(makeDate(2026, 11, 22));
+  EXPECT_EQ(border.questions.size(), 2U);
+  EXPECT_EQ(locale.shortDate(makeDate(2026, 11, 23)), "2026-11-23!");
+  EXPECT_EQ(locale.shortDate(makeDate(2026, 11, 22)), "2026-11-22!");
 }
 
 TEST(PageFiles, AreAskedForByThePathsOfAOneRootSystem) {

@@ -23,8 +23,11 @@ using awizo::web::Fields;
 extern "C" {
 void awizoPageAsk(const AskedField* question, std::size_t count, Fields* answer);
 void awizoPageAskNow(const AskedField* question, std::size_t count, Fields* answer);
+double awizoPageLocalSeconds();
 char* awizoAddField(Fields* answer, std::size_t size);
 }
+
+double awizoPageLocalSeconds() { return awizo::web::test::current->localSeconds; }
 
 void awizoPageAsk(const AskedField* question, std::size_t count, Fields* answer) {
   Fields asked;

@@ -20,6 +20,7 @@ class PlayedBorder {
 
   std::vector<Fields> questions;
   const Answer answer;
+  double localSeconds = 0;
 };
 
 }  // namespace awizo::web::test

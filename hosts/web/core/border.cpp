@@ -21,6 +21,7 @@ extern "C" {
 AWIZO_IMPORT("ask") void awizoPageAsk(const AskedField* question, std::size_t, Fields* answer);
 AWIZO_IMPORT("askNow")
 void awizoPageAskNow(const AskedField* question, std::size_t, Fields* answer);
+AWIZO_IMPORT("localSeconds") double awizoPageLocalSeconds();
 AWIZO_EXPORT("addField") char* awizoAddField(Fields* answer, std::size_t size);
 }
 
@@ -60,6 +61,8 @@ Fields askNow(const Fields& question) { return answerOf(awizoPageAskNow, questio
 Fields askNow(std::initializer_list<std::string_view> question) {
   return answerOf(awizoPageAskNow, question);
 }
+
+double localSeconds() { return awizoPageLocalSeconds(); }
 
 Fields checked(Fields answer) {
   const std::string_view text = answer.at(0);

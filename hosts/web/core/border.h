@@ -26,6 +26,10 @@ Fields ask(const Fields& question);
 Fields askNow(const Fields& question);
 Fields askNow(std::initializer_list<std::string_view> question);
 
+/// Seconds of local time since 1970 began. Filling in an order asks thousands of times, so that
+/// this is no question.
+double localSeconds();
+
 /// The answer to a question that can fail begins with the number of its run-time error, "0" for
 /// none: raises that error, or returns what follows.
 Fields checked(Fields answer);

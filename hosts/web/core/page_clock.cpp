@@ -1,22 +1,20 @@
 #include "hosts/web/core/page_clock.h"
 
-#include <charconv>
-#include <cstddef>
+#include <chrono>
+#include <cstdint>
 
 #include "hosts/web/core/border.h"
 
 namespace awizo::web {
 
 Moment PageClock::now() const {
-  const Fields parts = askNow({"clock"});
-  const auto number = [&](std::size_t part) {
-    int value = 0;
-    const std::string& text = parts.at(part);
-    std::from_chars(text.data(), text.data() + text.size(), value);
-    return value;
-  };
-  return {makeDate(number(0), static_cast<unsigned>(number(1)), static_cast<unsigned>(number(2))),
-          {number(3), number(4), number(5)}};
+  using namespace std::chrono;  // NOLINT(google-build-using-namespace)
+  const sys_seconds now{seconds(static_cast<std::int64_t>(localSeconds()))};
+  const auto day = floor<days>(now);
+  const hh_mm_ss time(now - day);
+  return {Date(day),
+          {static_cast<int>(time.hours().count()), static_cast<int>(time.minutes().count()),
+           static_cast<int>(time.seconds().count())}};
 }
 
 }  // namespace awizo::web

@@ -40,7 +40,13 @@ std::string PageLocale::text(const char* question, const std::string& argument) 
   return std::move(askNow({question, name_, argument}).at(0));
 }
 
-std::string PageLocale::shortDate(Date date) const { return text("shortDate", dateText(date)); }
+std::string PageLocale::shortDate(Date date) const {
+  if (lastShortText_.empty() || date != lastShort_) {
+    lastShortText_ = text("shortDate", dateText(date));
+    lastShort_ = date;
+  }
+  return lastShortText_;
+}
 
 std::string PageLocale::shortTime(TimeOfDay time) const {
   return text("shortTime", timeText(time));

@@ -28,6 +28,9 @@ class PageLocale final : public Locale {
 
   std::string name_;
   LocaleFacts facts_;
+  // The last one: an order's lines ask for the same day's a thousand times.
+  mutable Date lastShort_;
+  mutable std::string lastShortText_;
 };
 
 }  // namespace awizo::web

@@ -1,7 +1,5 @@
-/// The local date and time as the core takes it: year, month, day, hour, minute, second.
-export function localMoment(): string[] {
+/// Seconds of local time since 1970 began.
+export function localSeconds(): number {
   const now = new Date();
-  return [
-    now.getFullYear(), now.getMonth() + 1, now.getDate(), now.getHours(), now.getMinutes(), now.getSeconds(),
-  ].map(String);
+  return Math.floor(now.getTime() / 1000) - now.getTimezoneOffset() * 60;
 }

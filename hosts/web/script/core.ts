@@ -1,5 +1,6 @@
 // The core: loaded, started, and connected with what answers its questions.
 
+import { localSeconds } from "./clock.ts";
 import { bytesOf, textOf, type Field } from "./fields.ts";
 
 /// Answers the core. What the fields share with the core's memory changes once it goes on.
@@ -97,6 +98,7 @@ export async function loadCore(module: WebAssembly.Module, surroundings: Surroun
     page: {
       ask: new suspension.Suspending(
         async (at, count, to) => answer(to, await surroundings.ask(...copied(question(at, count))))),
+      localSeconds,
       askNow: (at: number, count: number, to: number) => answer(to, surroundings.askNow(...question(at, count))),
     },
     wasi_snapshot_preview1: systemOrNothing,

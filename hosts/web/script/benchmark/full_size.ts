@@ -148,6 +148,7 @@ try {
     starts.push(started.seconds);
     page = started.page;
   }
+  console.log(`The start: ${least(starts).toFixed(2)} s; of awizo-headless: ${least(natives.map((one) => one.seconds)).toFixed(2)} s`);
   tell("The start, by that of awizo-headless", least(starts) / least(natives.map((one) => one.seconds)), 4, "times");
 
   const control = (name: string) => page!.locator(`awizo-wysylki [data-name="${name}"]`);

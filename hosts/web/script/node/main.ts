@@ -4,7 +4,6 @@
 import fs from "node:fs";
 import path from "node:path";
 
-import { localMoment } from "../clock.ts";
 import { loadCore, type Surroundings } from "../core.ts";
 import { bytesOf, textOf, type Field } from "../fields.ts";
 import { Locales } from "../locale.ts";
@@ -70,8 +69,6 @@ const computer: Surroundings = {
         return [];
       case "arguments":
         return given;
-      case "clock":
-        return localMoment();
       case "localeName":
         return [environmentLocale()];
       case "absolutePath":

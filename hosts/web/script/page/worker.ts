@@ -1,6 +1,5 @@
 // The core in a worker of its own, so that the page never waits for it.
 
-import { localMoment } from "../clock.ts";
 import { canSuspend, loadCore, type Surroundings } from "../core.ts";
 import { textOf, type Field } from "../fields.ts";
 import { good } from "../errors.ts";
@@ -75,8 +74,6 @@ function browser(start: Start): Surroundings {
           return [start.records];
         case "numberFolder":
           return [start.numbers];
-        case "clock":
-          return localMoment();
         case "localeName":
           return [navigator.language.replace("-", "_")];
         case "absolutePath":
