@@ -31,6 +31,7 @@ constexpr std::array tasks{
     NamedTask{HostTask::showNumbers, "showNumbers"},
     NamedTask{HostTask::showAbout, "showAbout"},
     NamedTask{HostTask::showLabels, "showLabels"},
+    NamedTask{HostTask::showPacking, "showPacking"},
     NamedTask{HostTask::showPackingList, "showPackingList"},
     NamedTask{HostTask::showPackageSheets, "showPackageSheets"},
     NamedTask{HostTask::showPackingCsv, "showPackingCsv"},

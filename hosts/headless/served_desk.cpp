@@ -12,6 +12,7 @@
 #include "desk/layout_words.h"
 #include "hosts/headless/brought_files.h"
 #include "hosts/headless/desk_records.h"
+#include "hosts/headless/packing_records.h"
 #include "hosts/protocol/answers.h"
 #include "hosts/version.h"
 #include "platform/at_exit.h"
@@ -109,6 +110,8 @@ void ServedDesk::serve(protocol::ControlAccess& access) {
   dispatcher.records["standing"] = [this] { return standing(); };
   dispatcher.records["markedText"] = [this] { return Json(markedText()); };
   dispatcher.clientActions["followDesk"] = [this](const Json&) { follow(); };
+  dispatcher.records["packing"] = [this] { return packingJson(packingOverview(control_.editor)); };
+  dispatcher.clientActions["packRest"] = [this](const Json& line) { packRest(line); };
   dispatcher.clientActions["showPapersOf"] = [this](const Json& line) {
     papers_.showSaved(protocol::textMember(line, "path"));
   };
@@ -199,6 +202,8 @@ void ServedDesk::perform(HostTask task) {
     case HostTask::showNumbers:
       if (numbers_ == nullptr) throw Refused("There are no package numbers here.");
       return numbers_->showRange();
+    case HostTask::showPacking:
+      return conversation_.emit({{"event", "showPacking"}});
     case HostTask::showLabels:
       return papers_.show(Paper::labels);
     case HostTask::showPackingList:
@@ -284,6 +289,29 @@ void ServedDesk::distribute() {
   if (!order) return;
   showBox(distributionWords(run(words::linesPacked, [&](const GoOn& goOn) {
     return awizo::distribute(with_, order->choice, order->plans, goOn);
+  })));
+}
+
+void ServedDesk::packRest(const Json& line) {
+  if (!control_.form.takesInput()) return;
+  const Json& rows = protocol::member(line, "lines");
+  if (!rows.is_array()) throw protocol::BadLine("\"lines\" must be an array.");
+  DistributionChoice choice;
+  choice.spread = Spread::allHere;
+  choice.packages = {protocol::integerMember(line, "package")};
+  for (const Json& row : rows) choice.lines.push_back(protocol::integerOf(row, "lines"));
+  const PackingOverview overview = packingOverview(control_.editor);
+  const auto isNoLine = [&](int row) {
+    return row < 1 || row > static_cast<int>(overview.lines.size());
+  };
+  const auto place = std::ranges::find(overview.places, choice.packages[0], &PackingPlace::package);
+  if (place == overview.places.end() || std::ranges::any_of(choice.lines, isNoLine)) {
+    throw Refused("There is no such row.");
+  }
+  const std::vector<LinePlan> plans = plansOf(control_.editor, choice);
+  if (plans.empty()) return showBox(std::string(nothingToPack));
+  showBox(distributionWords(run(words::linesPacked, [&](const GoOn& goOn) {
+    return awizo::distribute(with_, choice, plans, goOn);
   })));
 }
 

@@ -39,6 +39,8 @@ struct DeskMachine {
 ///   {"do":"bring","name":"awizo.xml","from":"c:\\.brought"}
 ///                         puts a file into the local folder, and opens it where a document is
 ///                         being chosen
+///   {"get":"packing"}     what lies where: see packing_records.h
+///   {"do":"packRest","lines":[1,2],"package":3}   the rest of these lines into that package
 ///   {"do":"stop"}         ends the work of an assistant
 ///   {"do":"showPapersOf","path":"c:\\VIRD\\a.xml"}   after {"event":"chooseDocument"}: papers of
 ///                         that saved document
@@ -75,6 +77,7 @@ class ServedDesk {
   void bring(const Json& line);
   void addPackages();
   void distribute();
+  void packRest(const Json& line);
   AssistantReport run(std::string_view words,
                       const std::function<AssistantReport(const GoOn& goOn)>& work);
   void showBox(const std::string& words);

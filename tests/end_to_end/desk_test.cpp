@@ -177,6 +177,36 @@ TEST_F(DeskTest, SeveralPackagesEndAtTheFirstThatTheControlRefuses) {
   EXPECT_THAT(seen, Not(Contains("modal"))) << "nobody acts on these dialogs";
 }
 
+TEST_F(DeskTest, TellsWhatLiesWhereAndPacksTheRestOfLines) {
+  perform("showPacking");
+  EXPECT_EQ(lastEvent("showPacking"), Json({{"event", "showPacking"}}));
+  addPackage(editor, "Паллета 1", std::string(serials[0]));
+  addPackage(editor, "Короб", std::string(serials[1]), 0);
+  const std::string quantity = editor.get("packing")["lines"][1]["packed"];
+  EXPECT_THAT(quantity, testing::StartsWith("0 из "));
+  editor.takeEvents();
+  editor.act({{"do", "packRest"}, {"lines", {1, 2}}, {"package", 2}});
+  EXPECT_EQ(lastEvent("modal"), Json()) << "nobody acts on these dialogs";
+  const Json packing = editor.get("packing");
+  EXPECT_EQ(packing["summary"], "упаковано 2 из 25 строк");
+  EXPECT_EQ(packing["lines"][1]["isWhole"], true);
+  EXPECT_EQ(packing["lines"][2]["isWhole"], false);
+  ASSERT_EQ(packing["places"].size(), 4U);
+  EXPECT_EQ(packing["places"][1]["level"], 2);
+  EXPECT_EQ(packing["places"][3]["line"], 2);
+  editor.act({{"do", "packRest"}, {"lines", {1}}, {"package", 1}});
+  EXPECT_EQ(editor.openBox(), "VIRD|exclamation|Раскладывать нечего.");
+  editor.answerAll();
+  for (const Json& rows : {Json{{"lines", {0}}, {"package", 1}},
+                           {{"lines", {26}}, {"package", 1}},
+                           {{"lines", {1}}, {"package", 3}},
+                           {{"lines", 1}, {"package", 1}}}) {
+    Json line{{"do", "packRest"}};
+    line.update(rows);
+    EXPECT_EQ(editor.say(line)["ok"], false) << line;
+  }
+}
+
 TEST_F(DeskTest, DistributesTheLinesOverThePackages) {
   addPackage(editor, "Паллета 1", std::string(serials[0]));
   perform("distribute");

@@ -8,13 +8,14 @@ import { dateForm } from "./date_form.ts";
 import { DeskStrip } from "./desk_strip.ts";
 import { Commands } from "./commands.ts";
 import type {
-  Box, Changes, Closing, Command, ControlFacts, Event as CoreEvent, FormFacts, Question, Standing, Work,
+  Box, Changes, Closing, Command, ControlFacts, Event as CoreEvent, FormFacts, Packing, Question, Standing, Work,
 } from "./facts.ts";
 import { firstExtra, isExtra } from "./extra_buttons.ts";
 import type { Host } from "./face.ts";
 import { FormView } from "./form_view.ts";
 import { dialogs, mainForm, startPage } from "./layouts.ts";
 import { computerButton, fetchFile, handOut, handOutTable } from "./own_disk.ts";
+import { PackingPane } from "./packing_pane.ts";
 import { printSheets } from "./sheets.ts";
 import { localeOf, startOf } from "./start.ts";
 import { styles } from "./styles.ts";
@@ -29,6 +30,9 @@ const mainName = "AwizoWysylki";
 const startName = "StartPage";
 const papersName = "PapersDialog";
 const linesTable = "grdPozycje";
+const tables = [linesTable, "grdOpakowania"];
+/// A column of both tables that is always seen: the name.
+const nameColumns: Record<string, number> = { grdPozycje: 2, grdOpakowania: 3 };
 /// The whole document is looked at for how it stands: not at each key.
 const standingDelay = 100;
 const answers: Record<Box["buttons"], [string, string][]> = {
@@ -68,6 +72,18 @@ export class AwizoWysylki extends ControlElement {
   /// The current line in words, below the table of lines.
   private readonly lineWords = make("output", { class: "line" });
   private readonly workBox = new WorkBox(this.root, () => void this.closingOf({ do: "stop" }));
+  private readonly packing = new PackingPane({
+    read: async () => {
+      const closing = await this.closingOf({ get: "packing" });
+      return closing.ok ? (closing.value as Packing) : undefined;
+    },
+    pack: (lines, packageRow) => this.closingOf({ do: "packRest", lines, package: packageRow }),
+    goTo: async (table, row) => {
+      this.modelsFocus()?.focus();
+      await this.closingOf({ do: "cell", on: table, row, col: nameColumns[table] });
+    },
+    leave: () => this.leaveExtras(),
+  });
   private work: Work | undefined;
   private isUnsent = false;
   private startsAgain = false;
@@ -108,6 +124,7 @@ export class AwizoWysylki extends ControlElement {
     this.shown.length = 0;
     this.box = undefined;
     this.strip.clear();
+    this.packing.clear();
     this.lineWords.textContent = "";
     this.workBox.hide();
     this.beginsAfterAnswer = false;
@@ -174,6 +191,8 @@ export class AwizoWysylki extends ControlElement {
         return printSheets(this.root, event.title, event.sheets);
       case "file":
         return handOutTable(event.name, event.text);
+      case "showPacking":
+        return this.packing.toggle();
       case "chooseDocument":
         return fetchFile(this.strip.element, (_, path) => this.closingOf({ do: "showPapersOf", path }));
       case "told":
@@ -232,6 +251,7 @@ export class AwizoWysylki extends ControlElement {
     }
     this.followModel();
     this.showStandingSoon();
+    if (tables.some((table) => changes.controls?.[table] !== undefined)) this.packing.changed();
   }
 
   /// While work lasts that nothing can stop, what the user does would be lost: nothing can be done.
@@ -284,7 +304,9 @@ export class AwizoWysylki extends ControlElement {
       return this.holdStill();
     }
     if (name === mainName) {
-      this.root.replaceChildren(make("main", { lang: "ru" }, [this.strip.element, view.element]));
+      this.root.replaceChildren(make("main", { lang: "ru" }, [
+        this.strip.element, make("div", { class: "desk" }, [view.element, this.packing.element]),
+      ]));
       return this.holdStill();
     }
     const title = make("h2", { id: `title-${name}` });
@@ -363,7 +385,8 @@ export class AwizoWysylki extends ControlElement {
     this.typing.forget();
     this.reveal(command.on);
     await this.closingOf({ do: "command", ...(command.on === undefined ? { task: command.task } : { on: command.on }) });
-    this.leaveExtras();
+    // Who works in the pane stays there.
+    if (!this.packing.hasFocus) this.leaveExtras();
   }
 
   /// What a command acts on must be seen.

@@ -110,6 +110,32 @@ export interface Work {
   asks: boolean;
 }
 
+/// A line beside what of it lies in packages.
+export interface PackingLine {
+  row: number;
+  number: string;
+  name: string;
+  packed: string;
+  isWhole: boolean;
+}
+
+/// A package, or so much of a line in the package before it that is one level higher.
+export interface PackingPlace {
+  level: number;
+  package: number;
+  /// 0 for a package.
+  line: number;
+  serial: string;
+  name: string;
+  quantity: string;
+}
+
+export interface Packing {
+  summary: string;
+  lines: PackingLine[];
+  places: PackingPlace[];
+}
+
 export type Event =
   | Changes
   | Box
@@ -128,6 +154,7 @@ export type Event =
   | { event: "print"; title: string; sheets: string[] }
   | { event: "file"; name: string; text: string }
   | { event: "chooseDocument" }
+  | { event: "showPacking" }
   | { event: "modal" | "hidden"; form: string; caption?: string }
   | { event: "changed"; property: string }
   | { event: "end" };

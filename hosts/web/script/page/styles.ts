@@ -89,6 +89,18 @@ h2 { font-size: 17px; margin: 12px 0; }
 .waiting, .dead { padding: 24px; }
 .sheet { display: flex; justify-content: center; background: var(--awizo-line); border-radius: 6px; padding: 8px; height: min(62dvh, 700px); }
 .sheet svg { width: auto; max-width: 100%; height: 100%; background: linear-gradient(white, white); }
+.desk { display: flex; flex-wrap: wrap; gap: 12px; align-items: start; }
+.desk > .form { flex: 1 1 700px; min-width: 0; }
+.packing { flex: 1 1 340px; min-width: 0; display: flex; flex-direction: column; gap: 8px; position: sticky; top: 8px; }
+.packing > output { font-weight: 600; }
+.packing label { display: flex; gap: 8px; align-items: center; }
+.packing input { width: auto; min-height: 0; }
+.packing-rows { height: 38dvh; min-height: 150px; overflow: auto; background: var(--awizo-paper); border: 1px solid var(--awizo-line); border-radius: 6px; }
+.packing-row { position: absolute; left: 0; right: 0; height: 30px; display: flex; gap: 8px; padding: 4px 8px; cursor: default; border-bottom: 1px solid var(--awizo-line); }
+.packing-row span { white-space: nowrap; overflow: hidden; text-overflow: ellipsis; flex: none; max-width: 45%; }
+.packing-row .name { flex: 1; max-width: none; }
+.packing-row[aria-selected=true] { background: color-mix(in srgb, var(--awizo-accent) 20%, transparent); }
+.packing-rows:focus .packing-row.current { outline: 2px solid var(--awizo-accent); outline-offset: -2px; }
 .printed { position: absolute; width: 0; height: 0; border: 0; visibility: hidden; }
 `;
 

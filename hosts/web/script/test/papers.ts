@@ -169,8 +169,6 @@ await withPage(async (page) => {
   }
   await close();
 
-  // Firefox hands nothing out while it is driven so.
-  if (!inChromium) return;
   const name = await user.field("txtNrAwiza").inputValue();
   const table = await handedOut(page, `Упаковочный_лист${name === "" ? "" : `_${name}`}.csv`, () =>
     user.editor.locator("[data-task=showPackingCsv]").click(), (text) => text.endsWith("\n"));

@@ -179,11 +179,13 @@ export async function handedOut(
     return fs.readFileSync(await download.path(), "utf8");
   }
   // Firefox's downloads aren't told of; they come to the folder, and get their names at the end.
-  const changes = fs.promises.watch(downloads, { recursive: true, signal: AbortSignal.timeout(patience) });
+  const changes = fs.promises.watch(downloads, { recursive: true, signal: AbortSignal.timeout(patience) })[Symbol.asyncIterator]();
+  // Nothing is watched before the first change is asked for.
+  let change = changes.next();
   await act();
-  for await (const { filename } of changes) {
-    if (filename === null || path.basename(filename) !== name) continue;
-    const text = fs.readFileSync(path.join(downloads, filename), "utf8");
+  for (; !(await change).done; change = changes.next()) {
+    const file = path.join(downloads, name);
+    const text = fs.existsSync(file) ? fs.readFileSync(file, "utf8") : "";
     if (isWhole(text)) return text;
   }
   throw new Error("Nothing was handed out.");
