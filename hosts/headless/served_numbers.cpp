@@ -1,5 +1,7 @@
 #include "hosts/headless/served_numbers.h"
 
+#include "desk/layout_words.h"
+
 namespace awizo::headless {
 
 ServedNumbers::ServedNumbers(SharedStore& store, const Clock& clock, AwizoWysylki& control)
@@ -9,7 +11,9 @@ ServedNumbers::ServedNumbers(SharedStore& store, const Clock& clock, AwizoWysylk
       rangeDialog_(control.screen, numbers_),
       observation_(control.form.deeds.add([this](const Deed& deed) {
         if (deed.kind != Deed::Kind::notRead && deed.keepsDocument()) offer_.documentKept();
-      })) {}
+      })) {
+  rangeDialog_.lblPlace.setCaption(words::numbersOfBrowser);
+}
 
 ServedNumbers::~ServedNumbers() { control_.form.deeds.remove(observation_); }
 

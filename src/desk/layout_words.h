@@ -48,6 +48,12 @@ inline constexpr std::string_view stop = "&Остановить";
 inline constexpr std::string_view packagesAdded = "Добавлено упаковок: %1 из %2";
 inline constexpr std::string_view linesPacked = "Разложено строк: %1 из %2";
 
+// The dialog of the firm's package numbers.
+inline constexpr std::string_view partGroup = "Отдать часть другой программе или браузеру";
+inline constexpr std::string_view numbersOfBrowser =
+    "Эти номера даёт только этот браузер, одни на все его вкладки. Попросите для него свою часть у "
+    "того, кто ведает номерами фирмы, и впишите её сюда.";
+
 // The pane that shows what lies where.
 inline constexpr std::string_view packingOnlyRest = "&Только неупакованное";
 inline constexpr std::string_view packRest = "&Положить остаток сюда";

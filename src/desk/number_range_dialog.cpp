@@ -1,5 +1,7 @@
 #include "desk/number_range_dialog.h"
 
+#include <charconv>
+
 #include "desk/host_boxes.h"
 #include "platform/run_time_error.h"
 #include "platform/text.h"
@@ -16,6 +18,10 @@ NumberRangeDialog::NumberRangeDialog(Screen& screen, GivenNumbers& numbers)
       lblExample(*this, "lblExample"),
       lblLeft(*this, "lblLeft"),
       lblDoubt(*this, "lblDoubt"),
+      lblPlace(*this, "lblPlace"),
+      txtPartCount(*this, "txtPartCount", "Отдать номеров:"),
+      txtPartPlace(*this, "txtPartPlace", "Кому:"),
+      btnHandOut(*this, "btnHandOut", "&Отдать часть"),
       btnSave(*this, "btnSave", "&Сохранить"),
       btnClose(*this, "btnClose", "&Закрыть"),
       numbers_(numbers) {
@@ -26,12 +32,15 @@ NumberRangeDialog::NumberRangeDialog(Screen& screen, GivenNumbers& numbers)
   for (TextField* field : {&txtExtension, &txtPrefix, &txtFirst, &txtLast, &txtNext}) {
     field->onChange = [this] { tell(); };
   }
+  btnHandOut.onClick = [this] { btnHandOut_Click(); };
   btnSave.onClick = [this] { btnSave_Click(); };
   btnClose.onClick = [this] { hide(); };
 }
 
 void NumberRangeDialog::show(std::string sellerILN) {
   sellerILN_ = std::move(sellerILN);
+  txtPartCount.setText("");
+  txtPartPlace.setText("");
   fill();
   tell();
   showModal();
@@ -73,6 +82,27 @@ void NumberRangeDialog::btnSave_Click() {
   const auto error = caughtError([&] { numbers_.setRange(*range); });
   if (error) return lblDoubt.setCaption(joined({"Не сохранено: ", diskRefusal(*error), "."}));
   hide();
+}
+
+void NumberRangeDialog::btnHandOut_Click() {
+  const std::string count(trimmed(txtPartCount.text()));
+  const std::string place(trimmed(txtPartPlace.text()));
+  std::uint64_t wanted = 0;
+  const auto read = std::from_chars(count.data(), count.data() + count.size(), wanted);
+  const bool isCount = read.ec == std::errc{} && read.ptr == count.data() + count.size();
+  if (!isCount || wanted == 0) return lblDoubt.setCaption("Сколько номеров отдать?");
+  if (place.empty()) return lblDoubt.setCaption("Кому отдать часть?");
+  std::optional<NumberRange> part;
+  const auto error = caughtError([&] { part = numbers_.handOut(wanted, place); });
+  if (error) return lblDoubt.setCaption(joined({"Не отдано: ", diskRefusal(*error), "."}));
+  if (!part)
+    return lblDoubt.setCaption("Отдавать нечего: сохранённого диапазона нет, или он кончился.");
+  fill();
+  tell();
+  txtPartCount.setText("");
+  lblDoubt.setCaption(joined({"Отдано. Там впишите: первая цифра ", part->extension, ", префикс ",
+                              part->prefix, ", номера с ", std::to_string(part->first), " по ",
+                              std::to_string(part->last), "."}));
 }
 
 }  // namespace awizo

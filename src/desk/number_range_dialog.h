@@ -8,7 +8,7 @@
 
 namespace awizo {
 
-/// Sets the firm's range of package numbers.
+/// Sets the firm's range of package numbers, and hands out parts of it to other places.
 class NumberRangeDialog : public Form {
  public:
   NumberRangeDialog(Screen& screen, GivenNumbers& numbers);
@@ -17,6 +17,9 @@ class NumberRangeDialog : public Form {
   Label lblExample;  ///< the next number, with its check digit
   Label lblLeft;
   Label lblDoubt;  ///< what is wrong with the fields, or doubtful
+  Label lblPlace;  ///< who takes numbers of this range, where that isn't plain
+  TextField txtPartCount, txtPartPlace;
+  Button btnHandOut;
   Button btnSave, btnClose;
 
   /// `sellerILN`: the user's firm, "" where it isn't known.
@@ -27,6 +30,7 @@ class NumberRangeDialog : public Form {
   std::optional<NumberRange> typedRange(std::string& refusal) const;
   void tell();
   void btnSave_Click();
+  void btnHandOut_Click();
 
   GivenNumbers& numbers_;
   std::string sellerILN_;

@@ -184,6 +184,29 @@ TEST_F(NumberRangeDialogTest, SaysWhichPartsOtherPlacesHave) {
   });
 }
 
+TEST_F(NumberRangeDialogTest, HandsOutAPartAndSaysWhatIsToBeTypedThere) {
+  shown([this] {
+    dialog.btnHandOut.userClick();
+    EXPECT_EQ(dialog.lblDoubt.caption(), "Сколько номеров отдать?");
+    dialog.txtPartCount.userType("5");
+    dialog.btnHandOut.userClick();
+    EXPECT_EQ(dialog.lblDoubt.caption(), "Кому отдать часть?");
+    EXPECT_EQ(numbers.range(), range) << "nothing was handed out";
+    dialog.txtPartPlace.userType("Склад 2");
+    dialog.btnHandOut.userClick();
+    EXPECT_EQ(dialog.lblDoubt.caption(),
+              "Отдано. Там впишите: первая цифра 3, префикс 9520001, номера с 16 по 20.");
+    EXPECT_EQ(dialog.txtLast.text(), "15");
+    EXPECT_THAT(dialog.lblLeft.caption(), HasSubstr("отданы 16–20: Склад 2, "));
+    dialog.txtPartCount.userType("100");
+    dialog.btnHandOut.userClick();
+    dialog.txtPartCount.userType("1");
+    dialog.btnHandOut.userClick();
+    EXPECT_THAT(dialog.lblDoubt.caption(), ::testing::StartsWith("Отдавать нечего"));
+  });
+  EXPECT_EQ(numbersLeft(numbers.range().value()), 0U);
+}
+
 TEST_F(NumberRangeDialogTest, DoubtsAnothersPrefixAndRefusesABadOne) {
   shown([this] {
     dialog.txtPrefix.userType("4600001");

@@ -15,7 +15,12 @@ void layOut(NumberRangeDialog& form, FormDialog& dialog) {
   faces.widget(form.txtPrefix)->setMinimumWidth(dialog.fontMetrics().averageCharWidth() * 30);
   rows->addWidget(makeColumn(faces, form.txtExtension, form.txtPrefix, form.txtFirst, form.txtLast,
                              form.txtNext));
-  addNotes(*rows, faces, {&form.lblExample, &form.lblLeft, &form.lblDoubt});
+  addNotes(*rows, faces, {&form.lblPlace, &form.lblExample, &form.lblLeft, &form.lblDoubt});
+  auto* part = makeGroup(words::partGroup);
+  auto* fields = new QVBoxLayout(part);
+  fields->addWidget(makeColumn(faces, form.txtPartCount, form.txtPartPlace));
+  fields->addWidget(faces.widget(form.btnHandOut), 0, Qt::AlignLeft);
+  rows->addWidget(part);
   rows->addStretch(1);
   rows->addLayout(makeButtonRow(faces, form.btnSave, form.btnClose));
 }

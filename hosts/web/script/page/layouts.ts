@@ -133,7 +133,9 @@ export const dialogs: Record<string, Group> = {
   NumberRangeDialog: {
     of: [
       { row: true, of: ["txtExtension", "txtPrefix"] }, { row: true, of: ["txtFirst", "txtLast", "txtNext"] },
-      "lblExample", "lblLeft", "lblDoubt", { row: true, of: ["btnSave", "btnClose"] },
+      "lblPlace", "lblExample", "lblLeft", "lblDoubt",
+      { heading: words.partGroup, of: [{ row: true, of: ["txtPartCount", "txtPartPlace", "btnHandOut"] }] },
+      { row: true, of: ["btnSave", "btnClose"] },
     ],
   },
   DistributionDialog: {

@@ -57,6 +57,16 @@ await withPage(async (page) => {
   await user.control("DlgSzczegoly.btnZamknij").click();
   await user.dialog("DlgSzczegoly").waitFor({ state: "detached" });
 
+  await user.control("grdOpakowania").press("Control+l");
+  await user.dialog("PapersDialog").waitFor();
+  await isSound("papers");
+  await user.control("PapersDialog.btnClose").click();
+  await user.dialog("PapersDialog").waitFor({ state: "detached" });
+  await user.control("grdOpakowania").press("F6");
+  await user.editor.locator("section.packing").getByRole("treeitem").first().waitFor();
+  await isSound("packing pane");
+  await user.editor.locator("[data-task=showPacking]").click();
+
   await user.control("btnWczytaj").click();
   await user.editor.getByRole("alertdialog").waitFor();
   await isSound("question");

@@ -31,6 +31,17 @@ await withPage(async (page) => {
   await user.control("NumberRangeDialog.btnSave").click();
   await user.dialog("NumberRangeDialog").waitFor({ state: "detached" });
 
+  // The range is this browser's own; a part of it may be handed on.
+  await user.editor.locator("[data-task=showNumbers]").click();
+  await user.control("NumberRangeDialog.lblPlace").filter({ hasText: /^Эти номера даёт только этот браузер/ }).waitFor();
+  await user.field("NumberRangeDialog.txtPartCount").fill("1000");
+  await user.field("NumberRangeDialog.txtPartPlace").fill("Склад 2");
+  await user.control("NumberRangeDialog.btnHandOut").click();
+  await user.control("NumberRangeDialog.lblDoubt").filter({ hasText: /префикс 9520001, номера с 999000 по 999999\.$/ }).waitFor();
+  assert.equal(await user.field("NumberRangeDialog.txtLast").inputValue(), "998999");
+  await user.control("NumberRangeDialog.btnClose").click();
+  await user.dialog("NumberRangeDialog").waitFor({ state: "detached" });
+
   await several("3", "Короб #");
   await user.control("PackagesDialog.lblExample").filter({ hasText: "Короб 3" }).waitFor();
   await user.picture("packages");
