@@ -120,6 +120,8 @@ QWidget* makeSellerAndBuyer(AwizoForm& form, FormFace& faces) {
   addParty(0, form.lblILNSprzedWart, form.lblNameSprzedWart);
   addParty(1, form.lblILNKupWart, form.lblNameKupWart);
   grid->setColumnStretch(2, 1);
+  // Rather than in a narrow column of words, the names stand above the place.
+  grid->setColumnMinimumWidth(2, parties->fontMetrics().averageCharWidth() * 22);
   return parties;
 }
 
