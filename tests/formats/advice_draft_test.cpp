@@ -41,9 +41,11 @@ TEST_F(ADraft, HasEveryFieldOfTheHeader) {
 
 TEST_F(ADraft, HasEveryColumnOfALine) {
   for (const Column& column : lineColumns) {
-    const AdviceDraft before = draft();
-    form.grdPozycje.setCell(2, column.number, "9@9");
-    EXPECT_NE(draft(), before) << column.number;
+    for (const int row : {1, 2}) {
+      const AdviceDraft before = draft();
+      form.grdPozycje.setCell(row, column.number, "9@9");
+      EXPECT_NE(draft(), before) << row << ' ' << column.number;
+    }
   }
 }
 
