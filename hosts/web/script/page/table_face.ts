@@ -24,6 +24,8 @@ export class TableFace extends Face {
   private readonly body: HTMLElement;
   private readonly heading: HTMLElement;
   private readonly rows = new Map<number, Row>();
+  /// Those in the page that are as they should be.
+  private readonly drawn = new Map<number, HTMLElement>();
   /// Where the mouse went down.
   private pressed: Cell | undefined;
   private readonly id = `table-${++lastNumber}`;
@@ -53,7 +55,12 @@ export class TableFace extends Face {
     if (changes.count !== undefined) {
       for (const row of this.rows.keys()) if (row >= changes.count) this.rows.delete(row);
     }
-    for (const line of changes.lines ?? []) this.rows.set(line.row, line);
+    for (const line of changes.lines ?? []) {
+      this.rows.set(line.row, line);
+      this.undraw(line.row);
+    }
+    // Rows that are told because they are seen change nothing else.
+    if (Object.keys(changes).some((name) => name !== "lines")) for (const row of [...this.drawn.keys()]) this.undraw(row);
     this.body.style.height = `${Math.max(this.count - this.fixed, 0) * rowHeight}px`;
     if (changes.row !== undefined || changes.top !== undefined) this.scrollToCurrent();
     this.draw();
@@ -125,24 +132,36 @@ export class TableFace extends Face {
       this.heading.replaceChildren(...columns.map((column) => this.cell(heading, column, "columnheader")));
     }
     const [from, to] = this.range();
-    const drawn: HTMLElement[] = [];
+    for (const number of [...this.drawn.keys()]) if (number < from || number >= to) this.undraw(number);
     for (let number = from; number < to; ++number) {
-      const row = this.rows.get(number);
-      const isCurrent = number === this.facts.row;
-      const element = make("div", {
-        role: "row", class: isCurrent ? "row current" : "row", "data-row": number, "aria-rowindex": number + 1,
-        "aria-selected": String(isCurrent), id: `${this.id}-${number}`,
-      }, row === undefined ? [] : columns.map((column) => this.cell(row, column, "gridcell")));
-      element.style.top = `${(number - this.fixed) * rowHeight}px`;
-      for (const cell of element.children) {
-        cell.classList.toggle("marked", this.isMarked(number, Number((cell as HTMLElement).dataset["col"])));
-      }
-      if (isCurrent) element.querySelector(`[data-col="${this.facts.col}"]`)?.classList.add("current");
-      drawn.push(element);
+      const element = this.drawn.get(number) ?? this.drawRow(number, columns);
+      this.drawn.set(number, element);
+      const there = this.body.children[number - from] ?? null;
+      if (there !== element) this.body.insertBefore(element, there);
     }
-    this.body.replaceChildren(...drawn, ...(this.overCell === undefined ? [] : [this.overCell]));
+    if (this.overCell !== undefined && !this.overCell.isConnected) this.body.append(this.overCell);
     this.placeOverCell();
     this.tellCurrent();
+  }
+
+  private drawRow(number: number, columns: number[]): HTMLElement {
+    const row = this.rows.get(number);
+    const isCurrent = number === this.facts.row;
+    const element = make("div", {
+      role: "row", class: isCurrent ? "row current" : "row", "data-row": number, "aria-rowindex": number + 1,
+      "aria-selected": String(isCurrent), id: `${this.id}-${number}`,
+    }, row === undefined ? [] : columns.map((column) => this.cell(row, column, "gridcell")));
+    element.style.top = `${(number - this.fixed) * rowHeight}px`;
+    for (const cell of element.children) {
+      cell.classList.toggle("marked", this.isMarked(number, Number((cell as HTMLElement).dataset["col"])));
+    }
+    if (isCurrent) element.querySelector(`[data-col="${this.facts.col}"]`)?.classList.add("current");
+    return element;
+  }
+
+  private undraw(number: number): void {
+    this.drawn.get(number)?.remove();
+    this.drawn.delete(number);
   }
 
   /// For those who don't see it: the current cell, its row where the cell's column is hidden.
