@@ -4,6 +4,7 @@
 #include "fuzz/targets.h"
 #include "hosts/headless/headless_program.h"
 #include "hosts/headless/native/native_machine.h"
+#include "hosts/headless/native/stream_lines.h"
 #include "hosts/protocol/values/json.h"
 #include "tests/support/control/test_control.h"
 #include "tests/support/fake_http.h"
@@ -26,7 +27,8 @@ void lines(std::string_view bytes) {
   std::istringstream in{std::string(bytes)};
   std::ostringstream out;
   headless::NativeMachine machine(http, files);
-  headless::runHeadless(options, machine, in, out);
+  headless::StreamLines conversation(in, out);
+  headless::runHeadless(options, machine, conversation);
   std::istringstream replies(out.str());
   for (std::string line; std::getline(replies, line);) {
     const auto reply = protocol::Json::parse(line, nullptr, false);

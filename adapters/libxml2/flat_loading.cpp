@@ -127,10 +127,12 @@ void hookFlat(xmlSAXHandler& events) {
 /// How many bytes lie between the tags, but for white space alone.
 std::size_t textSizeOf(std::string_view bytes) {
   std::size_t size = 0;
-  for (std::size_t end = bytes.find('>'); end != bytes.npos; end = bytes.find('>', end + 1)) {
+  for (std::size_t end = bytes.find('>'); end != bytes.npos;) {
     const std::string_view after = bytes.substr(end + 1);
     const std::string_view text = after.substr(0, after.find('<'));
     if (!isBlank(text)) size += text.size();
+    // A text may have a '>' too.
+    end = bytes.find('>', end + 1 + text.size());
   }
   return size;
 }
@@ -140,7 +142,8 @@ std::size_t textSizeOf(std::string_view bytes) {
 std::size_t likelyTextSize(std::string_view bytes) {
   constexpr std::size_t sampleSize = 1 << 16;
   const std::string_view sample = bytes.substr(0, sampleSize);
-  return bytes.size() / (sample.size() + 1) * textSizeOf(sample) / 8 * 9;
+  const std::size_t likely = bytes.size() / (sample.size() + 1) * textSizeOf(sample) / 8 * 9;
+  return std::min(likely, bytes.size());
 }
 
 void beginTree(FlatLoad& load, std::string_view bytes) {

@@ -188,6 +188,14 @@ TEST(Sizes, AHundredMegabytesOfElementsAreLoaded) {
   EXPECT_EQ(loaded(text)->root().firstChild().xml().size(), 2000 + 95U);
 }
 
+TEST(Sizes, ALargeDocumentThatBeginsWithATextOfSignsIsLoaded) {
+  const std::string signs(60'000, '>');
+  std::string text = "<a><b>" + signs + "</b>";
+  while (text.size() < 20'000'000) text += "<c>x</c>";
+  const auto document = loaded(text + "</a>");
+  EXPECT_EQ(document->root().firstChild().text(), signs);
+}
+
 TEST(Sizes, TwentyMegabytesInWindows1251AreLoaded) {
   std::string bytes = "<?xml version=\"1.0\" encoding=\"windows-1251\"?>\n<a>";
   std::size_t lines = 0;
