@@ -67,6 +67,8 @@ export class AwizoWysylki extends ControlElement {
   private readonly shown: { name: string; element: HTMLDialogElement }[] = [];
   private beginsAfterAnswer = false;
   private box: HTMLDialogElement | undefined;
+  /// What had the focus when the box opened, and keeps it whatever the model says.
+  private beforeBox: HTMLElement | null = null;
   private readonly commands = new Commands(mainName);
   private readonly strip = new DeskStrip((task) => void this.choose({ task }));
   /// The current line in words, below the table of lines.
@@ -94,6 +96,7 @@ export class AwizoWysylki extends ControlElement {
     super();
     this.root.adoptedStyleSheets = [styles()];
     this.root.addEventListener("keydown", (event) => this.pressKey(event as KeyboardEvent));
+    this.root.addEventListener("mousedown", (event) => this.takeClick(event as MouseEvent));
     this.root.addEventListener("focusin", (event) => this.followUser(event.target as Element));
   }
 
@@ -123,6 +126,7 @@ export class AwizoWysylki extends ControlElement {
     for (const known of [this.kinds, this.forms]) for (const name of Object.keys(known)) delete known[name];
     this.shown.length = 0;
     this.box = undefined;
+    this.beforeBox = null;
     this.strip.clear();
     this.packing.clear();
     this.lineWords.textContent = "";
@@ -366,6 +370,7 @@ export class AwizoWysylki extends ControlElement {
       if (harmless !== undefined) this.answer(harmless);
     });
     this.box = element;
+    this.beforeBox = this.keeper();
     this.root.append(element);
     element.showModal();
     const first = choices.findIndex(([answer]) => answer === harmless);
@@ -375,13 +380,16 @@ export class AwizoWysylki extends ControlElement {
   private answer(answer: string): void {
     this.box?.remove();
     this.box = undefined;
-    void this.closingOf({ answer });
+    this.beforeBox?.focus();
+    this.beforeBox = null;
+    void this.closingOf({ answer }).then(() => this.followModel());
     if (this.beginsAfterAnswer && this.core !== undefined) void this.begin(this.core);
   }
 
   /// The user has chosen a command.
   private async choose(command: Pick<Command, "on" | "task">): Promise<void> {
     if (this.box !== undefined || this.work !== undefined) return;
+    this.finishTyping();
     this.typing.forget();
     this.reveal(command.on);
     await this.closingOf({ do: "command", ...(command.on === undefined ? { task: command.task } : { on: command.on }) });
@@ -413,6 +421,7 @@ export class AwizoWysylki extends ControlElement {
     return {
       act: async (on, line) => {
         if (line["do"] === "click") this.reveal(on);
+        this.finishTyping(on);
         // What a user can't do now changes nothing.
         const closing = await this.closingOf({ ...line, on });
         if (!closing.ok) this.followModel();
@@ -427,7 +436,7 @@ export class AwizoWysylki extends ControlElement {
   }
 
   private followModel(): void {
-    if (this.box !== undefined || !this.mayTakeFocus() || isExtra(this.root.activeElement)) return;
+    if (this.box !== undefined || !this.isConnected || this.keeper() !== null) return;
     const target = this.modelsFocus();
     if (target !== null && this.root.activeElement !== target) target.focus();
   }
@@ -438,11 +447,26 @@ export class AwizoWysylki extends ControlElement {
     return face === undefined ? null : focusable(face.element);
   }
 
-  /// The focus is here or nowhere: from what else the page has it is never taken away.
-  private mayTakeFocus(): boolean {
-    const holder = (this.getRootNode() as Document | ShadowRoot).activeElement;
-    const isNowhere = document.activeElement === null || document.activeElement === document.body;
-    return this.isConnected && (holder === this || isNowhere);
+  /// What has the focus and keeps it, whatever the model says: what no form has, and what else the page has.
+  private keeper(): HTMLElement | null {
+    const active = this.root.activeElement as HTMLElement | null;
+    if (active !== null) return isExtra(active) ? active : null;
+    const other = document.activeElement as HTMLElement | null;
+    return other === document.body || other === this ? null : other;
+  }
+
+  /// A click that moves no focus by itself brings it to the form, where the model says: only from there
+  /// do keys reach what was clicked.
+  private takeClick(event: MouseEvent): void {
+    const isOfForm = (event.target as Element).closest("[data-name]") !== null;
+    const isInForm = this.root.activeElement !== null && !isExtra(this.root.activeElement);
+    if (event.isTrusted && event.defaultPrevented && isOfForm && !isInForm) this.modelsFocus()?.focus();
+  }
+
+  /// What is typed in another control is whole before anything is done with this one.
+  private finishTyping(on?: string): void {
+    const name = this.root.activeElement?.closest<HTMLElement>("[data-name]")?.dataset["name"];
+    if (name !== undefined && name !== on) this.top()?.face(name)?.finish();
   }
 
   private visitExtras(): void {

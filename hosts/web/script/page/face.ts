@@ -37,6 +37,9 @@ export abstract class Face {
     this.note.hidden = this.element.hidden;
   }
 
+  /// Nothing more is typed into it.
+  finish(): void {}
+
   protected abstract showFacts(changes: ControlFacts): void;
 
   protected act(line: Line): Promise<void> {

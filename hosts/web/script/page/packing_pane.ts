@@ -93,23 +93,37 @@ export class PackingPane {
     this.timer = undefined;
     const packing = await this.host.read();
     if (packing === undefined) return;
-    // Other lines than those that were marked may be in their rows.
-    if (packing.lines.length !== this.all.lines.length) this.marked.clear();
+    if (this.hasOtherLines(packing.lines)) this.shownLines = [];
     const current = this.shownPlaces[this.places.current];
     this.all = packing;
     this.summary.textContent = packing.summary;
     this.showLines();
     this.showPlaces();
-    const same = this.shownPlaces.findIndex((place) => place.line === 0 && place.serial === current?.serial);
-    if (same >= 0) this.places.goTo(same);
+    // Its row is another where one above it has gone; a line that has gone leaves its package.
+    const rowOf = (line?: number) => this.shownPlaces.findIndex((place) => place.line === line && place.serial === current?.serial);
+    const same = [rowOf(current?.line), rowOf(0)].find((row) => row >= 0);
+    if (same !== undefined) this.places.goTo(same);
+  }
+
+  /// Whether the marked rows may hold other lines than those that were marked.
+  private hasOtherLines(lines: PackingLine[]): boolean {
+    const named = (line?: PackingLine) => JSON.stringify([line?.number, line?.name]);
+    const isOther = (row: number) => {
+      const hasRow = (line: PackingLine) => line.row === row;
+      return named(lines.find(hasRow)) !== named(this.all.lines.find(hasRow));
+    };
+    return lines.length !== this.all.lines.length || [...this.marked].some(isOther);
   }
 
   private showLines(): void {
+    const isFirst = this.shownLines.length === 0;
+    if (isFirst) this.marked.clear();
     this.shownLines = this.all.lines.filter((line) => !this.onlyRest.checked || !line.isWhole);
     for (const row of this.marked) if (!this.shownLines.some((line) => line.row === row)) this.marked.delete(row);
     this.lines.setCount(this.shownLines.length);
     const current = this.shownLines[this.lines.current];
-    if (this.marked.size === 0 && current !== undefined) this.marked.add(current.row);
+    // Where the marked ones have gone, nobody has marked the one that is in their place.
+    if (isFirst && current !== undefined) this.marked.add(current.row);
     this.showStates();
   }
 

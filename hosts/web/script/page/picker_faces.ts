@@ -38,7 +38,7 @@ abstract class PickerFace extends InputFace {
   }
 
   /// Nothing more is typed. The act comes before that of the key or of the next field.
-  private finish(): void {
+  override finish(): void {
     if (!this.isTyping) return;
     this.isTyping = false;
     const text = this.input.value.trim();

@@ -29,6 +29,11 @@ await withPage(async (page) => {
   await say({ do: "focus", on: "txtNrAwiza" });
   await page.evaluate(() => new Promise(requestAnimationFrame));
   assert.equal(await page.evaluate(() => document.activeElement?.id), "own");
+  // A click in the editor brings the keys to what was clicked.
+  await lines.locator('[data-row="2"] [data-col="2"]').click();
+  await focusIs("grdPozycje");
+  await page.keyboard.press("ArrowDown");
+  await lines.locator('.row.current[data-row="3"]').waitFor();
   await user.field("txtNrAwiza").click();
   await focusIs("txtNrAwiza");
 
@@ -78,6 +83,20 @@ await withPage(async (page) => {
   await date.press("Tab");
   await page.waitForFunction((field) => (field as HTMLInputElement).value === "01.12.2026", await date.elementHandle());
   assert.equal(((await say({ get: "txtEstimatedDeliveryDate" })) as { date: string }).date, "2026-12-01");
+
+  // What is typed so is whole before the next command.
+  await date.fill("2.12.26");
+  await page.keyboard.press("F7");
+  await user.dialog("PackagesDialog").waitFor();
+  await page.keyboard.press("Escape");
+  await user.dialog("PackagesDialog").waitFor({ state: "detached" });
+  assert.equal(((await say({ get: "txtEstimatedDeliveryDate" })) as { date: string }).date, "2026-12-02");
+  await date.fill("3.12.26");
+  await user.control("btnDodajOpak").click();
+  await user.dialog("DlgSzczegoly").waitFor();
+  await page.keyboard.press("Escape");
+  await user.dialog("DlgSzczegoly").waitFor({ state: "detached" });
+  assert.equal(((await say({ get: "txtEstimatedDeliveryDate" })) as { date: string }).date, "2026-12-03");
 
   // While a document is on its way nothing can be done.
   await makeFaulty("upload=slow:1500");

@@ -61,6 +61,47 @@ await withPage(async (page) => {
   await lines.press("Control+z");
   await summary("упаковано 2 из 25 строк");
 
+  // Of a line that is whole nothing is packed, which a box tells; the pane keeps the keys. A mark that
+  // has gone leaves nobody's line marked.
+  const focused = (list: Locator) => list.and(page.locator(":focus")).waitFor();
+  const marked = lines.locator("[aria-selected=true]");
+  await lines.press("Home");
+  await packages.getByRole("treeitem").nth(1).click();
+  await lines.press("Insert");
+  await user.editor.getByRole("alertdialog").filter({ hasText: "Раскладывать нечего." }).waitFor();
+  await page.keyboard.press("Enter");
+  await focused(lines);
+  await page.keyboard.press("End");
+  await lines.locator('[data-at="24"][aria-selected=true]').waitFor();
+  await page.keyboard.press("Home");
+  await pane.getByRole("checkbox").check();
+  await line(1).getByText("3", { exact: true }).waitFor();
+  assert.equal(await marked.count(), 0);
+  assert.ok(await pane.getByRole("button").isDisabled());
+  await pane.getByRole("checkbox").uncheck();
+
+  // The tree stays at its line when another comes above it.
+  const current = packages.locator("[aria-selected=true]");
+  await packages.press("ArrowRight");
+  await packages.getByRole("treeitem").nth(3).click();
+  const kept = await current.innerText();
+  await lines.locator('[data-at="4"]').click();
+  await drag(line(5), packages.getByRole("treeitem").first());
+  await summary("упаковано 3 из 25 строк");
+  await packages.getByRole("treeitem").nth(4).waitFor();
+  assert.equal(await current.innerText(), kept);
+  await lines.press("Control+z");
+  await summary("упаковано 2 из 25 строк");
+
+  // A click brings the keys from the pane to the table.
+  await lines.focus();
+  await user.control("grdPozycje").locator('[data-row="6"] [data-col="2"]').click();
+  await focused(user.control("grdPozycje"));
+  await page.keyboard.press("Insert");
+  await user.dialog("DlgDodaj").waitFor();
+  await page.keyboard.press("Escape");
+  await user.dialog("DlgDodaj").waitFor({ state: "detached" });
+
   // Enter leads to the line; the pane goes where it has the focus.
   await lines.press("End");
   await lines.press("Enter");
