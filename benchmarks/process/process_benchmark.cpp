@@ -9,7 +9,9 @@
 
 #include "benchmarks/process/child.h"
 #include "benchmarks/process/roles.h"
+#include "benchmarks/support/full_document.h"
 #include "benchmarks/support/full_size.h"
+#include "formats/despatch_advice_writer.h"
 #include "hosts/common/machine/machine.h"
 #include "hosts/desktop/program/addresses.h"
 #include "support/files/files.h"
@@ -104,6 +106,31 @@ void WholeProcess(benchmark::State& state, Layout layout) {
 // clang-format on
 WHOLE_PROCESS(compact);
 WHOLE_PROCESS(indented);
+
+/// The packing list of the largest document as a PDF, against what a clerk waits for at most and
+/// the memory that a small computer has for it.
+void MakingThePackingList(benchmark::State& state) {
+  constexpr double mostSeconds = 3;
+  constexpr double mostMegabytes = 200;
+  const int part = static_cast<int>(state.range(0));
+  const test::Workplace place;
+  const std::string document = (place.folder() / "advice.xml").string();
+  test::TestEditor editor;
+  fillDocument(editor.editor, mostOrderLines / part, mostPackages / part);
+  put(document, MakeDesAdv(editor.editor)->fileBytes());
+  Cost all;
+  for ([[maybe_unused]] const auto turn : state) {
+    const Cost cost = costOf(
+        {AWIZO_PAPERS_PROGRAM, "list", document, "-o", (place.folder() / "list.pdf").string()});
+    state.SetIterationTime(cost.seconds);
+    all = {all.seconds + cost.seconds, all.megabytes + cost.megabytes};
+  }
+  const auto turns = static_cast<double>(state.iterations());
+  state.counters["ratio"] = all.seconds / turns / mostSeconds;
+  state.counters["memoryRatio"] = all.megabytes / turns / mostMegabytes;
+  state.counters["megabytes"] = all.megabytes / turns;
+}
+BENCHMARK(MakingThePackingList)->Arg(8)->Arg(4)->Arg(2)->Arg(1)->UseManualTime()->Iterations(3);
 
 /// Time to a painted main window, off line, against a bare window with an empty table.
 void ShowingTheMainWindow(benchmark::State& state) {

@@ -363,6 +363,13 @@ TEST(History, EndsAtAFileThatIsRead) {
   EXPECT_EQ(session.history.toTakeBack(), nullptr);
 }
 
+TEST(History, ASavedDocumentIsOnTheDiskAtOnce) {
+  Session session;
+  const int before = session.record.flushes;
+  session.save();
+  EXPECT_EQ(session.record.flushes, before + 1);
+}
+
 TEST(History, PastASavingSaysThatTheDocumentIsNotSaved) {
   Session session;
   session.save();

@@ -55,6 +55,23 @@ TEST(Tape, AFullDiskEndsTheRecordWithOneWordAndNotTheWork) {
   EXPECT_EQ(replayed.desk.form.txtNrAwiza.text(), "1");
 }
 
+TEST(Tape, WhatTheServiceGivesOnceIsOnTheDiskAtOnce) {
+  MemoryRecord record;
+  TapedControl recorded(&record);
+  startOffLine(recorded);
+  recorded.desk.http.reply("<order/>");
+  const int before = record.flushes;
+  recorded.recording->doHostAct({"ask"}, [&] {
+    const auto request = recorded.platform->platform.http.createRequest();
+    request->open("POST", "http://firm.example/order");
+    request->send("");
+    EXPECT_EQ(record.flushes, before);
+    EXPECT_EQ(request->responseText(), "<order/>");
+    EXPECT_EQ(record.flushes, before + 1);
+    EXPECT_NE(record.bytes.find("<order/>"), std::string::npos);
+  });
+}
+
 TEST(Tape, AReplayOfAnotherStateStops) {
   MemoryRecord record;
   TapedControl recorded(&record);
