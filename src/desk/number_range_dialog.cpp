@@ -26,11 +26,17 @@ NumberRangeDialog::NumberRangeDialog(Screen& screen, GivenNumbers& numbers)
       btnClose(*this, "btnClose", "&Закрыть"),
       numbers_(numbers) {
   setCaption("Номера упаковок (SSCC)");
-  acceptButton = &btnSave;
   closeButton = &btnClose;
   onActivate = [this] { txtPrefix.setFocus(); };
   for (TextField* field : {&txtExtension, &txtPrefix, &txtFirst, &txtLast, &txtNext}) {
     field->onChange = [this] { tell(); };
+  }
+  // Enter does what the user has typed for.
+  for (TextField* field : {&txtPartCount, &txtPartPlace}) {
+    field->onChange = [this] {
+      const bool isPart = !txtPartCount.text().empty() || !txtPartPlace.text().empty();
+      acceptButton = isPart ? &btnHandOut : &btnSave;
+    };
   }
   btnHandOut.onClick = [this] { btnHandOut_Click(); };
   btnSave.onClick = [this] { btnSave_Click(); };
@@ -41,6 +47,7 @@ void NumberRangeDialog::show(std::string sellerILN) {
   sellerILN_ = std::move(sellerILN);
   txtPartCount.setText("");
   txtPartPlace.setText("");
+  acceptButton = &btnSave;
   fill();
   tell();
   showModal();
@@ -58,6 +65,12 @@ void NumberRangeDialog::fill() {
   txtFirst.setText(range ? std::to_string(range->first) : "1");
   txtLast.setText(range ? std::to_string(range->last) : "");
   txtNext.setText(range ? std::to_string(range->next) : "");
+  filled_ = fieldTexts();
+}
+
+std::string NumberRangeDialog::fieldTexts() const {
+  return joined({txtExtension.text(), "\n", txtPrefix.text(), "\n", txtFirst.text(), "\n",
+                 txtLast.text(), "\n", txtNext.text()});
 }
 
 std::optional<NumberRange> NumberRangeDialog::typedRange(std::string& refusal) const {
@@ -85,6 +98,8 @@ void NumberRangeDialog::btnSave_Click() {
 }
 
 void NumberRangeDialog::btnHandOut_Click() {
+  // A part is one of the stored range, which the fields show again afterwards.
+  if (fieldTexts() != filled_) return lblDoubt.setCaption("Сначала сохраните диапазон.");
   const std::string count(trimmed(txtPartCount.text()));
   const std::string place(trimmed(txtPartPlace.text()));
   std::uint64_t wanted = 0;
@@ -100,9 +115,13 @@ void NumberRangeDialog::btnHandOut_Click() {
   fill();
   tell();
   txtPartCount.setText("");
-  lblDoubt.setCaption(joined({"Отдано. Там впишите: первая цифра ", part->extension, ", префикс ",
-                              part->prefix, ", номера с ", std::to_string(part->first), " по ",
-                              std::to_string(part->last), "."}));
+  acceptButton = &btnSave;
+  const std::uint64_t given = part->last - part->first + 1;
+  const std::string less =
+      given < wanted ? joined({" только ", std::to_string(given), " из ", count}) : "";
+  lblDoubt.setCaption(joined(
+      {"Отдано", less, ". Там впишите: первая цифра ", part->extension, ", префикс ", part->prefix,
+       ", номера с ", std::to_string(part->first), " по ", std::to_string(part->last), "."}));
 }
 
 }  // namespace awizo

@@ -27,6 +27,7 @@ class NumberRangeDialog : public Form {
 
  private:
   void fill();
+  std::string fieldTexts() const;
   std::optional<NumberRange> typedRange(std::string& refusal) const;
   void tell();
   void btnSave_Click();
@@ -34,6 +35,7 @@ class NumberRangeDialog : public Form {
 
   GivenNumbers& numbers_;
   std::string sellerILN_;
+  std::string filled_;  ///< the fields' texts, as nobody has changed them yet
   std::string handed_;  ///< parts that other places have, each on a line of its own
 };
 

@@ -200,11 +200,71 @@ TEST_F(NumberRangeDialogTest, HandsOutAPartAndSaysWhatIsToBeTypedThere) {
     EXPECT_THAT(dialog.lblLeft.caption(), HasSubstr("отданы 16–20: Склад 2, "));
     dialog.txtPartCount.userType("100");
     dialog.btnHandOut.userClick();
+    EXPECT_THAT(dialog.lblDoubt.caption(),
+                ::testing::StartsWith("Отдано только 15 из 100. Там впишите: "));
     dialog.txtPartCount.userType("1");
     dialog.btnHandOut.userClick();
     EXPECT_THAT(dialog.lblDoubt.caption(), ::testing::StartsWith("Отдавать нечего"));
   });
   EXPECT_EQ(numbersLeft(numbers.range().value()), 0U);
+}
+
+TEST_F(NumberRangeDialogTest, EnterHandsOutWhereAPartIsTypedAndElseSaves) {
+  shown([this] {
+    dialog.txtPartCount.userFocus();
+    dialog.txtPartCount.userType("5");
+    dialog.txtPartCount.userKey(keys::enter);
+    EXPECT_EQ(dialog.lblDoubt.caption(), "Кому отдать часть?");
+    ASSERT_TRUE(dialog.shown());
+    dialog.txtPartPlace.userFocus();
+    dialog.txtPartPlace.userType("Склад 2");
+    dialog.txtPartPlace.userKey(keys::enter);
+    EXPECT_EQ(numbers.handedOut().size(), 1U);
+    EXPECT_THAT(dialog.lblDoubt.caption(), ::testing::StartsWith("Отдано. "));
+    ASSERT_TRUE(dialog.shown());
+    dialog.txtPartPlace.userKey(keys::enter);
+    EXPECT_FALSE(dialog.shown()) << "the part has gone, nothing waits to be handed out";
+  });
+  EXPECT_EQ(numbers.handedOut().size(), 1U);
+  EXPECT_EQ(numbers.range()->last, 15U);
+  shown([this] {
+    dialog.txtPartPlace.userFocus();
+    dialog.txtPartPlace.userType("Склад 3");
+    dialog.txtPrefix.userFocus();
+    dialog.txtPrefix.userKey(keys::enter);
+    EXPECT_EQ(dialog.lblDoubt.caption(), "Сколько номеров отдать?");
+  });
+  shown([this] {
+    dialog.txtPrefix.userKey(keys::enter);
+    EXPECT_FALSE(dialog.shown()) << "what was typed at the last showing is gone";
+  });
+}
+
+TEST_F(NumberRangeDialogTest, HandsNothingOutOfARangeThatIsNotSaved) {
+  shown([this] {
+    dialog.txtLast.userType("500");
+    dialog.txtPartCount.userType("100");
+    dialog.txtPartPlace.userType("Склад 2");
+    dialog.btnHandOut.userClick();
+    EXPECT_EQ(dialog.lblDoubt.caption(), "Сначала сохраните диапазон.");
+    EXPECT_EQ(dialog.txtLast.text(), "500") << "what was typed stays";
+    dialog.txtLast.userType("20");
+    // Another window takes numbers meanwhile: nobody has changed these fields.
+    numbers.take(2, "А");
+    dialog.btnHandOut.userClick();
+    EXPECT_EQ(dialog.lblDoubt.caption().find("Сначала"), std::string::npos);
+  });
+  EXPECT_EQ(numbers.range(), (NumberRange{"3", "9520001", 1, 2, 3}));
+}
+
+TEST_F(NumberRangeDialogTest, WithoutARangeThereIsNothingToHandOut) {
+  store.texts.clear();
+  shown([this] {
+    dialog.txtPartCount.userType("5");
+    dialog.txtPartPlace.userType("Склад 2");
+    dialog.btnHandOut.userClick();
+    EXPECT_THAT(dialog.lblDoubt.caption(), ::testing::StartsWith("Отдавать нечего"));
+  });
 }
 
 TEST_F(NumberRangeDialogTest, DoubtsAnothersPrefixAndRefusesABadOne) {
