@@ -246,12 +246,43 @@ TEST_F(PackingPaneTest, MarksGoWithTheDocumentTheyWereMadeIn) {
   press(Qt::Key_Down, Qt::ShiftModifier);
   ASSERT_EQ(pane().lines()->selectionModel()->selectedRows().size(), 2);
   ClearGrdPozycje(control().editor);
-  for (const char* name : {"Кофе", "Какао", "Сахар"}) addLine(name, "5");
+  putLines(control().editor, 3);
   settle();
   ASSERT_EQ(shownLines().size(), 3U);
   const QModelIndexList marked = pane().lines()->selectionModel()->selectedRows();
   ASSERT_EQ(marked.size(), 1);
   EXPECT_EQ(marked.front().row(), 0);
+}
+
+TEST_F(PackingPaneTest, AnotherCountOfLinesMarksNoLineByItself) {
+  openDocument();
+  press(Qt::Key_F6);
+  settle();
+  press(Qt::Key_Down);
+  const QItemSelectionModel* selection = pane().lines()->selectionModel();
+  ASSERT_TRUE(selection->hasSelection());
+  const auto expectNothingMarked = [&](const char* after) {
+    settle();
+    EXPECT_FALSE(selection->hasSelection()) << after;
+    EXPECT_EQ(pane().lines()->currentIndex().row(), 1) << after;
+    pane().lines()->setFocus();
+    press(Qt::Key_Insert);
+    settle();
+    EXPECT_EQ(summary(), "упаковано 0 из " + std::to_string(shownLines().size()) + " строк")
+        << after;
+    // Nobody has marked anything yet; the arrow begins where the user was.
+    press(Qt::Key_Down);
+    EXPECT_TRUE(selection->isRowSelected(1)) << after;
+  };
+  addLine("Мёд", "3");
+  expectNothingMarked("a line added");
+  press(Qt::Key_Z, Qt::ControlModifier);
+  ASSERT_EQ(control().editor.session.LineCount, 3);
+  expectNothingMarked("the line taken back");
+  form().grdPozycje.userRow(3);
+  form().btnUsun.userClick();
+  ASSERT_EQ(control().editor.session.LineCount, 2);
+  expectNothingMarked("a line removed");
 }
 
 TEST_F(PackingPaneTest, EnterLeadsToTheRowInTheTable) {

@@ -181,7 +181,11 @@ void PackingPane::refresh() {
   stale_ = false;
   PackingOverview overview = packingOverview(editor_);
   // Other lines than those that were marked may be in their rows.
-  if (linesWent_ || overview.lines.size() != overview_.lines.size()) linesModel_->show({});
+  if (linesWent_) {
+    linesModel_->show({});
+  } else if (overview.lines.size() != overview_.lines.size()) {
+    lines_->selectionModel()->clearSelection();
+  }
   linesWent_ = false;
   overview_ = std::move(overview);
   summary_->setText(fromText(overview_.summary));
