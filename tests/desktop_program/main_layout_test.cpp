@@ -290,20 +290,57 @@ TEST_F(MainLayoutTest, ColumnsComeBackAsWideAsTheirUserMadeThem) {
   EXPECT_NEAR(lines()->columnWidth(GRD_POZ_EAN), wideEan, 1);
 }
 
+/// Drags the first handle of a splitter along its way.
+void dragHandle(const QSplitter& splitter, int by) {
+  const QWidget* handle = splitter.handle(1);
+  QWindow* window = splitter.window()->windowHandle();
+  const QPoint from = handle->mapTo(splitter.window(), handle->rect().center());
+  const QPoint to =
+      from + (splitter.orientation() == Qt::Horizontal ? QPoint(by, 0) : QPoint(0, by));
+  QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, from);
+  QTest::mouseMove(window, to);
+  QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, to);
+}
+
+TEST_F(MainLayoutTest, ASplitterThatTurnsKeepsItsUsersSizesOfEitherWay) {
+  const auto splitter = [this] { return window().findChild<QSplitter*>("packagesAndTotals"); };
+  const auto resized = [this](int width) {
+    window().resize(width, 700);
+    letLayoutsSettle();
+  };
+  open(offLineOptions());
+  resized(1024);
+  ASSERT_EQ(splitter()->orientation(), Qt::Horizontal);
+  dragHandle(*splitter(), -60);
+  letLayoutsSettle();
+  const QList<int> beside = splitter()->sizes();
+  resized(500);
+  ASSERT_EQ(splitter()->orientation(), Qt::Vertical);
+  resized(1024);
+  ASSERT_EQ(splitter()->orientation(), Qt::Horizontal);
+  EXPECT_EQ(splitter()->sizes(), beside);
+  resized(500);
+  const QList<int> belowBefore = splitter()->sizes();
+  dragHandle(*splitter(), 15);
+  letLayoutsSettle();
+  const QList<int> below = splitter()->sizes();
+  EXPECT_NE(below, belowBefore);
+  close();
+  open(offLineOptions());
+  resized(500);
+  EXPECT_EQ(splitter()->sizes(), below);
+  resized(1024);
+  EXPECT_EQ(splitter()->sizes(), beside);
+}
+
 TEST_F(MainLayoutTest, ASplitterThatIsDraggedGivesNoColumnAWidth) {
   open(offLineOptions());
   window().resize(1024, 700);
   letLayoutsSettle();
   const auto* splitter = window().findChild<QSplitter*>("packagesAndTotals");
-  QWidget* handle = splitter->handle(1);
   const auto& packages = widget().faces().table(form().grdOpakowania);
   const int before = packages.view()->width();
-  QWindow* inWindow = window().windowHandle();
-  const QPoint from = handle->mapTo(&window(), handle->rect().center());
-  QTest::mousePress(inWindow, Qt::LeftButton, Qt::NoModifier, from);
-  QTest::mouseMove(inWindow, from - QPoint(60, 0));
-  letLayoutsSettle();
-  QTest::mouseRelease(inWindow, Qt::LeftButton, Qt::NoModifier, from - QPoint(60, 0));
+  dragHandle(*splitter, -60);
   letLayoutsSettle();
   EXPECT_LT(packages.view()->width(), before);
   EXPECT_TRUE(packages.givenWidths().empty());

@@ -4,8 +4,22 @@
 
 namespace awizo::desktop {
 
-TurningSplitter::TurningSplitter(const QString& name) : QSplitter(Qt::Horizontal), name_(name) {
-  setObjectName(name);
+TurningSplitter::TurningSplitter() : QSplitter(Qt::Horizontal) {
+  connect(this, &QSplitter::splitterMoved, this, [this] { given_[orientation()] = sizes(); });
+}
+
+void TurningSplitter::giveSizes(Qt::Orientation way, const QList<int>& sizes) {
+  given_[way] = sizes;
+  if (way == orientation()) setSizes(sizes);
+}
+
+QList<int> TurningSplitter::usualSizes() const {
+  QList<int> sizes;
+  for (int i = 0; i < count(); ++i) {
+    const QSize hint = widget(i)->sizeHint();
+    sizes << (orientation() == Qt::Horizontal ? hint.width() : hint.height());
+  }
+  return sizes;
 }
 
 QSize TurningSplitter::minimumSizeHint() const {
@@ -33,11 +47,9 @@ void TurningSplitter::resizeEvent(QResizeEvent* event) {
 void TurningSplitter::turn() {
   const Qt::Orientation turned = wanted();
   if (turned == orientation()) return;
-  const bool isBeside = turned == Qt::Horizontal;
-  if (!isBeside) sizesBeside_ = sizes();
-  setObjectName(isBeside ? name_ : QString());
   setOrientation(turned);
-  if (isBeside) setSizes(sizesBeside_);
+  // Before it turned they were squeezed, and the other way they mean nothing.
+  setSizes(given_.value(turned, usualSizes()));
   updateGeometry();
 }
 

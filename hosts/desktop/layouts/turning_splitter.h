@@ -1,15 +1,20 @@
 #pragma once
 
+#include <QMap>
 #include <QSplitter>
 
 namespace awizo::desktop {
 
 /// Side by side where there is room for all at their least widths, else one below the other. The
-/// user's own sizes are kept, by its name, only of those that are side by side.
+/// user's own sizes of either way are there again when it turns.
 class TurningSplitter : public QSplitter {
  public:
-  explicit TurningSplitter(const QString& name);
+  TurningSplitter();
   QSize minimumSizeHint() const override;
+
+  /// What the user has dragged them to, or was given; empty where they are as they began.
+  QList<int> givenSizes(Qt::Orientation way) const { return given_.value(way); }
+  void giveSizes(Qt::Orientation way, const QList<int>& sizes);
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -17,9 +22,9 @@ class TurningSplitter : public QSplitter {
  private:
   void turn();
   Qt::Orientation wanted() const;
+  QList<int> usualSizes() const;
 
-  QString name_;
-  QList<int> sizesBeside_;  ///< when it was turned
+  QMap<Qt::Orientation, QList<int>> given_;
 };
 
 }  // namespace awizo::desktop

@@ -6,6 +6,7 @@
 #include "desk/kept_sizes.h"
 #include "hosts/desktop/faces/table_face.h"
 #include "hosts/desktop/faces/text.h"
+#include "hosts/desktop/layouts/turning_splitter.h"
 #include "hosts/desktop/layouts/wrapping.h"
 #include "platform/text.h"
 
@@ -14,11 +15,26 @@ namespace {
 
 constexpr std::string_view windowPart = "window";  ///< width, height, whether it is maximized
 
-/// Calls with each splitter that has a name.
+/// Calls with each splitter that has a name and doesn't turn.
 template <class Do>
 void eachSplitter(const QWidget& part, Do&& act) {
   for (auto* splitter : part.findChildren<QSplitter*>()) {
-    if (!splitter->objectName().isEmpty()) act(*splitter, toText(splitter->objectName()));
+    if (splitter->objectName().isEmpty()) continue;
+    if (dynamic_cast<TurningSplitter*>(splitter) == nullptr) {
+      act(*splitter, toText(splitter->objectName()));
+    }
+  }
+}
+
+/// Calls with each splitter that turns, once for each way, and the name of the sizes.
+template <class Do>
+void eachWay(const QWidget& part, Do&& act) {
+  for (auto* splitter : part.findChildren<QSplitter*>()) {
+    auto* turning = dynamic_cast<TurningSplitter*>(splitter);
+    if (turning == nullptr) continue;
+    const std::string name = toText(turning->objectName());
+    act(*turning, Qt::Horizontal, name);
+    act(*turning, Qt::Vertical, joined({name, "Below"}));
   }
 }
 
@@ -56,6 +72,11 @@ void takeKeptParts(QWidget& part, SettingsStore& settings) {
         KeptSizes(settings).of(name, static_cast<std::size_t>(splitter.count()));
     if (!kept.empty()) splitter.setSizes({kept.begin(), kept.end()});
   });
+  eachWay(part, [&](TurningSplitter& splitter, Qt::Orientation way, const std::string& name) {
+    const std::vector<int> kept =
+        KeptSizes(settings).of(name, static_cast<std::size_t>(splitter.count()));
+    if (!kept.empty()) splitter.giveSizes(way, {kept.begin(), kept.end()});
+  });
   eachTable(part, [&](TableFace& table, const std::string& name) {
     table.giveWidths(KeptSizes(settings).of(name));
   });
@@ -65,6 +86,10 @@ void keepParts(const QWidget& part, SettingsStore& settings) {
   eachSplitter(part, [&](QSplitter& splitter, const std::string& name) {
     const QList<int> sizes = splitter.sizes();
     KeptSizes(settings).keep(name, {sizes.begin(), sizes.end()});
+  });
+  eachWay(part, [&](const TurningSplitter& splitter, Qt::Orientation way, const std::string& name) {
+    const QList<int> given = splitter.givenSizes(way);
+    if (!given.empty()) KeptSizes(settings).keep(name, {given.begin(), given.end()});
   });
   eachTable(part, [&](TableFace& table, const std::string& name) {
     const std::vector<int> given = table.givenWidths();

@@ -8,7 +8,8 @@ namespace awizo::desktop {
 
 Status layOutMain(Editor& editor, FormFace& faces, QWidget& lineStrip) {
   AwizoForm& form = editor.form;
-  auto* below = new TurningSplitter("packagesAndTotals");
+  auto* below = new TurningSplitter;
+  below->setObjectName("packagesAndTotals");
   below->setChildrenCollapsible(false);
   below->addWidget(makePackages(form, faces));
   below->addWidget(makeTotals(form, faces));
