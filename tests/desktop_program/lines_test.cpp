@@ -28,6 +28,41 @@ class LinesTest : public ProgramTest {
 
   Table& table() { return form().grdPozycje; }
   std::string strip() { return shownText(window().findChild<QLabel*>("lineStrip")); }
+  /// Chooses the entry that begins so of the menu that the right button brings there; returns all
+  /// entries, none where no menu came.
+  QStringList menuAt(const QPoint& there, const QString& words,
+                     QContextMenuEvent::Reason reason = QContextMenuEvent::Mouse) {
+    QStringList entries;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      if (menu == nullptr) return;
+      look.stop();
+      QAction* chosen = nullptr;
+      for (QAction* action : menu->actions()) {
+        entries << QString(action->text()).remove('&');
+        if (entries.back().startsWith(words)) chosen = action;
+      }
+      EXPECT_NE(chosen, nullptr) << words.toStdString();
+      menu->setActiveAction(chosen);
+      QTest::keyClick(menu, chosen == nullptr ? Qt::Key_Escape : Qt::Key_Return);
+    });
+    look.start(0);
+    QTableView* view = widget().faces().table(table()).view();
+    QWidget* target = reason == QContextMenuEvent::Mouse ? view->viewport() : view;
+    QContextMenuEvent wanted(reason, there, target->mapToGlobal(there));
+    QApplication::sendEvent(target, &wanted);
+    settle();
+    return entries;
+  }
+  QPoint centerOf(int row) {
+    const QTableView* view = widget().faces().table(table()).view();
+    return view->visualRect(view->model()->index(row - 1, GRD_POZ_NAME)).center();
+  }
+  void rightClick(const QPoint& there) {
+    QTest::mouseClick(widget().faces().table(table()).view()->viewport(), Qt::RightButton,
+                      Qt::NoModifier, there);
+  }
   bool isSeen(const Table& shown, int row) {
     const QTableView* view = widget().faces().table(shown).view();
     const int top = view->rowViewportPosition(row - 1);
@@ -144,32 +179,10 @@ TEST_F(LinesTest, TheMenuOfARowActsOnTheRowUnderIt) {
   const QPoint there = view->visualRect(view->model()->index(2, GRD_POZ_NAME)).center();
   QTest::mouseClick(view->viewport(), Qt::RightButton, Qt::NoModifier, there);
   EXPECT_EQ(table().row(), 3);
-  QStringList entries;
-  const auto choose = [&](const QString& words) {
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, [&] {
-      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-      if (menu == nullptr) return;
-      look.stop();
-      entries.clear();
-      QAction* chosen = nullptr;
-      for (QAction* action : menu->actions()) {
-        entries << QString(action->text()).remove('&');
-        if (entries.back().startsWith(words)) chosen = action;
-      }
-      EXPECT_NE(chosen, nullptr) << words.toStdString();
-      menu->setActiveAction(chosen);
-      QTest::keyClick(menu, chosen == nullptr ? Qt::Key_Escape : Qt::Key_Return);
-    });
-    look.start(0);
-    QContextMenuEvent wanted(QContextMenuEvent::Mouse, there, view->viewport()->mapToGlobal(there));
-    QApplication::sendEvent(view->viewport(), &wanted);
-    settle();
-  };
-  choose("Копировать");
+  const QStringList entries = menuAt(there, "Копировать");
   EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "Кофе 3\n");
   EXPECT_EQ(entries.size(), 4) << entries.join("|").toStdString();
-  choose("Удалить");
+  menuAt(there, "Удалить");
   EXPECT_EQ(table().cell(3, GRD_POZ_NAME), "Кофе 4");
 }
 
@@ -177,11 +190,54 @@ TEST_F(LinesTest, AMarkedRangeStaysWhereItsMenuComes) {
   openLines();
   table().userSelect(2, GRD_POZ_NAME, 4, GRD_POZ_NAME);
   settle();
-  QTableView* view = widget().faces().table(table()).view();
-  QTest::mouseClick(view->viewport(), Qt::RightButton, Qt::NoModifier,
-                    view->visualRect(view->model()->index(2, GRD_POZ_NAME)).center());
+  rightClick(centerOf(3));
   EXPECT_EQ(table().row(), 2);
   EXPECT_EQ(table().rowSel(), 4);
+  menuAt(centerOf(3), "Копировать");
+  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "Кофе 2\nКофе 3\nКофе 4\n");
+  menuAt(centerOf(3), "Удалить");
+  EXPECT_EQ(table().cell(2, GRD_POZ_NAME), "Кофе 2");
+  EXPECT_EQ(table().cell(3, GRD_POZ_NAME), "Кофе 4") << "it acts on the row under the mouse";
+  menuAt(centerOf(table().row()), "Удалить", QContextMenuEvent::Keyboard);
+  EXPECT_EQ(table().cell(3, GRD_POZ_NAME), "Кофе 5") << "the key's menu acts on the current row";
+}
+
+TEST_F(LinesTest, NoMenuComesWhereTheClickReachesNoRow) {
+  open(offLineOptions());
+  putLines(control().editor, 2);
+  letLayoutsSettle();
+  const QTableView* view = widget().faces().table(table()).view();
+  const QPoint below(10, view->viewport()->height() - 2);
+  ASSERT_FALSE(view->indexAt(below).isValid());
+  rightClick(below);
+  EXPECT_TRUE(menuAt(below, "Удалить").isEmpty());
+  // A field that isn't right yet takes the focus back.
+  form().txtNrAwiza.userFocus();
+  form().txtNrAwiza.onLostFocus = [this] { form().txtNrAwiza.setFocus(); };
+  rightClick(centerOf(2));
+  EXPECT_TRUE(menuAt(centerOf(2), "Удалить").isEmpty());
+  EXPECT_TRUE(menuAt(centerOf(table().row()), "Удалить").isEmpty());
+  EXPECT_EQ(control().editor.session.LineCount, 2);
+}
+
+TEST_F(LinesTest, TheFieldOverACellIsInItsPlaceWhenTheTableIsShownAgain) {
+  openLines();
+  table().userCell(2, GRD_POZ_QTY_DESPATCHED);
+  settle();
+  press(Qt::Key_Return);
+  ASSERT_TRUE(form().txtEdycja.visible());
+  QTableView* view = widget().faces().table(table()).view();
+  const auto cell = [&] {
+    return view->visualRect(view->model()->index(1, GRD_POZ_QTY_DESPATCHED));
+  };
+  const QRect before = cell();
+  ASSERT_EQ(face(form().txtEdycja).widget()->geometry(), before);
+  view->hide();
+  view->setColumnWidth(GRD_POZ_EAN, view->columnWidth(GRD_POZ_EAN) + 30);
+  view->show();
+  letLayoutsSettle();
+  ASSERT_NE(cell(), before);
+  EXPECT_EQ(face(form().txtEdycja).widget()->geometry(), cell());
 }
 
 TEST_F(LinesTest, ADoubleClickOnAPackageEditsIt) {

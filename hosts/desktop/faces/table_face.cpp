@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <algorithm>
@@ -216,6 +217,8 @@ int TableFace::markedRow() const {
 }
 
 void TableFace::bringRowIntoView() {
+  const std::optional<int> menuRow = std::exchange(menuRow_, std::nullopt);
+  if (menuRow && *menuRow != table_.row()) goToRow(*menuRow);
   showNow();
   const int top = table_.topRowShowing(table_.row());
   if (top == table_.topRow()) return;
@@ -309,6 +312,21 @@ bool TableFace::isMarked(const Cell& cell) const {
   const auto [top, bottom] = std::minmax({table_.row(), table_.rowSel()});
   const auto [left, right] = std::minmax({table_.column(), table_.columnSel()});
   return cell.row >= top && cell.row <= bottom && cell.column >= left && cell.column <= right;
+}
+
+/// Where the click was refused the menu would act on another row, and below the rows there is none.
+/// Answers whether the view has nothing more to do.
+bool TableFace::bringMenu(const QContextMenuEvent& wanted) {
+  const bool isOurs = view_->contextMenuPolicy() == Qt::ActionsContextMenu;
+  if (!isOurs || wanted.reason() != QContextMenuEvent::Mouse) return false;
+  const Cell cell = cellAt(wanted.pos());
+  if (cell == Cell{} || !hasFocus() || !isMarked(cell)) return true;
+  // The marked range stays for copying until another entry acts on the row.
+  menuRow_ = cell.row;
+  const QPointer<TableFace> face = this;
+  QMenu::exec(view_->actions(), wanted.globalPos(), nullptr, view_);
+  if (face) menuRow_.reset();
+  return true;
 }
 
 /// The keys that tables have everywhere else too, and the model's table doesn't know.
@@ -420,6 +438,12 @@ bool TableFace::eventFilter(QObject* watched, QEvent* event) {
         takeViewHeight();
         placeEditor();
       }
+      break;
+    case QEvent::Show:
+      placeEditor();
+      break;
+    case QEvent::ContextMenu:
+      if (onCells && bringMenu(static_cast<const QContextMenuEvent&>(*event))) return true;
       break;
     case QEvent::FocusIn:
       // Who comes with the mouse sees where he goes.

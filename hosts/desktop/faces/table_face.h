@@ -27,7 +27,8 @@ class TableFace : public Face {
   void layOverCell(Face& editor);
   /// Shows what has changed and waits to be shown; the painting of the view does the same.
   void showNow();
-  /// Scrolls the current row into view, as its user would.
+  /// Scrolls the current row into view, as its user would. Of what is chosen from the table's menu
+  /// it is the row under which the menu came.
   void bringRowIntoView();
   /// Lets the user move in the table as in a list: characters find a row by the beginning of its
   /// text in this column, Home and End go to the first and last row.
@@ -41,7 +42,8 @@ class TableFace : public Face {
   /// as it began.
   std::vector<int> givenWidths() const;
   void giveWidths(const std::vector<int>& twips);
-  /// Gives the table a menu of its own: copying, and the commands whose keys are the table's.
+  /// Gives the table a menu of its own: copying, and the commands whose keys are the table's. The
+  /// mouse brings it on a row only that it could go to.
   void offerMenu(const QString& copyWords);
   /// The column takes the room that the others leave.
   void stretchColumn(int column);
@@ -69,6 +71,7 @@ class TableFace : public Face {
   void takeWidth(int column, int width);
   void copyMarked() const;
   bool isMarked(const Cell& cell) const;
+  bool bringMenu(const QContextMenuEvent& wanted);
   void watchHeading(const QEvent& event);
   void showHeights();
   int markedRow() const;
@@ -92,6 +95,7 @@ class TableFace : public Face {
   std::map<int, int> givenWidths_;  ///< twips, by the column
   bool headingIsHeld_ = false;      ///< the mouse button is down on it
   Cell pressed_;                    ///< where the mouse button went down and is still held
+  std::optional<int> menuRow_;      ///< where the mouse brought the menu that is there
   std::optional<ListMoves> listMoves_;
   bool stale_ = true;
   bool showIsDue_ = false;
