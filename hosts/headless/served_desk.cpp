@@ -113,7 +113,8 @@ void ServedDesk::serve(protocol::ControlAccess& access) {
   dispatcher.records["packing"] = [this] { return packingJson(packingOverview(control_.editor)); };
   dispatcher.clientActions["packRest"] = [this](const Json& line) { packRest(line); };
   dispatcher.clientActions["showPapersOf"] = [this](const Json& line) {
-    papers_.showSaved(protocol::textMember(line, "path"));
+    const std::string path = protocol::textMember(line, "path");
+    papers_.showSaved(path, line.contains("name") ? protocol::textMember(line, "name") : path);
   };
   dispatcher.clientActions["command"] = [this](const Json& line) { choose(line); };
   dispatcher.clientActions["stop"] = [](const Json&) { throw Refused("No assistant works."); };

@@ -43,7 +43,8 @@ struct DeskMachine {
 ///   {"do":"packRest","lines":[1,2],"package":3}   the rest of these lines into that package
 ///   {"do":"stop"}         ends the work of an assistant
 ///   {"do":"showPapersOf","path":"c:\\VIRD\\a.xml"}   after {"event":"chooseDocument"}: papers of
-///                         that saved document
+///                         that saved document; "name" is what the user calls it, where the path
+///                         is one for a while
 class ServedDesk {
  public:
   /// All outlive it. `numbers`: null where the firm has none.

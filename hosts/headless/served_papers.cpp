@@ -38,13 +38,13 @@ void ServedPapers::show(Paper paper) {
   if (std::optional<PapersSource> shown = source()) dialog_.show(std::move(*shown), paper);
 }
 
-void ServedPapers::showSaved(std::string_view classicPath) {
+void ServedPapers::showSaved(std::string_view classicPath, std::string_view name) {
   if (!editor_.form.takesInput()) return;
   PapersSource source;
   const auto error = caughtError([&] {
     source = papersSource(editor_.platform.xml, files_, classicPath, keptOffLinePath(settings_));
   });
-  if (error) return tell(classicPath, *error);
+  if (error) return tell(name, *error);
   dialog_.show(std::move(source), Paper::labels);
 }
 

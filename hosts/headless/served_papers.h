@@ -23,8 +23,8 @@ class ServedPapers {
 
   Form& dialog() { return dialog_; }
   void show(Paper paper);
-  /// Of a saved document.
-  void showSaved(std::string_view classicPath);
+  /// Of a saved document. The user is told of it by the name.
+  void showSaved(std::string_view classicPath, std::string_view name);
   void handOutPackingCsv();
 
  private:

@@ -80,6 +80,9 @@ TEST_F(PapersTest, OfASavedDocument) {
   editor.act({{"do", "showPapersOf"}, {"path", sample + ".no"}});
   EXPECT_THAT(editor.openBox(), HasSubstr("despatch-advice.xml.no: "));
   editor.answerAll();
+  editor.act({{"do", "showPapersOf"}, {"path", sample + ".no"}, {"name", "моё.xml"}});
+  EXPECT_THAT(editor.openBox(), HasSubstr("|моё.xml: "));
+  editor.answerAll();
 }
 
 }  // namespace

@@ -87,6 +87,8 @@ export class AwizoWysylki extends ControlElement {
     leave: () => this.leaveExtras(),
   });
   private work: Work | undefined;
+  /// Tells what is being done where all else is inert.
+  private readonly heard = make("output", { class: "heard", lang: "ru" });
   private isUnsent = false;
   private startsAgain = false;
   private standingTimer: ReturnType<typeof setTimeout> | undefined;
@@ -198,7 +200,7 @@ export class AwizoWysylki extends ControlElement {
       case "showPacking":
         return this.packing.toggle();
       case "chooseDocument":
-        return fetchFile(this.strip.element, (_, path) => this.closingOf({ do: "showPapersOf", path }));
+        return fetchFile(this.strip.element, (name, path) => this.closingOf({ do: "showPapersOf", path, name }));
       case "told":
         return this.strip.tell(event.text);
       case "line":
@@ -261,7 +263,10 @@ export class AwizoWysylki extends ControlElement {
   /// While work lasts that nothing can stop, what the user does would be lost: nothing can be done.
   private holdStill(): void {
     const isStill = this.work !== undefined && !this.work.mayStop;
-    for (const child of this.root.children) (child as HTMLElement).inert = isStill && child !== this.box;
+    for (const child of this.root.children) {
+      (child as HTMLElement).inert = isStill && child !== this.box && child !== this.heard;
+    }
+    this.heard.textContent = isStill ? this.work!.what : "";
   }
 
   private showStandingSoon(): void {
@@ -304,13 +309,13 @@ export class AwizoWysylki extends ControlElement {
     const view = this.views.get(name);
     if (view === undefined) return;
     if (name === startName) {
-      this.root.replaceChildren(make("main", { lang: "ru" }, [make("h1", {}, [facts.caption ?? ""]), view.element, this.fromComputer()]));
+      this.root.replaceChildren(make("main", { lang: "ru" }, [make("h1", {}, [facts.caption ?? ""]), view.element, this.fromComputer()]), this.heard);
       return this.holdStill();
     }
     if (name === mainName) {
       this.root.replaceChildren(make("main", { lang: "ru" }, [
         this.strip.element, make("div", { class: "desk" }, [view.element, this.packing.element]),
-      ]));
+      ]), this.heard);
       return this.holdStill();
     }
     const title = make("h2", { id: `title-${name}` });
@@ -510,7 +515,7 @@ export class AwizoWysylki extends ControlElement {
     }
     const isButton = (event.target as Element).closest("button") !== null;
     const isModels = event.key === "Tab" || (event.key === "Enter" && !isButton) || event.key === "Escape";
-    // From the buttons beside a form Tab leads the browser's way, out of the element too.
+    // From the buttons beside a form Tab leads the browser's way; with Shift out of the element.
     if (!isModels || top.focus === "" || isFromExtra) return;
     event.preventDefault();
     void this.host().act(top.focus, { do: "key", code: event.keyCode, shift: event.shiftKey });

@@ -18,19 +18,33 @@ function pathOf(classic: string): string {
 /// `name` is what the user calls the file, `from` where it is for a while.
 type Bring = (name: string, from: string) => Promise<unknown>;
 
-/// Lets the user choose a file of the computer. The field for that stands in the place meanwhile.
-export function fetchFile(place: ParentNode, bring: Bring): void {
-  const take = async (file: File | undefined) => {
-    if (file === undefined) return;
-    const path = `/.brought-${crypto.randomUUID()}`;
+function refusal(name: string): string {
+  return `Файл «${name}» не взят: браузеру не удалось прочитать его или сохранить у себя. Проверьте, есть ли место на диске, и выберите файл снова.`;
+}
+
+/// Takes the file into the browser, where it is as long as it is being brought.
+async function take(file: File, bring: Bring): Promise<void> {
+  const path = `/.brought-${crypto.randomUUID()}`;
+  try {
     await putFile(path, new Uint8Array(await file.arrayBuffer()));
     await bring(file.name, classicPath(path));
-    await removeFile(path);
+  } finally {
+    // A file that didn't come isn't there.
+    await removeFile(path).catch(() => undefined);
+  }
+}
+
+/// Lets the user choose a file of the computer. The field for that stands in the place meanwhile, as do
+/// words on a file that couldn't be taken.
+export function fetchFile(place: ParentNode, bring: Bring): void {
+  const fetched = async (file: File | undefined) => {
+    if (file === undefined) return;
+    await take(file, bring).catch(() => place.append(make("p", { class: "refusal", role: "alert" }, [refusal(file.name)])));
   };
   // A new field each time: the same file may be brought again.
   const input = make("input", { type: "file", accept: ending, hidden: true });
-  input.addEventListener("change", () => void take(input.files?.[0]));
-  place.querySelector(":scope > input[type=file]")?.remove();
+  input.addEventListener("change", () => void fetched(input.files?.[0]));
+  for (const old of place.querySelectorAll(":scope > input[type=file], :scope > .refusal")) old.remove();
   place.append(input);
   input.click();
 }

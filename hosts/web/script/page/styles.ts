@@ -15,6 +15,8 @@ const text = /* css */ `
 * { box-sizing: border-box; }
 [hidden] { display: none !important; }
 main { padding: 12px; }
+.heard { position: absolute; width: 1px; height: 1px; overflow: hidden; clip-path: inset(50%); }
+.refusal { margin: 0; flex-basis: 100%; }
 .stack { display: flex; flex-direction: column; gap: 10px; min-width: 0; }
 .beside { display: flex; flex-wrap: wrap; gap: 10px 14px; align-items: end; }
 .beside:has(> fieldset), .beside:has(> .stack) { align-items: start; }

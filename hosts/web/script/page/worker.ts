@@ -103,6 +103,8 @@ async function prepareFiles(start: Start): Promise<void> {
 
 async function run(start: Start): Promise<void> {
   try {
+    // Browsers give their files to no other page, and no locks.
+    if (!isSecureContext) throw new Error("Редактор работает только на странице, открытой по https:// (или на своём компьютере, localhost). Обратитесь к администратору сайта.");
     if (!canSuspend()) throw new Error("Этот браузер не умеет приостанавливать WebAssembly. Нужен Chrome, Edge 137 или Firefox 153 и новее.");
     const [module] = await Promise.all([WebAssembly.compileStreaming(fetch(start.wasm)), prepareFiles(start)]);
     const core = await loadCore(module, browser(start));

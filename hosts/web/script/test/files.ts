@@ -60,5 +60,21 @@ await withPage(async (page) => {
     return [await text("awizo.xml"), await text("awizo (2).xml")];
   });
   assert.deepEqual(kept, [other.toString("utf8"), saved]);
+
+  // A file that the browser has no room for: the user is told, and nothing of it is left.
+  await page.evaluate(() => {
+    FileSystemFileHandle.prototype.createWritable = () => Promise.reject(new DOMException("", "QuotaExceededError"));
+  });
+  await user.control("btnWczytaj").click();
+  const chooser = page.waitForEvent("filechooser");
+  await fileDialog.getByRole("button", { name: "С компьютера…" }).click();
+  await (await chooser).setFiles({ name: "большой.xml", mimeType: "application/xml", buffer: other });
+  await fileDialog.getByRole("alert").filter({ hasText: "Файл «большой.xml» не взят" }).waitFor();
+  const left = await page.evaluate(async () => {
+    const names: string[] = [];
+    for await (const name of (await navigator.storage.getDirectory()).keys()) names.push(name);
+    return names.filter((name) => name.startsWith(".brought"));
+  });
+  assert.deepEqual(left, []);
 });
 console.log("Documents went to the computer's disk and came from it.");

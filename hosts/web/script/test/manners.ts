@@ -106,6 +106,7 @@ await withPage(async (page) => {
   await number.click();
   const sending = user.send();
   await user.editor.locator("main[inert]").waitFor();
+  await user.editor.locator("output.heard:not([inert])", { hasText: /./ }).waitFor({ state: "attached" });
   await page.keyboard.type("99");
   await sending;
   await user.editor.locator("main:not([inert])").waitFor();

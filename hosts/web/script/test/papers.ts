@@ -174,5 +174,11 @@ await withPage(async (page) => {
     user.editor.locator("[data-task=showPackingCsv]").click(), (text) => text.endsWith("\n"));
   assert.ok(table.startsWith("\ufeff"));
   assert.ok(table.includes(numbers[0]!));
+
+  // Of another file than a document the user hears by its own name.
+  const chooser = page.waitForEvent("filechooser");
+  await user.editor.locator("[data-task=showPapersOfFile]").click();
+  await (await chooser).setFiles({ name: "счёт.xml", mimeType: "application/xml", buffer: Buffer.from("<a/>") });
+  assert.match(await user.answer("OK"), /^счёт\.xml: /);
 });
 console.log("The papers of the page are read back.");

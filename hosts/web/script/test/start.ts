@@ -5,12 +5,17 @@
 import assert from "node:assert/strict";
 import fs from "node:fs";
 
-import { requests, User, withPage } from "./user.ts";
+import { address, otherComputer, requests, User, withPage } from "./user.ts";
 
 const partnerFile = "9520001000010_9520002000019_partner_INFO.xml";
 
 await withPage(async (page) => {
   const user = new User(page);
+  // Plain http from another computer: browsers have no files for it, and the user is told.
+  if (process.env["AWIZO_BROWSER"] !== "firefox") {
+    await page.goto(address.replace("127.0.0.1", otherComputer));
+    await user.editor.getByRole("alert").filter({ hasText: "https://" }).waitFor();
+  }
   await user.open();
   const asked = (await requests()).length;
   await user.editor.evaluate((element) => {

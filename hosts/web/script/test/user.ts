@@ -13,6 +13,8 @@ const patience = 20_000;
 
 /// Of the page; the service stands beside it.
 export const address = process.argv.at(-1) ?? "";
+/// By this name Chromium reaches the page as one of another computer.
+export const otherComputer = "editor.example";
 const service = new URL(address).origin;
 
 export interface Request {
@@ -164,7 +166,7 @@ function launch(): Promise<Browser> {
         // The list of downloads would take the keys.
         firefoxUserPrefs: { "browser.download.alwaysOpenPanel": false },
       })
-    : chromium.launch({ executablePath: "/usr/bin/chromium", args: ["--no-sandbox"] });
+    : chromium.launch({ executablePath: "/usr/bin/chromium", args: ["--no-sandbox", `--host-resolver-rules=MAP ${otherComputer} 127.0.0.1`] });
 }
 
 /// The text of the document or table that the act makes the page hand out under this name.
