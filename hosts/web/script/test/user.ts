@@ -181,14 +181,20 @@ export async function handedOut(
     return fs.readFileSync(await download.path(), "utf8");
   }
   // Firefox's downloads aren't told of; they come to the folder, and get their names at the end.
-  const changes = fs.promises.watch(downloads, { recursive: true, signal: AbortSignal.timeout(patience) })[Symbol.asyncIterator]();
+  const watching = new AbortController();
+  const signal = AbortSignal.any([watching.signal, AbortSignal.timeout(patience)]);
+  const changes = fs.promises.watch(downloads, { recursive: true, signal })[Symbol.asyncIterator]();
   // Nothing is watched before the first change is asked for.
   let change = changes.next();
   await act();
   for (; !(await change).done; change = changes.next()) {
     const file = path.join(downloads, name);
     const text = fs.existsSync(file) ? fs.readFileSync(file, "utf8") : "";
-    if (isWhole(text)) return text;
+    if (!isWhole(text)) continue;
+    // The watch would keep the test from its end.
+    watching.abort();
+    await changes.return?.();
+    return text;
   }
   throw new Error("Nothing was handed out.");
 }
