@@ -160,6 +160,19 @@ TEST_F(PackageAdding, StopsBetweenTwoPackages) {
   EXPECT_EQ(digestOfReplay(), digest());
 }
 
+TEST_F(PackageAdding, ReplayedTakesNoNumbers) {
+  addPackages(assistance, boxes(20), {});
+  const NumberRange before = numbers.range().value();
+  EXPECT_EQ(digestOfReplay(), digest());
+  EXPECT_EQ(numbers.range()->next, before.next);
+}
+
+TEST_F(PackageAdding, WaitsForTheDiskOnceAtMost) {
+  const int before = record.flushes;
+  addPackages(assistance, boxes(20), {});
+  EXPECT_LE(record.flushes, before + 1);
+}
+
 TEST_F(PackageAdding, IsTakenBackAsOneStepAndDoneAgain) {
   addPackages(assistance, pallet(), {});
   const std::uint64_t before = digest();

@@ -70,6 +70,27 @@ TEST_F(NumberOfferTest, AnAcceptedNumberIsSpentAndALeftOneIsOfferedAgain) {
   EXPECT_EQ(serialOf(2), number(3)) << "one taken back isn't used again";
 }
 
+TEST_F(NumberOfferTest, OneThatIsShownIsNotOfferedByAnotherProgram) {
+  GivenNumbers othersNumbers{store, clock};
+  Desk other;
+  NumberOffer othersOffer{othersNumbers, other.editor, other.packageDialog};
+  adding([&, this] {
+    EXPECT_EQ(packageDialog.txtSerialNumberN.text(), number(1));
+    other.face.onModal([&] {
+      othersOffer.opened();
+      EXPECT_EQ(other.packageDialog.txtSerialNumberN.text(), number(2));
+      other.packageDialog.btnZamknij.userClick();
+    });
+    other.form.btnDodajOpak.userClick();
+    othersOffer.closed();
+    leave();
+  });
+  adding([&, this] {
+    EXPECT_EQ(packageDialog.txtSerialNumberN.text(), number(1)) << "it is still this one's";
+    leave();
+  });
+}
+
 TEST_F(NumberOfferTest, AChangedPackageKeepsItsNumber) {
   add("Коробка 1");
   face.onModal([this] {

@@ -151,14 +151,26 @@ TEST_F(Papers, LabelsHaveTheSizesThatTheyShould) {
   EXPECT_THAT(sizes, HasSubstr("Page    2 size:  420 x 595 pts (A5)"));
   EXPECT_THAT(sizes, HasSubstr("Page    3 size:  297 x 420 pts"));
   EXPECT_THAT(sizes, HasSubstr("Page    4 size:  297 x 420 pts"));
+}
+
+TEST_F(Papers, SymbolsHaveTheSizesThatTheyShouldInEveryResolution) {
   constexpr double nearly = 0.1;
   constexpr int modules = 156;
-  for (const int page : {1, 3}) {
-    const Measured symbol = lowestSymbol(pictureIn(drawn("l.pdf", page, 600)), 600);
-    EXPECT_NEAR(symbol.width, modules * papers::moduleWidth(600), nearly) << page;
-    EXPECT_NEAR(symbol.height, papers::barHeight, nearly) << page;
-    const double paper = page == 1 ? 148 : 105;
-    EXPECT_NEAR(symbol.left, (paper - modules * papers::moduleWidth(600)) / 2, 0.6) << page;
+  constexpr int quietModules = 10;
+  for (const int dots : {203, 300, 600}) {
+    const double module = papers::moduleWidth(dots);
+    ASSERT_EQ(make({"labels", sample(), "-o", path("l.pdf"), "--dpi", std::to_string(dots)}).status,
+              0);
+    for (const int page : {1, 3}) {
+      // Looked at closely, whatever they are printed with.
+      const Measured symbol = lowestSymbol(pictureIn(drawn("l.pdf", page, 600)), 600);
+      EXPECT_NEAR(symbol.width, modules * module, nearly) << dots << ' ' << page;
+      EXPECT_NEAR(symbol.height, papers::barHeight, nearly) << dots << ' ' << page;
+      const double paper = page == 1 ? 148 : 105;
+      EXPECT_NEAR(symbol.left, (paper - modules * module) / 2, 0.6) << dots << ' ' << page;
+      EXPECT_GE(symbol.left, quietModules * module) << dots << ' ' << page;
+      EXPECT_GE(paper - symbol.left - symbol.width, quietModules * module) << dots << ' ' << page;
+    }
   }
 }
 
