@@ -30,15 +30,6 @@ struct DeskTest : testing::Test {
     editor.show();
     editor.takeEvents();
   }
-  /// The last event of that name since this was asked last; null for none.
-  Json lastEvent(std::string_view name) {
-    Json last;
-    for (Json& event : editor.takeEvents()) {
-      if (event["event"] == name) last = std::move(event);
-    }
-    return last;
-  }
-  void perform(std::string_view task) { editor.act({{"do", "command"}, {"task", task}}); }
   void press(std::string_view button) { editor.act({{"do", "command"}, {"on", button}}); }
   Json standing() { return editor.get("standing"); }
   void scan(std::string_view code) {
@@ -54,10 +45,10 @@ struct DeskTest : testing::Test {
 
 TEST_F(DeskTest, TellsTheCurrentLineInWords) {
   editor.cell("grdPozycje", 2, 1);
-  const std::string second = lastEvent("line")["text"];
+  const std::string second = editor.takeLast("line")["text"];
   EXPECT_THAT(second, HasSubstr("заказано 96 · отгружено 96 · упаковано 0 · осталось 96"));
   editor.cell("grdPozycje", 2, 4);
-  EXPECT_EQ(lastEvent("line"), Json()) << "it is the same line";
+  EXPECT_EQ(editor.takeLast("line"), Json()) << "it is the same line";
 }
 
 TEST_F(DeskTest, TellsHowTheDocumentStands) {
@@ -70,7 +61,7 @@ TEST_F(DeskTest, TellsHowTheDocumentStands) {
 }
 
 TEST_F(DeskTest, LeadsToALineByATextAndByAScannedCode) {
-  perform("findLine");
+  editor.perform("findLine");
   editor.type("FindDialog.txtWhat", "1147");
   editor.click("FindDialog.btnFind");
   EXPECT_EQ(editor.caption("FindDialog.lblNothing"), "Такой строки нет.");
@@ -85,11 +76,11 @@ TEST_F(DeskTest, LeadsToALineByATextAndByAScannedCode) {
 TEST_F(DeskTest, TellsACodeThatNoLineHas) {
   editor.cell("grdPozycje", 1, 1);
   scan("4600000000008");
-  EXPECT_EQ(lastEvent("line")["text"], "Нет строки с кодом 4600000000008");
+  EXPECT_EQ(editor.takeLast("line")["text"], "Нет строки с кодом 4600000000008");
 }
 
 TEST_F(DeskTest, ListsWhatIsWrongAndLeadsThere) {
-  perform("showFaults");
+  editor.perform("showFaults");
   EXPECT_THAT(std::string(editor.get("FaultList")["caption"]), testing::StartsWith("Что не так: "));
   const Json cells = editor.get("FaultList.grdFaults")["cells"];
   int line = 0;
@@ -108,12 +99,12 @@ TEST_F(DeskTest, ListsWhatIsWrongAndLeadsThere) {
 TEST_F(DeskTest, KeysInATableAreThoseOfItsCommands) {
   editor.cell("grdPozycje", 3, 1);
   editor.key("grdPozycje", f2);
-  EXPECT_EQ(lastEvent("modal")["form"], "DlgDodaj");
+  EXPECT_EQ(editor.takeLast("modal")["form"], "DlgDodaj");
   editor.close("DlgDodaj");
   addPackage(editor, "Паллета 1", std::string(serials[0]));
   editor.cell("grdOpakowania", 1, packageDescription);
   editor.key("grdOpakowania", enter);
-  EXPECT_EQ(lastEvent("modal")["form"], "DlgSzczegoly");
+  EXPECT_EQ(editor.takeLast("modal")["form"], "DlgSzczegoly");
   editor.close("DlgSzczegoly");
   const std::string third = editor.cellText("grdPozycje", 3, 2);
   editor.cell("grdPozycje", 2, 1);
@@ -126,7 +117,7 @@ TEST_F(DeskTest, DoubleClickOnAPackageOpensIt) {
   editor.cell("grdOpakowania", 1, packageDescription);
   editor.takeEvents();
   editor.doubleClick("grdOpakowania");
-  EXPECT_EQ(lastEvent("modal")["form"], "DlgSzczegoly");
+  EXPECT_EQ(editor.takeLast("modal")["form"], "DlgSzczegoly");
   editor.close("DlgSzczegoly");
 }
 
@@ -135,14 +126,14 @@ TEST_F(DeskTest, AsksBeforeTheDocumentIsLost) {
                                            {{"do", "click"}, {"on", "btnWczytaj"}},
                                            {{"do", "command"}, {"task", "startAgain"}}}) {
     editor.act(way);
-    const Json question = lastEvent("question");
+    const Json question = editor.takeLast("question");
     EXPECT_THAT(std::string(question["text"]), HasSubstr("не отправлен и не сохранён")) << way;
     editor.answer("cancel");
     EXPECT_THAT(editor.takeEvents(), IsEmpty()) << way;
   }
-  perform("startAgain");
+  editor.perform("startAgain");
   editor.answer("letGo");
-  EXPECT_EQ(lastEvent("startAgain"), Json({{"event", "startAgain"}}));
+  EXPECT_EQ(editor.takeLast("startAgain"), Json({{"event", "startAgain"}}));
 }
 
 TEST(Desk, AClientThatDoesntFollowItIsAskedNothing) {
@@ -159,7 +150,7 @@ TEST(Desk, AClientThatDoesntFollowItIsAskedNothing) {
 }
 
 TEST_F(DeskTest, SeveralPackagesEndAtTheFirstThatTheControlRefuses) {
-  perform("addPackages");
+  editor.perform("addPackages");
   editor.type("PackagesDialog.txtCount", "3");
   editor.type("PackagesDialog.txtDescription", "Короб #");
   editor.type("PackagesDialog.txtPlace", deliveryPlace);
@@ -178,15 +169,15 @@ TEST_F(DeskTest, SeveralPackagesEndAtTheFirstThatTheControlRefuses) {
 }
 
 TEST_F(DeskTest, TellsWhatLiesWhereAndPacksTheRestOfLines) {
-  perform("showPacking");
-  EXPECT_EQ(lastEvent("showPacking"), Json({{"event", "showPacking"}}));
+  editor.perform("showPacking");
+  EXPECT_EQ(editor.takeLast("showPacking"), Json({{"event", "showPacking"}}));
   addPackage(editor, "Паллета 1", std::string(serials[0]));
   addPackage(editor, "Короб", std::string(serials[1]), 0);
   const std::string quantity = editor.get("packing")["lines"][1]["packed"];
   EXPECT_THAT(quantity, testing::StartsWith("0 из "));
   editor.takeEvents();
   editor.act({{"do", "packRest"}, {"lines", {1, 2}}, {"package", 2}});
-  EXPECT_EQ(lastEvent("modal"), Json()) << "nobody acts on these dialogs";
+  EXPECT_EQ(editor.takeLast("modal"), Json()) << "nobody acts on these dialogs";
   const Json packing = editor.get("packing");
   EXPECT_EQ(packing["summary"], "упаковано 2 из 25 строк");
   EXPECT_EQ(packing["lines"][1]["isWhole"], true);
@@ -209,11 +200,11 @@ TEST_F(DeskTest, TellsWhatLiesWhereAndPacksTheRestOfLines) {
 
 TEST_F(DeskTest, DistributesTheLinesOverThePackages) {
   addPackage(editor, "Паллета 1", std::string(serials[0]));
-  perform("distribute");
+  editor.perform("distribute");
   editor.click("DistributionDialog.btnDo");
   editor.answerAll();
   EXPECT_EQ(editor.cellText("grdPozycje", 2, packedQuantity), "96,000");
-  perform("takeBack");
+  editor.perform("takeBack");
   EXPECT_EQ(editor.cellText("grdPozycje", 2, packedQuantity), "0,000");
 }
 
@@ -232,7 +223,7 @@ TEST_F(DeskTest, SaysWhatIsMarkedAsSpreadsheetsTakeIt) {
 
 TEST_F(DeskTest, NoKeyReachesATableBelowADialog) {
   editor.cell("grdPozycje", 1, 1);
-  perform("findLine");
+  editor.perform("findLine");
   editor.refused({{"do", "key"}, {"on", "grdPozycje"}, {"code", '4'}});
   editor.refused({{"do", "key"}, {"on", "grdPozycje"}, {"code", f2}});
   editor.close("FindDialog");

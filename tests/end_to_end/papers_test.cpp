@@ -25,14 +25,6 @@ struct PapersTest : testing::Test {
     addPackage(editor, "Короб", std::string(serials[1]));
     editor.takeEvents();
   }
-  Json lastEvent(std::string_view name) {
-    Json last;
-    for (Json& event : editor.takeEvents()) {
-      if (event["event"] == name) last = std::move(event);
-    }
-    return last;
-  }
-  void perform(std::string_view task) { editor.act({{"do", "command"}, {"task", task}}); }
 
   Supplier supplier;
   DemoService service{supplier.place.posted()};
@@ -40,42 +32,43 @@ struct PapersTest : testing::Test {
 };
 
 TEST_F(PapersTest, AreShownSheetBySheetAndPrinted) {
-  perform("showLabels");
+  editor.perform("showLabels");
   EXPECT_EQ(editor.get("PapersDialog")["caption"], "Этикетки ТН-6");
   EXPECT_EQ(editor.get("PapersDialog.btnPdf")["visible"], false);
-  EXPECT_THAT(std::string(lastEvent("sheet")["svg"]),
+  EXPECT_THAT(std::string(editor.takeLast("sheet")["svg"]),
               HasSubstr(">" + std::string(serials[0]) + "</text>"));
   editor.choose("PapersDialog.cboCopies", 1);
   editor.click("PapersDialog.btnNext");
-  const std::string second = lastEvent("sheet")["svg"];
+  const std::string second = editor.takeLast("sheet")["svg"];
   EXPECT_THAT(second, HasSubstr(">" + std::string(serials[1]) + "</text>"));
   editor.click("PapersDialog.btnPrint");
-  const Json print = lastEvent("print");
+  const Json print = editor.takeLast("print");
   EXPECT_EQ(print["title"], "Этикетки ТН-6");
   ASSERT_THAT(print["sheets"], SizeIs(2));
   EXPECT_EQ(print["sheets"][1], second);
   editor.choose("PapersDialog.cboPackages", 2);
-  EXPECT_EQ(lastEvent("sheet")["svg"], "") << "all labels have been printed";
+  EXPECT_EQ(editor.takeLast("sheet")["svg"], "") << "all labels have been printed";
   editor.close("PapersDialog");
 }
 
 TEST_F(PapersTest, ShowThePackingListAndHandItOutAsATable) {
-  perform("showPackingList");
-  EXPECT_THAT(std::string(lastEvent("sheet")["svg"]), HasSubstr("Без упаковки"));
+  editor.perform("showPackingList");
+  EXPECT_THAT(std::string(editor.takeLast("sheet")["svg"]), HasSubstr("Без упаковки"));
   editor.close("PapersDialog");
-  perform("showPackingCsv");
-  const Json table = lastEvent("file");
+  editor.perform("showPackingCsv");
+  const Json table = editor.takeLast("file");
   EXPECT_EQ(table["name"], "Упаковочный_лист_ТН-6.csv");
   EXPECT_THAT(std::string(table["text"]), HasSubstr(std::string(serials[1])));
 }
 
 TEST_F(PapersTest, OfASavedDocument) {
-  perform("showPapersOfFile");
-  EXPECT_EQ(lastEvent("chooseDocument"), Json({{"event", "chooseDocument"}}));
+  editor.perform("showPapersOfFile");
+  EXPECT_EQ(editor.takeLast("chooseDocument"), Json({{"event", "chooseDocument"}}));
   const std::string sample =
       "c:" + replaceAll((projectFolder() / "samples/despatch-advice.xml").string(), "/", "\\");
   editor.act({{"do", "showPapersOf"}, {"path", sample}});
-  EXPECT_THAT(std::string(lastEvent("sheet")["svg"]), HasSubstr(">395200010000000011</text>"));
+  EXPECT_THAT(std::string(editor.takeLast("sheet")["svg"]),
+              HasSubstr(">395200010000000011</text>"));
   editor.close("PapersDialog");
   editor.act({{"do", "showPapersOf"}, {"path", sample + ".no"}});
   EXPECT_THAT(editor.openBox(), HasSubstr("despatch-advice.xml.no: "));

@@ -3,7 +3,7 @@
 import { localSeconds } from "./clock.ts";
 import { bytesOf, textOf, type Field } from "./fields.ts";
 
-/// Answers the core. What the fields share with the core's memory changes once it goes on.
+/// Answers the core.
 export interface Surroundings {
   /// A question that may take time.
   ask(name: string, fields: Uint8Array[]): Promise<readonly Field[]>;
@@ -14,8 +14,6 @@ export interface Surroundings {
 export interface Core {
   /// From the core's start to its end; its exit status.
   run(): Promise<number>;
-  /// Bytes of memory that it has taken.
-  memory(): number;
 }
 
 interface Exports {
@@ -105,10 +103,7 @@ export async function loadCore(module: WebAssembly.Module, surroundings: Surroun
   });
   core = instance.exports as unknown as Exports;
   core._initialize();
-  return {
-    run: suspension.promising(core.run),
-    memory: () => core.memory.buffer.byteLength,
-  };
+  return { run: suspension.promising(core.run) };
 }
 
 /// Ranks as the core takes them: the numbers' own bytes.

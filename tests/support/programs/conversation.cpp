@@ -123,6 +123,14 @@ std::vector<std::string> Conversation::answerAll(std::string_view question) {
 
 std::vector<Json> Conversation::takeEvents() { return std::exchange(events_, {}); }
 
+Json Conversation::takeLast(std::string_view event) {
+  Json last;
+  for (Json& one : takeEvents()) {
+    if (one["event"] == event) last = std::move(one);
+  }
+  return last;
+}
+
 int Conversation::finish() {
   EXPECT_TRUE(expectedGood_.empty()) << "line " << expectedGood_.front() << " has no closing line";
   program_.closeInput();

@@ -77,6 +77,10 @@ class Conversation {
   std::vector<std::string> answerAll(std::string_view question = "Yes");
   /// Events other than boxes since the last call, as JSON.
   std::vector<Json> takeEvents();
+  /// The last of these of that name; null for none.
+  Json takeLast(std::string_view event);
+  /// Chooses what no button does, such as "showLabels".
+  void perform(std::string_view task) { act({{"do", "command"}, {"task", task}}); }
 
   /// Ends the input; returns the exit status.
   int finish();
