@@ -126,6 +126,7 @@ Program::Program(Beginning&& beginning, Machine& machine, Conversation& conversa
             {.clock = *clock_,
              .files = machine.files(),
              .settings = *settings_,
+             .locale = *locale_,
              .isBrowser = machine.isBrowser()},
             conversation_),
       access_(control_, bag_),

@@ -16,6 +16,7 @@
 #include "hosts/protocol/answers.h"
 #include "hosts/version.h"
 #include "platform/at_exit.h"
+#include "platform/forms/keys.h"
 #include "platform/forms/table_text.h"
 #include "platform/text.h"
 #include "session/record/off_line_path.h"
@@ -79,6 +80,8 @@ ServedDesk::ServedDesk(const Assistance& with, ServedNumbers* numbers, const Des
       watch_(control_, machine.clock),
       line_(control_.editor),
       finder_(control_.editor),
+      countries_(control_.dlgIsoCodes.grdISO, 0,
+                 [&locale = machine.locale](std::string_view text) { return locale.upper(text); }),
       packagesDialog_(control_.editor, with.numbers),
       distributionDialog_(control_.editor),
       papers_(control_.editor, machine.files, machine.settings, conversation) {
@@ -239,7 +242,7 @@ void ServedDesk::takeAct(Control* control, const Json& line, const std::function
   }
 }
 
-bool ServedDesk::takeKey(const Control& control, const Json& line) {
+bool ServedDesk::takeKey(Control& control, const Json& line) {
   const int code = protocol::integerMember(line, "code");
   if (code != static_cast<std::int16_t>(code)) return false;
   const CommandKey key{static_cast<std::int16_t>(code),
@@ -255,7 +258,22 @@ bool ServedDesk::takeKey(const Control& control, const Json& line) {
     press(command);
     return true;
   }
+  if (auto* table = dynamic_cast<Table*>(&control)) {
+    if (const auto row = rowOfKey(*table, key, line)) {
+      table->userRow(*row);
+      return true;
+    }
+  }
   return key.control;
+}
+
+std::optional<int> ServedDesk::rowOfKey(const Table& table, const CommandKey& key,
+                                        const Json& line) {
+  if (key.control && key.code == keys::home) return table.firstRow();
+  if (key.control && key.code == keys::end) return table.lastRow();
+  if (key.control || &table != &control_.dlgIsoCodes.grdISO) return std::nullopt;
+  return line.contains("text") ? countries_.rowTyped(protocol::textMember(line, "text"))
+                               : countries_.rowOfKey(key.code);
 }
 
 void ServedDesk::startAgain() {

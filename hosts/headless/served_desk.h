@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,8 @@
 #include "hosts/protocol/control_access.h"
 #include "platform/clock.h"
 #include "platform/files.h"
+#include "platform/forms/list_moves.h"
+#include "platform/locale.h"
 #include "platform/settings.h"
 
 namespace awizo::headless {
@@ -26,6 +29,7 @@ struct DeskMachine {
   const Clock& clock;
   Files& files;
   SettingsStore& settings;
+  const Locale& locale;
   bool isBrowser = false;
 };
 
@@ -34,7 +38,8 @@ struct DeskMachine {
 ///   {"get":"standing"}    {"title":"ТН-6 *","status":"...","address":"...","isUnsent":true}
 ///   {"get":"markedText"}  the marked cells of the table that has the focus, as Ctrl+C takes them
 ///   {"do":"followDesk"}   from now on the user is asked before the document would be lost, keys in
-///                         tables are those of commands and scanners too, and events tell the
+///                         tables are those of commands and scanners too, with "control", and with
+///                         the "text" that they type, and events tell the
 ///                         current line in words, work that lasts, and words beside the boxes
 ///   {"do":"bring","name":"awizo.xml","from":"c:\\.brought"}
 ///                         puts a file into the local folder, and opens it where a document is
@@ -73,7 +78,10 @@ class ServedDesk {
   void press(const Command& command);
   /// What the user does to a control of the form.
   void takeAct(Control* control, const Json& line, const std::function<void()>& act);
-  bool takeKey(const Control& control, const Json& line);
+  bool takeKey(Control& control, const Json& line);
+  /// Where a key leads: Home and End with Ctrl in every table, without it and characters in one
+  /// that is a list.
+  std::optional<int> rowOfKey(const Table& table, const CommandKey& key, const Json& line);
   void startAgain();
   void bring(const Json& line);
   void addPackages();
@@ -98,6 +106,7 @@ class ServedDesk {
   DocumentWatch watch_;
   CurrentLine line_;
   LineFinder finder_;
+  ListMoves countries_;
   PackagesDialog packagesDialog_;
   DistributionDialog distributionDialog_;
   ServedPapers papers_;

@@ -19,6 +19,8 @@ using testing::IsEmpty;
 using testing::Not;
 
 constexpr int enter = 13;
+constexpr int keyEnd = 35;
+constexpr int keyHome = 36;
 constexpr int f2 = 113;
 constexpr int packageDescription = 3;
 constexpr int packedQuantity = 21;
@@ -110,6 +112,28 @@ TEST_F(DeskTest, KeysInATableAreThoseOfItsCommands) {
   editor.cell("grdPozycje", 2, 1);
   editor.key("grdPozycje", keyDelete);
   EXPECT_EQ(editor.cellText("grdPozycje", 2, 2), third);
+}
+
+TEST_F(DeskTest, KeysLeadToTheEndsOfATable) {
+  editor.act({{"do", "key"}, {"on", "grdPozycje"}, {"code", keyEnd}, {"control", true}});
+  EXPECT_EQ(row("grdPozycje"), 25);
+  editor.act({{"do", "key"}, {"on", "grdPozycje"}, {"code", keyHome}, {"control", true}});
+  EXPECT_EQ(row("grdPozycje"), 1);
+}
+
+TEST_F(DeskTest, KeysAndCharactersLeadToACountry) {
+  const std::string countries = "DlgIsoCodes.grdISO";
+  editor.click("Image2");
+  const int count = static_cast<int>(editor.get(countries)["cells"].size());
+  editor.key(countries, keyEnd);
+  EXPECT_EQ(row(countries), count - 1);
+  editor.key(countries, keyHome);
+  EXPECT_EQ(row(countries), 1);
+  const std::string last = editor.cellText(countries, count - 1, 0);
+  editor.act({{"do", "key"}, {"on", countries}, {"code", 0}, {"text", last.substr(0, 2)}});
+  EXPECT_EQ(editor.cellText(countries, row(countries), 0).substr(0, 2), last.substr(0, 2));
+  EXPECT_GT(row(countries), 1);
+  editor.close("DlgIsoCodes");
 }
 
 TEST_F(DeskTest, DoubleClickOnAPackageOpensIt) {

@@ -93,6 +93,9 @@ export class AwizoWysylki extends ControlElement {
   private startsAgain = false;
   private standingTimer: ReturnType<typeof setTimeout> | undefined;
   private readonly typing = new TypingWatch(this.root);
+  /// Where the user has gone to another control and the core doesn't know it yet: what it says of the
+  /// focus there is old.
+  private readonly ways = new Set<{ view: FormView }>();
 
   constructor() {
     super();
@@ -125,6 +128,7 @@ export class AwizoWysylki extends ControlElement {
   /// What was known of the core that has ended: the next one begins anew.
   private forget(): void {
     this.views.clear();
+    this.ways.clear();
     for (const known of [this.kinds, this.forms]) for (const name of Object.keys(known)) delete known[name];
     this.shown.length = 0;
     this.box = undefined;
@@ -442,6 +446,8 @@ export class AwizoWysylki extends ControlElement {
 
   private followModel(): void {
     if (this.box !== undefined || !this.isConnected || this.keeper() !== null) return;
+    const top = this.top();
+    if (top !== undefined && this.isUnderWay(top)) return;
     const target = this.modelsFocus();
     if (target !== null && this.root.activeElement !== target) target.focus();
   }
@@ -489,8 +495,20 @@ export class AwizoWysylki extends ControlElement {
   private followUser(target: Element): void {
     const name = target.closest<HTMLElement>("[data-name]")?.dataset["name"];
     const top = this.top();
-    if (name === undefined || top === undefined || name === top.focus || top.face(name) === undefined) return;
-    void this.host().act(name, { do: "focus" });
+    if (name === undefined || top === undefined || top.face(name) === undefined) return;
+    if (name !== top.focus || this.isUnderWay(top)) void this.tellOfWay(top, name);
+  }
+
+  private isUnderWay(view: FormView): boolean {
+    return [...this.ways].some((way) => way.view === view);
+  }
+
+  private async tellOfWay(view: FormView, name: string): Promise<void> {
+    const way = { view };
+    this.ways.add(way);
+    await this.host().act(name, { do: "focus" });
+    this.ways.delete(way);
+    this.followModel();
   }
 
   private pressKey(event: KeyboardEvent): void {

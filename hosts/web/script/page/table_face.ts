@@ -215,12 +215,16 @@ export class TableFace extends Face {
   }
 
   private pressKey(event: KeyboardEvent): void {
-    const isTaken = event.defaultPrevented || event.ctrlKey || event.altKey || event.target !== this.element;
+    const withControl = event.ctrlKey && (event.key === "Home" || event.key === "End");
+    const isTaken = event.defaultPrevented || (event.ctrlKey && !withControl) || event.altKey || event.target !== this.element;
     const isDigit = this.isScanned && event.key >= "0" && event.key <= "9";
     if (isTaken || !(isDigit || keys.has(event.key))) return;
     event.preventDefault();
     event.stopPropagation();
     this.reveal();
-    void this.act({ do: "key", code: isDigit ? event.key.charCodeAt(0) : event.keyCode, shift: event.shiftKey && !isDigit });
+    void this.act({
+      do: "key", code: isDigit ? event.key.charCodeAt(0) : event.keyCode, shift: event.shiftKey && !isDigit,
+      ...(withControl ? { control: true } : {}),
+    });
   }
 }

@@ -29,6 +29,25 @@ await withPage(async (page) => {
   await page.waitForFunction((field) => (field as HTMLInputElement).value === "09:05", await time.elementHandle());
   assert.equal(await value("txtDespatchAdviceTime", "time"), "09:05");
 
+  // What the core says of the field before doesn't take the focus from the one that is gone to.
+  const wentBack = await user.field("txtNrAwiza").evaluate(async (from: HTMLInputElement) => {
+    const root = from.getRootNode() as ShadowRoot;
+    const core = root.host as unknown as { say(line: object): Promise<unknown> };
+    const to = root.querySelector<HTMLInputElement>('[data-name="txtCodeByBuyer"] input')!;
+    from.focus();
+    await core.say({ get: "standing" });
+    let times = 0;
+    from.addEventListener("focus", () => ++times);
+    for (const text of ["1", "12", "123"]) {
+      from.value = text;
+      from.dispatchEvent(new InputEvent("input", { bubbles: true, composed: true }));
+    }
+    to.focus();
+    await core.say({ get: "standing" });
+    return times;
+  });
+  assert.equal(wentBack, 0);
+
   await user.control("btnDodaj").click();
   const name = user.control("DlgDodaj.cboxNazwaProd");
   const options = name.getByRole("option");

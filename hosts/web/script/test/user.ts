@@ -101,9 +101,8 @@ export class User {
 
   async goToFirstLine(): Promise<void> {
     const lines = this.control("grdPozycje");
-    await lines.press("Home");
-    await lines.evaluate((table) => (table.scrollTop = 0));
-    await lines.locator('[data-row="1"] [data-col="1"]').click();
+    await lines.press("Control+Home");
+    await lines.locator('.current[data-row="1"] [data-col="1"]').click();
   }
 
   async packFirstLine(): Promise<void> {
