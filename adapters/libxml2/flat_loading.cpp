@@ -42,11 +42,16 @@ FlatNode& addNode(FlatLoad& load, void* context) {
       .textStart = textStart, .textEnd = textStart, .line = currentLine(context), .isLast = true});
 }
 
-void addText(void* context, std::string_view text) {
+/// Whether the last child is of the kind that the member tells.
+bool endsWith(const FlatLoad& load, bool FlatNode::*isOfKind) {
+  return load.lastChild != 0 && load.tree.nodes[load.lastChild].*isOfKind;
+}
+
+/// Behind what the last child holds, if that is of the kind, else as a new child.
+void addText(void* context, std::string_view text, bool FlatNode::*isOfKind) {
   FlatLoad& load = flatLoadOf(context);
-  std::vector<FlatNode>& nodes = load.tree.nodes;
-  if (load.lastChild == 0 || !nodes[load.lastChild].isText) addNode(load, context).isText = true;
-  FlatNode& node = nodes[load.lastChild];
+  if (!endsWith(load, isOfKind)) addNode(load, context).*isOfKind = true;
+  FlatNode& node = load.tree.nodes[load.lastChild];
   load.tree.texts += text;
   // libxml2 has its own opinion on texts that are so long.
   constexpr std::size_t mostOfOneText = 1'000'000;
@@ -61,7 +66,7 @@ void addText(void* context, std::string_view text) {
 void takeHeldBlanks(void* context) {
   std::string& held = flatLoadOf(context).heldBlanks;
   if (held.empty()) return;
-  addText(context, held);
+  addText(context, held, &FlatNode::isText);
   held.clear();
 }
 
@@ -69,14 +74,28 @@ void takeCharacters(void* context, const xmlChar* text, int length) {
   FlatLoad& load = flatLoadOf(context);
   const std::string_view view(reinterpret_cast<const char*>(text),
                               static_cast<std::size_t>(length));
-  const bool startsText = load.lastChild == 0 || !load.tree.nodes[load.lastChild].isText;
-  if (startsText && isBlank(*text) && isBlank(view)) {
+  if (!endsWith(load, &FlatNode::isText) && isBlank(*text) && isBlank(view)) {
     load.heldBlanks += view;
     return;
   }
   countNodes(context, 1);
   takeHeldBlanks(context);
-  addText(context, view);
+  addText(context, view, &FlatNode::isText);
+}
+
+void takeSection(void* context, const xmlChar* text, int length) {
+  FlatLoad& load = flatLoadOf(context);
+  // White space between two sections parts them; what is apart isn't known of a text.
+  if (!load.heldBlanks.empty() && endsWith(load, &FlatNode::isSection)) {
+    leaveToOther(context);
+    return;
+  }
+  load.heldBlanks.clear();
+  countNodes(context, 1);
+  addText(context, {reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)},
+          &FlatNode::isSection);
+  // libxml2 notes the line of all nodes but these.
+  load.tree.nodes[load.lastChild].line = 0;
 }
 
 void takeStartTag(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri,
@@ -113,7 +132,7 @@ void hookFlat(xmlSAXHandler& events) {
   events.processingInstruction = [](void* context, const xmlChar*, const xmlChar*) {
     leaveToOther(context);
   };
-  events.cdataBlock = [](void* context, const xmlChar*, int) { leaveToOther(context); };
+  events.cdataBlock = takeSection;
   events.internalSubset = [](void* context, const xmlChar*, const xmlChar*, const xmlChar*) {
     leaveToOther(context);
   };

@@ -11,10 +11,11 @@ namespace {
 
 xmlNode* grownNode(const FlatTree& tree, const FlatNode& node, xmlDoc& document) {
   xmlNode* copy = nullptr;
-  if (node.isText) {
+  if (node.isText || node.isSection) {
     const std::string_view text =
         std::string_view(tree.texts).substr(node.textStart, node.textEnd - node.textStart);
-    copy = xmlNewDocTextLen(&document, bytesOf(text.data()), static_cast<int>(text.size()));
+    const auto make = node.isText ? xmlNewDocTextLen : xmlNewCDataBlock;
+    copy = make(&document, bytesOf(text.data()), static_cast<int>(text.size()));
   } else {
     copy = xmlNewDocNodeEatName(&document, nullptr, const_cast<xmlChar*>(node.name), nullptr);
   }
@@ -38,6 +39,7 @@ std::string_view FlatTree::trimmedText(const FlatNode* node) const {
 
 std::string FlatTree::nameOf(const FlatNode* node) const {
   if (node->isText) return "#text";
+  if (node->isSection) return "#cdata-section";
   return node->name ? std::string(viewOf(node->name)) : "#document";
 }
 

@@ -9,7 +9,7 @@
 
 namespace awizo::libxml2 {
 
-/// A document, an element or a text; what is below it follows it directly.
+/// A document, an element, a text or a CDATA section; what is below it follows it directly.
 struct FlatNode {
   const xmlChar* name = nullptr;  ///< an element's, from the document's dictionary
   std::uint32_t size = 1;         ///< this node and all below it
@@ -17,12 +17,14 @@ struct FlatNode {
   std::uint32_t textEnd = 0;
   std::uint16_t line = 0;
   bool isText = false;
+  bool isSection = false;
   bool isLast = false;  ///< among its parent's children
 };
 
-/// A document of nothing but elements and texts, for reading: all nodes in one array and all texts
-/// in one string, both in document order. A large catalogue takes a sixth of the memory that
-/// libxml2's tree of it takes, and a fraction of the time to be made and to be freed.
+/// A document of nothing but elements, texts and CDATA sections, for reading: all nodes in one
+/// array and all texts in one string, both in document order. A large catalogue takes a sixth of
+/// the memory that libxml2's tree of it takes, and a fraction of the time to be made and to be
+/// freed.
 struct FlatTree {
   std::vector<FlatNode> nodes;
   std::string texts;

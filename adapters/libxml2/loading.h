@@ -14,8 +14,8 @@ enum class Decoding { utf8, byDeclaration };
 
 struct Parsed {
   Owned<xmlDoc> document = nullptr;  ///< none when the load failed
-  /// What the document has where that is elements and texts alone; the document itself then has no
-  /// nodes yet.
+  /// What the document has where that is elements, texts and CDATA sections alone; the document
+  /// itself then has no nodes yet.
   std::optional<FlatTree> flat = std::nullopt;
   Declaration declaration = {};
   std::int64_t failedAtLine = 0;  ///< 0 for a load that was right, or refused as a whole

@@ -7,8 +7,8 @@ namespace {
 
 using test::loaded;
 
-// A document of elements and texts alone is kept in a flat form until more is asked of it than
-// reading. Nobody may see a difference.
+// A document of elements, texts and CDATA sections alone is kept in a flat form until more is asked
+// of it than reading. Nobody may see a difference.
 
 /// All that can be read of a node and of what is below it.
 std::string outline(const XmlNode& node) {
@@ -32,10 +32,26 @@ std::string selected(XmlDocument& document) {
   return told;
 }
 
-/// A document of three names, with white space and texts in all places.
+/// A document of three names, with white space, texts and CDATA sections in all places.
 std::string randomDocument(std::mt19937& random) {
-  const std::vector<std::string> texts{"",      " ",      "\n  ",     "x", " x ",  "Ёж ё", "&amp;",
-                                       "&#32;", "\r\n\t", "1 <b/> 2", "1", " 01.", "-1",   "1e0"};
+  const std::vector<std::string> texts{"",
+                                       " ",
+                                       "\n  ",
+                                       "x",
+                                       " x ",
+                                       "Ёж ё",
+                                       "&amp;",
+                                       "&#32;",
+                                       "\r\n\t",
+                                       "1 <b/> 2",
+                                       "1",
+                                       " 01.",
+                                       "-1",
+                                       "1e0",
+                                       "<![CDATA[]]>",
+                                       "<![CDATA[ ]]>",
+                                       " <![CDATA[1]]>\n",
+                                       "1<![CDATA[ <&]]><![CDATA[Ё]]>2"};
   const std::vector<std::string> names{"a", "b", "c"};
   const auto text = [&] { return texts[random() % texts.size()]; };
   std::string document = "<a>";
