@@ -1,9 +1,4 @@
-#include "adapters/memory/fixed_clock.h"
-#include "adapters/posix/posix_shared_store.h"
 #include "desktop_program/program_test.h"
-#include "hosts/desktop/window/assistants.h"
-#include "hosts/desktop/window/paper_maker.h"
-#include "numbers/given_numbers.h"
 #include "platform/text.h"
 #include "support/files/files.h"
 #include "tables/columns/columns.h"
@@ -14,8 +9,14 @@ namespace {
 /// A user who packs by the keyboard alone, and each of whose keys counts.
 class PackingKeysTest : public ProgramTest {
  protected:
-  PackingKeysTest() { numbers.setRange({"3", "9520001", 1, 1000, 1}); }
-  ~PackingKeysTest() override { close(); }
+  PackingKeysTest() {
+    std::filesystem::create_directories(documents);
+    qputenv("HOME", documents.parent_path().c_str());
+  }
+  ~PackingKeysTest() override {
+    close();
+    qputenv("HOME", earlier_);
+  }
 
   void key(Qt::Key pressed, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     ++keys;
@@ -30,18 +31,26 @@ class PackingKeysTest : public ProgramTest {
     keys += static_cast<int>(typed.size());
     type(typed);
   }
-  /// The name that is proposed is taken.
+  /// The firm's range is entered, which has to be done once.
+  void enterRange() {
+    key(static_cast<Qt::Key>(u'Б'), Qt::AltModifier);
+    then([this] {
+      text("9520001");
+      key(Qt::Key_Tab);
+      key(Qt::Key_Tab);
+      text("1000");
+      key(Qt::Key_Return);
+    });
+    key(static_cast<Qt::Key>(u'Н'));
+  }
+  /// In the dialog for files the name that is proposed is taken.
   void writePaper(char letter, const std::string& file) {
-    const std::string target = (place.folder() / file).string();
-    widget().paperMaker().askTarget = [this, target](const QString&) {
-      ++keys;
-      return QString::fromStdString(target);
-    };
     key(letter, [this] {
+      then([this] { key(Qt::Key_Return); });
       key(static_cast<Qt::Key>(u'В'), Qt::AltModifier);
       key(Qt::Key_Escape);
     });
-    EXPECT_TRUE(readFile(target).starts_with("%PDF-")) << file;
+    EXPECT_TRUE(readFile(documents / file).starts_with("%PDF-")) << file;
   }
   /// The demo's order, without the faults that it shows in two of its lines.
   std::string dataWithoutFaults() {
@@ -54,10 +63,12 @@ class PackingKeysTest : public ProgramTest {
   }
   std::string packed(int row) { return form().grdPozycje.cell(row, GRD_POZ_PACKED_QTY); }
 
-  PosixSharedStore store{(place.settings().string() + "-numbers-")};
-  FixedClock clock{{makeDate(2026, 11, 21), {10, 15, 0}}};
-  GivenNumbers numbers{store, clock};
+  /// Where the dialog for files begins.
+  const std::filesystem::path documents = place.folder() / "home" / "Documents";
   int keys = 0;
+
+ private:
+  QByteArray earlier_ = qgetenv("HOME");
 };
 
 TEST_F(PackingKeysTest, AnOrderOf25LinesIsPackedWithItsPapersByFortyKeys) {
@@ -68,6 +79,7 @@ TEST_F(PackingKeysTest, AnOrderOf25LinesIsPackedWithItsPapersByFortyKeys) {
   const Table& packages = form().grdOpakowania;
   ASSERT_EQ(control().editor.session.LineCount, 25);
 
+  enterRange();
   key('N', [this] {
     text("1");
     key(Qt::Key_Tab);
@@ -79,8 +91,8 @@ TEST_F(PackingKeysTest, AnOrderOf25LinesIsPackedWithItsPapersByFortyKeys) {
     key(Qt::Key_Return);
   });
   key('D', [this] { key(Qt::Key_Return); });
-  writePaper('L', "labels.pdf");
-  writePaper('P', "list.pdf");
+  writePaper('L', "Этикетки.pdf");
+  writePaper('P', "Упаковочный_лист.pdf");
 
   ASSERT_EQ(control().editor.session.IloscPozycjiOpak, 3);
   EXPECT_EQ(packages.cell(1, GRD_OPAK_TYPE), "09");
