@@ -32,6 +32,7 @@ constexpr std::array tasks{
     NamedTask{HostTask::showAbout, "showAbout"},
     NamedTask{HostTask::showLabels, "showLabels"},
     NamedTask{HostTask::showPacking, "showPacking"},
+    NamedTask{HostTask::scannerPacks, "scannerPacks"},
     NamedTask{HostTask::showPackingList, "showPackingList"},
     NamedTask{HostTask::showPackageSheets, "showPackageSheets"},
     NamedTask{HostTask::showPackingCsv, "showPackingCsv"},
@@ -95,13 +96,15 @@ HostTask taskNamed(std::string_view name) {
   return found->task;
 }
 
-Json menusJson(const std::vector<CommandMenu>& menus) {
+Json menusJson(const std::vector<CommandMenu>& menus, const std::function<bool(HostTask)>& isOn) {
   Json all = Json::array();
   for (const CommandMenu& menu : menus) {
     Json commands = Json::array();
     for (const auto& group : menu.groups) {
       for (const Command& command : group) {
-        commands.push_back(jsonOf(command, [](const Control* control) { return control->name(); }));
+        Json& told = commands.emplace_back(
+            jsonOf(command, [](const Control* control) { return control->name(); }));
+        if (command.isSwitch) told["isOn"] = isOn(command.task);
       }
     }
     all.push_back({{"heading", menu.heading}, {"commands", std::move(commands)}});

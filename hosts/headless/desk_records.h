@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -11,8 +12,9 @@
 namespace awizo::headless {
 
 /// The menus: each command with the button that it presses or its
-/// task, its keys, and the table on whose current row it acts.
-protocol::Json menusJson(const std::vector<CommandMenu>& menus);
+/// task, its keys, and the table on whose current row it acts; of a switch whether it is on.
+protocol::Json menusJson(const std::vector<CommandMenu>& menus,
+                         const std::function<bool(HostTask)>& isOn);
 /// A command of a dialog, its controls by the names that lines use.
 protocol::Json commandJson(const Command& command, const protocol::FormDirectory& forms);
 

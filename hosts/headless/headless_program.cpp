@@ -33,7 +33,7 @@ namespace {
 std::unique_ptr<ServedNumbers> numbersOf(Machine& machine, const Clock& clock,
                                          AwizoWysylki& control) {
   if (machine.numbers() == nullptr) return nullptr;
-  return std::make_unique<ServedNumbers>(*machine.numbers(), clock, control);
+  return std::make_unique<ServedNumbers>(*machine.numbers(), clock, control, machine.isBrowser());
 }
 
 /// The control in its surroundings, with a client that speaks lines to it.

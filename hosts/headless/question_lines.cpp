@@ -28,6 +28,10 @@ std::string_view nameOf(Choice choice) {
       return "later";
     case Choice::replace:
       return "replace";
+    case Choice::printed:
+      return "printed";
+    case Choice::notPrinted:
+      return "notPrinted";
     case Choice::cancel:
       break;
   }

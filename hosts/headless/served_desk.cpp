@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "assistants/package_adding.h"
+#include "assistants/scanned_unit.h"
 #include "desk/box_advice.h"
 #include "desk/choose_path.h"
 #include "desk/file_places.h"
@@ -15,7 +16,6 @@
 #include "hosts/headless/packing_records.h"
 #include "hosts/protocol/answers.h"
 #include "hosts/version.h"
-#include "platform/at_exit.h"
 #include "platform/forms/keys.h"
 #include "platform/forms/table_text.h"
 #include "platform/text.h"
@@ -84,7 +84,10 @@ ServedDesk::ServedDesk(const Assistance& with, ServedNumbers* numbers, const Des
                  [&locale = machine.locale](std::string_view text) { return locale.upper(text); }),
       packagesDialog_(control_.editor, with.numbers),
       distributionDialog_(control_.editor),
-      papers_(control_.editor, machine.files, machine.settings, conversation) {
+      papers_(control_.editor, machine.files, machine.settings, conversation),
+      scannerSwitch_(finder_, machine.settings,
+                     [this](std::string_view ean) { return packScannedUnit(ean); }),
+      scannedTyping_(scannedFields(control_)) {
   watch_.ask = [this](const Question& question) { return conversation_.ask(question); };
   finder_.say = [this](std::string_view words) { line_.say(words); };
 }
@@ -101,7 +104,9 @@ void ServedDesk::serve(protocol::ControlAccess& access) {
     access.add(numbers_->rangeDialog());
     conversation_.watch(numbers_->rangeDialog());
   }
-  dispatcher.records["commands"] = [this] { return menusJson(menus_); };
+  dispatcher.records["commands"] = [this] {
+    return menusJson(menus_, [this](HostTask) { return scannerSwitch_.isOn(); });
+  };
   dispatcher.records["dialogCommands"] = [this, &access] {
     Json commands = Json::array();
     for (const Command& command : commands_) {
@@ -109,6 +114,18 @@ void ServedDesk::serve(protocol::ControlAccess& access) {
       commands.push_back(commandJson(command, access.forms()));
     }
     return commands;
+  };
+  dispatcher.records["scanned"] = [this, &access] {
+    Json fields = Json::array();
+    for (const ScannedField& field : scannedTyping_.fields()) {
+      fields.push_back(access.forms().nameOf(field.control));
+    }
+    Json tables = Json::array();
+    for (const Table* table : scannedTables(control_.form)) tables.push_back(table->name());
+    return Json{{"fields", std::move(fields)}, {"tables", std::move(tables)}};
+  };
+  dispatcher.clientActions["scan"] = [this, &access](const Json& line) {
+    scan(access.forms().control(protocol::textMember(line, "on")), line);
   };
   dispatcher.records["standing"] = [this] { return standing(); };
   dispatcher.records["markedText"] = [this] { return Json(markedText()); };
@@ -119,6 +136,7 @@ void ServedDesk::serve(protocol::ControlAccess& access) {
     const std::string path = protocol::textMember(line, "path");
     papers_.showSaved(path, line.contains("name") ? protocol::textMember(line, "name") : path);
   };
+  dispatcher.clientActions["printed"] = [this](const Json&) { papers_.printingEnded(); };
   dispatcher.clientActions["command"] = [this](const Json& line) { choose(line); };
   dispatcher.clientActions["stop"] = [](const Json&) { throw Refused("No assistant works."); };
   dispatcher.aroundUserAct = [this, &access](const Json& line, const auto& act) {
@@ -166,8 +184,9 @@ void ServedDesk::tellWords() {
   }
   if (numbers_ == nullptr) return;
   if (const auto words = numbers_->changedWords()) {
-    conversation_.emit(
-        {{"event", "note"}, {"on", "DlgSzczegoly.txtSerialNumberN"}, {"text", *words}});
+    Json note{{"event", "note"}, {"on", "DlgSzczegoly.txtSerialNumberN"}, {"text", *words}};
+    if (numbers_->offer().asksForRange()) note["task"] = taskName(HostTask::showNumbers);
+    conversation_.emit(note);
   }
 }
 
@@ -208,6 +227,10 @@ void ServedDesk::perform(HostTask task) {
       return numbers_->showRange();
     case HostTask::showPacking:
       return conversation_.emit({{"event", "showPacking"}});
+    case HostTask::scannerPacks:
+      scannerSwitch_.turn(!scannerSwitch_.isOn());
+      return conversation_.emit(
+          {{"event", "switch"}, {"task", taskName(task)}, {"isOn", scannerSwitch_.isOn()}});
     case HostTask::showLabels:
       return papers_.show(Paper::labels);
     case HostTask::showPackingList:
@@ -226,14 +249,34 @@ void ServedDesk::perform(HostTask task) {
   }
 }
 
+void ServedDesk::scan(const Control& control, const Json& line) {
+  const ScannedField* field = scannedTyping_.find(&control);
+  if (field == nullptr) throw Refused("Nothing is scanned there.");
+  const std::string text = protocol::textMember(line, "text");
+  std::optional<std::string> now;
+  if (protocol::booleanMember(line, "isWhole", false)) {
+    now = scannedTyping_.pasted(*field, text);
+  } else if (text.empty()) {
+    now = scannedTyping_.giveBack();
+  } else {
+    now = scannedTyping_.typed(*field, text, protocol::booleanMember(line, "begins", false));
+  }
+  if (now) conversation_.emit({{"event", "typed"}, {"on", line["on"]}, {"text", *now}});
+}
+
 void ServedDesk::takeAct(Control* control, const Json& line, const std::function<void()>& act) {
   const Json& action = line["do"];
+  scannedTyping_.giveBack();
   const bool isHere = control != nullptr && control->form().takesInput();
   if (isHere && action == "key" && takeKey(*control, line)) return;
   if (action != "key") finder_.forgetCode();
   if (const auto* button = dynamic_cast<const Button*>(control);
       button != nullptr && action == "click" && !watch_.mayPress(*button)) {
     return;
+  }
+  const ScannedField* field = action == "type" ? scannedTyping_.find(control) : nullptr;
+  if (field != nullptr) {
+    return field->type(ScannedTyping::edited(*field, protocol::textMember(line, "text")));
   }
   act();
   if (action != "doubleClick") return;
@@ -247,8 +290,8 @@ bool ServedDesk::takeKey(Control& control, const Json& line) {
   if (code != static_cast<std::int16_t>(code)) return false;
   const CommandKey key{static_cast<std::int16_t>(code),
                        protocol::booleanMember(line, "control", false)};
-  const AwizoForm& form = control_.form;
-  const bool scans = &control == &form.grdPozycje || &control == &form.grdOpakowania;
+  const std::vector<Table*> scanned = scannedTables(control_.form);
+  const bool scans = std::ranges::find(scanned, &control) != scanned.end();
   if (scans && !key.control && finder_.takeKey(key.code)) return true;
   if (protocol::booleanMember(line, "shift", false)) return false;
   for (const Command& command : commands_) {
@@ -338,11 +381,8 @@ AssistantReport ServedDesk::run(std::string_view words,
                                 const std::function<AssistantReport(const GoOn& goOn)>& work) {
   // The dialog that asked for it is gone first.
   conversation_.beforeWaiting();
-  conversation_.dialogsAreUnseen = true;
-  const AtExit over([this] {
-    conversation_.dialogsAreUnseen = false;
-    conversation_.emit({{"event", "rests"}});
-  });
+  const AtExit over([this] { conversation_.emit({{"event", "rests"}}); });
+  const AtExit unseen = hideDialogs();
   return work([&](int done, int all) {
     conversation_.emit({{"event", "works"},
                         {"what", progress(words, done, all)},
@@ -350,6 +390,11 @@ AssistantReport ServedDesk::run(std::string_view words,
                         {"asks", false}});
     return !conversation_.isToldToStop();
   });
+}
+
+std::string ServedDesk::packScannedUnit(std::string_view ean) {
+  const AtExit unseen = hideDialogs();
+  return awizo::packScannedUnit(with_, ean);
 }
 
 void ServedDesk::showBox(const std::string& words) {

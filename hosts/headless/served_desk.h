@@ -12,10 +12,13 @@
 #include "desk/current_line.h"
 #include "desk/document_watch.h"
 #include "desk/line_finder.h"
+#include "desk/scanned_fields.h"
+#include "desk/scanner_switch.h"
 #include "hosts/headless/conversation.h"
 #include "hosts/headless/served_numbers.h"
 #include "hosts/headless/served_papers.h"
 #include "hosts/protocol/control_access.h"
+#include "platform/at_exit.h"
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/forms/list_moves.h"
@@ -47,6 +50,15 @@ struct DeskMachine {
 ///   {"get":"packing"}     what lies where: see packing_records.h
 ///   {"do":"packRest","lines":[1,2],"package":3}   the rest of these lines into that package
 ///   {"do":"stop"}         ends the work of an assistant
+///   {"do":"command","task":"scannerPacks"}   turns that switch, and {"event":"switch",...} tells
+///   how
+///                         it stands
+///   {"get":"scanned"}     {"fields":[...],"tables":[...]}: into which a scanner types
+///   {"do":"scan","on":"DlgSzczegoly.txtSerialNumberN","text":"(","begins":true}
+///                         a character typed into one of these fields, where nothing else will be
+///                         in it; without "begins" one that was typed before such a line was
+///                         answered, and none where no more follows; with "isWhole" a text that was
+///                         pasted. {"event":"typed",...} tells what the field holds then
 ///   {"do":"showPapersOf","path":"c:\\VIRD\\a.xml"}   after {"event":"chooseDocument"}: papers of
 ///                         that saved document; "name" is what the user calls it, where the path
 ///                         is one for a while
@@ -92,6 +104,14 @@ class ServedDesk {
   void showBox(const std::string& words);
   void workBegins(std::string_view what);
   void workEnds();
+  /// Until what this returns goes, the user sees nothing of the dialogs.
+  [[nodiscard]] auto hideDialogs() {
+    conversation_.dialogsAreUnseen = true;
+    return AtExit([this] { conversation_.dialogsAreUnseen = false; });
+  }
+  std::string packScannedUnit(std::string_view ean);
+  /// What the user types or pastes in place of all that a field for scanned numbers holds.
+  void scan(const Control& control, const Json& line);
   Json standing() const;
   std::string markedText() const;
 
@@ -110,6 +130,8 @@ class ServedDesk {
   PackagesDialog packagesDialog_;
   DistributionDialog distributionDialog_;
   ServedPapers papers_;
+  ScannerSwitch scannerSwitch_;
+  ScannedTyping scannedTyping_;
   bool follows_ = false;
   std::string toldLine_;
   std::vector<std::string> works_;  ///< those that last, what began last behind the others

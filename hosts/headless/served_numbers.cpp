@@ -4,7 +4,8 @@
 
 namespace awizo::headless {
 
-ServedNumbers::ServedNumbers(SharedStore& store, const Clock& clock, AwizoWysylki& control)
+ServedNumbers::ServedNumbers(SharedStore& store, const Clock& clock, AwizoWysylki& control,
+                             bool ofBrowser)
     : control_(control),
       numbers_(store, clock),
       offer_(numbers_, control.editor, control.dlgSzczegoly),
@@ -12,13 +13,20 @@ ServedNumbers::ServedNumbers(SharedStore& store, const Clock& clock, AwizoWysylk
       observation_(control.form.deeds.add([this](const Deed& deed) {
         if (deed.kind != Deed::Kind::notRead && deed.keepsDocument()) offer_.documentKept();
       })) {
+  if (!ofBrowser) return;
   rangeDialog_.lblPlace.setCaption(words::numbersOfBrowser);
+  offer_.noRangeWords = words::browserHasNoNumbers;
 }
 
 ServedNumbers::~ServedNumbers() { control_.form.deeds.remove(observation_); }
 
 void ServedNumbers::showRange() {
-  if (control_.form.takesInput()) rangeDialog_.show(control_.editor.session.SellerILN);
+  const DlgSzczegoly& dialog = control_.dlgSzczegoly;
+  if (!control_.form.takesInput() && !dialog.takesInput()) return;
+  rangeDialog_.show(control_.editor.session.SellerILN);
+  if (!dialog.shown()) return;
+  offer_.rangeShown();
+  number_.reset();
 }
 
 void ServedNumbers::opened(const Form& form) {

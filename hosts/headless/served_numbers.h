@@ -15,14 +15,15 @@ namespace awizo::headless {
 /// dialog of its own.
 class ServedNumbers {
  public:
-  /// All outlive it.
-  ServedNumbers(SharedStore& store, const Clock& clock, AwizoWysylki& control);
+  /// All outlive it. `ofBrowser`: the numbers are a browser's own.
+  ServedNumbers(SharedStore& store, const Clock& clock, AwizoWysylki& control, bool ofBrowser);
   ~ServedNumbers();
   ServedNumbers(const ServedNumbers&) = delete;
   ServedNumbers& operator=(const ServedNumbers&) = delete;
 
   NumberOffer& offer() { return offer_; }
   Form& rangeDialog() { return rangeDialog_; }
+  /// Over the document, or over the package that wants a number.
   void showRange();
   // A dialog has come up for the user, and has gone.
   void opened(const Form& form);

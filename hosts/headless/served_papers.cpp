@@ -72,7 +72,12 @@ bool ServedPapers::print() {
   for (const papers::Page& page : dialog_.pages()) sheets.push_back(papers::svgOf(page, widths_));
   conversation_.emit(
       {{"event", "print"}, {"title", dialog_.title()}, {"sheets", std::move(sheets)}});
-  return true;
+  // How it ends nobody knows yet.
+  return false;
+}
+
+void ServedPapers::printingEnded() {
+  dialog_.printingEnded([this](const Question& question) { return conversation_.ask(question); });
 }
 
 }  // namespace awizo::headless

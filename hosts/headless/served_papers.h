@@ -14,6 +14,8 @@ namespace awizo::headless {
 /// Papers for a client that shows and prints them:
 ///   {"event":"sheet","svg":"..."}   what the dialog of papers shows now; empty for no sheet
 ///   {"event":"print","title":"Этикетки ТН-6","sheets":["<svg ...", ...]}
+///   {"do":"printed"}               the client's printing has ended, it doesn't know how: of labels
+///                                  the user is asked whether they were printed
 ///   {"event":"file","name":"Упаковочный_лист_ТН-6.csv","text":"..."}   to be handed to the user
 class ServedPapers {
  public:
@@ -26,6 +28,7 @@ class ServedPapers {
   /// Of a saved document. The user is told of it by the name.
   void showSaved(std::string_view classicPath, std::string_view name);
   void handOutPackingCsv();
+  void printingEnded();
 
  private:
   std::optional<PapersSource> source();

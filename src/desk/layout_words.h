@@ -54,6 +54,10 @@ inline constexpr std::string_view numbersOfBrowser =
     "Эти номера даёт только этот браузер, одни на все его вкладки. Попросите для него свою часть у "
     "того, кто ведает номерами фирмы, и впишите её сюда.";
 
+inline constexpr std::string_view browserHasNoNumbers =
+    "У этого браузера ещё нет номеров упаковок. Попросите для него часть у того, кто ведает "
+    "номерами фирмы, и впишите её: номер будет появляться здесь сам.";
+
 // The pane that shows what lies where.
 inline constexpr std::string_view packingOnlyRest = "&Только неупакованное";
 inline constexpr std::string_view packRest = "&Положить остаток сюда";

@@ -32,6 +32,7 @@ std::vector<std::string> NumberOffer::numbersInTable() const {
 
 void NumberOffer::opened() {
   trouble_.clear();
+  asksForRange_ = false;
   if (!dialog_.AddMode || !dialog_.txtSerialNumberN.text().empty()) return;
   if (const auto error = caughtError([this] { offer(); })) {
     trouble_ = joined({"Номер не выдан: ", diskRefusal(*error), "."});
@@ -67,16 +68,28 @@ std::string NumberOffer::wordsFor(std::size_t count) {
   return told;
 }
 
+bool NumberOffer::hasRange() const { return numbers_.range().has_value(); }
+
 void NumberOffer::offer() {
   takeFor(1);
-  if (waiting_.empty()) return;
+  if (waiting_.empty()) {
+    asksForRange_ = !noRangeWords.empty() && !hasAsked_ && !hasRange();
+    return;
+  }
   Control* const place = dialog_.focus();
   dialog_.txtSerialNumberN.userType(waiting_.front());
   // The user begins where he would have begun.
   if (place != nullptr && place->takesInput()) place->userFocus();
 }
 
+void NumberOffer::rangeShown() {
+  bool isEntered = false;
+  caughtError([&] { isEntered = asksForRange_ && hasRange(); });
+  if (isEntered) opened();
+}
+
 void NumberOffer::closed() {
+  asksForRange_ = false;
   const bool isAccepted = dialog_.DialogResult == 1;
   if (isAccepted && isOffered(dialog_.txtSerialNumberN.text())) waiting_.pop_front();
 }
@@ -93,6 +106,10 @@ void NumberOffer::documentKept() {
 std::string NumberOffer::words() {
   if (!trouble_.empty()) return trouble_;
   const std::string& number = dialog_.txtSerialNumberN.text();
+  if (asksForRange_ && number.empty()) {
+    hasAsked_ = true;
+    return noRangeWords;
+  }
   std::string told;
   caughtError([&] {
     const std::optional<NumberRange> range = numbers_.range();

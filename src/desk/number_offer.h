@@ -20,11 +20,19 @@ class NumberOffer {
   NumberOffer(GivenNumbers& numbers, const Editor& editor, DlgSzczegoly& dialog)
       : numbers_(numbers), editor_(editor), dialog_(dialog) {}
 
+  /// What a user without a range is told where a package first wants a number, once; empty where
+  /// nobody is told.
+  std::string noRangeWords;
+
   /// The dialog has come up before the user. A number that was offered before and not taken is
   /// offered again.
   void opened();
   /// It has gone.
   void closed();
+  /// Whether the user is told now that there is no range, which is to be entered.
+  bool asksForRange() const { return asksForRange_; }
+  /// The user has come back from where the range is entered.
+  void rangeShown();
   /// So many packages will be added one after the other: their numbers are taken in one step.
   void prepare(std::size_t count);
   /// Whether there are numbers for so many packages.
@@ -47,6 +55,7 @@ class NumberOffer {
   /// So many numbers wait to be accepted, fewer where there are no more.
   void takeFor(std::size_t count);
   void offer();
+  bool hasRange() const;
 
   GivenNumbers& numbers_;
   const Editor& editor_;
@@ -54,6 +63,8 @@ class NumberOffer {
   /// Taken, and not accepted yet; the first is offered next.
   std::deque<std::string> waiting_;
   std::string trouble_;  ///< why none could be taken
+  bool asksForRange_ = false;
+  bool hasAsked_ = false;  ///< the user has been told
 };
 
 /// "Этот номер уже был 12.10.2026 в документе ТН-5.".

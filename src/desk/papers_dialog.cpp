@@ -175,8 +175,25 @@ void PapersDialog::turnTo(std::size_t sheet) {
 }
 
 void PapersDialog::finish(const std::function<bool()>& deed) {
-  if (!deed || !deed()) return;
-  doneNumbers_.insert(shownNumbers_.begin(), shownNumbers_.end());
+  sentNumbers_ = shownNumbers_;
+  if (deed && deed()) noteDone();
+}
+
+void PapersDialog::noteDone() {
+  doneNumbers_.insert(sentNumbers_.begin(), sentNumbers_.end());
+  sentNumbers_.clear();
+}
+
+void PapersDialog::printingEnded(const std::function<Choice(const Question& question)>& ask) {
+  if (sentNumbers_.empty()) return;
+  const Question question{
+      .text =
+          "Этикетки напечатаны?\r\nНапечатанных больше не будет среди тех, что «Ещё без "
+          "этикетки».",
+      .choices = {Choice::printed, Choice::notPrinted},
+      .harmless = Choice::notPrinted};
+  if (ask(question) == Choice::printed) noteDone();
+  sentNumbers_.clear();
 }
 
 void PapersDialog::keepSettings() {

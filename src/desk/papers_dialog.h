@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "desk/papers_source.h"
+#include "desk/question.h"
 #include "platform/forms/button.h"
 #include "platform/forms/drop_down_list.h"
 #include "platform/forms/form.h"
@@ -47,6 +48,10 @@ class PapersDialog : public Form {
   /// no onPdf.
   std::function<bool()> onPdf, onPrint;
 
+  /// The printing has ended that onPrint began without knowing how it would end: of labels the user
+  /// is asked whether they were printed.
+  void printingEnded(const std::function<Choice(const Question& question)>& ask);
+
  private:
   bool areLabels() const { return cboPaper.index() == 0; }
   void remake();
@@ -54,6 +59,7 @@ class PapersDialog : public Form {
   std::vector<std::size_t> chosenNumbers() const;
   void turnTo(std::size_t sheet);
   void finish(const std::function<bool()>& deed);
+  void noteDone();
   void keepSettings();
 
   const papers::TextMeasure& measure_;
@@ -65,6 +71,7 @@ class PapersDialog : public Form {
   bool filling_ = false;
   std::vector<std::string> shownNumbers_;  ///< of the labels shown
   std::set<std::string> doneNumbers_;      ///< of labels written or printed before
+  std::vector<std::string> sentNumbers_;   ///< of labels that may have been printed
 };
 
 }  // namespace awizo

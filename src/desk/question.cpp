@@ -22,6 +22,10 @@ std::string_view wordsOf(Choice choice) {
       return "О&тложить";
     case Choice::replace:
       return "&Заменить";
+    case Choice::printed:
+      return "&Напечатаны";
+    case Choice::notPrinted:
+      return "&Не напечатаны";
     case Choice::cancel:
       break;
   }

@@ -9,7 +9,20 @@
 namespace awizo {
 
 /// What a user may answer to a question of the desk.
-enum class Choice { save, letGo, goOn, cancel, wait, leave, send, startAfresh, later, replace };
+enum class Choice {
+  save,
+  letGo,
+  goOn,
+  cancel,
+  wait,
+  leave,
+  send,
+  startAfresh,
+  later,
+  replace,
+  printed,
+  notPrinted
+};
 
 /// The words on its button, "&" before the mnemonic letter.
 std::string_view wordsOf(Choice choice);

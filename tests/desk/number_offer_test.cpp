@@ -128,6 +128,53 @@ TEST_F(NumberOfferTest, WithoutARangeNothingIsTypedOrKept) {
   EXPECT_THAT(store.texts, IsEmpty());
 }
 
+TEST_F(NumberOfferTest, WhereNoneIsGivenForLackOfARangeTheUserIsToldOnce) {
+  store.texts.clear();
+  offer.noRangeWords = "Впишите часть.";
+  // An assistant's packages come and go unseen.
+  adding([this] { leave(); });
+  adding([this] {
+    EXPECT_TRUE(offer.asksForRange());
+    EXPECT_EQ(offer.words(), "Впишите часть.");
+    packageDialog.txtSerialNumberN.userType("1");
+    EXPECT_EQ(offer.words(), "") << "the user has a number";
+    packageDialog.txtSerialNumberN.userType("");
+    EXPECT_EQ(offer.words(), "Впишите часть.");
+    offer.rangeShown();
+    EXPECT_EQ(offer.words(), "Впишите часть.") << "nothing was entered";
+    leave();
+  });
+  EXPECT_FALSE(offer.asksForRange());
+  adding([this] {
+    EXPECT_FALSE(offer.asksForRange());
+    EXPECT_EQ(offer.words(), "");
+    leave();
+  });
+}
+
+TEST_F(NumberOfferTest, ARangeEnteredOverThePackageGivesItItsNumber) {
+  store.texts.clear();
+  offer.noRangeWords = "Впишите часть.";
+  adding([this] {
+    numbers.setRange(range);
+    offer.rangeShown();
+    EXPECT_EQ(packageDialog.txtSerialNumberN.text(), number(1));
+    EXPECT_FALSE(offer.asksForRange());
+    EXPECT_EQ(offer.words(), "осталось номеров: 19");
+    leave();
+  });
+}
+
+TEST_F(NumberOfferTest, WhoHasARangeIsAskedForNone) {
+  offer.noRangeWords = "Впишите часть.";
+  numbers.take(20, "А");
+  adding([this] {
+    EXPECT_FALSE(offer.asksForRange());
+    EXPECT_THAT(offer.words(), HasSubstr("Номера кончились"));
+    leave();
+  });
+}
+
 TEST_F(NumberOfferTest, TellsOfTheEnd) {
   numbers.take(20, "А");
   adding([this] {

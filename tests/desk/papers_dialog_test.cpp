@@ -113,6 +113,39 @@ TEST_F(PapersDialogTest, LabelsThatWereWrittenCountAsDone) {
   });
 }
 
+TEST_F(PapersDialogTest, LabelsWhosePrintingNobodySawCountAsDoneWhereTheUserSaysSo) {
+  dialog.onPrint = [] { return false; };
+  std::vector<std::string> asked;
+  const auto answering = [&](Choice choice) {
+    return [&asked, choice](const Question& question) {
+      asked.push_back(question.text);
+      EXPECT_THAT(question.choices, ElementsAre(Choice::printed, Choice::notPrinted));
+      EXPECT_EQ(question.harmless, Choice::notPrinted);
+      return choice;
+    };
+  };
+  shown(Paper::labels, [&, this] {
+    const auto withoutLabel = [this] {
+      dialog.cboPackages.userChoose(2);
+      return dialog.pages().size();
+    };
+    dialog.btnPrint.userClick();
+    dialog.printingEnded(answering(Choice::notPrinted));
+    EXPECT_EQ(withoutLabel(), 3U);
+    dialog.btnPrint.userClick();
+    EXPECT_EQ(withoutLabel(), 3U) << "the user isn't asked yet";
+    dialog.printingEnded(answering(Choice::printed));
+    EXPECT_EQ(withoutLabel(), 0U);
+    dialog.printingEnded(answering(Choice::printed));
+    dialog.cboPaper.userChoose(1);
+    dialog.btnPrint.userClick();
+    dialog.printingEnded(answering(Choice::printed));
+  });
+  EXPECT_THAT(asked,
+              ElementsAre(HasSubstr("Этикетки напечатаны?"), HasSubstr("«Ещё без этикетки»")))
+      << "of a packing list nothing is asked, and of labels once";
+}
+
 TEST_F(PapersDialogTest, KeepsSizeCopiesAndPrinter) {
   shown(Paper::labels, [this] {
     dialog.cboCopies.userChoose(3);

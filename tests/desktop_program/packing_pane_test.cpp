@@ -6,6 +6,7 @@
 #include <QMimeData>
 #include <ctime>
 
+#include "desk/scanner_switch.h"
 #include "desktop_program/program_test.h"
 #include "hosts/desktop/faces/table_face.h"
 #include "hosts/desktop/layouts/wrapping.h"
@@ -122,7 +123,7 @@ TEST_F(PackingPaneTest, TheKeyPutsTheRestOfTheMarkedLinesIntoThePackage) {
 
 TEST_F(PackingPaneTest, AScannedUnitGoesWhereTheUserStandsInIt) {
   openDocument();
-  widget().letScannerPack(true);
+  widget().scannerSwitch().turn(true);
   press(Qt::Key_F6);
   settle();
   press(Qt::Key_Tab);

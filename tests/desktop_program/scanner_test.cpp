@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QLabel>
 
+#include "desk/scanner_switch.h"
 #include "desktop_program/program_test.h"
 #include "hosts/desktop/layouts/form_dialog.h"
 #include "tables/columns/columns.h"
@@ -124,7 +125,7 @@ TEST_F(ScannerTest, TheSwitchIsKeptForTheNextStart) {
   close();
   open(offLineOptions());
   EXPECT_TRUE(entry("Сканер кладё&т в упаковку")->isChecked());
-  EXPECT_TRUE(widget().scannerPacks());
+  EXPECT_TRUE(widget().scannerSwitch().isOn());
 }
 
 }  // namespace

@@ -81,6 +81,68 @@ TEST_F(DeskTest, TellsACodeThatNoLineHas) {
   EXPECT_EQ(editor.takeLast("line")["text"], "Нет строки с кодом 4600000000008");
 }
 
+TEST_F(DeskTest, AScannedProductIsPutInWhileThatIsSwitchedOn) {
+  const auto isOn = [this]() -> Json {
+    for (const Json& menu : editor.get("commands")) {
+      for (const Json& command : menu["commands"]) {
+        if (command.value("task", "") == "scannerPacks") return command["isOn"];
+      }
+    }
+    return nullptr;
+  };
+  addPackage(editor, "Паллета 1", std::string(serials[0]));
+  editor.cell("grdOpakowania", 1, packageDescription);
+  const std::string ean = editor.cellText("grdPozycje", 5, 1);
+  EXPECT_EQ(isOn(), false);
+  scan(ean);
+  EXPECT_EQ(row("grdPozycje"), 5);
+  EXPECT_EQ(editor.cellText("grdPozycje", 5, packedQuantity), "0,000");
+  editor.perform("scannerPacks");
+  EXPECT_EQ(editor.takeLast("switch"),
+            Json({{"event", "switch"}, {"task", "scannerPacks"}, {"isOn", true}}));
+  EXPECT_EQ(isOn(), true);
+  editor.takeEvents();
+  scan(ean);
+  scan(ean);
+  EXPECT_EQ(editor.cellText("grdPozycje", 5, packedQuantity), "2,000");
+  EXPECT_EQ(editor.takeLast("modal"), Json()) << "nobody acts on these dialogs";
+  editor.perform("takeBack");
+  EXPECT_EQ(editor.cellText("grdPozycje", 5, packedQuantity), "1,000") << "one unit is one step";
+  editor.perform("scannerPacks");
+  EXPECT_EQ(isOn(), false);
+  scan(ean);
+  EXPECT_EQ(editor.cellText("grdPozycje", 5, packedQuantity), "1,000");
+}
+
+TEST_F(DeskTest, AScannersMarksAreCutOffBeforeANumberField) {
+  constexpr std::string_view number = "DlgSzczegoly.txtSerialNumberN";
+  const Json scanned = editor.get("scanned");
+  EXPECT_EQ(scanned["tables"], Json({"grdPozycje", "grdOpakowania"}));
+  EXPECT_EQ(scanned["fields"], Json({number, "DlgDodaj.txtlEANProdWart", "DlgDodaj.cboxEANProd"}));
+  const auto typed = [&](const Json& more) {
+    Json line{{"do", "scan"}, {"on", number}};
+    line.update(more);
+    editor.act(line);
+    return editor.takeLast("typed");
+  };
+  press("btnDodajOpak");
+  EXPECT_EQ(typed({{"text", "("}, {"begins", true}}), Json()) << "it may be a mark's";
+  for (const char* character : {"0", "0", ")"}) typed({{"text", character}});
+  EXPECT_EQ(editor.text(number), "");
+  EXPECT_EQ(typed({{"text", "3"}}), Json({{"event", "typed"}, {"on", number}, {"text", "3"}}));
+  typed({{"text", "(00)395200010000000011"}, {"isWhole", true}});
+  EXPECT_EQ(editor.text(number), "395200010000000011");
+  editor.type(number, "00395200010000000028");
+  EXPECT_EQ(editor.text(number), "395200010000000028") << "what comes at once, too";
+  typed({{"text", "]"}, {"begins", true}});
+  editor.type("DlgSzczegoly.txtPackageDesc", "(00) Короб");
+  EXPECT_EQ(editor.text(number), "]") << "no mark came of it";
+  EXPECT_EQ(editor.text("DlgSzczegoly.txtPackageDesc"), "(00) Короб");
+  editor.refused({{"do", "scan"}, {"on", "txtNrAwiza"}, {"text", "1"}});
+  editor.close("DlgSzczegoly");
+  editor.refused({{"do", "scan"}, {"on", number}, {"text", "1"}, {"begins", true}});
+}
+
 TEST_F(DeskTest, ListsWhatIsWrongAndLeadsThere) {
   editor.perform("showFaults");
   EXPECT_THAT(std::string(editor.get("FaultList")["caption"]), testing::StartsWith("Что не так: "));

@@ -46,8 +46,21 @@ TEST_F(PapersTest, AreShownSheetBySheetAndPrinted) {
   EXPECT_EQ(print["title"], "Этикетки ТН-6");
   ASSERT_THAT(print["sheets"], SizeIs(2));
   EXPECT_EQ(print["sheets"][1], second);
+  editor.act({{"do", "printed"}});
+  EXPECT_THAT(std::string(editor.takeLast("question")["text"]), HasSubstr("Этикетки напечатаны?"));
+  editor.answer("notPrinted");
+  editor.choose("PapersDialog.cboPackages", 2);
+  EXPECT_NE(editor.takeLast("sheet")["svg"], "");
+  editor.click("PapersDialog.btnPrint");
+  editor.act({{"do", "printed"}});
+  editor.answer("printed");
   editor.choose("PapersDialog.cboPackages", 2);
   EXPECT_EQ(editor.takeLast("sheet")["svg"], "") << "all labels have been printed";
+  editor.choose("PapersDialog.cboPaper", 1);
+  editor.click("PapersDialog.btnPrint");
+  editor.takeEvents();
+  editor.act({{"do", "printed"}});
+  EXPECT_EQ(editor.takeLast("question"), Json()) << "a packing list isn't noted";
   editor.close("PapersDialog");
 }
 

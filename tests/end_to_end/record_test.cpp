@@ -76,6 +76,22 @@ TEST_P(RecordTest, AReplayEndsInTheSameStateAndAsksNobody) {
   EXPECT_EQ(again.finish(), 0);
 }
 
+TEST_P(RecordTest, AScannedUnitIsReplayedWithoutTheScannersSwitch) {
+  Conversation editor = startRecorded();
+  editor.act({{"do", "followDesk"}});
+  work(editor);
+  const auto packed = [&] { return editor.cellText("grdPozycje", 2, 21); };
+  EXPECT_EQ(packed(), number("0.000"));
+  editor.perform("scannerPacks");
+  for (const char digit : editor.cellText("grdPozycje", 2, 1)) editor.key("grdPozycje", digit);
+  editor.key("grdPozycje", 13);
+  EXPECT_EQ(packed(), number("1.000"));
+  const Json atEnd = wholeState(editor);
+  editor.program().kill();
+  Conversation other = replay(record);
+  EXPECT_EQ(wholeState(other), atEnd);
+}
+
 TEST_P(RecordTest, TheWorkGoesOnAfterAReplayWithTodaysPageAndCookie) {
   Conversation editor = startRecorded();
   work(editor);

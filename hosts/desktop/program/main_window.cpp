@@ -12,6 +12,7 @@
 #include "desk/guide_chapter.h"
 #include "desk/host_boxes.h"
 #include "desk/layout_words.h"
+#include "desk/scanner_switch.h"
 #include "desk/step_words.h"
 #include "hosts/desktop/faces/icons.h"
 #include "hosts/desktop/faces/russian_keys.h"
@@ -136,7 +137,7 @@ QAction* MainWindow::makeTask(const Command& command) {
   if (command.task == HostTask::doAgain) doAgain_ = action;
   if (command.isSwitch) {
     action->setCheckable(true);
-    action->setChecked(widget_->scannerPacks());
+    action->setChecked(widget_->scannerSwitch().isOn());
   }
   if (!command.icon.empty()) action->setIcon(iconNamed(fromText(command.icon)));
   QList<QKeySequence> keys;
@@ -189,7 +190,7 @@ void MainWindow::perform(HostTask task) {
     case HostTask::showPacking:
       return widget_->packingPane().toggle();
     case HostTask::scannerPacks:
-      return widget_->letScannerPack(!widget_->scannerPacks());
+      return widget_->scannerSwitch().turn(!widget_->scannerSwitch().isOn());
     case HostTask::showGuide:
       return openGuide(*this);
     case HostTask::showAbout:

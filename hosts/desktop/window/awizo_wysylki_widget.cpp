@@ -13,6 +13,7 @@
 #include "desk/host_boxes.h"
 #include "desk/kept_sizes.h"
 #include "desk/layout_words.h"
+#include "desk/scanner_switch.h"
 #include "desk/step_words.h"
 #include "hosts/common/program/kept_record.h"
 #include "hosts/desktop/faces/form_face.h"
@@ -125,6 +126,7 @@ struct AwizoWysylkiWidget::Parts {
   std::unique_ptr<PaperMaker> paperMaker;
   std::unique_ptr<PackageNumbers> packageNumbers;  ///< null where the firm has none
   std::unique_ptr<Assistants> assistants;
+  std::unique_ptr<ScannerSwitch> scannerSwitch;
   QPointer<PackingPane> packingPane;  ///< belongs to the widget
 };
 
@@ -151,6 +153,11 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
       Assistance{parts.surroundings.assistedFace, parts.control, parts.history,
                  parts.packageNumbers ? &parts.packageNumbers->offer() : nullptr},
       parts.face, parts.waiting, *this);
+  parts.scannerSwitch = std::make_unique<ScannerSwitch>(
+      parts.finder->rules(), parts.surroundings.platform.settings, [&parts](std::string_view ean) {
+        if (parts.packingPane != nullptr) parts.packingPane->standOnItsPackage();
+        return parts.assistants->packScannedUnit(ean);
+      });
   // While it is empty, for a splitter measures at once all that comes in.
   parts.whole = new QSplitter(Qt::Horizontal);
   parts.whole->setChildrenCollapsible(false);
@@ -178,7 +185,6 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
     packingPane().show();
     parts.nameParts(true);
   }
-  if (isOn(settings, DeskSwitch::scannerPacks)) letScannerPack(true);
 }
 
 /// Few want it at the start, so it is made when it is asked for.
@@ -218,20 +224,7 @@ void AwizoWysylkiWidget::growWindow() {
   }
 }
 
-bool AwizoWysylkiWidget::scannerPacks() const {
-  return parts_->finder->rules().takeProduct != nullptr;
-}
-
-void AwizoWysylkiWidget::letScannerPack(bool on) {
-  Parts& parts = *parts_;
-  setOn(parts.surroundings.platform.settings, DeskSwitch::scannerPacks, on);
-  parts.finder->rules().takeProduct = nullptr;
-  if (!on) return;
-  parts.finder->rules().takeProduct = [&parts](std::string_view ean) {
-    if (parts.packingPane != nullptr) parts.packingPane->standOnItsPackage();
-    return parts.assistants->packScannedUnit(ean);
-  };
-}
+ScannerSwitch& AwizoWysylkiWidget::scannerSwitch() { return *parts_->scannerSwitch; }
 
 AwizoWysylkiWidget::~AwizoWysylkiWidget() {
   endWork();

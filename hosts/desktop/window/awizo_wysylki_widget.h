@@ -13,6 +13,7 @@ namespace awizo {
 class AwizoWysylki;
 class DocumentWatch;
 class NumberRangeDialog;
+class ScannerSwitch;
 }  // namespace awizo
 
 namespace awizo::journal {
@@ -96,9 +97,7 @@ class AwizoWysylkiWidget : public QWidget {
   NumberRangeDialog& numberRangeDialog();
   Assistants& assistants();
   PackingPane& packingPane();
-  /// Whether a scanned product is put into the current package; the settings keep it.
-  bool scannerPacks() const;
-  void letScannerPack(bool on);
+  ScannerSwitch& scannerSwitch();
   Waiting& waiting();
 
  signals:

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 
+#include "desk/scanned_fields.h"
 #include "hosts/desktop/faces/key_codes.h"
 #include "hosts/desktop/faces/table_face.h"
 #include "platform/forms/keys.h"
@@ -11,7 +12,7 @@ namespace awizo::desktop {
 Finder::Finder(const Editor& editor, FormFace& faces)
     : QObject(&faces.window()), faces_(faces), finder_(editor), strip_(new LineStrip(editor)) {
   finder_.say = [this](std::string_view words) { strip_->say(fromText(words)); };
-  for (Table* table : {&editor.form.grdPozycje, &editor.form.grdOpakowania}) {
+  for (const Table* table : scannedTables(editor.form)) {
     listen(*faces.table(*table).view());
   }
 }

@@ -5,58 +5,50 @@
 #include <QComboBox>
 #include <QKeyEvent>
 
-#include "desk/line_search.h"
+#include "desk/scanned_fields.h"
 #include "hosts/desktop/layouts/form_dialog.h"
 
 namespace awizo::desktop {
 namespace {
 
-/// The number in a scanned text; a text that holds none as it is.
-std::string packageNumber(const std::string& text) {
-  const std::string plain = withoutScanMarks(text);
-  const std::string_view number = packageNumberIn(plain);
-  return number.empty() ? plain : std::string(number);
-}
-
-/// Prepares a text field, or a list that can be typed in.
-template <class Field>
-void prepareField(Field& field, FormFace& faces, std::string (*number)(const std::string&)) {
-  Face& face = faces.face(field);
+void prepareField(const ScannedField& field, FormFace& faces) {
+  Face& face = faces.face(*field.control);
   auto* edit = qobject_cast<QLineEdit*>(face.focusWidget());
   if (auto* list = qobject_cast<QComboBox*>(face.focusWidget())) edit = list->lineEdit();
   if (edit == nullptr) return;
-  new ScannedField(*face.focusWidget(), *edit, number, [&](const std::string& text) {
-    faces.act([&] { field.userType(text); });
-    face.showAll();
-  });
+  new ScannerFilter(*face.focusWidget(), *edit, field.number,
+                    [&faces, &face, type = field.type](const std::string& text) {
+                      faces.act([&] { type(text); });
+                      face.showAll();
+                    });
 }
 
 }  // namespace
 
-ScannedField::ScannedField(QWidget& keys, QLineEdit& edit,
-                           std::function<std::string(const std::string&)> number,
-                           std::function<void(const std::string&)> type)
+ScannerFilter::ScannerFilter(QWidget& keys, QLineEdit& edit,
+                             std::function<std::string(const std::string&)> number,
+                             std::function<void(const std::string&)> type)
     : QObject(&keys), edit_(edit), number_(std::move(number)), type_(std::move(type)) {
   keys.installEventFilter(this);
-  connect(&edit, &QLineEdit::textEdited, this, &ScannedField::takeEdited);
+  connect(&edit, &QLineEdit::textEdited, this, &ScannerFilter::takeEdited);
 }
 
-void ScannedField::takeEdited(const QString& text) {
+void ScannerFilter::takeEdited(const QString& text) {
   // Where no more fits, the end of what was pasted may have been lost: it isn't made to look whole.
   if (text.size() >= edit_.maxLength()) return;
   const std::string typed = toText(text);
   if (const std::string wanted = number_(typed); wanted != typed) type_(wanted);
 }
 
-void ScannedField::giveBack() {
+void ScannerFilter::giveBack() {
   if (const std::string held = marks_.giveBack(); !held.empty()) type_(held);
 }
 
-bool ScannedField::isBegun() const {
+bool ScannerFilter::isBegun() const {
   return edit_.text().isEmpty() || edit_.selectedText() == edit_.text();
 }
 
-bool ScannedField::isKeptOut(QKeyEvent& key) {
+bool ScannerFilter::isKeptOut(QKeyEvent& key) {
   const QString text = key.text();
   // Enter, Tab and the like have a text too, and aren't typed into a field. The separator comes
   // with Ctrl held.
@@ -87,29 +79,23 @@ bool ScannedField::isKeptOut(QKeyEvent& key) {
   return true;
 }
 
-bool ScannedField::eventFilter(QObject*, QEvent* event) {
+bool ScannerFilter::eventFilter(QObject*, QEvent* event) {
   if (event->type() == QEvent::FocusOut || event->type() == QEvent::MouseButtonPress) giveBack();
   return event->type() == QEvent::KeyPress && isKeptOut(static_cast<QKeyEvent&>(*event));
 }
 
-ScannerFields::ScannerFields(AwizoWysylki& control, HostScreenFace& face) : control_(control) {
+ScannerFields::ScannerFields(AwizoWysylki& control, HostScreenFace& face)
+    : fields_(scannedFields(control)) {
   // Others help in other dialogs.
   face.onModal = [this, &face, before = face.onModal](Form& form) {
     if (before) before(form);
-    const bool isOurs = &form == &control_.dlgSzczegoly || &form == &control_.dlgDodaj;
-    if (isOurs && prepared_.insert(&form).second) prepare(form, face.dialog(form));
+    if (prepared_.insert(&form).second) prepare(form, face);
   };
 }
 
-void ScannerFields::prepare(Form& form, FormDialog& dialog) {
-  FormFace& faces = dialog.faces();
-  if (&form == &control_.dlgSzczegoly) {
-    prepareField(control_.dlgSzczegoly.txtSerialNumberN, faces, packageNumber);
-  } else {
-    prepareField(control_.dlgDodaj.txtlEANProdWart, faces,
-                 [](const std::string& text) { return withoutScanMarks(text); });
-    prepareField(control_.dlgDodaj.cboxEANProd, faces,
-                 [](const std::string& text) { return withoutScanMarks(text); });
+void ScannerFields::prepare(Form& form, HostScreenFace& face) const {
+  for (const ScannedField& field : fields_) {
+    if (&field.control->form() == &form) prepareField(field, face.dialog(form).faces());
   }
 }
 

@@ -4,20 +4,20 @@
 #include <functional>
 #include <set>
 
-#include "desk/scan_marks.h"
+#include "desk/scanned_fields.h"
 #include "hosts/desktop/window/host_screen_face.h"
 #include "session/awizo_wysylki.h"
 
 namespace awizo::desktop {
 
 /// Keeps what a scanner types before a number out of a field for numbers.
-class ScannedField : public QObject {
+class ScannerFilter : public QObject {
  public:
   /// `keys`: what gets the keys; `edit`: where their text is shown. `number` makes the field's text
   /// of one that came at once, `type` types it. It belongs to the field's widget.
-  ScannedField(QWidget& keys, QLineEdit& edit,
-               std::function<std::string(const std::string&)> number,
-               std::function<void(const std::string&)> type);
+  ScannerFilter(QWidget& keys, QLineEdit& edit,
+                std::function<std::string(const std::string&)> number,
+                std::function<void(const std::string&)> type);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -35,15 +35,15 @@ class ScannedField : public QObject {
   ScanMarks marks_;
 };
 
-/// The dialogs' fields for what is scanned: the package's number, the product's EAN.
+/// The dialogs' fields for what is scanned.
 class ScannerFields {
  public:
   ScannerFields(AwizoWysylki& control, HostScreenFace& face);
 
  private:
-  void prepare(Form& form, FormDialog& dialog);
+  void prepare(Form& form, HostScreenFace& face) const;
 
-  AwizoWysylki& control_;
+  std::vector<ScannedField> fields_;
   std::set<const Form*> prepared_;
 };
 

@@ -42,6 +42,10 @@ export class DeskStrip {
     }
   }
 
+  showSwitch(task: string, isOn: boolean): void {
+    this.buttons.querySelector(`[data-task="${task}"]`)?.setAttribute("aria-pressed", String(isOn));
+  }
+
   showStanding(standing: Standing): void {
     this.title.textContent = standing.title;
     this.tell(standing.status);
@@ -59,7 +63,7 @@ export class DeskStrip {
 
   private button(command: Command): HTMLButtonElement {
     const task = command.task!;
-    const button = make("button", { type: "button", title: command.tip || undefined }, [command.words]);
+    const button = make("button", { type: "button", title: command.tip || undefined, "aria-pressed": command.isOn?.toString() }, [command.words]);
     button.dataset[isStep(task) ? "step" : "task"] = task;
     if (isStep(task)) this.steps.set(task, { button, command });
     // The focus moves by the model alone.

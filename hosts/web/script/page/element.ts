@@ -8,9 +8,9 @@ import { dateForm } from "./date_form.ts";
 import { DeskStrip } from "./desk_strip.ts";
 import { Commands } from "./commands.ts";
 import type {
-  Box, Changes, Closing, Command, ControlFacts, Event as CoreEvent, FormFacts, Packing, Question, Standing, Work,
+  Box, Changes, Closing, Command, ControlFacts, Event as CoreEvent, FormFacts, Packing, Question, Scanned, Standing, Work,
 } from "./facts.ts";
-import { firstExtra, isExtra } from "./extra_buttons.ts";
+import { extraButtons, firstExtra, isExtra } from "./extra_buttons.ts";
 import type { Host } from "./face.ts";
 import { FormView } from "./form_view.ts";
 import { dialogs, mainForm, startPage } from "./layouts.ts";
@@ -91,6 +91,7 @@ export class AwizoWysylki extends ControlElement {
   private readonly heard = make("output", { class: "heard", lang: "ru" });
   private isUnsent = false;
   private startsAgain = false;
+  private scanned: Scanned = { fields: [], tables: [] };
   private standingTimer: ReturnType<typeof setTimeout> | undefined;
   private readonly typing = new TypingWatch(this.root);
   /// Where the user has gone to another control and the core doesn't know it yet: what it says of the
@@ -153,12 +154,15 @@ export class AwizoWysylki extends ControlElement {
 
   /// `opens`: the user is asked for a file to open.
   private async begin(core: CoreClient, opens = false): Promise<void> {
-    const [menus, ofDialogs] = await Promise.all([core.say({ get: "commands" }), core.say({ get: "dialogCommands" })]);
+    const [menus, ofDialogs, scanned] = await Promise.all([
+      core.say({ get: "commands" }), core.say({ get: "dialogCommands" }), core.say({ get: "scanned" }),
+    ]);
     if (this.core !== core) return;
     if (!menus.ok) return void core.say({ do: "subscribe" });  // It is the start page's turn.
     const ofMenus = (menus.value as { commands: Command[] }[]).flatMap((menu) => menu.commands);
     this.commands.take([...ofMenus, ...(ofDialogs.value as Command[])]);
     this.strip.showCommands(ofMenus);
+    this.scanned = scanned.value as Scanned;
     await this.readProperties();
     void core.say({ do: "followDesk" });
     void core.say({ do: "followSteps" });
@@ -198,7 +202,7 @@ export class AwizoWysylki extends ControlElement {
       case "sheet":
         return this.views.get(papersName)?.showSheet(event.svg);
       case "print":
-        return printSheets(this.root, event.title, event.sheets);
+        return printSheets(this.root, event.title, event.sheets, () => void this.closingOf({ do: "printed" }));
       case "file":
         return handOutTable(event.name, event.text);
       case "showPacking":
@@ -218,8 +222,12 @@ export class AwizoWysylki extends ControlElement {
         }
         return;
       case "note":
-        for (const view of this.views.values()) view.face(event.on)?.showNote(event.text);
+        for (const view of this.views.values()) view.face(event.on)?.showNote(event.text, this.taskButton(event.task));
         return;
+      case "typed":
+        return this.top()?.face(event.on)?.showTyped(event.text);
+      case "switch":
+        return this.strip.showSwitch(event.task, event.isOn);
       case "works":
         this.work = event;
         this.workBox.show(event);
@@ -302,7 +310,7 @@ export class AwizoWysylki extends ControlElement {
   private makeViews(): void {
     const dates = dateForm(localeOf(this));
     for (const [name, layout] of Object.entries({ [mainName]: mainForm, [startName]: startPage, ...dialogs })) {
-      const view = new FormView(name, layout, this.kinds, this.host(), this.commands, dates);
+      const view = new FormView(name, layout, this.kinds, this.host(), this.commands, dates, this.scanned);
       for (const [control, facts] of Object.entries(this.kinds)) view.showControl(control, facts);
       this.views.set(name, view);
     }
@@ -338,6 +346,16 @@ export class AwizoWysylki extends ControlElement {
     this.root.append(element);
     element.showModal();
     this.shown.push({ name, element });
+  }
+
+  /// For what words beside a field ask.
+  private taskButton(task: string | undefined): HTMLElement | undefined {
+    const command = task === undefined ? undefined : this.commands.task(task);
+    if (command === undefined) return undefined;
+    const button = make("button", { type: "button", "data-task": task }, [command.words]);
+    button.addEventListener("mousedown", (event) => event.preventDefault());
+    button.addEventListener("click", () => void this.choose({ task: task! }));
+    return extraButtons([button]);
   }
 
   private fromComputer(): HTMLElement {

@@ -4,6 +4,7 @@
 import type { Line } from "./core_client.ts";
 import { focusable, make } from "./dom.ts";
 import type { ControlFacts } from "./facts.ts";
+import { ScannedInput } from "./scanned_input.ts";
 
 export interface Host {
   /// Passes on what the user does to a control. The promise ends when the core has taken it.
@@ -13,6 +14,8 @@ export interface Host {
 export abstract class Face {
   protected facts: ControlFacts = {};
   private note: HTMLElement | undefined;
+  private noteButton: HTMLElement | undefined;
+  private scannedInput: ScannedInput | undefined;
 
   constructor(readonly name: string, readonly element: HTMLElement, protected readonly host: Host) {
     element.dataset["name"] = name;
@@ -25,8 +28,8 @@ export abstract class Face {
     this.showFacts(changes);
   }
 
-  /// Words beside it, in addition to what the core says of the control.
-  showNote(text: string): void {
+  /// Words beside it, in addition to what the core says of the control, and a button for what they ask.
+  showNote(text: string, button?: HTMLElement): void {
     if (this.note === undefined) {
       this.note = make("output", { class: "note", id: `note-${this.name}` });
       // Not within: it would become a part of the field's name.
@@ -35,6 +38,20 @@ export abstract class Face {
     }
     this.note.textContent = text;
     this.note.hidden = this.element.hidden;
+    this.noteButton?.remove();
+    this.noteButton = button;
+    if (button !== undefined) this.note.after(button);
+  }
+
+  /// The core says what the field holds that the user types in.
+  showTyped(text: string): void {
+    this.scannedInput?.show(text);
+  }
+
+  /// From now on a scanner types into it.
+  takeScans(): void {
+    const input = this.element.querySelector("input");
+    if (input !== null) this.scannedInput = new ScannedInput(input, (line) => this.act(line));
   }
 
   /// Nothing more is typed into it.

@@ -92,6 +92,14 @@ export interface Command {
   place: string | null;
   /// It acts on the current row of that table, which must be seen before.
   onCurrentRow: boolean;
+  /// Of a switch alone.
+  isOn?: boolean;
+}
+
+/// Fields and tables into which a scanner types.
+export interface Scanned {
+  fields: string[];
+  tables: string[];
 }
 
 /// How the document stands.
@@ -144,7 +152,9 @@ export type Event =
   | { event: "told"; text: string }
   | { event: "line"; text: string }
   | { event: "proposals"; on: string; text: string; rows: Row[] }
-  | { event: "note"; on: string; text: string }
+  | { event: "note"; on: string; text: string; task?: string }
+  | { event: "typed"; on: string; text: string }
+  | { event: "switch"; task: string; isOn: boolean }
   | ({ event: "works" } & Work)
   | { event: "rests" }
   | { event: "startAgain" }

@@ -193,8 +193,5 @@ export const besideTheirHeading = new Set([
   "lblNameSprzedWart", "lblNameKupWart", "lblAdresMiejscaDostawy", "DlgDodaj.lblPackedQuantityValue",
 ]);
 
-/// Tables into which codes are scanned.
-export const scanned = new Set(["grdPozycje", "grdOpakowania"]);
-
 /// Fields that are edited in the place of a table's cell.
 export const overCells: Record<string, string> = { grdPozycje: "txtEdycja", grdSuma: "txtEdycjaSuma" };

@@ -78,6 +78,11 @@ export class ListFace extends Face {
     this.drop(rows.length > 0);
   }
 
+  override showTyped(text: string): void {
+    super.showTyped(text);
+    void this.askProposals(text);
+  }
+
   private root(): ShadowRoot | undefined {
     const root = this.element.getRootNode();
     return root instanceof ShadowRoot ? root : undefined;

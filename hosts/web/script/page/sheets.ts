@@ -45,16 +45,32 @@ function fill(page: Document, sheets: string[]): void {
   page.adoptedStyleSheets = [rules];
 }
 
+/// `ended` is called when the browser's dialog has been left: Firefox says that printing is over while its
+/// dialog is open, and goes on only afterwards; other browsers may go on before they say so.
+function print(page: Window, ended: () => void): void {
+  let [isOver, goesOn] = [false, false];
+  const endIfBoth = () => {
+    if (isOver && goesOn) ended();
+  };
+  page.addEventListener("afterprint", () => {
+    isOver = true;
+    endIfBoth();
+  }, { once: true });
+  page.print();
+  goesOn = true;
+  endIfBoth();
+}
+
 /// Lets the user print the sheets, each on paper of its size. They stand in a document of their own, so
 /// that nothing of the page around is printed with them.
-export function printSheets(root: ShadowRoot, title: string, sheets: string[]): void {
+export function printSheets(root: ShadowRoot, title: string, sheets: string[], ended: () => void): void {
   root.querySelector("iframe.printed")?.remove();
   const frame = make("iframe", { class: "printed", title, tabindex: -1, "aria-hidden": "true" });
   frame.addEventListener("load", () => {
     const page = frame.contentDocument!;
     page.title = title;
     fill(page, sheets);
-    frame.contentWindow!.print();
+    print(frame.contentWindow!, ended);
   }, { once: true });
   root.append(frame);
 }

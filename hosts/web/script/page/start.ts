@@ -46,7 +46,8 @@ export function startOf(element: HTMLElement): Start {
     given.push("--page-url", location.origin + location.pathname, "--cookie", document.cookie);
   }
   given.push("--locale", localeOf(element));
-  given.push("--offline-path", folder);
+  // What is kept is the browser's, in no file: with the folder alone nothing would outlive the session.
+  given.push("--offline-path", folder, "--settings", "");
   const now = element.getAttribute("now");
   if (now !== null) given.push("--now", now);
   const files: [string, string][] = [];

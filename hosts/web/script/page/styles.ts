@@ -45,6 +45,7 @@ input:disabled, select:disabled { color: var(--awizo-pale); background: var(--aw
 button { font: inherit; color: var(--awizo-ink); background: var(--awizo-paper); cursor: pointer;
   border: 1px solid var(--awizo-line); border-radius: 6px; padding: 5px 14px; min-height: 34px; }
 button:hover:not(:disabled) { border-color: var(--awizo-accent); color: var(--awizo-accent); }
+button[aria-pressed=true] { border-color: var(--awizo-accent); background: color-mix(in srgb, var(--awizo-accent) 18%, var(--awizo-paper)); }
 button:disabled { color: var(--awizo-pale); cursor: default; }
 :focus-visible { outline: 2px solid var(--awizo-accent); outline-offset: 1px; }
 .list .opener, .dated .opener { position: absolute; right: 1px; bottom: 1px; border: 0; padding: 0 10px; min-height: 32px; background: none; }

@@ -23,13 +23,26 @@ await withPage(async (page) => {
   await user.control("PackagesDialog.btnAdd").click();
   assert.match(await user.answer("OK"), /^Добавлено упаковок: 0 из 3/);
 
-  await user.editor.locator("[data-task=showNumbers]").click();
+  // The first package asks for this browser's part of the firm's numbers, and leads to where it is entered.
+  await user.control("btnDodajOpak").click();
+  const wantingPackage = user.dialog("DlgSzczegoly");
+  const note = (words: RegExp) => wantingPackage.locator(".note").filter({ hasText: words }).waitFor();
+  await note(/^У этого браузера ещё нет номеров упаковок/);
+  await user.picture("no-range");
+  await page.keyboard.press("F10");
+  await wantingPackage.locator("[data-task=showNumbers]:focus").waitFor();
+  await page.keyboard.press("Enter");
   await user.field("NumberRangeDialog.txtPrefix").fill("9520001");
   await user.field("NumberRangeDialog.txtFirst").fill("1");
   await user.field("NumberRangeDialog.txtLast").fill("999999");
   await user.picture("range");
   await user.control("NumberRangeDialog.btnSave").click();
   await user.dialog("NumberRangeDialog").waitFor({ state: "detached" });
+  await note(/^осталось номеров: \d+$/);
+  assert.match(await user.field("DlgSzczegoly.txtSerialNumberN").inputValue(), /^09520001000000001\d$/);
+  assert.equal(await wantingPackage.locator("[data-task=showNumbers]").count(), 0);
+  await user.control("DlgSzczegoly.btnZamknij").click();
+  await wantingPackage.waitFor({ state: "detached" });
 
   // The range is this browser's own; a part of it may be handed on.
   await user.editor.locator("[data-task=showNumbers]").click();

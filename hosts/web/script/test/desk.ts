@@ -88,6 +88,22 @@ await withPage(async (page) => {
 
   // Lines are laid into packages, in one step.
   await user.addPackage("Паллета 1", "035200010000000016");
+
+  // While that is switched on, a scanned product goes into the package, which is one step.
+  const scannerPacks = (on: boolean) => user.editor.locator(`[data-task=scannerPacks][aria-pressed=${on}]`);
+  await user.control("grdOpakowania").locator('[data-row="1"] [data-col="3"]').click();
+  await scannerPacks(false).click();
+  await scannerPacks(true).waitFor();
+  await page.keyboard.type(code);
+  await page.keyboard.press("Enter");
+  await line.filter(words("Паллета 1 ← Строка 2")).filter(words("упаковано 1 из")).waitFor();
+  await user.picture("scanner");
+  await page.keyboard.press("Control+z");
+  await user.editor.locator(".strip output").filter(words("Отменено: единица товара в упаковку")).waitFor();
+  await user.goToFirstLine();
+  await lines.press("ArrowDown");
+  await line.filter(words("отгружено 96 · упаковано 0 · осталось 96")).waitFor();
+
   await lines.press("Control+d");
   await user.control("DistributionDialog.grdParts").getByText("Паллета 1").first().waitFor();
   await user.picture("distribution");
@@ -116,5 +132,6 @@ await withPage(async (page) => {
   await user.answer("letGo");
   await user.editor.locator("h1").filter(words("Подтверждение отгрузки")).waitFor();
   assert.equal(await user.question().count(), 0);
+  await scannerPacks(true).waitFor();
 });
 console.log("The desk was used in the page.");

@@ -1,7 +1,10 @@
-// Long lists narrow while one types; dates and times are written in the locale's form.
+// Long lists narrow while one types; dates and times are written in the locale's form; what a scanner types
+// before a number doesn't come into fields for numbers.
 // usage: node fields.mjs ADDRESS_OF_THE_PAGE
 
 import assert from "node:assert/strict";
+
+import type { Locator } from "playwright-core";
 
 import { User, withPage } from "./user.ts";
 
@@ -48,7 +51,56 @@ await withPage(async (page) => {
   });
   assert.equal(wentBack, 0);
 
+  // A scanner types into the package's number and a product's EAN.
+  const scanned = async (field: Locator, text: string) => {
+    const input = (await field.elementHandle()) as unknown as HTMLInputElement;
+    await page.waitForFunction(([shown, wanted]) => shown.value === wanted, [input, text] as const);
+    assert.doesNotMatch((await field.getAttribute("data-seen")) ?? "", /[(\]]/);
+  };
+  const noteTyped = (field: Locator) =>
+    field.evaluate((input) => {
+      const shown = input as HTMLInputElement;
+      shown.addEventListener("input", () => (shown.dataset["seen"] += ` ${shown.value}`));
+    });
+  await user.control("btnDodajOpak").click();
+  const number = user.field("DlgSzczegoly.txtSerialNumberN");
+  const description = user.field("DlgSzczegoly.txtPackageDesc");
+  await noteTyped(number);
+  await number.focus();
+  for (const code of ["(00)395200010000000011", "]C100395200010000000028", "00395200010000000011"]) {
+    await number.selectText();
+    await page.keyboard.type(code);
+    await scanned(number, code.slice(-18));
+  }
+  // Slowly, after the separator, over a number.
+  await number.selectText();
+  await page.keyboard.press("Control+]");
+  await page.keyboard.type("00395200010000000028", { delay: 20 });
+  await scanned(number, "395200010000000028");
+  // Another field keeps its brackets, and what is cut out there is pasted without marks.
+  await description.fill("");
+  await description.pressSequentially("(00)395200010000000011");
+  assert.equal(await description.inputValue(), "(00)395200010000000011");
+  await description.selectText();
+  await page.keyboard.press("Control+x");
+  await number.focus();
+  await number.selectText();
+  await page.keyboard.press("Control+v");
+  await scanned(number, "395200010000000011");
+  // What is no mark isn't lost.
+  await number.selectText();
+  await page.keyboard.type("(12");
+  await page.keyboard.press("Tab");
+  await page.waitForFunction((input) => (input as HTMLInputElement).value === "(12", await number.elementHandle());
+  await user.control("DlgSzczegoly.btnZamknij").click();
+  await user.dialog("DlgSzczegoly").waitFor({ state: "detached" });
+
   await user.control("btnDodaj").click();
+  const ean = user.field("DlgDodaj.cboxEANProd");
+  await noteTyped(ean);
+  await ean.focus();
+  await page.keyboard.type("]E04607000000116");
+  await scanned(ean, "4607000000116");
   const name = user.control("DlgDodaj.cboxNazwaProd");
   const options = name.getByRole("option");
   await name.locator("input").pressSequentially("чёрный чай");

@@ -31,12 +31,13 @@ function near(measured: number, wanted: number, what: string, within = accuracy)
   assert.ok(Math.abs(measured - wanted) <= within, `${what}: ${measured} instead of ${wanted}`);
 }
 
-/// In place of the browser's own dialog: notes what it would print.
+/// In place of the browser's own dialog: notes what it would print, and is left.
 async function notePrinting(page: Page): Promise<void> {
   await page.addInitScript(() => {
     window.print = () => {
       const rules = document.adoptedStyleSheets.flatMap((sheet) => [...sheet.cssRules].map((rule) => rule.cssText));
       Object.assign(window.top!, { printed: { title: document.title, body: document.body.innerHTML, rules: rules.join("\n") } });
+      window.dispatchEvent(new Event("afterprint"));
     };
   });
 }
@@ -54,6 +55,17 @@ async function pdfOf(page: Page, { body, rules }: Printed, file: string): Promis
   await paper.setContent(`<!doctype html><html><head><style>${rules}</style></head><body>${body}</body></html>`);
   await paper.pdf({ path: file, preferCSSPageSize: true });
   await paper.close();
+}
+
+/// A page for each sheet, each on paper of its size, with these texts.
+function expectPages({ body, rules }: Printed, sizes: [string, string][], texts: string[]): void {
+  const found = [...body.matchAll(/class="sheet (paper-[\w-]+)"/g)].map(([, name]) => name);
+  assert.deepEqual(found, sizes.map(([width, height]) => `paper-${width}-${height}`));
+  for (const [width, height] of sizes) {
+    assert.match(rules, new RegExp(`@page paper-${width}-${height} *{[^}]*size: ${width} ${height};[^}]*margin: 0px;`));
+    assert.match(rules, new RegExp(`\\.paper-${width}-${height} *{[^}]*page: paper-${width}-${height};`));
+  }
+  for (const text of texts) assert.ok(body.includes(`>${text}</text>`), text);
 }
 
 function run(program: string, ...given: string[]): string {
@@ -132,6 +144,18 @@ await withPage(async (page) => {
 
   const labels = await printed(page, () => user.control("PapersDialog.btnPrint").click());
   assert.match(labels.title, /^Этикетки/);
+  expectPages(labels, [["105mm", "148mm"], ["105mm", "148mm"]], numbers);
+  // Whether they were printed only the user knows.
+  assert.match(await user.answer("notPrinted"), /^Этикетки напечатаны\?/);
+  await choose("PapersDialog.cboPackages", "Ещё без этикетки");
+  await sheet.getByText(numbers[0]!, { exact: true }).waitFor();
+  await user.control("PapersDialog.btnPrint").click();
+  await user.editor.getByRole("alertdialog").waitFor();
+  await user.picture("printed");
+  await user.answer("printed");
+  await choose("PapersDialog.cboPackages", "Все");
+  await choose("PapersDialog.cboPackages", "Ещё без этикетки");
+  await user.control("PapersDialog.lblNotes").filter({ hasText: "Таких упаковок нет." }).waitFor();
   if (inChromium) {
     const pdf = path.join(folder, "labels.pdf");
     await pdfOf(page, labels, pdf);
@@ -155,12 +179,13 @@ await withPage(async (page) => {
   await sheet.getByText("Упаковочный лист", { exact: false }).first().waitFor();
   await user.picture("packing-list");
   const list = await printed(page, () => user.control("PapersDialog.btnPrint").click());
+  const [, sheets] = / из (\d+)$/.exec(await user.control("PapersDialog.lblSheet").innerText())!;
+  expectPages(list, Array<[string, string]>(Number(sheets)).fill(["210mm", "297mm"]), ["Без упаковки"]);
   if (inChromium) {
     const pdf = path.join(folder, "list.pdf");
     await pdfOf(page, list, pdf);
     const sizes = pageSizes(pdf);
-    const [, count] = / из (\d+)$/.exec(await user.control("PapersDialog.lblSheet").innerText())!;
-    assert.equal(sizes.length, Number(count));
+    assert.equal(sizes.length, Number(sheets));
     near(sizes[0]!.width, 210, "a sheet's width", aPoint);
     near(sizes[0]!.height, 297, "a sheet's height", aPoint);
     const text = run("pdftotext", "-layout", pdf, "-").replaceAll("\u00a0", " ");
@@ -168,6 +193,7 @@ await withPage(async (page) => {
     assert.match(text, /Без упаковки/);
   }
   await close();
+  assert.equal(await user.editor.getByRole("alertdialog").count(), 0, "of a list nothing is asked");
 
   const name = await user.field("txtNrAwiza").inputValue();
   const table = await handedOut(page, `Упаковочный_лист${name === "" ? "" : `_${name}`}.csv`, () =>
