@@ -180,6 +180,9 @@ void Program::addLines() {
   dispatcher.clientActions["followSteps"] = [this](const protocol::Json&) {
     steps_ = protocol::Json::object();
   };
+  dispatcher.clientActions["showUnlessShown"] = [this, &dispatcher](const protocol::Json&) {
+    if (!control_.form.shown()) dispatcher.act({{"do", "show"}});
+  };
   dispatcher.clientActions["followFiles"] = [this](const protocol::Json&) { tellsFiles_ = true; };
   savings_ = control_.form.deeds.add([this](const Deed& deed) {
     if (tellsFiles_ && deed.kind == Deed::Kind::saved) conversation_.emit(savedEvent(deed));

@@ -58,6 +58,16 @@ TEST(Start, BeforeShowNothingCanBeDoneOnTheForm) {
   editor.refused({{"do", "show"}});
 }
 
+TEST(Start, ShowsOnceHoweverOftenItIsAskedToUnlessShown) {
+  const Supplier supplier;
+  Conversation editor = supplier.startOffLine();
+  editor.act({{"do", "showUnlessShown"}});
+  EXPECT_EQ(editor.get("AwizoWysylki")["shown"], true);
+  editor.type("txtNrAwiza", "5");
+  editor.act({{"do", "showUnlessShown"}});
+  EXPECT_EQ(editor.text("txtNrAwiza"), "5");
+}
+
 TEST(Start, MayBeFollowedByTheEndAtOnce) {
   const Supplier supplier;
   Conversation editor = supplier.startOffLine();

@@ -124,10 +124,9 @@ TEST(PageHttp, AReplyIsHandedOverOnce) {
   EXPECT_EQ(errorNumberOf([&] { request->responseText(); }), -2147483638);
 }
 
-TEST(PageLocale, FactsAndRanksAreTakenAsTheyAreTold) {
+TEST(PageLocale, FactsAreTakenAsTheyAreTold) {
   const PlayedBorder border([](const Fields& question) -> Fields {
     if (question[0] == "facts") return {",", "₽", "dmy", "1", "\u00A0", " "};
-    if (question[0] == "ranks") return {std::string("\1\0\0\0\0\0\0\0", 8)};
     return {"-1"};
   });
   const PageLocale locale("ru_RU");
@@ -135,9 +134,18 @@ TEST(PageLocale, FactsAndRanksAreTakenAsTheyAreTold) {
   EXPECT_EQ(locale.facts().dateOrder, DateOrder::dayMonthYear);
   EXPECT_TRUE(locale.facts().dotSeparatesDates);
   EXPECT_THAT(locale.facts().groupSeparators, ElementsAre("\u00A0", " "));
-  EXPECT_THAT(locale.ranks({"б", "а"}), ElementsAre(1, 0));
-  EXPECT_THROW(locale.ranks({"а"}), std::logic_error);
   EXPECT_EQ(locale.compare("а", "б"), -1);
+}
+
+TEST(PageLocale, AsksForTheRanksOfAllTextsInOneField) {
+  const PlayedBorder border([](const Fields& question) -> Fields {
+    if (question[0] == "facts") return {",", "₽", "dmy", "1", " "};
+    return {std::string("\1\0\0\0\0\0\0\0\2\0\0\0", 12)};
+  });
+  const PageLocale locale("ru_RU");
+  EXPECT_THAT(locale.ranks({"в", std::string_view("\0а", 3), "б"}), ElementsAre(2, 1, 0));
+  EXPECT_THAT(border.questions.back(), ElementsAre("ranks", "ru_RU", std::string("а\0б\0в\0", 9)));
+  EXPECT_THROW(locale.ranks({"а"}), std::logic_error);
 }
 
 }  // namespace

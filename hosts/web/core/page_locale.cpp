@@ -1,6 +1,9 @@
 #include "hosts/web/core/page_locale.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstring>
+#include <numeric>
 #include <stdexcept>
 #include <utility>
 
@@ -23,6 +26,14 @@ std::string timeText(TimeOfDay time) {
 DateOrder dateOrder(std::string_view letters) {
   if (letters == "mdy") return DateOrder::monthDayYear;
   return letters == "dmy" ? DateOrder::dayMonthYear : DateOrder::yearMonthDay;
+}
+
+/// A zero byte is the text's end. Those within count for nothing in any locale's order.
+void appendWithEnd(std::string_view text, std::string& texts) {
+  const auto begin = static_cast<std::ptrdiff_t>(texts.size());
+  texts += text;
+  texts.erase(std::remove(texts.begin() + begin, texts.end(), '\0'), texts.end());
+  texts += '\0';
 }
 
 }  // namespace
@@ -63,15 +74,25 @@ std::string PageLocale::lower(std::string_view given) const {
 }
 
 std::vector<std::int32_t> PageLocale::ranks(const std::vector<std::string_view>& texts) const {
-  Fields question{"ranks", name_};
-  question.insert(question.end(), texts.begin(), texts.end());
+  // The browser compares slowly, and least where texts come in order: that of their bytes is nearly
+  // its own.
+  std::vector<std::size_t> order(texts.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  std::sort(order.begin(), order.end(),
+            [&](std::size_t left, std::size_t right) { return texts[left] < texts[right]; });
+  std::string together;
+  for (const std::size_t index : order) appendWithEnd(texts[index], together);
   // The ranks' own bytes, one after another.
-  const std::string bytes = askNow(question).at(0);
+  const std::string bytes = askNow({"ranks", name_, together}).at(0);
   std::vector<std::int32_t> ranks(texts.size());
   if (bytes.size() != ranks.size() * sizeof(std::int32_t)) {
     throw std::logic_error("not as many ranks as texts");
   }
-  if (!bytes.empty()) std::memcpy(ranks.data(), bytes.data(), bytes.size());
+  const char* rank = bytes.data();
+  for (const std::size_t index : order) {
+    std::memcpy(&ranks[index], rank, sizeof(std::int32_t));
+    rank += sizeof(std::int32_t);
+  }
   return ranks;
 }
 

@@ -58,28 +58,38 @@ function shortDatePieces(tag: string) {
   return pieces;
 }
 
+function once<Value extends object>(make: () => Value): () => Value {
+  let made: Value | undefined;
+  return () => (made ??= make());
+}
+
 class Locale {
   private readonly tag: string;
   private readonly pieces: { type: string; text: string }[];
-  private readonly longDates: Intl.DateTimeFormat;
-  private readonly shortTimes: Intl.DateTimeFormat;
-  private readonly collator: Intl.Collator;
-  private readonly characters: string[];
-  private readonly codes: Map<string, number>;
+  // What a browser takes long to make is made when it is first needed.
+  private readonly longDates: () => Intl.DateTimeFormat;
+  private readonly shortTimes: () => Intl.DateTimeFormat;
+  private readonly collator: () => Intl.Collator;
+  private readonly characters: () => string[];
+  private readonly codes: () => Map<string, number>;
+  readonly facts = once(() => this.findFacts());
 
   constructor(name: string) {
-    this.tag = tagOf(name);
-    this.pieces = shortDatePieces(this.tag);
-    this.longDates = new Intl.DateTimeFormat(this.tag, { dateStyle: "long", ...calendar });
-    this.shortTimes = new Intl.DateTimeFormat(this.tag, { timeStyle: "short", ...calendar });
-    this.collator = new Intl.Collator(this.tag, { sensitivity: "accent", ignorePunctuation: false });
-    const isCyrillic = new Intl.Locale(this.tag).maximize().script === "Cyrl";
-    const decoder = new TextDecoder(isCyrillic ? "windows-1251" : "windows-1252");
-    this.characters = Array.from({ length: 256 }, (_, byte) => decoder.decode(Uint8Array.of(byte)));
-    this.codes = new Map(this.characters.map((character, byte) => [character, byte]));
+    const tag = tagOf(name);
+    this.tag = tag;
+    this.pieces = shortDatePieces(tag);
+    this.longDates = once(() => new Intl.DateTimeFormat(tag, { dateStyle: "long", ...calendar }));
+    this.shortTimes = once(() => new Intl.DateTimeFormat(tag, { timeStyle: "short", ...calendar }));
+    this.collator = once(() => new Intl.Collator(tag, { sensitivity: "accent", ignorePunctuation: false }));
+    this.characters = once(() => {
+      const isCyrillic = new Intl.Locale(tag).maximize().script === "Cyrl";
+      const decoder = new TextDecoder(isCyrillic ? "windows-1251" : "windows-1252");
+      return Array.from({ length: 256 }, (_, byte) => decoder.decode(Uint8Array.of(byte)));
+    });
+    this.codes = once(() => new Map(this.characters().map((character, byte) => [character, byte])));
   }
 
-  facts(): string[] {
+  private findFacts(): string[] {
     const number = new Intl.NumberFormat(this.tag, { numberingSystem: "latn" });
     const group = partOf(number.formatToParts(12345678.9), "group");
     const blanks = [noBreakSpace, " "];
@@ -102,12 +112,12 @@ class Locale {
   }
 
   longDate(date: string): string {
-    return plainSpaces(this.longDates.format(dayOf(date)));
+    return plainSpaces(this.longDates().format(dayOf(date)));
   }
 
   shortTime(time: string): string {
     const [hour, minute, second] = time.split(":").map(Number);
-    return plainSpaces(this.shortTimes.format(new Date(Date.UTC(2003, 1, 1, hour, minute, second))));
+    return plainSpaces(this.shortTimes().format(new Date(Date.UTC(2003, 1, 1, hour, minute, second))));
   }
 
   upper(text: string): string {
@@ -118,31 +128,38 @@ class Locale {
     return this.inCase(text, (given) => given.toLocaleLowerCase(this.tag));
   }
 
+  /// Texts in order are compared once each; those that nearly are, soon put in order.
   ranks(texts: string[]): Int32Array {
+    const { compare } = this.collator();
+    const ranksIn = (order: number[]): Int32Array | undefined => {
+      const ranks = new Int32Array(order.length);
+      let rank = 0;
+      for (let place = 1; place < order.length; ++place) {
+        const step = compare(texts[order[place - 1]!]!, texts[order[place]!]!);
+        if (step > 0) return undefined;
+        if (step < 0) ++rank;
+        ranks[order[place]!] = rank;
+      }
+      return ranks;
+    };
     const order = texts.map((_, index) => index);
-    const compare = (left: number, right: number) => this.collator.compare(texts[left]!, texts[right]!);
-    order.sort(compare);
-    const ranks = new Int32Array(texts.length);
-    let rank = 0;
-    order.forEach((text, place) => {
-      if (place > 0 && compare(order[place - 1]!, text) !== 0) ++rank;
-      ranks[text] = rank;
-    });
-    return ranks;
+    return ranksIn(order) ?? ranksIn(order.sort((left, right) => compare(texts[left]!, texts[right]!)))!;
   }
 
   compare(left: string, right: string): string {
-    return String(Math.sign(this.collator.compare(left, right)));
+    return String(Math.sign(this.collator().compare(left, right)));
   }
 
   toSingleByte(text: string): Uint8Array {
     const unknown = "?".charCodeAt(0);
+    const codes = this.codes();
     return Uint8Array.from(text, (character) =>
-      character === replacement ? unknown : (this.codes.get(character) ?? unknown));
+      character === replacement ? unknown : (codes.get(character) ?? unknown));
   }
 
   fromSingleByte(bytes: Uint8Array): string {
-    return Array.from(bytes, (byte) => this.characters[byte]).join("");
+    const characters = this.characters();
+    return Array.from(bytes, (byte) => characters[byte]).join("");
   }
 
   private currencySign(): string {
@@ -175,35 +192,41 @@ export class Locales {
   private readonly known = new Map<string, Locale>();
 
   answer(question: string, fields: Uint8Array[]): Field[] | undefined {
+    const named = () => this.named(textOf(fields[0]));
     const argument = () => textOf(fields[1]);
     switch (question) {
       case "facts":
-        return this.named(fields).facts();
+        return named().facts();
       case "shortDate":
-        return [this.named(fields).shortDate(argument())];
+        return [named().shortDate(argument())];
       case "longDate":
-        return [this.named(fields).longDate(argument())];
+        return [named().longDate(argument())];
       case "shortTime":
-        return [this.named(fields).shortTime(argument())];
+        return [named().shortTime(argument())];
       case "upper":
-        return [this.named(fields).upper(argument())];
+        return [named().upper(argument())];
       case "lower":
-        return [this.named(fields).lower(argument())];
+        return [named().lower(argument())];
       case "ranks":
-        return [rankBytes(this.named(fields).ranks(fields.slice(1).map(textOf)))];
+        // Each text has its end: a field for each would take longer than the ranks.
+        return [rankBytes(named().ranks(argument().split("\0").slice(0, -1)))];
       case "compare":
-        return [this.named(fields).compare(argument(), textOf(fields[2]))];
+        return [named().compare(argument(), textOf(fields[2]))];
       case "toSingleByte":
-        return [this.named(fields).toSingleByte(argument())];
+        return [named().toSingleByte(argument())];
       case "fromSingleByte":
-        return [this.named(fields).fromSingleByte(bytesOf(fields[1]))];
+        return [named().fromSingleByte(bytesOf(fields[1]))];
       default:
         return undefined;
     }
   }
 
-  private named(fields: Uint8Array[]): Locale {
-    const name = textOf(fields[0]);
+  /// What the core asks first takes a browser a while.
+  prepare(name: string): void {
+    this.named(name).facts();
+  }
+
+  private named(name: string): Locale {
     let locale = this.known.get(name);
     if (locale === undefined) {
       locale = new Locale(name);

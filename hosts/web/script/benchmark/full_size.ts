@@ -80,6 +80,27 @@ const settings = {
 };
 let lastProfile = 0;
 
+/// Until the browser has made the picture in which the element has what the selector names. The page looks by
+/// itself, at each change: Playwright looks again after growing pauses, of half a second at last.
+async function picture(page: Page, selector: string): Promise<void> {
+  await page.evaluate((wanted) => new Promise<void>((settle) => {
+    const root = document.querySelector("awizo-wysylki")!.shadowRoot!;
+    const look = () => {
+      if (root.querySelector(wanted) === null) return;
+      changed.disconnect();
+      requestAnimationFrame(() => {
+        const channel = new MessageChannel();
+        // After the frame is made.
+        channel.port1.onmessage = () => settle();
+        channel.port2.postMessage(undefined);
+      });
+    };
+    const changed = new MutationObserver(look);
+    changed.observe(root, { subtree: true, childList: true });
+    look();
+  }), selector);
+}
+
 /// In a browser that was never used: it has fetched nothing yet, and keeps files as it does for everybody.
 async function start(prepare = async (_: Page) => {}): Promise<{ page: Page; seconds: number }> {
   await letOrderWait();
@@ -90,7 +111,7 @@ async function start(prepare = async (_: Page) => {}): Promise<{ page: Page; sec
   const begun = performance.now();
   await page.goto(address);
   // It begins with its last line in sight.
-  await page.locator(`awizo-wysylki [data-name="grdPozycje"] [data-row="${lines}"] [data-col="1"]`).waitFor();
+  await picture(page, `[data-name="grdPozycje"] [data-row="${lines}"] [data-col="1"]`);
   return { page, seconds: seconds(begun) };
 }
 
@@ -179,8 +200,9 @@ try {
   await control("grdPozycje").evaluate((table) => (table.scrollTop = 0));
   await control("grdPozycje").locator('[data-row="1"] [data-col="1"]').click();
   const opening = performance.now();
+  const opened = picture(page, '[data-name="DlgDodaj.cboxNazwaProd"]');
   await control("btnEdytuj").click();
-  await control("DlgDodaj.cboxNazwaProd").waitFor();
+  await opened;
   tell("The line dialog's first opening", seconds(opening), 0.8, "s");
 
   const list = control("DlgDodaj.cboxNazwaProd").locator("input");

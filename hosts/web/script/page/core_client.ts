@@ -21,19 +21,42 @@ function wordsOfEnd(status: number): string | undefined {
   return `Редактор остановился (код ${status}). Начатая работа записана: новый запуск предложит её продолжить.`;
 }
 
+let compiling: Promise<WebAssembly.Module> | undefined;
+
+/// All elements of the page share it; after a failure the next one tries again.
+function compiledCore(): Promise<WebAssembly.Module> {
+  compiling ??= WebAssembly.compileStreaming(fetch(new URL("awizo.wasm", import.meta.url)));
+  compiling.catch(() => (compiling = undefined));
+  return compiling;
+}
+
+/// The first touch of its files takes a browser a while, in which the worker begins. Whether they can be
+/// had is the worker's to find out.
+function warmFiles(): void {
+  void navigator.storage?.getDirectory().catch(() => undefined);
+}
+
 export class CoreClient {
   private readonly worker: Worker;
   private readonly waiting = new Map<number, (closing: Closing) => void>();
   private lastId = 0;
   private unfinished = "";
+  private isOver = false;
 
-  constructor(workerAddress: URL, start: Start, private readonly listener: Listener) {
-    this.worker = new Worker(workerAddress, { type: "module" });
+  /// `startOf` is asked when the browser has begun with what takes it long.
+  constructor(startOf: () => Start, private readonly listener: Listener) {
+    this.worker = new Worker(new URL("worker.mjs", import.meta.url), { type: "module" });
+    const module = compiledCore();
+    warmFiles();
     this.worker.addEventListener("message", (event: MessageEvent<FromWorker>) => this.take(event.data));
     this.worker.addEventListener("error", (event) => {
       listener.ended(event.message || "Файл worker.mjs не загрузился или не запустился.");
     });
-    this.worker.postMessage({ start });
+    this.worker.postMessage({ start: startOf() });
+    module.then(
+      (module) => this.worker.postMessage({ module }),
+      (error: unknown) => this.isOver || listener.ended(error instanceof Error ? error.message : String(error)),
+    );
   }
 
   /// The closing line, which comes when all that the line began has ended, its dialogs included.
@@ -52,6 +75,7 @@ export class CoreClient {
 
   /// Ends it at once. Lines that wait for their end are given up.
   end(): void {
+    this.isOver = true;
     this.worker.terminate();
     for (const giveUp of this.waiting.values()) giveUp({ ok: false, error: "The control has ended." });
     this.waiting.clear();

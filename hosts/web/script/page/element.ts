@@ -112,10 +112,10 @@ export class AwizoWysylki extends ControlElement {
   };
 
   connectedCallback(): void {
+    this.core = new CoreClient(() => startOf(this), this.listener());
     addEventListener("beforeunload", this.askBeforeLeaving);
     this.root.replaceChildren(make("p", { class: "waiting", role: "status" }, ["Редактор запускается…"]));
     this.takeAttributes();
-    this.core = new CoreClient(new URL("worker.mjs", import.meta.url), startOf(this), this.listener());
     void this.begin(this.core);
   }
 
@@ -154,27 +154,30 @@ export class AwizoWysylki extends ControlElement {
 
   /// `opens`: the user is asked for a file to open.
   private async begin(core: CoreClient, opens = false): Promise<void> {
-    const [menus, ofDialogs, scanned] = await Promise.all([
+    // All is said at once: the core goes on while the page makes what it shows.
+    const commands = Promise.all([
       core.say({ get: "commands" }), core.say({ get: "dialogCommands" }), core.say({ get: "scanned" }),
     ]);
-    if (this.core !== core) return;
-    if (!menus.ok) return void core.say({ do: "subscribe" });  // It is the start page's turn.
+    const properties = this.readProperties();
+    for (const what of ["followDesk", "followSteps", "followFiles"]) void core.say({ do: what });
+    const following = core.say({ do: "subscribe" });
+    // Work that was gone on with is shown already.
+    const showing = core.say({ do: "showUnlessShown" });
+    const [menus, ofDialogs, scanned] = await commands;
+    // It may be the start page's turn.
+    if (this.core !== core || !menus.ok) return;
     const ofMenus = (menus.value as { commands: Command[] }[]).flatMap((menu) => menu.commands);
     this.commands.take([...ofMenus, ...(ofDialogs.value as Command[])]);
     this.strip.showCommands(ofMenus);
     this.scanned = scanned.value as Scanned;
-    await this.readProperties();
-    void core.say({ do: "followDesk" });
-    void core.say({ do: "followSteps" });
-    void core.say({ do: "followFiles" });
-    const followed = await core.say({ do: "subscribe" });
+    await properties;
+    const followed = await following;
     if (this.core !== core) return;
     // A box in which work that is gone on with stood is answered before anything else.
     this.beginsAfterAnswer = !followed.ok;
     if (this.beginsAfterAnswer) return;
-    // Work that was gone on with is shown already.
-    if (this.forms[mainName]?.shown !== true) await core.say({ do: "show" });
-    if (opens) void this.choose({ on: "btnWczytaj" });
+    await showing;
+    if (opens && this.core === core) void this.choose({ on: "btnWczytaj" });
   }
 
   private listener(): Listener {

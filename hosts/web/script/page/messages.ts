@@ -3,6 +3,7 @@
 export interface Start {
   /// Those of awizo-headless.
   arguments: string[];
+  locale: string;
   /// What is kept for the core, by the names of its values.
   settings: [string, string][];
   /// Files that must be there: their paths, and the addresses that they come from.
@@ -13,14 +14,13 @@ export interface Start {
   records: string;
   /// Where the firm's package numbers are.
   numbers: string;
-  wasm: string;
 }
 
 /// The core's exit status where kept work couldn't be done again.
 export const replayDiffers = 4;
 
 /// `end`: there are no more lines.
-export type ToWorker = { start: Start } | { line: string } | { end: true };
+export type ToWorker = { start: Start } | { module: WebAssembly.Module } | { line: string } | { end: true };
 
 export type FromWorker =
   | { said: string }

@@ -45,7 +45,8 @@ export function startOf(element: HTMLElement): Start {
     // A "/" in the query would move the base of the service's addresses.
     given.push("--page-url", location.origin + location.pathname, "--cookie", document.cookie);
   }
-  given.push("--locale", localeOf(element));
+  const locale = localeOf(element);
+  given.push("--locale", locale);
   // What is kept is the browser's, in no file: with the folder alone nothing would outlive the session.
   given.push("--offline-path", folder, "--settings", "");
   const now = element.getAttribute("now");
@@ -54,7 +55,6 @@ export function startOf(element: HTMLElement): Start {
   const userInfo = element.getAttribute("user-info");
   if (userInfo !== null) files.push([`${folder}/userinfo.xml`, new URL(userInfo, document.baseURI).href]);
   return {
-    arguments: given, settings: keptSettings(), files, folder, records: beside(folder, "records"), numbers: beside(folder, "numbers"),
-    wasm: new URL("awizo.wasm", import.meta.url).href,
+    arguments: given, locale, settings: keptSettings(), files, folder, records: beside(folder, "records"), numbers: beside(folder, "numbers"),
   };
 }

@@ -14,6 +14,8 @@ const lines: string[] = [];
 let linesEnded = false;
 let said = "";
 let wake: (() => void) | undefined;
+let takeModule: (module: WebAssembly.Module) => void;
+const compiled = new Promise<WebAssembly.Module>((resolve) => (takeModule = resolve));
 
 function tell(message: FromWorker): void {
   postMessage(message);
@@ -49,6 +51,7 @@ function unknown(question: string): readonly Field[] {
 
 function browser(start: Start): Surroundings {
   const locales = new Locales();
+  locales.prepare(start.locale);
   const settings = new Map(start.settings);
   const nameOf = (fields: Uint8Array[]) => fields.slice(1, 4).map(textOf).join("/");
   return {
@@ -92,13 +95,19 @@ function browser(start: Start): Surroundings {
   };
 }
 
+async function fetched(address: string): Promise<Uint8Array> {
+  const response = await fetch(address);
+  if (!response.ok) throw new Error(`${address}: ${response.status}`);
+  return new Uint8Array(await response.arrayBuffer());
+}
+
 async function prepareFiles(start: Start): Promise<void> {
-  await makeFolders(start.folder);
-  for (const [path, address] of start.files) {
-    const response = await fetch(address);
-    if (!response.ok) throw new Error(`${address}: ${response.status}`);
-    await putFile(path, new Uint8Array(await response.arrayBuffer()));
-  }
+  const folders = makeFolders(start.folder);
+  await Promise.all(start.files.map(async ([path, address]) => {
+    const [bytes] = await Promise.all([fetched(address), folders]);
+    await putFile(path, bytes);
+  }));
+  await folders;
 }
 
 async function run(start: Start): Promise<void> {
@@ -106,8 +115,10 @@ async function run(start: Start): Promise<void> {
     // Browsers give their files to no other page, and no locks.
     if (!isSecureContext) throw new Error("Редактор работает только на странице, открытой по https:// (или на своём компьютере, localhost). Обратитесь к администратору сайта.");
     if (!canSuspend()) throw new Error("Этот браузер не умеет приостанавливать WebAssembly. Нужен Chrome, Edge 137 или Firefox 153 и новее.");
-    const [module] = await Promise.all([WebAssembly.compileStreaming(fetch(start.wasm)), prepareFiles(start)]);
-    const core = await loadCore(module, browser(start));
+    const prepared = prepareFiles(start);
+    const surroundings = browser(start);
+    const [module] = await Promise.all([compiled, prepared]);
+    const core = await loadCore(module, surroundings);
     const status = await core.run();
     tellSaid();
     tell({ ended: status });
@@ -119,6 +130,8 @@ async function run(start: Start): Promise<void> {
 addEventListener("message", (event: MessageEvent<ToWorker>) => {
   if ("start" in event.data) {
     void run(event.data.start);
+  } else if ("module" in event.data) {
+    takeModule(event.data.module);
   } else {
     if ("line" in event.data) lines.push(event.data.line);
     else linesEnded = true;
