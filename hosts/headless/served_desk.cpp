@@ -127,6 +127,7 @@ void ServedDesk::serve(protocol::ControlAccess& access) {
   dispatcher.clientActions["scan"] = [this, &access](const Json& line) {
     scan(access.forms().control(protocol::textMember(line, "on")), line);
   };
+  dispatcher.clientActions["scanKey"] = [this](const Json& line) { scanKey(line); };
   dispatcher.records["standing"] = [this] { return standing(); };
   dispatcher.records["markedText"] = [this] { return Json(markedText()); };
   dispatcher.clientActions["followDesk"] = [this](const Json&) { follow(); };
@@ -264,6 +265,17 @@ void ServedDesk::scan(const Control& control, const Json& line) {
   if (now) conversation_.emit({{"event", "typed"}, {"on", line["on"]}, {"text", *now}});
 }
 
+void ServedDesk::scanKey(const Json& line) {
+  if (!control_.form.takesInput()) throw Refused("Nothing is scanned now.");
+  const int code = protocol::integerMember(line, "code");
+  standsOn_ = line.contains("package") ? protocol::integerMember(line, "package") : 0;
+  const AtExit over([this] { standsOn_ = 0; });
+  if (code != static_cast<std::int16_t>(code) ||
+      !finder_.takeKey(static_cast<std::int16_t>(code))) {
+    throw Refused("It is no key of a scanned code.");
+  }
+}
+
 void ServedDesk::takeAct(Control* control, const Json& line, const std::function<void()>& act) {
   const Json& action = line["do"];
   scannedTyping_.giveBack();
@@ -394,6 +406,7 @@ AssistantReport ServedDesk::run(std::string_view words,
 
 std::string ServedDesk::packScannedUnit(std::string_view ean) {
   const AtExit unseen = hideDialogs();
+  if (standsOn_ > 0) control_.form.grdOpakowania.userRow(standsOn_);
   return awizo::packScannedUnit(with_, ean);
 }
 

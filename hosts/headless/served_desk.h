@@ -59,6 +59,9 @@ struct DeskMachine {
 ///                         in it; without "begins" one that was typed before such a line was
 ///                         answered, and none where no more follows; with "isWhole" a text that was
 ///                         pasted. {"event":"typed",...} tells what the field holds then
+///   {"do":"scanKey","code":52,"package":3}   a key where what lies where is shown, on that
+///   package;
+///                         refused where it is none of a scanned code's
 ///   {"do":"showPapersOf","path":"c:\\VIRD\\a.xml"}   after {"event":"chooseDocument"}: papers of
 ///                         that saved document; "name" is what the user calls it, where the path
 ///                         is one for a while
@@ -112,6 +115,8 @@ class ServedDesk {
   std::string packScannedUnit(std::string_view ean);
   /// What the user types or pastes in place of all that a field for scanned numbers holds.
   void scan(const Control& control, const Json& line);
+  /// A key of a code that is scanned outside of the tables.
+  void scanKey(const Json& line);
   Json standing() const;
   std::string markedText() const;
 
@@ -132,6 +137,7 @@ class ServedDesk {
   ServedPapers papers_;
   ScannerSwitch scannerSwitch_;
   ScannedTyping scannedTyping_;
+  int standsOn_ = 0;  ///< the package among which the user scans now; 0 for that of the table
   bool follows_ = false;
   std::string toldLine_;
   std::vector<std::string> works_;  ///< those that last, what began last behind the others

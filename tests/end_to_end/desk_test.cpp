@@ -114,6 +114,36 @@ TEST_F(DeskTest, AScannedProductIsPutInWhileThatIsSwitchedOn) {
   EXPECT_EQ(editor.cellText("grdPozycje", 5, packedQuantity), "1,000");
 }
 
+TEST_F(DeskTest, ACodeIsScannedOutsideOfTheTablesTooOntoThePackageThere) {
+  addPackage(editor, "Паллета 1", std::string(serials[0]));
+  addPackage(editor, "Паллета 2", std::string(serials[1]));
+  const auto scanKey = [](int code) {
+    return Json{{"do", "scanKey"}, {"code", code}, {"package", 1}};
+  };
+  const auto scanThere = [&](std::string_view code) {
+    for (const char digit : code) editor.act(scanKey(digit));
+    editor.act(scanKey(enter));
+  };
+  const std::string ean = editor.cellText("grdPozycje", 5, 1);
+  editor.cell("grdPozycje", 1, 1);
+  editor.refused(scanKey(enter));
+  editor.act(scanKey('4'));
+  editor.refused(scanKey(f2));
+  scanThere(ean);
+  EXPECT_EQ(row("grdPozycje"), 5);
+  editor.perform("scannerPacks");
+  editor.cell("grdOpakowania", 2, packageDescription);
+  scanThere(ean);
+  EXPECT_EQ(row("grdOpakowania"), 1);
+  EXPECT_THAT(std::string(editor.takeLast("line")["text"]), testing::StartsWith("Паллета 1 ← "));
+  editor.cell("grdOpakowania", 2, packageDescription);
+  scan(ean);
+  EXPECT_EQ(row("grdOpakowania"), 2) << "among the tables it is the current one";
+  press("btnDodajOpak");
+  editor.refused(scanKey('4'));
+  editor.close("DlgSzczegoly");
+}
+
 TEST_F(DeskTest, AScannersMarksAreCutOffBeforeANumberField) {
   constexpr std::string_view number = "DlgSzczegoly.txtSerialNumberN";
   const Json scanned = editor.get("scanned");

@@ -84,6 +84,8 @@ export class AwizoWysylki extends ControlElement {
       this.modelsFocus()?.focus();
       await this.closingOf({ do: "cell", on: table, row, col: nameColumns[table] });
     },
+    scanKey: async (code, packageRow) =>
+      (await this.closingOf({ do: "scanKey", code, ...(packageRow === undefined ? {} : { package: packageRow }) })).ok,
     leave: () => this.leaveExtras(),
   });
   private work: Work | undefined;

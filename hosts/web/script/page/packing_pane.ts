@@ -14,6 +14,8 @@ export interface PackingHost {
   /// The rest of these lines into the package.
   pack(lines: number[], packageRow: number): Promise<unknown>;
   goTo(table: string, row: number): Promise<unknown>;
+  /// A key of what may be a scanned code, on that package; answers whether it is one.
+  scanKey(code: number, packageRow?: number): Promise<boolean>;
   /// Back to the document.
   leave(): void;
 }
@@ -39,6 +41,7 @@ export class PackingPane {
   /// Where a range of marks begins.
   private anchor = 0;
   private timer: ReturnType<typeof setTimeout> | undefined;
+  private mayScan = false;
 
   constructor(private readonly host: PackingHost) {
     this.lines = new PackingRows("listbox", words.packingLines, (row) => this.drawLine(row));
@@ -177,9 +180,10 @@ export class PackingPane {
     element.addEventListener("dblclick", () => this.goToLine());
     element.addEventListener("keydown", (event) => {
       const target = event.ctrlKey || event.altKey ? undefined : this.lines.target(event.key);
+      if (target !== undefined) this.forgetScan();
       if (target !== undefined) this.mark(Math.max(0, Math.min(target, this.shownLines.length - 1)), event.shiftKey, false);
       else if (event.key === " ") this.mark(this.lines.current, false, true);
-      else if (event.key === "Enter") this.goToLine();
+      else if (event.key === "Enter") void this.endScan(() => this.goToLine());
       else if (!this.takesKey(event)) return;
       event.preventDefault();
       event.stopPropagation();
@@ -201,9 +205,10 @@ export class PackingPane {
     element.addEventListener("dblclick", () => this.goToPlace());
     element.addEventListener("keydown", (event) => {
       const target = event.ctrlKey || event.altKey ? undefined : this.places.target(event.key);
+      if (target !== undefined) this.forgetScan();
       if (target !== undefined) this.places.goTo(target);
       else if (event.key === "ArrowLeft" || event.key === "ArrowRight") this.fold(event.key === "ArrowLeft");
-      else if (event.key === "Enter") this.goToPlace();
+      else if (event.key === "Enter") void this.endScan(() => this.goToPlace());
       else if (!this.takesKey(event)) return;
       event.preventDefault();
       event.stopPropagation();
@@ -223,10 +228,30 @@ export class PackingPane {
 
   /// A key that both lists have.
   private takesKey(event: KeyboardEvent): boolean {
+    if (event.key >= "0" && event.key <= "9" && !event.ctrlKey && !event.altKey) return this.scan(event.key);
     if (event.key !== "Insert") return false;
     // A key held down would pack what nobody marked.
     if (!event.repeat) this.packMarked();
     return true;
+  }
+
+  private scan(digit: string): boolean {
+    this.mayScan = true;
+    void this.host.scanKey(digit.charCodeAt(0), this.shownPlaces[this.places.current]?.package);
+    return true;
+  }
+
+  /// Any other key than a code's: what was typed so far is none.
+  private forgetScan(): void {
+    if (this.mayScan) void this.host.scanKey(0);
+    this.mayScan = false;
+  }
+
+  /// Enter ends a scanned code, where one was scanned.
+  private async endScan(otherwise: () => void): Promise<void> {
+    const isEnd = this.mayScan && (await this.host.scanKey(13, this.shownPlaces[this.places.current]?.package));
+    this.mayScan = false;
+    if (!isEnd) otherwise();
   }
 
   /// `more`: the range from where marking began; `other`: this one too, or no more.

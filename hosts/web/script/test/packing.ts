@@ -93,6 +93,27 @@ await withPage(async (page) => {
   await lines.press("Control+z");
   await summary("упаковано 2 из 25 строк");
 
+  // A scanner works in the pane too: what is scanned is gone to, and while that is switched on it goes into
+  // the package where the user stands.
+  const table = user.control("grdPozycje");
+  const summaryNow = await pane.locator("output").first().innerText();
+  await packages.getByRole("treeitem").first().click();
+  await packages.focus();
+  await page.keyboard.type("9520001010385");
+  await page.keyboard.press("Enter");
+  await table.locator('[data-row="10"][aria-selected="true"]').waitFor();
+  await focused(packages);
+  await user.editor.locator("[data-task=scannerPacks]").click();
+  await user.editor.locator("[data-task=scannerPacks][aria-pressed=true]").waitFor();
+  await packages.focus();
+  await page.keyboard.type("9520001010385");
+  await page.keyboard.press("Enter");
+  await user.editor.locator("output.line").filter({ hasText: /^Паллета ← Строка 10 .*упаковано 1 из/ }).waitFor();
+  await focused(packages);
+  await packages.press("Control+z");
+  await user.editor.locator("[data-task=scannerPacks]").click();
+  await summary(summaryNow);
+
   // A click brings the keys from the pane to the table.
   await lines.focus();
   await user.control("grdPozycje").locator('[data-row="6"] [data-col="2"]').click();
