@@ -28,12 +28,21 @@ DateOrder dateOrder(std::string_view letters) {
   return letters == "dmy" ? DateOrder::dayMonthYear : DateOrder::yearMonthDay;
 }
 
-/// A zero byte is the text's end. Those within count for nothing in any locale's order.
-void appendWithEnd(std::string_view text, std::string& texts) {
-  const auto begin = static_cast<std::ptrdiff_t>(texts.size());
-  texts += text;
-  texts.erase(std::remove(texts.begin() + begin, texts.end(), '\0'), texts.end());
-  texts += '\0';
+/// The texts in that order, each with a zero byte as its end. Those within count for nothing in any
+/// locale's order.
+std::string together(const std::vector<std::string_view>& texts,
+                     const std::vector<std::size_t>& order) {
+  std::size_t size = texts.size();
+  for (const std::string_view text : texts) size += text.size();
+  std::string all;
+  all.reserve(size);
+  for (const std::size_t index : order) {
+    const auto begin = static_cast<std::ptrdiff_t>(all.size());
+    all += texts[index];
+    all.erase(std::remove(all.begin() + begin, all.end(), '\0'), all.end());
+    all += '\0';
+  }
+  return all;
 }
 
 }  // namespace
@@ -80,10 +89,8 @@ std::vector<std::int32_t> PageLocale::ranks(const std::vector<std::string_view>&
   std::iota(order.begin(), order.end(), std::size_t{0});
   std::sort(order.begin(), order.end(),
             [&](std::size_t left, std::size_t right) { return texts[left] < texts[right]; });
-  std::string together;
-  for (const std::size_t index : order) appendWithEnd(texts[index], together);
   // The ranks' own bytes, one after another.
-  const std::string bytes = askNow({"ranks", name_, together}).at(0);
+  const std::string bytes = askNow({"ranks", name_, together(texts, order)}).at(0);
   std::vector<std::int32_t> ranks(texts.size());
   if (bytes.size() != ranks.size() * sizeof(std::int32_t)) {
     throw std::logic_error("not as many ranks as texts");
