@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "journal/record_file.h"
 #include "journal/state_digest.h"
 #include "platform/forms/keys.h"
 #include "support/control/taped_control.h"
@@ -10,9 +15,20 @@
 namespace awizo::test {
 namespace {
 
+/// Once it has somebody to ask, it notes the state at each moment at which records are written.
+struct NotingRecord : MemoryRecord {
+  std::function<std::uint64_t()> digest;
+  std::map<std::size_t, std::uint64_t> notes;  ///< by the bytes up to there
+
+  void append(std::string_view more) override {
+    MemoryRecord::append(more);
+    if (digest) notes[bytes.size()] = digest();
+  }
+};
+
 /// A user off line with some lines and packages, whose acts can be taken back.
 struct Session {
-  MemoryRecord record;
+  NotingRecord record;
   TapedControl taped{&record};
   journal::History history{taped.tape, taped.desk.control};
   AwizoWysylki& control = taped.desk.control;
@@ -81,6 +97,22 @@ struct Session {
     journal::History again(replayed.tape, replayed.desk.control);
     replayed.recording->start();
     return journal::stateDigest(replayed.desk.control);
+  }
+  /// The state in which a replay of the record waits for the user, be it in a dialog or a box.
+  std::uint64_t digestWhereReplayWaits() {
+    struct Waits {};
+    TapedControl replayed(nullptr, sessionIn(record).records);
+    journal::History again(replayed.tape, replayed.desk.control);
+    replayed.desk.face.actUnscripted = [](Form&) { throw Waits{}; };
+    replayed.desk.face.answerUnscripted = [](const MessageBox&) -> Answer { throw Waits{}; };
+    std::uint64_t state = 0;
+    replayed.recording->onLive = [&] { state = journal::stateDigest(replayed.desk.control); };
+    try {
+      replayed.recording->start();
+    } catch (const Waits&) {
+      // The user would go on.
+    }
+    return state;
   }
   std::string nameOfTakeBack() {
     const journal::StepName* name = history.toTakeBack();
@@ -160,6 +192,47 @@ TEST_P(TakeBack, LeavesTheStateAsIfTheActNeverWas) {
   session.history.takeBack();
   EXPECT_EQ(session.digest(), without.digest());
   EXPECT_EQ(session.digestOfReplay(), without.digest());
+}
+
+/// Where a record ends, and whether the control waited for the user there.
+struct Ending {
+  std::size_t at;
+  bool waits;
+};
+
+std::vector<Ending> endingsOf(const std::string& records) {
+  std::vector<Ending> endings;
+  std::size_t at = 0;
+  for (const journal::Record& record :
+       journal::wholeRecords(journal::fileBeginning() + records).records) {
+    at += journal::framed(record).size();
+    endings.push_back({at, record.kind == journal::RecordKind::ready ||
+                               record.kind == journal::RecordKind::digest});
+  }
+  return endings;
+}
+
+TEST_P(TakeBack, CutAtEveryByteOfTheLastThreeRecordsIsTheStateBeforeTheCut) {
+  Session session;
+  session.record.digest = [&] { return session.digest(); };
+  GetParam().prepare(session);
+  for (const char* typed : {"7", "77"}) session.form.txtGoodsIdentity.userType(typed);
+  GetParam().perform(session);
+  const std::string whole = session.record.bytes;
+  const std::vector<Ending> endings = endingsOf(whole);
+  ASSERT_EQ(endings.back().at, whole.size());
+  ASSERT_TRUE(session.record.notes.contains(whole.size()));
+  std::set<std::uint64_t> states;
+  for (std::size_t length = endings[endings.size() - 4].at; length <= whole.size(); ++length) {
+    const auto last = std::find_if(endings.rbegin(), endings.rend(), [&](const Ending& ending) {
+      return ending.waits && ending.at <= length;
+    });
+    const std::uint64_t noted = session.record.notes.lower_bound(last->at)->second;
+    session.record.bytes = whole.substr(0, length);
+    ASSERT_EQ(session.digestWhereReplayWaits(), noted) << length << " of " << whole.size();
+    states.insert(noted);
+  }
+  EXPECT_GE(states.size(), 2U) << "the last act changed nothing";
 }
 
 TEST_P(TakeBack, CanBeDoneAgain) {
