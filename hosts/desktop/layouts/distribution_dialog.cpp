@@ -14,8 +14,7 @@ void layOut(DistributionDialog& form, FormDialog& dialog) {
   TableFace& table = faces.table(form.grdParts);
   table.stretchColumn(DistributionDialog::packageColumn);
   table.view()->setAccessibleName(fromText(words::partsTable));
-  const QFontMetrics metrics = dialog.fontMetrics();
-  table.view()->setMinimumSize(metrics.averageCharWidth() * 90, metrics.height() * 14);
+  keepRoom(*table.view(), 90, 14);
   auto* rows = new QVBoxLayout(&dialog);
   rows->setSpacing(10);
   rows->addWidget(makeColumn(faces, form.cboLines, form.cboPackages, form.cboSpread, form.txtEach));

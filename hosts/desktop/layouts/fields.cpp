@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "hosts/desktop/faces/group_box.h"
+#include "hosts/desktop/layouts/wrapping.h"
 #include "linedialog/captions.h"
 
 namespace awizo::desktop {
@@ -96,6 +97,18 @@ void makeBold(QWidget& words) {
   QFont bold = words.font();
   bold.setBold(true);
   words.setFont(bold);
+}
+
+void keepRoom(QWidget& field, int characters) {
+  const int wanted = field.fontMetrics().averageCharWidth() * characters;
+  field.setMinimumWidth(std::min(wanted, roomFor(field).width() * 2 / 5));
+}
+
+void keepRoom(QWidget& list, int characters, int lines) {
+  const QFontMetrics metrics = list.fontMetrics();
+  const QSize room = roomFor(list);
+  list.setMinimumSize(QSize(metrics.averageCharWidth() * characters, metrics.height() * lines)
+                          .boundedTo({room.width() * 5 / 6, room.height() / 2}));
 }
 
 QHBoxLayout* makeRow(std::initializer_list<QWidget*> widgets) {

@@ -41,6 +41,7 @@ QWidget* makeColumn(FormFace& faces, const Controls&... controls) {
   fields.grid()->setContentsMargins(0, 0, 0, 0);
   int row = 0;
   (fields.add(row++, 0, fromText(controls.caption()), controls), ...);
+  fields.grid()->setRowStretch(row, 1);
   return holder;
 }
 
@@ -55,6 +56,14 @@ inline constexpr QMargins insideFrame(8, 4, 8, 6);
 void nameBy(QLabel& label, const Face& field);
 
 void makeBold(QWidget& words);
+
+// On a small screen, or where letters are large, these ask for what the screen has room for, so
+// that nobody has to scroll sideways.
+
+/// Lets a field beside its caption have room for so many characters.
+void keepRoom(QWidget& field, int characters);
+/// Lets a table or list have room for so many characters and lines.
+void keepRoom(QWidget& list, int characters, int lines);
 
 /// A row of widgets and the room that is left after them.
 QHBoxLayout* makeRow(std::initializer_list<QWidget*> widgets);

@@ -56,8 +56,7 @@ void layOut(DlgWczytajZapisz& form, FormDialog& dialog) {
   rows->addWidget(faces.widget(form.Frame1), 1);
   rows->addLayout(fields.grid());
   rows->addLayout(buttons);
-  const QFontMetrics metrics = dialog.fontMetrics();
-  faces.widget(form.Frame1)->setMinimumSize(metrics.averageCharWidth() * 90, metrics.height() * 20);
+  keepRoom(*faces.widget(form.Frame1), 90, 20);
 }
 
 }  // namespace awizo::desktop

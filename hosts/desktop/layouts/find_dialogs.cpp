@@ -14,8 +14,7 @@ void layOut(FaultList& form, FormDialog& dialog) {
   TableFace& table = faces.table(form.grdFaults);
   table.stretchColumn(1);
   table.view()->setAccessibleName(fromText(words::faultsTable));
-  const QFontMetrics metrics = dialog.fontMetrics();
-  table.view()->setMinimumSize(metrics.averageCharWidth() * 90, metrics.height() * 16);
+  keepRoom(*table.view(), 90, 16);
   auto* rows = new QVBoxLayout(&dialog);
   rows->setSpacing(10);
   rows->addWidget(table.widget(), 1);
@@ -31,7 +30,7 @@ void layOut(FindDialog& form, FormDialog& dialog) {
   fields.grid()->setContentsMargins(0, 0, 0, 0);
   fields.add(0, 0, fromText(words::whatToFind), form.txtWhat);
   fields.grid()->addWidget(faces.widget(form.lblNothing), 1, 1);
-  faces.widget(form.txtWhat)->setMinimumWidth(dialog.fontMetrics().averageCharWidth() * 30);
+  keepRoom(*faces.widget(form.txtWhat), 30);
   rows->addWidget(holder);
   rows->addStretch(1);
   rows->addLayout(makeButtonRow(faces, form.btnFind, form.btnClose));

@@ -1,6 +1,7 @@
 #include "hosts/desktop/layouts/form_dialog.h"
 
 #include <QCloseEvent>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include "hosts/desktop/layouts/wrapping.h"
@@ -35,7 +36,18 @@ QSize FormDialog::roomWanted() {
   for (int place = 0; place < layout()->count(); ++place) {
     if (QWidget* part = layout()->itemAt(place)->widget()) part->updateGeometry();
   }
-  return sizeHint().boundedTo(roomFor(*this));
+  const QSize room = roomFor(*this);
+  QSize wanted = sizeHint();
+  if (content_ == nullptr) return wanted.boundedTo(room);
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+  // What has no room side by side stands one below the other.
+  if (wanted.width() > room.width() && content_->hasHeightForWidth()) {
+    wanted.rheight() +=
+        content_->heightForWidth(room.width() - bar) - content_->sizeHint().height();
+  }
+  // Where it scrolls, the bar stands beside the content.
+  if (wanted.height() > room.height()) wanted.rwidth() += bar;
+  return wanted.boundedTo(room);
 }
 
 void FormDialog::takeRoom() { resize(roomWanted()); }

@@ -1,5 +1,6 @@
 #include <QAbstractButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/button_face.h"
@@ -7,24 +8,49 @@
 #include "hosts/desktop/layouts/command_actions.h"
 #include "hosts/desktop/layouts/dialog_layouts.h"
 #include "hosts/desktop/layouts/fields.h"
+#include "hosts/desktop/layouts/flowing_groups.h"
 #include "linedialog/dlg_dodaj.h"
 
 namespace awizo::desktop {
 namespace {
 
+/// A box that is as high as its content needs at its width.
+QGroupBox* makeFlowingGroup(std::string_view heading) {
+  QGroupBox* group = makeGroup(heading);
+  group->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  return group;
+}
+
 QGroupBox* makeProduct(DlgDodaj& form, FormFace& faces) {
-  QGroupBox* group = makeGroup(words::productGroup);
-  Fields fields(faces, group);
-  fields.addCovered(0, 0, form.lblNazwaProd, form.txtNazwaProdWart, form.cboxNazwaProd, 2);
-  fields.addCovered(1, 0, form.lblEANProd, form.txtlEANProdWart, form.cboxEANProd);
-  fields.addCovered(1, 1, form.lblKodKup, form.txtKodKup, form.cboxKodAPP);
-  fields.addCovered(2, 0, form.lblKodSprzed, form.txtKodSprzed, form.cboxKodSprzed);
-  fields.add(2, 1, form.lblJednostkaMiary, form.cboxJednostkaMiary);
+  QGroupBox* group = makeFlowingGroup(words::productGroup);
+  Fields name(faces, new QWidget);
+  name.addCovered(0, 0, form.lblNazwaProd, form.txtNazwaProdWart, form.cboxNazwaProd);
+  Fields own(faces, new QWidget);
+  own.addCovered(0, 0, form.lblEANProd, form.txtlEANProdWart, form.cboxEANProd);
+  own.addCovered(1, 0, form.lblKodSprzed, form.txtKodSprzed, form.cboxKodSprzed);
+  Fields others(faces, new QWidget);
+  others.addCovered(0, 0, form.lblKodKup, form.txtKodKup, form.cboxKodAPP);
+  others.add(1, 0, form.lblJednostkaMiary, form.cboxJednostkaMiary);
+  // The fields below each other are aligned.
+  int captions = 0;
+  for (const Label* label : {&form.lblNazwaProd, &form.lblEANProd, &form.lblKodSprzed}) {
+    captions = std::max(captions, faces.widget(*label)->sizeHint().width());
+  }
+  for (const Fields& fields : {name, own, others}) fields.grid()->setContentsMargins(0, 0, 0, 0);
+  for (const Fields& fields : {name, own}) fields.grid()->setColumnMinimumWidth(0, captions);
+  auto* codes = new FlowingGroups;
+  codes->setSpacing(20);
+  codes->addGroup(own.grid()->parentWidget(), 1);
+  codes->addGroup(others.grid()->parentWidget(), 1);
+  auto* rows = new QVBoxLayout(group);
+  rows->setSpacing(6);
+  rows->addWidget(name.grid()->parentWidget());
+  rows->addLayout(codes);
   return group;
 }
 
 QGroupBox* makeAmounts(DlgDodaj& form, FormFace& faces) {
-  QGroupBox* group = makeGroup(words::quantityGroup);
+  QGroupBox* group = makeFlowingGroup(words::quantityGroup);
   Fields fields(faces, group);
   fields.add(0, 0, form.lblIloscZam, form.txtIloscZam);
   fields.add(1, 0, form.lblIloscPotw, form.txtIloscPotw);
@@ -37,7 +63,7 @@ QGroupBox* makeAmounts(DlgDodaj& form, FormFace& faces) {
 }
 
 QGroupBox* makeOrigin(DlgDodaj& form, FormFace& faces) {
-  QGroupBox* group = makeGroup(words::datesGroup);
+  QGroupBox* group = makeFlowingGroup(words::datesGroup);
   Fields fields(faces, group);
   fields.add(0, 0, form.Label5, form.dtProdDate);
   fields.add(1, 0, form.lblExpiryDate, form.dtExpiryDate);
@@ -45,8 +71,15 @@ QGroupBox* makeOrigin(DlgDodaj& form, FormFace& faces) {
   country->setStretch(0, 1);
   fields.add(2, 0, form.lblContryOfOryginCode, country);
   nameBy(faces.label(form.lblContryOfOryginCode), faces.face(form.comboCountry));
-  QHBoxLayout* customsNumber = makeRow({faces.widget(form.txtCDN1), faces.widget(form.dpCDN2),
-                                        faces.widget(form.txtCDN3), faces.widget(form.txtCDN4)});
+  auto* customsNumber = new FlowingGroups;
+  customsNumber->setSpacing(6);
+  for (const auto& halves : {std::pair<const Control*, const Control*>{&form.txtCDN1, &form.dpCDN2},
+                             {&form.txtCDN3, &form.txtCDN4}}) {
+    auto* half = new QWidget;
+    half->setLayout(makeRow({faces.widget(*halves.first), faces.widget(*halves.second)}));
+    half->layout()->setContentsMargins(0, 0, 0, 0);
+    customsNumber->addGroup(half, 1);
+  }
   for (const auto& [field, digits] :
        {std::pair{&form.txtCDN1, 8}, std::pair{&form.txtCDN3, 7}, std::pair{&form.txtCDN4, 3}}) {
     QWidget* widget = faces.widget(*field);
@@ -104,12 +137,10 @@ void layOut(DlgDodaj& form, FormDialog& dialog) {
   heading->setFont(large);
   static_cast<QAbstractButton*>(faces.widget(form.btnISOcodes))->setIconSize({16, 16});
 
-  auto* middle = new QHBoxLayout;
-  middle->addWidget(makeAmounts(form, faces), 2);
-  middle->addWidget(makeOrigin(form, faces), 3);
-  for (int i = 0; i < 2; ++i) {
-    middle->itemAt(i)->widget()->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-  }
+  auto* middle = new FlowingGroups;
+  middle->setSpacing(10);
+  middle->addGroup(makeAmounts(form, faces), 2);
+  middle->addGroup(makeOrigin(form, faces), 3);
 
   new CommandActions(lineDialogCommands(form), faces, dialog);
   auto* rows = new QVBoxLayout(&dialog);

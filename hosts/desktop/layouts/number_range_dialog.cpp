@@ -12,7 +12,7 @@ void layOut(NumberRangeDialog& form, FormDialog& dialog) {
   FormFace& faces = dialog.faces();
   auto* rows = new QVBoxLayout(&dialog);
   rows->setSpacing(10);
-  faces.widget(form.txtPrefix)->setMinimumWidth(dialog.fontMetrics().averageCharWidth() * 30);
+  keepRoom(*faces.widget(form.txtPrefix), 30);
   rows->addWidget(makeColumn(faces, form.txtExtension, form.txtPrefix, form.txtFirst, form.txtLast,
                              form.txtNext));
   addNotes(*rows, faces, {&form.lblPlace, &form.lblExample, &form.lblLeft, &form.lblDoubt});

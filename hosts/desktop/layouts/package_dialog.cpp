@@ -62,7 +62,7 @@ void layOut(DlgSzczegoly& form, FormDialog& dialog) {
   QGroupBox* measures = makeMeasures(form, faces);
   QGroupBox* delivery = makeDelivery(form, faces);
   alignCaptions({package, measures, delivery});
-  faces.widget(form.txtPackageDesc)->setMinimumWidth(dialog.fontMetrics().averageCharWidth() * 42);
+  keepRoom(*faces.widget(form.txtPackageDesc), 42);
   auto* rows = new QVBoxLayout(&dialog);
   rows->setSpacing(10);
   rows->addWidget(package);

@@ -11,7 +11,7 @@ void layOut(PackagesDialog& form, FormDialog& dialog) {
   FormFace& faces = dialog.faces();
   auto* rows = new QVBoxLayout(&dialog);
   rows->setSpacing(10);
-  faces.widget(form.txtDescription)->setMinimumWidth(dialog.fontMetrics().averageCharWidth() * 40);
+  keepRoom(*faces.widget(form.txtDescription), 40);
   rows->addWidget(makeColumn(faces, form.txtCount, form.cboType, form.txtDescription,
                              form.cboParent, form.txtWeight, form.txtLength, form.txtWidth,
                              form.txtHeight, form.txtPlace));

@@ -13,6 +13,8 @@ class PaperView : public QWidget {
  public:
   explicit PaperView(const PapersDialog& form);
 
+  QSize sizeHint() const override;
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 

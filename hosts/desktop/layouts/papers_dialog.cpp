@@ -3,19 +3,25 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "adapters/qt_paper/qt_paper.h"
 #include "desk/layout_words.h"
 #include "hosts/desktop/layouts/dialog_layouts.h"
 #include "hosts/desktop/layouts/fields.h"
+#include "hosts/desktop/layouts/flowing_groups.h"
 #include "hosts/desktop/layouts/paper_view.h"
+#include "hosts/desktop/layouts/wrapping.h"
 
 namespace awizo::desktop {
 
 PaperView::PaperView(const PapersDialog& form) : form_(form) {
-  const int unit = fontMetrics().height();
-  setMinimumSize(unit * 26, unit * 26);
+  setMinimumSize(QSize(1, 1) * (fontMetrics().height() * 12));
   setAccessibleName(fromText(words::paperPreview));
+}
+
+QSize PaperView::sizeHint() const {
+  return QSize(1, 1) * std::min(fontMetrics().height() * 26, roomFor(*this).height() * 3 / 5);
 }
 
 void PaperView::paintEvent(QPaintEvent*) {
@@ -37,27 +43,29 @@ void layOut(PapersDialog& form, FormDialog& dialog) {
   FormFace& faces = dialog.faces();
   auto* rows = new QVBoxLayout(&dialog);
   rows->setSpacing(8);
-  auto* holder = new QWidget;
-  Fields fields(faces, holder);
-  fields.grid()->setContentsMargins(0, 0, 0, 0);
-  fields.add(0, 0, fromText(form.cboPaper.caption()), form.cboPaper);
-  fields.add(0, 1, fromText(form.cboPackages.caption()), form.cboPackages);
-  fields.add(1, 0, fromText(form.cboSize.caption()), form.cboSize);
-  fields.add(1, 1, fromText(form.cboCopies.caption()), form.cboCopies);
-  fields.add(2, 0, fromText(form.cboPrinter.caption()), form.cboPrinter);
-  rows->addWidget(holder);
+  auto* choices = new FlowingGroups;
+  choices->setSpacing(20);
+  choices->addGroup(makeColumn(faces, form.cboPaper, form.cboSize, form.cboPrinter), 1);
+  choices->addGroup(makeColumn(faces, form.cboPackages, form.cboCopies), 1);
+  rows->addLayout(choices);
   auto* view = new PaperView(form);
   form.onSheet = [view] { view->update(); };
   rows->addWidget(view, 1);
   static_cast<QLabel*>(faces.widget(form.lblNotes))->setWordWrap(true);
   rows->addWidget(faces.widget(form.lblNotes));
-  auto* feet = makeRow(
+  QHBoxLayout* sheets = makeRow(
       {faces.widget(form.btnPrevious), faces.widget(form.lblSheet), faces.widget(form.btnNext)});
-  feet->addStretch(1);
-  for (const Control* button :
-       {static_cast<const Control*>(&form.btnPdf), static_cast<const Control*>(&form.btnPrint),
-        static_cast<const Control*>(&form.btnClose)}) {
-    feet->addWidget(faces.widget(*button));
+  sheets->addStretch(1);
+  QHBoxLayout* ways = makeRow(
+      {faces.widget(form.btnPdf), faces.widget(form.btnPrint), faces.widget(form.btnClose)});
+  ways->insertStretch(0, 1);
+  auto* feet = new FlowingGroups;
+  feet->setSpacing(6);
+  for (QHBoxLayout* row : {sheets, ways}) {
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* group = new QWidget;
+    group->setLayout(row);
+    feet->addGroup(group, 1);
   }
   rows->addLayout(feet);
 }

@@ -35,8 +35,7 @@ void layOut(DlgIsoCodes& form, FormDialog& dialog) {
   table.moveAsInList(0);
   table.view()->setAccessibleName(fromText(words::countriesTable));
   new CommandActions(countryListCommands(form), faces, dialog);
-  const QFontMetrics metrics = dialog.fontMetrics();
-  table.view()->setMinimumSize(metrics.averageCharWidth() * 52, metrics.height() * 22);
+  keepRoom(*table.view(), 52, 22);
   auto* rows = new QVBoxLayout(&dialog);
   rows->setSpacing(10);
   rows->addWidget(table.widget(), 1);

@@ -10,9 +10,11 @@
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <algorithm>
 
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/text.h"
+#include "hosts/desktop/layouts/wrapping.h"
 
 namespace awizo::desktop {
 namespace {
@@ -52,11 +54,17 @@ class GuideText : public QTextBrowser {
   }
 };
 
-/// On the right of the screen, where it covers least of the window that it tells about.
+/// On the right of the screen, where it covers least of the window that it tells about. Large
+/// letters need more of the screen.
 void placeBeside(QWidget& guide, const QWidget& owner) {
-  const QRect room = owner.screen()->availableGeometry();
-  guide.resize(room.width() * 9 / 20, room.height() * 9 / 10);
-  guide.move(room.right() - guide.width(), room.top() + (room.height() - guide.height()) / 2);
+  const QRect screen = owner.screen()->availableGeometry();
+  const QSize room = roomFor(owner);
+  const int letters = guide.fontMetrics().averageCharWidth() * 60;
+  guide.resize(std::min(std::max(screen.width() * 9 / 20, letters), room.width()),
+               screen.height() * 9 / 10);
+  const int frame = screen.width() - room.width();
+  guide.move(screen.right() - guide.width() - frame,
+             screen.top() + (screen.height() - guide.height()) / 2);
 }
 
 }  // namespace
@@ -68,6 +76,9 @@ void openGuide(QWidget& owner, const QString& chapter) {
   window->setWindowTitle(fromText(words::guideTitle));
   auto* contents = new QListWidget;
   contents->setAccessibleName(fromText(words::guideContents));
+  contents->setWordWrap(true);
+  contents->setTextElideMode(Qt::ElideNone);
+  contents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   auto* text = new GuideText;
   // The room for pictures is known from the start.
   text->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);

@@ -26,15 +26,16 @@ void eachSplitter(const QWidget& part, Do&& act) {
   }
 }
 
-/// Calls with each splitter that turns, once for each way, and the name of the sizes.
+/// Calls with each splitter that has a name and turns, once for each way, and the name of the
+/// sizes.
 template <class Do>
 void eachWay(const QWidget& part, Do&& act) {
   for (auto* splitter : part.findChildren<QSplitter*>()) {
     auto* turning = dynamic_cast<TurningSplitter*>(splitter);
-    if (turning == nullptr) continue;
-    const std::string name = toText(turning->objectName());
-    act(*turning, Qt::Horizontal, name);
-    act(*turning, Qt::Vertical, joined({name, "Below"}));
+    if (turning == nullptr || turning->objectName().isEmpty()) continue;
+    for (const Qt::Orientation way : {Qt::Horizontal, Qt::Vertical}) {
+      act(*turning, way, keptName(*turning, way));
+    }
   }
 }
 

@@ -3,11 +3,13 @@
 #include <QGridLayout>
 #include <QPushButton>
 #include <QStyle>
+#include <algorithm>
 
 #include "desk/box_advice.h"
 #include "desk/layout_words.h"
 #include "hosts/desktop/faces/icons.h"
 #include "hosts/desktop/faces/text.h"
+#include "hosts/desktop/layouts/wrapping.h"
 #include "platform/forms/face_words.h"
 
 namespace awizo::desktop {
@@ -27,7 +29,8 @@ void showIcon(QMessageBox& window, BoxIcon icon) {
 void makeRoomForTitle(QMessageBox& window) {
   const QFontMetrics metrics = window.fontMetrics();
   // The window frame's own buttons stand beside the title, in a font that may be bold.
-  const int width = metrics.horizontalAdvance(window.windowTitle()) * 5 / 4 + metrics.height() * 6;
+  const int wanted = metrics.horizontalAdvance(window.windowTitle()) * 5 / 4 + metrics.height() * 6;
+  const int width = std::min(wanted, roomFor(window).width() - 4 * metrics.height());
   auto* grid = static_cast<QGridLayout*>(window.layout());
   grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }

@@ -18,6 +18,7 @@
 #include "hosts/common/program/kept_record.h"
 #include "hosts/desktop/faces/form_face.h"
 #include "hosts/desktop/layouts/command_actions.h"
+#include "hosts/desktop/layouts/turning_splitter.h"
 #include "hosts/desktop/layouts/wrapping.h"
 #include "hosts/desktop/screen/message_box.h"
 #include "hosts/desktop/window/assistants.h"
@@ -39,19 +40,14 @@
 namespace awizo::desktop {
 namespace {
 
-void showText(QLabel& label, const QString& text) {
-  label.setText(text);
-  label.setToolTip(text);
-}
-
 // Names by which sizes are kept.
 constexpr const char* documentAndPacking = "documentAndPacking";
 constexpr const char* packingLinesAndPackages = "packingLinesAndPackages";
 
-void takeKeptSizes(QSplitter& splitter, const char* name, SettingsStore& settings) {
-  const std::vector<int> kept =
-      KeptSizes(settings).of(name, static_cast<std::size_t>(splitter.count()));
-  if (!kept.empty()) splitter.setSizes({kept.begin(), kept.end()});
+/// Nothing is given where nothing was kept.
+template <class Give>
+void giveSizes(const std::vector<int>& kept, Give&& give) {
+  if (!kept.empty()) give(QList<int>(kept.begin(), kept.end()));
 }
 
 }  // namespace
@@ -104,7 +100,7 @@ struct AwizoWysylkiWidget::Parts {
   }
 
   QWidget* content;
-  QSplitter* whole = nullptr;  ///< what is beside the content
+  TurningSplitter* whole = nullptr;  ///< what is beside the content
   Surroundings surroundings;
   Waiting& waiting = surroundings.waiting;
   HostScreenFace& face = surroundings.face;
@@ -159,7 +155,7 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
         return parts.assistants->packScannedUnit(ean);
       });
   // While it is empty, for a splitter measures at once all that comes in.
-  parts.whole = new QSplitter(Qt::Horizontal);
+  parts.whole = new TurningSplitter;
   parts.whole->setChildrenCollapsible(false);
   parts.whole->addWidget(parts.content);
   auto* rows = new QVBoxLayout(this);
@@ -202,26 +198,32 @@ PackingPane& AwizoWysylkiWidget::packingPane() {
   parts.whole->addWidget(pane);
   parts.whole->setStretchFactor(0, 1);
   parts.whole->setStretchFactor(1, 0);
-  takeKeptSizes(*parts.whole, documentAndPacking, settings);
-  takeKeptSizes(*pane->splitter(), packingLinesAndPackages, settings);
+  parts.nameParts(true);
+  const KeptSizes kept(settings);
+  for (const Qt::Orientation way : {Qt::Horizontal, Qt::Vertical}) {
+    giveSizes(kept.of(keptName(*parts.whole, way), 2),
+              [&](const QList<int>& sizes) { parts.whole->giveSizes(way, sizes); });
+  }
+  giveSizes(kept.of(packingLinesAndPackages, 2),
+            [&](const QList<int>& sizes) { pane->splitter()->setSizes(sizes); });
+  parts.nameParts(false);
   pane->onToggle = [this, &settings](bool shown) {
     setOn(settings, DeskSwitch::packingPane, shown);
     parts_->nameParts(shown);
     if (shown) growWindow();
   };
-  parts.nameParts(false);
   return *pane;
 }
 
-/// What has come beside the document shall not push its edge out of sight.
+/// What has come stands beside the document where the screen has room for both.
 void AwizoWysylkiWidget::growWindow() {
   layout()->activate();
   QWidget& whole = *window();
-  const int missing = minimumSizeHint().width() - whole.width();
-  if (missing > 0) {
-    whole.resize(
-        (whole.size() + QSize(missing, 0)).boundedTo(roomFor(whole).expandedTo(whole.size())));
+  const int missing = parts_->whole->widthSideBySide() - parts_->whole->width();
+  if (missing > 0 && whole.width() + missing <= roomFor(whole).width()) {
+    whole.resize(whole.size() + QSize(missing, 0));
   }
+  parts_->whole->turn();
 }
 
 ScannerSwitch& AwizoWysylkiWidget::scannerSwitch() { return *parts_->scannerSwitch; }
@@ -360,7 +362,9 @@ void AwizoWysylkiWidget::start() {
 
 void AwizoWysylkiWidget::showStates() {
   if (parts_->commands != nullptr) parts_->commands->follow();
-  showText(*parts_->status.address, fromText(parts_->watch.address()));
+  const QString address = fromText(parts_->watch.address());
+  parts_->status.address->setText(address);
+  parts_->status.address->setToolTip(address);
 }
 
 void AwizoWysylkiWidget::showStandingSoon() {
@@ -372,7 +376,7 @@ void AwizoWysylkiWidget::showStandingSoon() {
 
 void AwizoWysylkiWidget::showStanding() {
   standingIsDue_ = false;
-  showText(*parts_->status.standing, fromText(parts_->watch.status()));
+  parts_->status.standing->setWords(fromText(parts_->watch.status()));
   emit standingChanged();
 }
 

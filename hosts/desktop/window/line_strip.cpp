@@ -4,13 +4,7 @@
 
 namespace awizo::desktop {
 
-LineStrip::LineStrip(const Editor& editor) : editor_(editor), line_(editor) {
-  setObjectName("lineStrip");
-  setTextFormat(Qt::PlainText);
-  setTextInteractionFlags(Qt::TextSelectableByMouse);
-  setFocusPolicy(Qt::NoFocus);
-  // A long line is cut at the window's edge and is whole in its tip.
-  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+LineStrip::LineStrip(const Editor& editor) : LongText("lineStrip"), editor_(editor), line_(editor) {
   observation_ =
       editor.form.grdPozycje.observers.add([this](const Change& change) { follow(change); });
   showWords();
@@ -37,9 +31,7 @@ void LineStrip::follow(const Change& change) {
 
 void LineStrip::showWords() {
   due_ = false;
-  const QString words = fromText(line_.words());
-  setText(words);
-  setToolTip(words);
+  setWords(fromText(line_.words()));
 }
 
 }  // namespace awizo::desktop

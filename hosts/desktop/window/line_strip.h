@@ -1,15 +1,14 @@
 #pragma once
 
-#include <QLabel>
-
 #include "desk/current_line.h"
+#include "hosts/desktop/layouts/long_text.h"
 #include "session/record/editor.h"
 
 namespace awizo::desktop {
 
 /// The current line in words, below the table of lines. It belongs to its window, which goes before
 /// the editor.
-class LineStrip : public QLabel {
+class LineStrip : public LongText {
  public:
   explicit LineStrip(const Editor& editor);
   ~LineStrip() override;

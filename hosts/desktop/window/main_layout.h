@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "hosts/desktop/faces/form_face.h"
+#include "hosts/desktop/layouts/long_text.h"
 #include "session/record/editor.h"
 
 namespace awizo::desktop {
@@ -12,8 +13,8 @@ namespace awizo::desktop {
 /// of the form.
 struct Status {
   QWidget* line = nullptr;
-  QLabel* address = nullptr;   ///< where documents are sent to
-  QLabel* standing = nullptr;  ///< what was done last
+  QLabel* address = nullptr;     ///< where documents are sent to
+  LongText* standing = nullptr;  ///< what was done last
 };
 
 /// Puts every face of the main form into the form's window. `lineStrip` comes below the lines.

@@ -79,6 +79,7 @@ void PackingPane::makeViews() {
   packages_->setAccessibleName(fromText(words::packingPackages));
   packages_->header()->setSectionResizeMode(PackingPlacesModel::name, QHeaderView::Stretch);
   for (QTreeView* view : {lines_, packages_}) {
+    view->setMinimumHeight(view->fontMetrics().height() * 6);
     // Rows of one height need not be measured each.
     view->setUniformRowHeights(true);
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -12,6 +12,7 @@
 #include "hosts/desktop/faces/button_face.h"
 #include "hosts/desktop/faces/table_face.h"
 #include "hosts/desktop/layouts/fields.h"
+#include "hosts/desktop/layouts/flowing_groups.h"
 #include "hosts/desktop/layouts/wrapping.h"
 #include "hosts/desktop/window/column_fill.h"
 #include "hosts/desktop/window/main_layout.h"
@@ -90,14 +91,15 @@ QLayout* makeWays(AwizoForm& form, FormFace& faces) {
   return row;
 }
 
-/// A text that is cut where it is too long, and is whole in its tip.
-QLabel* makeLongText(const char* name) {
+/// Cut where it is too long, and whole in its tip.
+QLabel* makeAddress() {
   auto* text = new QLabel;
-  text->setObjectName(name);
+  text->setObjectName("lblUploadUrl");
   text->setTextFormat(Qt::PlainText);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   text->setFocusPolicy(Qt::NoFocus);
   text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  text->setMinimumWidth(text->fontMetrics().averageCharWidth() * 16);
   return text;
 }
 
@@ -170,18 +172,27 @@ QWidget* makeTotals(AwizoForm& form, FormFace& faces) {
 }
 
 Status makeStatus(AwizoForm& form, FormFace& faces) {
-  auto* line = new QWidget;
+  auto* line = new Wrapped;
   auto* row = new QHBoxLayout(line);
   row->setContentsMargins(2, 0, 2, 0);
-  row->setSpacing(12);
+  auto* parts = new FlowingGroups;
+  parts->setSpacing(12);
+  row->addLayout(parts);
+
+  auto* where = new QWidget;
+  auto* whereRow = new QHBoxLayout(where);
+  whereRow->setContentsMargins(0, 0, 0, 0);
+  whereRow->setSpacing(12);
   QWidget* state = faces.widget(form.lblOnLineStatus);
   makeBold(*state);
-  row->addWidget(state);
-  QLabel* address = makeLongText("lblUploadUrl");
-  row->addWidget(address, 2);
-  QLabel* standing = makeLongText("lblStanding");
-  row->addWidget(standing, 3);
-  row->addWidget(faces.widget(form.lblVersion));
+  whereRow->addWidget(state);
+  QLabel* address = makeAddress();
+  whereRow->addWidget(address, 1);
+  parts->addGroup(where, 2);
+  auto* standing = new LongText("lblStanding");
+  standing->setMinimumWidth(standing->fontMetrics().averageCharWidth() * 40);
+  parts->addGroup(standing, 3);
+  parts->addGroup(faces.widget(form.lblVersion), 0);
   return {line, address, standing};
 }
 

@@ -1,30 +1,5 @@
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QLocale>
-#include <cstdio>
-#include <cstdlib>
-
-namespace {
-
-/// What the platform can't do without a screen isn't worth a line each time.
-void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
-  if (text.startsWith("This plugin does not support")) return;
-  std::fprintf(stderr, "%s\n", qPrintable(text));
-  if (type == QtFatalMsg) std::abort();
-}
-
-}  // namespace
+#include "support/desktop/offscreen.h"
 
 int main(int count, char** arguments) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  // The user's own style and platform theme would change sizes and colours.
-  qputenv("QT_QPA_PLATFORMTHEME", "");
-  qInstallMessageHandler(keepQuiet);
-  QApplication application(count, arguments);
-  QApplication::setStyle("Fusion");
-  QLocale::setDefault(QLocale("ru_RU"));
-  QApplication::setQuitOnLastWindowClosed(false);
-  testing::InitGoogleTest(&count, arguments);
-  return RUN_ALL_TESTS();
+  return awizo::test::runOffscreen(count, arguments, QSize(800, 800));
 }

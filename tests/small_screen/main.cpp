@@ -1,0 +1,5 @@
+#include "support/desktop/offscreen.h"
+
+int main(int count, char** arguments) {
+  return awizo::test::runOffscreen(count, arguments, QSize(800, 600));
+}
