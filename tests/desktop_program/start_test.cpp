@@ -37,6 +37,24 @@ TEST_F(StartTest, OnLineShowsTheAddressFirstAndRemembersTheAgreement) {
   EXPECT_TRUE(widget().hasStarted()) << "an agreed address isn't asked about again";
 }
 
+TEST_F(StartTest, ShowsNothingOfTheFormBehindItsQuestions) {
+  const DemoService service(place.posted());
+  show(onLineOptions(service));
+  bool asked = false;
+  then([&] {
+    asked = true;
+    for (const Control* control : form().controls()) {
+      const QWidget* shown = face(*control).widget();
+      EXPECT_TRUE(!shown->isVisible() || shown->visibleRegion().isEmpty()) << control->name();
+    }
+    press(Qt::Key_Return);
+  });
+  waitForStart();
+  EXPECT_TRUE(asked);
+  EXPECT_FALSE(face(form().txtNrAwiza).widget()->visibleRegion().isEmpty());
+  EXPECT_FALSE(face(form().comboStawkaVAT).widget()->isVisible());
+}
+
 TEST_F(StartTest, WithoutTheUsersAgreementNothingIsSentAndTheStartPageSaysWhy) {
   const DemoService service(place.posted());
   show(onLineOptions(service));

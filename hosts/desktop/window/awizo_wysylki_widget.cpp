@@ -181,6 +181,7 @@ AwizoWysylkiWidget::AwizoWysylkiWidget(const GivenParts& given, QWidget* parent)
     packingPane().show();
     parts.nameParts(true);
   }
+  makeCurtain();
 }
 
 /// Few want it at the start, so it is made when it is asked for.
@@ -224,6 +225,18 @@ void AwizoWysylkiWidget::growWindow() {
     whole.resize(whole.size() + QSize(missing, 0));
   }
   parts_->whole->turn();
+}
+
+/// Before its start the control's form holds what the start takes away, and a question may stand
+/// before that.
+void AwizoWysylkiWidget::makeCurtain() {
+  curtain_ = new QWidget(this);
+  curtain_->setAutoFillBackground(true);
+}
+
+void AwizoWysylkiWidget::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (curtain_ != nullptr) curtain_->resize(size());
 }
 
 ScannerSwitch& AwizoWysylkiWidget::scannerSwitch() { return *parts_->scannerSwitch; }
@@ -350,6 +363,7 @@ void AwizoWysylkiWidget::start() {
     return;
   }
   started_ = true;
+  delete curtain_;
   if (parts_->tape.replaying()) {
     replayOr([this] { parts_->recording.replay(); });
   } else {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLocale>
+#include <QPointer>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -112,11 +113,13 @@ class AwizoWysylkiWidget : public QWidget {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   struct Parts;
 
   void connectRecording();
+  void makeCurtain();
   void growWindow();
   void tellOfRecording(const std::string& why);
   template <class Replay>
@@ -129,6 +132,7 @@ class AwizoWysylkiWidget : public QWidget {
   void showStanding();
 
   std::unique_ptr<Parts> parts_;
+  QPointer<QWidget> curtain_;  ///< over all that is shown, until the control starts
   bool startAsked_ = false;
   bool started_ = false;
   bool replayFailed_ = false;
