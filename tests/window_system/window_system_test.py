@@ -273,19 +273,17 @@ class WindowSystemTest(unittest.TestCase):
                 ("Товарные позиции", "F2", "Издание продукта"),
                 ("Товарные позиции", "Insert", "Добавь продукт"),
                 ("Упаковки", "Insert", "Добавить упаковку"),
-                (None, "ctrl+g", ""),
+                (None, "ctrl+g", "ISO коды стран."),
                 (None, "ctrl+f", "Найти строку"),
-                (None, "F8", ""),
-                (None, "ctrl+n", ""),
-                (None, "ctrl+d", ""),
-                (None, "F1", "")]:
+                (None, "F8", "Что не так: "),
+                (None, "ctrl+n", "Несколько упаковок"),
+                (None, "ctrl+d", "Разложить по упаковкам"),
+                (None, "F1", "Руководство пользователя")]:
             with self.subTest(key=key, place=place):
                 if place is not None:
                     editor.tab_to(place)
                 press(key)
-                wait_for(f"a dialog after {key}", lambda: editor.active_window() is not None and
-                         editor.active_window().get_name() != main)
-                self.expect_names(editor.wait_for_window(title))
+                self.in_dialog(editor, title)
                 press("Escape")
                 editor.wait_for_window(main)
         # What shows itself in the window.
@@ -394,10 +392,75 @@ class WindowSystemTest(unittest.TestCase):
 
     def test_no_control_of_the_start_page_or_the_file_dialog_is_nameless(self):
         editor = self.editor()
-        self.expect_names(editor.wait_for_window(""))
+        self.in_dialog(editor, MAIN_TITLE)
+        self.assertTrue(editor.find(ROLE.PUSH_BUTTON, "Новый документ"))
         editor = self.off_line()
         press("ctrl+o")
-        self.expect_names(editor.wait_for_window("Прочитать"))
+        self.in_dialog(editor, "Прочитать")
+        press("Escape")
+        editor.wait_for_window(MAIN_TITLE)
+        document = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory())) / "saved.xml"
+        shutil.copy(PROJECT / "samples/despatch-advice.xml", document)
+        editor = self.editor(document)
+        self.answer_boxes(editor, "ОТГ-0318")
+        press("ctrl+s")
+        self.answer_boxes(editor, "Записать")
+        self.in_dialog(editor, "Записать")
+
+    @staticmethod
+    def answer_boxes(editor, title):
+        """Enter answers what is told or asked until a window with this title is there."""
+        def is_there():
+            window = editor.active_window()
+            if window is None:
+                return False
+            if window.get_name().startswith(title):
+                return True
+            if window.get_name().startswith("VIRD"):
+                press("Return")
+                time.sleep(0.1)
+            return False
+        wait_for(f"the window «{title}»", is_there)
+
+    def in_question(self, editor, *buttons):
+        """A box with just these buttons, the words of which are heard."""
+        box = self.in_dialog(editor, "VIRD")
+        self.assertEqual([heard_name(control) for control in acted_on(box)], list(buttons))
+        words = [thing.get_name() for thing in within(box) if thing.get_role() == ROLE.LABEL]
+        self.assertTrue(any(len(heard) > 20 for heard in words), words)
+
+    def test_no_button_of_any_question_is_nameless(self):
+        editor = self.editor(self.launch_file())
+        self.in_question(editor, "Да", "Нет")
+        editor.find(ROLE.PUSH_BUTTON, "Нет").do_action(0)
+        editor.wait_for_window(MAIN_TITLE)
+        # Why there is no session, and the way back to it.
+        again = editor.find(ROLE.PUSH_BUTTON, "Попробовать ещё раз")
+        self.expect_names(editor.active_window())
+        again.do_action(0)
+        self.in_question(editor, "Да", "Нет")
+        editor.find(ROLE.PUSH_BUTTON, "Да").do_action(0)
+        main = editor.wait_for_window("Без номера").get_name()
+        for key in ("ctrl+q", "ctrl+o"):
+            with self.subTest(key=key):
+                press(key)
+                self.in_question(editor, "Сохранить…", "Не сохранять", "Отмена")
+                self.assertTrue(editor.is_at("Отмена"))
+                press("Return")
+                editor.wait_for_window(main)
+        self.choose_last(editor, "Справка")
+        self.in_dialog(editor, "О программе")
+        press("Return")
+        editor.wait_for_window(main)
+        # What a kill leaves behind is offered at the next start.
+        editor.programs[0].kill()
+        editor.programs[0].wait()
+        editor.programs.insert(0, editor.start())
+        self.in_question(editor, "Продолжить", "Начать заново", "Отложить")
+        self.assertTrue(editor.is_at("Отложить"))
+        press("Escape")
+        self.in_dialog(editor, MAIN_TITLE)
+        self.assertTrue(editor.find(ROLE.PUSH_BUTTON, "Продолжить"))
 
     def test_the_tab_key_leads_round_and_every_stop_says_its_name(self):
         editor = self.off_line()
