@@ -19,6 +19,7 @@ import { PackingPane } from "./packing_pane.ts";
 import { printSheets } from "./sheets.ts";
 import { localeOf, startOf } from "./start.ts";
 import { styles } from "./styles.ts";
+import { KeysAhead } from "./keys_ahead.ts";
 import { ListFace } from "./list_face.ts";
 import { TableFace } from "./table_face.ts";
 import { TypingWatch } from "./typing_watch.ts";
@@ -96,6 +97,7 @@ export class AwizoWysylki extends ControlElement {
   private scanned: Scanned = { fields: [], tables: [] };
   private standingTimer: ReturnType<typeof setTimeout> | undefined;
   private readonly typing = new TypingWatch(this.root);
+  private readonly ahead = new KeysAhead(this.root, () => this.closingOf({ get: "focus" }));
   /// Where the user has gone to another control and the core doesn't know it yet: what it says of the
   /// focus there is old.
   private readonly ways = new Set<{ view: FormView }>();
@@ -132,6 +134,7 @@ export class AwizoWysylki extends ControlElement {
   private forget(): void {
     this.views.clear();
     this.ways.clear();
+    this.ahead.forget();
     for (const known of [this.kinds, this.forms]) for (const name of Object.keys(known)) delete known[name];
     this.shown.length = 0;
     this.box = undefined;
@@ -280,6 +283,7 @@ export class AwizoWysylki extends ControlElement {
   /// While work lasts that nothing can stop, what the user does would be lost: nothing can be done.
   private holdStill(): void {
     const isStill = this.work !== undefined && !this.work.mayStop;
+    if (isStill) this.ahead.forget();
     for (const child of this.root.children) {
       (child as HTMLElement).inert = isStill && child !== this.box && child !== this.heard;
     }
@@ -402,6 +406,7 @@ export class AwizoWysylki extends ControlElement {
       if (harmless !== undefined) this.answer(harmless);
     });
     this.box = element;
+    this.ahead.forget();
     this.beforeBox = this.keeper();
     this.root.append(element);
     element.showModal();
@@ -548,7 +553,8 @@ export class AwizoWysylki extends ControlElement {
     if (command !== undefined) {
       event.preventDefault();
       event.stopPropagation();
-      return void this.choose(command);
+      void this.choose(command);
+      return void this.ahead.wait();
     }
     if (isCopy(event) && top.face(top.focus) instanceof TableFace) {
       event.preventDefault();
@@ -560,6 +566,7 @@ export class AwizoWysylki extends ControlElement {
     if (!isModels || top.focus === "" || isFromExtra) return;
     event.preventDefault();
     void this.host().act(top.focus, { do: "key", code: event.keyCode, shift: event.shiftKey });
+    void this.ahead.wait();
   }
 
   private keep(name: string, value: string): void {

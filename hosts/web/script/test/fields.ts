@@ -51,6 +51,23 @@ await withPage(async (page) => {
   });
   assert.equal(wentBack, 0);
 
+  // Keys that come before the focus has moved on are those of the next field, in their order.
+  const typed = await user.field("txtNrAwiza").evaluate(async (from: HTMLInputElement) => {
+    const root = from.getRootNode() as ShadowRoot;
+    const core = root.host as unknown as { say(line: object): Promise<unknown> };
+    from.focus();
+    await core.say({ get: "standing" });
+    const press = (key: string, keyCode: number) => from.dispatchEvent(
+      new KeyboardEvent("keydown", { key, keyCode, bubbles: true, composed: true, cancelable: true }));
+    for (let tabs = 0; tabs < 3; ++tabs) press("Tab", 9);
+    const atOnce = [press("7", 55), press("8", 56)];
+    while (root.activeElement === from) await core.say({ get: "standing" });
+    for (let turn = 0; turn < 5; ++turn) await core.say({ get: "standing" });
+    const field = root.activeElement as HTMLInputElement;
+    return [...atOnce, field.closest<HTMLElement>("[data-name]")!.dataset["name"], field.value];
+  });
+  assert.deepEqual(typed, [false, false, "txtNrZam", "ЗК-2026/114778"]);
+
   // A scanner types into the package's number and a product's EAN.
   const scanned = async (field: Locator, text: string) => {
     const input = (await field.elementHandle()) as unknown as HTMLInputElement;
