@@ -115,14 +115,16 @@ void ServedDesk::serve(protocol::ControlAccess& access) {
     }
     return commands;
   };
-  dispatcher.records["scanned"] = [this, &access] {
+  dispatcher.records["typedInto"] = [this, &access] {
     Json fields = Json::array();
     for (const ScannedField& field : scannedTyping_.fields()) {
       fields.push_back(access.forms().nameOf(field.control));
     }
     Json tables = Json::array();
     for (const Table* table : scannedTables(control_.form)) tables.push_back(table->name());
-    return Json{{"fields", std::move(fields)}, {"tables", std::move(tables)}};
+    return Json{{"fields", std::move(fields)},
+                {"tables", std::move(tables)},
+                {"lists", Json::array({access.forms().nameOf(&control_.dlgIsoCodes.grdISO)})}};
   };
   dispatcher.clientActions["scan"] = [this, &access](const Json& line) {
     scan(access.forms().control(protocol::textMember(line, "on")), line);
@@ -305,6 +307,11 @@ bool ServedDesk::takeKey(Control& control, const Json& line) {
   const std::vector<Table*> scanned = scannedTables(control_.form);
   const bool scans = std::ranges::find(scanned, &control) != scanned.end();
   if (scans && !key.control && finder_.takeKey(key.code)) return true;
+  if (&control == &control_.dlgIsoCodes.grdISO && line.contains("text")) {
+    const auto row = countries_.rowTyped(protocol::textMember(line, "text"));
+    if (row) control_.dlgIsoCodes.grdISO.userRow(*row);
+    return true;
+  }
   if (protocol::booleanMember(line, "shift", false)) return false;
   for (const Command& command : commands_) {
     if (command.place != &control || std::ranges::find(command.keys, key) == command.keys.end()) {
@@ -314,7 +321,7 @@ bool ServedDesk::takeKey(Control& control, const Json& line) {
     return true;
   }
   if (auto* table = dynamic_cast<Table*>(&control)) {
-    if (const auto row = rowOfKey(*table, key, line)) {
+    if (const auto row = rowOfKey(*table, key)) {
       table->userRow(*row);
       return true;
     }
@@ -322,13 +329,11 @@ bool ServedDesk::takeKey(Control& control, const Json& line) {
   return key.control;
 }
 
-std::optional<int> ServedDesk::rowOfKey(const Table& table, const CommandKey& key,
-                                        const Json& line) {
+std::optional<int> ServedDesk::rowOfKey(const Table& table, const CommandKey& key) {
   if (key.control && key.code == keys::home) return table.firstRow();
   if (key.control && key.code == keys::end) return table.lastRow();
   if (key.control || &table != &control_.dlgIsoCodes.grdISO) return std::nullopt;
-  return line.contains("text") ? countries_.rowTyped(protocol::textMember(line, "text"))
-                               : countries_.rowOfKey(key.code);
+  return countries_.rowOfKey(key.code);
 }
 
 void ServedDesk::startAgain() {

@@ -41,27 +41,27 @@ struct DeskMachine {
 ///   {"get":"standing"}    {"title":"ТН-6 *","status":"...","address":"...","isUnsent":true}
 ///   {"get":"markedText"}  the marked cells of the table that has the focus, as Ctrl+C takes them
 ///   {"do":"followDesk"}   from now on the user is asked before the document would be lost, keys in
-///                         tables are those of commands and scanners too, with "control", and with
-///                         the "text" that they type, and events tell the
-///                         current line in words, work that lasts, and words beside the boxes
+///                         tables are those of commands and scanners too (with "control", with the
+///                         "text" that they type), and events tell the current line in words, work
+///                         that lasts, and words beside the boxes
 ///   {"do":"bring","name":"awizo.xml","from":"c:\\.brought"}
 ///                         puts a file into the local folder, and opens it where a document is
 ///                         being chosen
 ///   {"get":"packing"}     what lies where: see packing_records.h
 ///   {"do":"packRest","lines":[1,2],"package":3}   the rest of these lines into that package
 ///   {"do":"stop"}         ends the work of an assistant
-///   {"do":"command","task":"scannerPacks"}   turns that switch, and {"event":"switch",...} tells
-///   how
-///                         it stands
-///   {"get":"scanned"}     {"fields":[...],"tables":[...]}: into which a scanner types
+///   {"do":"command","task":"scannerPacks"}
+///                         turns that switch, and {"event":"switch",...} tells how it stands
+///   {"get":"typedInto"}   {"fields":[...],"tables":[...],"lists":[...]}: a scanner types into the
+///                         first two, the user into lists to find a row
 ///   {"do":"scan","on":"DlgSzczegoly.txtSerialNumberN","text":"(","begins":true}
 ///                         a character typed into one of these fields, where nothing else will be
 ///                         in it; without "begins" one that was typed before such a line was
 ///                         answered, and none where no more follows; with "isWhole" a text that was
 ///                         pasted. {"event":"typed",...} tells what the field holds then
-///   {"do":"scanKey","code":52,"package":3}   a key where what lies where is shown, on that
-///   package;
-///                         refused where it is none of a scanned code's
+///   {"do":"scanKey","code":52,"package":3}
+///                         a key where what lies where is shown, on that package; refused where it
+///                         is none of a scanned code's
 ///   {"do":"showPapersOf","path":"c:\\VIRD\\a.xml"}   after {"event":"chooseDocument"}: papers of
 ///                         that saved document; "name" is what the user calls it, where the path
 ///                         is one for a while
@@ -94,9 +94,8 @@ class ServedDesk {
   /// What the user does to a control of the form.
   void takeAct(Control* control, const Json& line, const std::function<void()>& act);
   bool takeKey(Control& control, const Json& line);
-  /// Where a key leads: Home and End with Ctrl in every table, without it and characters in one
-  /// that is a list.
-  std::optional<int> rowOfKey(const Table& table, const CommandKey& key, const Json& line);
+  /// Where Home and End lead: with Ctrl in every table, without it in one that is a list.
+  std::optional<int> rowOfKey(const Table& table, const CommandKey& key);
   void startAgain();
   void bring(const Json& line);
   void addPackages();

@@ -146,7 +146,7 @@ TEST_F(DeskTest, ACodeIsScannedOutsideOfTheTablesTooOntoThePackageThere) {
 
 TEST_F(DeskTest, AScannersMarksAreCutOffBeforeANumberField) {
   constexpr std::string_view number = "DlgSzczegoly.txtSerialNumberN";
-  const Json scanned = editor.get("scanned");
+  const Json scanned = editor.get("typedInto");
   EXPECT_EQ(scanned["tables"], Json({"grdPozycje", "grdOpakowania"}));
   EXPECT_EQ(scanned["fields"], Json({number, "DlgDodaj.txtlEANProdWart", "DlgDodaj.cboxEANProd"}));
   const auto typed = [&](const Json& more) {
@@ -225,6 +225,9 @@ TEST_F(DeskTest, KeysAndCharactersLeadToACountry) {
   editor.act({{"do", "key"}, {"on", countries}, {"code", 0}, {"text", last.substr(0, 2)}});
   EXPECT_EQ(editor.cellText(countries, row(countries), 0).substr(0, 2), last.substr(0, 2));
   EXPECT_GT(row(countries), 1);
+  const int found = row(countries);
+  editor.act({{"do", "key"}, {"on", countries}, {"code", 0}, {"text", "#"}});
+  EXPECT_EQ(row(countries), found) << "no country begins so";
   editor.close("DlgIsoCodes");
 }
 

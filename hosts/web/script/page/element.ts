@@ -8,7 +8,7 @@ import { dateForm } from "./date_form.ts";
 import { DeskStrip } from "./desk_strip.ts";
 import { Commands } from "./commands.ts";
 import type {
-  Box, Changes, Closing, Command, ControlFacts, Event as CoreEvent, FormFacts, Packing, Question, Scanned, Standing, Work,
+  Box, Changes, Closing, Command, ControlFacts, Event as CoreEvent, FormFacts, Packing, Question, Standing, TypedInto, Work,
 } from "./facts.ts";
 import { extraButtons, firstExtra, isExtra } from "./extra_buttons.ts";
 import type { Host } from "./face.ts";
@@ -94,7 +94,7 @@ export class AwizoWysylki extends ControlElement {
   private readonly heard = make("output", { class: "heard", lang: "ru" });
   private isUnsent = false;
   private startsAgain = false;
-  private scanned: Scanned = { fields: [], tables: [] };
+  private typedInto: TypedInto = { fields: [], tables: [], lists: [] };
   private standingTimer: ReturnType<typeof setTimeout> | undefined;
   private readonly typing = new TypingWatch(this.root);
   private readonly ahead = new KeysAhead(this.root, () => this.closingOf({ get: "focus" }));
@@ -161,20 +161,20 @@ export class AwizoWysylki extends ControlElement {
   private async begin(core: CoreClient, opens = false): Promise<void> {
     // All is said at once: the core goes on while the page makes what it shows.
     const commands = Promise.all([
-      core.say({ get: "commands" }), core.say({ get: "dialogCommands" }), core.say({ get: "scanned" }),
+      core.say({ get: "commands" }), core.say({ get: "dialogCommands" }), core.say({ get: "typedInto" }),
     ]);
     const properties = this.readProperties();
     for (const what of ["followDesk", "followSteps", "followFiles"]) void core.say({ do: what });
     const following = core.say({ do: "subscribe" });
     // Work that was gone on with is shown already.
     const showing = core.say({ do: "showUnlessShown" });
-    const [menus, ofDialogs, scanned] = await commands;
+    const [menus, ofDialogs, typedInto] = await commands;
     // It may be the start page's turn.
     if (this.core !== core || !menus.ok) return;
     const ofMenus = (menus.value as { commands: Command[] }[]).flatMap((menu) => menu.commands);
     this.commands.take([...ofMenus, ...(ofDialogs.value as Command[])]);
     this.strip.showCommands(ofMenus);
-    this.scanned = scanned.value as Scanned;
+    this.typedInto = typedInto.value as TypedInto;
     await properties;
     const followed = await following;
     if (this.core !== core) return;
@@ -319,7 +319,7 @@ export class AwizoWysylki extends ControlElement {
   private makeViews(): void {
     const dates = dateForm(localeOf(this));
     for (const [name, layout] of Object.entries({ [mainName]: mainForm, [startName]: startPage, ...dialogs })) {
-      const view = new FormView(name, layout, this.kinds, this.host(), this.commands, dates, this.scanned);
+      const view = new FormView(name, layout, this.kinds, this.host(), this.commands, dates, this.typedInto);
       for (const [control, facts] of Object.entries(this.kinds)) view.showControl(control, facts);
       this.views.set(name, view);
     }

@@ -96,10 +96,12 @@ export interface Command {
   isOn?: boolean;
 }
 
-/// Fields and tables into which a scanner types.
-export interface Scanned {
+export interface TypedInto {
+  /// Into which a scanner types.
   fields: string[];
   tables: string[];
+  /// Tables in which the user types to find a row.
+  lists: string[];
 }
 
 /// How the document stands.

@@ -6,7 +6,7 @@ import type { DateForm } from "./date_form.ts";
 import { make } from "./dom.ts";
 import { drawn } from "./sheets.ts";
 import { Face, type Host } from "./face.ts";
-import type { ControlFacts, FormFacts, Scanned } from "./facts.ts";
+import type { ControlFacts, FormFacts, TypedInto } from "./facts.ts";
 import { besideTheirHeading, mainForms, overCells, ownWords, type Group } from "./layouts.ts";
 import { ListFace } from "./list_face.ts";
 import { DateFace, TimeFace } from "./picker_faces.ts";
@@ -26,7 +26,7 @@ export class FormView {
   constructor(
     readonly name: string, layout: Group, private readonly kinds: Record<string, ControlFacts>,
     private readonly host: Host, private readonly commands: Commands,
-    private readonly dates: DateForm, private readonly scanned: Scanned,
+    private readonly dates: DateForm, private readonly typedInto: TypedInto,
   ) {
     this.prefix = mainForms.has(name) ? "" : `${name}.`;
     this.element = this.group(layout);
@@ -73,7 +73,7 @@ export class FormView {
     const name = this.prefix + shortName;
     const face = this.makeFace(name);
     this.faces.set(name, face);
-    if (this.scanned.fields.includes(name)) face.takeScans();
+    if (this.typedInto.fields.includes(name)) face.takeScans();
     return face.element;
   }
 
@@ -94,7 +94,7 @@ export class FormView {
       case "spinButtons":
         return new SpinFace(name, this.host);
       case "table":
-        return new TableFace(name, this.host, words ?? "", this.scanned.tables.includes(name), this.overCell(name));
+        return new TableFace(name, this.host, words ?? "", this.typedInto, this.overCell(name));
       case "driveList":
         return new PlainListFace(name, this.host, words ?? "", "drive");
       case "folderList":

@@ -2,7 +2,7 @@
 
 import { make } from "./dom.ts";
 import { Face, type Host } from "./face.ts";
-import type { ControlFacts, Row } from "./facts.ts";
+import type { ControlFacts, Row, TypedInto } from "./facts.ts";
 
 const rowHeight = 30;
 const surplus = 10;
@@ -30,13 +30,17 @@ export class TableFace extends Face {
   private pressed: Cell | undefined;
   private readonly id = `table-${++lastNumber}`;
 
-  constructor(name: string, host: Host, label: string, private readonly isScanned: boolean,
-    private readonly overCell?: HTMLElement) {
+  private readonly isScanned: boolean;
+  private readonly isList: boolean;
+
+  constructor(name: string, host: Host, label: string, typedInto: TypedInto, private readonly overCell?: HTMLElement) {
     const heading = make("div", { class: "row heading", role: "row", "aria-rowindex": 1 });
     const body = make("div", { class: "rows", role: "rowgroup" });
     super(name, make("div", { class: "table", role: "grid", tabindex: 0, "aria-label": label }, [
       make("div", { role: "rowgroup", class: "head" }, [heading]), body,
     ]), host);
+    this.isScanned = typedInto.tables.includes(name);
+    this.isList = typedInto.lists.includes(name);
     this.heading = heading;
     this.body = body;
     this.element.addEventListener("scroll", () => this.seeRows());
@@ -216,12 +220,14 @@ export class TableFace extends Face {
 
   private pressKey(event: KeyboardEvent): void {
     const withControl = event.ctrlKey && (event.key === "Home" || event.key === "End");
-    const isTaken = event.defaultPrevented || (event.ctrlKey && !withControl) || event.altKey || event.target !== this.element;
+    if (event.defaultPrevented || (event.ctrlKey && !withControl) || event.altKey || event.target !== this.element) return;
     const isDigit = this.isScanned && event.key >= "0" && event.key <= "9";
-    if (isTaken || !(isDigit || keys.has(event.key))) return;
+    const isTyped = this.isList && event.key !== " " && [...event.key].length === 1;
+    if (!(isDigit || isTyped || keys.has(event.key))) return;
     event.preventDefault();
     event.stopPropagation();
     this.reveal();
+    if (isTyped) return void this.act({ do: "key", code: 0, text: event.key });
     void this.act({
       do: "key", code: isDigit ? event.key.charCodeAt(0) : event.keyCode, shift: event.shiftKey && !isDigit,
       ...(withControl ? { control: true } : {}),

@@ -136,5 +136,16 @@ await withPage(async (page) => {
   await page.keyboard.press("Control+g");
   await user.dialog("DlgIsoCodes").waitFor();
   await user.picture("countries");
+  const countries = user.control("DlgIsoCodes.grdISO");
+  const isCurrent = (text: RegExp) => countries.locator(".row.current").filter({ hasText: text }).waitFor();
+  await page.keyboard.press("End");
+  await isCurrent(/Япония/);
+  await page.keyboard.press("Home");
+  await isCurrent(/Австралия/);
+  // Keys of the Russian layout can only be made.
+  await countries.evaluate((table) => {
+    for (const key of "пол") table.dispatchEvent(new KeyboardEvent("keydown", { key, bubbles: true, composed: true, cancelable: true }));
+  });
+  await isCurrent(/Польша/);
 });
 console.log("Fields were filled in the page.");
