@@ -324,7 +324,12 @@ TEST_P(SmallScreenTest, HoldsTheDialogThatSaves) {
 TEST_P(SmallScreenTest, HoldsThePapersAndTheNumbers) {
   openDocument();
   for (const Paper paper : {Paper::labels, Paper::packingList, Paper::packageSheets}) {
-    expectDialog("papers", [&] { widget().paperMaker().show(paper); });
+    expectDialog(
+        "papers", [&] { widget().paperMaker().show(paper); },
+        [] {
+          const auto* area = QApplication::activeModalWidget()->findChild<QScrollArea*>();
+          EXPECT_EQ(area->verticalScrollBar()->maximum(), 0) << "the buttons are in sight";
+        });
   }
   expectDialog("the numbers", [&] { widget().showNumberRange(); });
 }

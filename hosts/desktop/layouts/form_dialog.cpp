@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "hosts/desktop/layouts/wrapping.h"
 
@@ -41,12 +42,14 @@ QSize FormDialog::roomWanted() {
   if (content_ == nullptr) return wanted.boundedTo(room);
   const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
   // What has no room side by side stands one below the other.
-  if (wanted.width() > room.width() && content_->hasHeightForWidth()) {
-    wanted.rheight() +=
-        content_->heightForWidth(room.width() - bar) - content_->sizeHint().height();
+  if (content_->hasHeightForWidth()) {
+    const QSize usual = content_->sizeHint();
+    const int width = wanted.width() > room.width() ? room.width() - bar : usual.width();
+    wanted.rheight() += std::max(content_->heightForWidth(width) - usual.height(), 0);
   }
-  // Where it scrolls, the bar stands beside the content.
-  if (wanted.height() > room.height()) wanted.rwidth() += bar;
+  // Where it scrolls, the bar stands beside the content. Content that flows is tried beside it even
+  // where it needn't scroll, and must not be higher then.
+  if (wanted.height() > room.height() || content_->hasHeightForWidth()) wanted.rwidth() += bar;
   return wanted.boundedTo(room);
 }
 

@@ -16,12 +16,14 @@
 namespace awizo::desktop {
 
 PaperView::PaperView(const PapersDialog& form) : form_(form) {
-  setMinimumSize(QSize(1, 1) * (fontMetrics().height() * 12));
+  setMinimumSize(QSize(1, 1) * (fontMetrics().height() * 8));
   setAccessibleName(fromText(words::paperPreview));
 }
 
 QSize PaperView::sizeHint() const {
-  return QSize(1, 1) * std::min(fontMetrics().height() * 26, roomFor(*this).height() * 3 / 5);
+  const int line = fontMetrics().height();
+  // On a small screen it leaves room for what is above and below it.
+  return QSize(1, 1) * std::min(line * 26, roomFor(*this).height() - line * 13);
 }
 
 void PaperView::paintEvent(QPaintEvent*) {
@@ -53,6 +55,9 @@ void layOut(PapersDialog& form, FormDialog& dialog) {
   rows->addWidget(view, 1);
   static_cast<QLabel*>(faces.widget(form.lblNotes))->setWordWrap(true);
   rows->addWidget(faces.widget(form.lblNotes));
+  // The words come after the window has taken its room.
+  QWidget* sheet = faces.widget(form.lblSheet);
+  sheet->setMinimumWidth(sheet->fontMetrics().averageCharWidth() * 17);
   QHBoxLayout* sheets = makeRow(
       {faces.widget(form.btnPrevious), faces.widget(form.lblSheet), faces.widget(form.btnNext)});
   sheets->addStretch(1);
