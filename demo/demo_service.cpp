@@ -67,6 +67,7 @@ void fillCut(std::string reply, httplib::Response& response) {
 std::string typeOf(std::string_view file) {
   if (file.ends_with(".html")) return htmlType;
   if (file.ends_with(".mjs")) return "text/javascript";
+  if (file.ends_with(".png")) return "image/png";
   if (file.ends_with(".svg")) return "image/svg+xml";
   return file.ends_with(".wasm") ? "application/wasm" : xmlType;
 }
@@ -137,7 +138,7 @@ void DemoService::offerPage(const std::filesystem::path& folder) {
   server_.Get("/", [](const httplib::Request&, httplib::Response& response) {
     response.set_redirect(pagePath);
   });
-  server_.Get(R"(/(?:.*/)?page/([\w-]+\.(?:html|mjs|svg|wasm|xml)))",
+  server_.Get(R"(/(?:.*/)?page/((?:guide/(?:images/)?)?[\w-]+\.(?:html|mjs|png|svg|wasm|xml)))",
               [folder](const httplib::Request& request, httplib::Response& response) {
                 const std::string name = request.matches[1];
                 std::ifstream file(folder / name, std::ios::binary);

@@ -2,6 +2,7 @@
 
 #include "desk/host_boxes.h"
 #include "hosts/protocol/answers.h"
+#include "platform/forms/form.h"
 
 namespace awizo::headless {
 
@@ -16,6 +17,10 @@ BroughtPlace broughtBy(const protocol::Json& line, Files& files, std::string_vie
     conversation.ask(fileRefusal(name, error));
     return {};
   }
+}
+
+protocol::Json mayBringEvent(const Form& form, bool may) {
+  return {{"event", "mayBring"}, {"form", form.name()}, {"may", may}};
 }
 
 }  // namespace awizo::headless

@@ -12,4 +12,8 @@ namespace awizo::headless {
 BroughtPlace broughtBy(const protocol::Json& line, Files& files, std::string_view folder,
                        Conversation& conversation);
 
+/// {"event":"mayBring","form":"DlgWczytajZapisz","may":true}: whether files may be brought from
+/// elsewhere while the form is shown.
+protocol::Json mayBringEvent(const Form& form, bool may);
+
 }  // namespace awizo::headless

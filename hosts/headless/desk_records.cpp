@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -29,6 +30,7 @@ constexpr std::array tasks{
     NamedTask{HostTask::addPackages, "addPackages"},
     NamedTask{HostTask::distribute, "distribute"},
     NamedTask{HostTask::showNumbers, "showNumbers"},
+    NamedTask{HostTask::showGuide, "showGuide"},
     NamedTask{HostTask::showAbout, "showAbout"},
     NamedTask{HostTask::showLabels, "showLabels"},
     NamedTask{HostTask::showPacking, "showPacking"},
@@ -55,13 +57,14 @@ std::string keyWords(const CommandKey& key) {
       words = key.code >= keys::f1 ? "F" + std::to_string(key.code - keys::f1 + 1)
                                    : std::string(1, static_cast<char>(key.code));
   }
+  if (key.shift) words.insert(0, "Shift+");
   return key.control ? "Ctrl+" + words : words;
 }
 
 Json keysOf(const Command& command) {
   Json keys = Json::array();
   for (const CommandKey& key : command.keys) {
-    keys.push_back({{"code", key.code}, {"control", key.control}});
+    keys.push_back({{"code", key.code}, {"control", key.control}, {"shift", key.shift}});
   }
   return keys;
 }
@@ -72,13 +75,16 @@ Json jsonOf(const Command& command, const NameOf& nameOfControl) {
     return control == nullptr ? Json(nullptr) : Json(nameOfControl(control));
   };
   const bool presses = command.button != nullptr;
+  const std::string key = command.keys.empty() ? "" : keyWords(command.keys.front());
   return {{"words", command.plainWords()},
           {"icon", command.icon},
           {presses ? "on" : "task", presses ? name(command.button) : Json(taskName(command.task))},
           {"keys", keysOf(command)},
+          {"key", key},
           {"place", name(command.place)},
+          {"inDialogs", command.task == HostTask::showGuide},
           {"onCurrentRow", command.onCurrentRow},
-          {"tip", command.keys.empty() ? "" : command.tip(keyWords(command.keys.front()))}};
+          {"tip", key.empty() ? "" : command.tip(key)}};
 }
 
 }  // namespace
@@ -96,15 +102,26 @@ HostTask taskNamed(std::string_view name) {
   return found->task;
 }
 
+std::vector<CommandMenu> doneMenus(std::vector<CommandMenu> menus,
+                                   const std::function<bool(const Command& command)>& isDone) {
+  for (CommandMenu& menu : menus) {
+    for (std::vector<Command>& group : menu.groups) std::erase_if(group, std::not_fn(isDone));
+    std::erase_if(menu.groups, [](const auto& group) { return group.empty(); });
+  }
+  std::erase_if(menus, [](const CommandMenu& menu) { return menu.groups.empty(); });
+  return menus;
+}
+
 Json menusJson(const std::vector<CommandMenu>& menus, const std::function<bool(HostTask)>& isOn) {
   Json all = Json::array();
   for (const CommandMenu& menu : menus) {
     Json commands = Json::array();
-    for (const auto& group : menu.groups) {
-      for (const Command& command : group) {
-        Json& told = commands.emplace_back(
-            jsonOf(command, [](const Control* control) { return control->name(); }));
-        if (command.isSwitch) told["isOn"] = isOn(command.task);
+    for (std::size_t group = 0; group < menu.groups.size(); ++group) {
+      for (const Command& command : menu.groups[group]) {
+        Json one = jsonOf(command, [](const Control* control) { return control->name(); });
+        one["group"] = group;
+        if (command.isSwitch) one["isOn"] = isOn(command.task);
+        commands.push_back(std::move(one));
       }
     }
     all.push_back({{"heading", menu.heading}, {"commands", std::move(commands)}});

@@ -11,8 +11,12 @@
 
 namespace awizo::headless {
 
-/// The menus: each command with the button that it presses or its
-/// task, its keys, and the table on whose current row it acts; of a switch whether it is on.
+/// The menus without the commands that nobody does here.
+std::vector<CommandMenu> doneMenus(std::vector<CommandMenu> menus,
+                                   const std::function<bool(const Command& command)>& isDone);
+
+/// The menus: each command with the button that it presses or its task, the number of its group in
+/// the menu, its keys, and the table on whose current row it acts; of a switch whether it is on.
 protocol::Json menusJson(const std::vector<CommandMenu>& menus,
                          const std::function<bool(HostTask)>& isOn);
 /// A command of a dialog, its controls by the names that lines use.

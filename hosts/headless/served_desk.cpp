@@ -9,6 +9,7 @@
 #include "desk/choose_path.h"
 #include "desk/file_places.h"
 #include "desk/first_stop.h"
+#include "desk/guide_chapter.h"
 #include "desk/host_boxes.h"
 #include "desk/layout_words.h"
 #include "hosts/headless/brought_files.h"
@@ -38,21 +39,14 @@ std::vector<Command> allButtonCommands(AwizoWysylki& control,
   return commands;
 }
 
-/// The menus without what nobody does here.
-std::vector<CommandMenu> doneMenus(AwizoForm& form, bool hasNumbers, bool isBrowser) {
+std::vector<CommandMenu> servedMenus(AwizoForm& form, bool hasNumbers, bool isBrowser) {
   std::vector<CommandMenu> menus = commandMenus(form);
   if (isBrowser) leaveToBrowser(menus);
-  for (CommandMenu& menu : menus) {
-    for (std::vector<Command>& group : menu.groups) {
-      std::erase_if(group, [&](const Command& command) {
-        const bool isDone = command.task != HostTask::showNumbers || hasNumbers;
-        return command.button == nullptr && (!isDone || taskName(command.task).empty());
-      });
-    }
-    std::erase_if(menu.groups, [](const auto& group) { return group.empty(); });
-  }
-  std::erase_if(menus, [](const CommandMenu& menu) { return menu.groups.empty(); });
-  return menus;
+  return doneMenus(std::move(menus), [&](const Command& command) {
+    if (command.button != nullptr) return true;
+    const bool isDone = command.task != HostTask::showNumbers || hasNumbers;
+    return isDone && !taskName(command.task).empty();
+  });
 }
 
 Json boxWithAdvice(const MessageBox& box) {
@@ -75,7 +69,7 @@ ServedDesk::ServedDesk(const Assistance& with, ServedNumbers* numbers, const Des
       machine_(machine),
       control_(with.control),
       conversation_(conversation),
-      menus_(doneMenus(control_.form, numbers != nullptr, machine.isBrowser)),
+      menus_(servedMenus(control_.form, numbers != nullptr, machine.isBrowser)),
       commands_(allButtonCommands(control_, menus_)),
       watch_(control_, machine.clock),
       line_(control_.editor),
@@ -130,10 +124,8 @@ void ServedDesk::serve(protocol::ControlAccess& access) {
     scan(access.forms().control(protocol::textMember(line, "on")), line);
   };
   dispatcher.clientActions["scanKey"] = [this](const Json& line) { scanKey(line); };
-  dispatcher.records["standing"] = [this] { return standing(); };
-  dispatcher.records["markedText"] = [this] { return Json(markedText()); };
+  serveRecords(dispatcher);
   dispatcher.clientActions["followDesk"] = [this](const Json&) { follow(); };
-  dispatcher.records["packing"] = [this] { return packingJson(packingOverview(control_.editor)); };
   dispatcher.clientActions["packRest"] = [this](const Json& line) { packRest(line); };
   dispatcher.clientActions["showPapersOf"] = [this](const Json& line) {
     const std::string path = protocol::textMember(line, "path");
@@ -156,6 +148,16 @@ void ServedDesk::serve(protocol::ControlAccess& access) {
   act_ = [&dispatcher](const Json& line) { dispatcher.act(line); };
 }
 
+void ServedDesk::serveRecords(protocol::Dispatcher& dispatcher) {
+  dispatcher.records["standing"] = [this] { return standing(); };
+  dispatcher.records["guideChapter"] = [this] {
+    const Form* top = control_.screen.top();
+    return Json(top == nullptr ? "" : guideChapter(top->name()));
+  };
+  dispatcher.records["markedText"] = [this] { return Json(markedText()); };
+  dispatcher.records["packing"] = [this] { return packingJson(packingOverview(control_.editor)); };
+}
+
 void ServedDesk::follow() {
   follows_ = true;
   conversation_.describe = boxWithAdvice;
@@ -165,9 +167,12 @@ void ServedDesk::follow() {
     finder_.moreFaults = [this] { return numbers_->offer().faults(); };
   }
   if (!works_.empty()) tellWork();
+  // Work that was gone on with may stand in it.
+  if (control_.dlgWczytajZapisz.shown()) tellWhetherFilesMayBeBrought(control_.dlgWczytajZapisz);
 }
 
 void ServedDesk::opened(const Form& form) {
+  tellWhetherFilesMayBeBrought(form);
   if (numbers_ != nullptr) numbers_->opened(form);
   if (Control* stop = firstStop(control_, form)) stop->userFocus();
   DlgWczytajZapisz& files = control_.dlgWczytajZapisz;
@@ -175,6 +180,12 @@ void ServedDesk::opened(const Form& form) {
   const UserFolders user{.home = "", .documents = keptOffLinePath(machine_.settings)};
   const std::string folder = proposedFolder(files, machine_.files, machine_.settings, user);
   if (!folder.empty()) userGoTo(files, {.words = "", .folder = folder, .file = ""});
+}
+
+void ServedDesk::tellWhetherFilesMayBeBrought(const Form& form) {
+  const DlgWczytajZapisz& files = control_.dlgWczytajZapisz;
+  if (&form != &files) return;
+  conversation_.emit(mayBringEvent(form, files.isForReading()));
 }
 
 void ServedDesk::tell(const std::string& words) { watch_.tell(words); }
@@ -343,7 +354,9 @@ void ServedDesk::startAgain() {
 
 void ServedDesk::bring(const Json& line) {
   DlgWczytajZapisz& dialog = control_.dlgWczytajZapisz;
-  if (!dialog.takesInput()) throw Refused("No file is being chosen.");
+  if (!dialog.takesInput() || !dialog.isForReading()) {
+    throw Refused("No document to open is being chosen.");
+  }
   const std::string folder = keptOffLinePath(machine_.settings);
   const BroughtPlace place = broughtBy(line, machine_.files, folder, conversation_);
   if (place.path.empty()) return;

@@ -45,8 +45,9 @@ struct DeskMachine {
 ///                         "text" that they type), and events tell the current line in words, work
 ///                         that lasts, and words beside the boxes
 ///   {"do":"bring","name":"awizo.xml","from":"c:\\.brought"}
-///                         puts a file into the local folder, and opens it where a document is
-///                         being chosen
+///                         while a document to open is being chosen, puts a file into the local
+///                         folder and opens it; {"event":"mayBring"} tells when that is
+///   {"get":"guideChapter"}  the heading of the guide's chapter about the form that the user is in
 ///   {"get":"packing"}     what lies where: see packing_records.h
 ///   {"do":"packRest","lines":[1,2],"package":3}   the rest of these lines into that package
 ///   {"do":"stop"}         ends the work of an assistant
@@ -84,6 +85,7 @@ class ServedDesk {
  private:
   using Json = protocol::Json;
 
+  void serveRecords(protocol::Dispatcher& dispatcher);
   void follow();
   void tellWork();
   /// A form has come up for the user.
@@ -116,6 +118,7 @@ class ServedDesk {
   void scan(const Control& control, const Json& line);
   /// A key of a code that is scanned outside of the tables.
   void scanKey(const Json& line);
+  void tellWhetherFilesMayBeBrought(const Form& form);
   Json standing() const;
   std::string markedText() const;
 

@@ -3,9 +3,12 @@
 #include <optional>
 #include <utility>
 
+#include "desk/commands.h"
+#include "desk/guide_chapter.h"
 #include "desk/session_start.h"
 #include "desk/start_page.h"
 #include "hosts/headless/brought_files.h"
+#include "hosts/headless/desk_records.h"
 #include "hosts/headless/quiet_surroundings.h"
 #include "hosts/protocol/changes/feed_actions.h"
 #include "platform/at_exit.h"
@@ -23,6 +26,13 @@ Options chosenAtStart(const Options& options, Machine& machine, Conversation& co
   protocol::ChangeFeed feed(forms,
                             [&](const protocol::Json& changes) { conversation.emit(changes); });
   protocol::addFeedActions(dispatcher, forms, feed);
+  dispatcher.records["commands"] = [] {
+    const auto isDone = [](const Command& command) { return command.task == HostTask::showGuide; };
+    return menusJson(doneMenus(startMenus(), isDone), [](HostTask) { return false; });
+  };
+  dispatcher.records["guideChapter"] = [&page] {
+    return protocol::Json(guideChapter(page.name()));
+  };
   dispatcher.clientActions["bring"] = [&](const protocol::Json& line) {
     const std::string folder = keptOffLinePath(surroundings.platform.settings);
     broughtBy(line, machine.files(), folder, conversation);
@@ -48,6 +58,7 @@ Options chosenAtStart(const Options& options, Machine& machine, Conversation& co
         static_cast<Control*>(&page.lblOnLine), static_cast<Control*>(&page.btnLaunchFile)}) {
     control->setVisible(false);
   }
+  conversation.emit(mayBringEvent(page, true));
   page.show("", false);
   conversation.serveUntil([&] { return partner.has_value(); });
 

@@ -28,7 +28,9 @@ std::vector<Command> sessionCommands() {
 /// Their words go on with the name of the step: see step_words.h.
 std::vector<Command> stepCommands() {
   return {{.words = words::takeBack, .task = HostTask::takeBack, .keys = {withControl('Z')}},
-          {.words = words::doAgain, .task = HostTask::doAgain, .keys = {withControl('Y')}}};
+          {.words = words::doAgain,
+           .task = HostTask::doAgain,
+           .keys = {withControl('Y'), {.code = 'Z', .control = true, .shift = true}}}};
 }
 
 std::vector<Command> packingCommands() {

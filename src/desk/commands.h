@@ -11,10 +11,11 @@
 
 namespace awizo {
 
-/// A key pressed alone or with Ctrl; `code` as keys.h numbers keys.
+/// A key pressed alone or with others; `code` as keys.h numbers keys.
 struct CommandKey {
   std::int16_t code = 0;
   bool control = false;
+  bool shift = false;
   bool operator==(const CommandKey&) const = default;
 };
 

@@ -120,6 +120,8 @@ void DlgWczytajZapisz::setUp(std::string_view mode, std::string_view dialogCapti
   session_.LastFilePath.clear();
 }
 
+bool DlgWczytajZapisz::isForReading() const { return btnWczytaj.caption() == reading; }
+
 void DlgWczytajZapisz::setUpForReading() {
   setUp(reading, "Прочитать подтверждение отгрузки.", ImageWczytaj);
 }

@@ -40,6 +40,9 @@ class DlgWczytajZapisz : public Form {
   /// Whole path of the file chosen; empty for none.
   const std::string& chosenFile() const { return session_.LastFilePath; }
 
+  /// Whether it is set up for choosing a file that is there.
+  bool isForReading() const;
+
   // The modes. Each touches the form, sets it up and empties LastFilePath.
 
   /// "&Wczytaj": a file that is there is chosen.

@@ -181,6 +181,9 @@ TEST(HostPage, IsServedUnderAStrictPolicyWithTheFilesBesideIt) {
   test::writeFile(folder.path() / "editor.html", "<p>");
   test::writeFile(folder.path() / "awizo.mjs", "1");
   test::writeFile(folder.path() / "awizo.wasm", "2");
+  std::filesystem::create_directories(folder.path() / "guide/images");
+  test::writeFile(folder.path() / "guide/guide.html", "<p>");
+  test::writeFile(folder.path() / "guide/images/line-dialog.png", "3");
   const RunningService service({"--page", folder.path().string()});
   httplib::Client client("127.0.0.1", service.port());
   const auto page = client.Get("/vird/page/editor.html");
@@ -190,6 +193,9 @@ TEST(HostPage, IsServedUnderAStrictPolicyWithTheFilesBesideIt) {
   EXPECT_EQ(service.get("/vird/page/awizo.mjs").body, "1");
   EXPECT_EQ(service.get("/vird/page/awizo.mjs").contentType, "text/javascript");
   EXPECT_EQ(service.get("/vird/page/awizo.wasm").contentType, "application/wasm");
+  EXPECT_EQ(service.get("/vird/page/guide/guide.html").body, "<p>");
+  EXPECT_EQ(service.get("/vird/page/guide/images/line-dialog.png").contentType, "image/png");
+  EXPECT_EQ(service.get("/vird/page/guide/other/guide.html").status, 404);
   EXPECT_EQ(service.get("/vird/page/%2e%2e/editor.html").status, 404);
   EXPECT_EQ(service.get("/vird/page/..%2feditor.html").status, 404);
 }

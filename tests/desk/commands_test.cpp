@@ -55,7 +55,7 @@ TEST_F(CommandsTest, EachDoesOneThingAndNoTwoTheSame) {
 }
 
 TEST_F(CommandsTest, NoTwoOfAMenuShareALetterAndNoTwoOfAPlaceAKey) {
-  std::set<std::tuple<const Control*, std::int16_t, bool>> keys;
+  std::set<std::tuple<const Control*, std::int16_t, bool, bool>> keys;
   for (const CommandMenu& menu : menus) {
     std::set<std::string> letters;
     for (const auto& group : menu.groups) {
@@ -63,7 +63,8 @@ TEST_F(CommandsTest, NoTwoOfAMenuShareALetterAndNoTwoOfAPlaceAKey) {
         EXPECT_NE(mnemonicOf(command.words), "") << command.words;
         EXPECT_TRUE(letters.insert(mnemonicOf(command.words)).second) << command.words;
         for (const CommandKey& key : command.keys) {
-          EXPECT_TRUE(keys.emplace(command.place, key.code, key.control).second) << command.words;
+          EXPECT_TRUE(keys.emplace(command.place, key.code, key.control, key.shift).second)
+              << command.words;
         }
       }
     }

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -354,11 +355,33 @@ TEST_F(DeskTest, OpensADocumentThatIsBrought) {
   editor.refused(brought);
   press("btnWczytaj");
   editor.answer("letGo");
+  EXPECT_EQ(editor.takeLast("mayBring")["may"], true);
   editor.act(brought);
   editor.answerAll();
   EXPECT_EQ(editor.text("txtNrAwiza"),
             ReadDocument(readFile(sample)).text("//DespatchAdviceNumber"));
   EXPECT_EQ(readFile(supplier.place.folder() / "a.xml"), readFile(sample));
+}
+
+TEST_F(DeskTest, BringsNothingWhereADocumentIsSaved) {
+  editor.type("txtNrAwiza", "ТН-6");
+  addPackage(editor, "Паллета 1", std::string(serials[0]));
+  press("btnZapisz");
+  editor.answer("Yes");
+  EXPECT_EQ(editor.takeLast("mayBring")["may"], false);
+  const std::string sample = (projectFolder() / "samples/despatch-advice.xml").string();
+  editor.refused({{"do", "bring"}, {"name", "a.xml"}, {"from", sample}});
+  EXPECT_FALSE(std::filesystem::exists(supplier.place.folder() / "a.xml"));
+}
+
+TEST_F(DeskTest, TellsTheGuidesChapterOfTheFormThatOneIsIn) {
+  EXPECT_EQ(editor.get("guideChapter"), "");
+  press("btnDodajOpak");
+  EXPECT_EQ(editor.get("guideChapter"), "Упаковки");
+  editor.click("DlgSzczegoly.btnDodaj");
+  EXPECT_EQ(editor.get("guideChapter"), "Упаковки") << "in a box too";
+  editor.answer("OK");
+  editor.close("DlgSzczegoly");
 }
 
 TEST_F(DeskTest, NothingIsThereToStop) { editor.refused({{"do", "stop"}}); }

@@ -296,12 +296,19 @@ TEST(Commands, AreToldWithTheirButtonsAndKeys) {
   Conversation editor = supplier.startOffLine();
   const Json menus = editor.get("commands");
   EXPECT_EQ(menus[0]["heading"], "&Документ");
-  const Json save{
-      {"words", "Сохранить"},       {"icon", "save"},
-      {"on", "btnZapisz"},          {"keys", Json::array({{{"code", 'S'}, {"control", true}}})},
-      {"place", nullptr},           {"onCurrentRow", false},
-      {"tip", "Сохранить (Ctrl+S)"}};
+  const Json save{{"words", "Сохранить"},
+                  {"icon", "save"},
+                  {"on", "btnZapisz"},
+                  {"keys", Json::array({{{"code", 'S'}, {"control", true}, {"shift", false}}})},
+                  {"key", "Ctrl+S"},
+                  {"place", nullptr},
+                  {"inDialogs", false},
+                  {"onCurrentRow", false},
+                  {"tip", "Сохранить (Ctrl+S)"},
+                  {"group", 0}};
   EXPECT_THAT(std::vector<Json>(menus[0]["commands"]), testing::Contains(save));
+  EXPECT_EQ(menus[0]["commands"].back()["group"], 1)
+      << "a new session is no matter of the document";
 }
 
 }  // namespace

@@ -32,8 +32,10 @@ Qt::Key keyOf(std::int16_t code) {
 }  // namespace
 
 QKeySequence keysOf(const CommandKey& key) {
-  const Qt::Key one = keyOf(key.code);
-  return key.control ? QKeySequence(Qt::CTRL | one) : QKeySequence(one);
+  Qt::KeyboardModifiers held;
+  if (key.control) held |= Qt::ControlModifier;
+  if (key.shift) held |= Qt::ShiftModifier;
+  return {held | keyOf(key.code)};
 }
 
 CommandActions::CommandActions(std::vector<Command> commands, FormFace& faces, QWidget& window)

@@ -27,9 +27,9 @@ export class Commands {
 
   /// The command of the key in this form. Those of a table alone are the core's to find.
   at(event: KeyboardEvent, form: string): Command | undefined {
-    if (event.altKey || event.shiftKey || event.metaKey) return undefined;
+    if (event.altKey || event.metaKey) return undefined;
     return this.all.find((one) =>
-      one.keys.some((key) => key.code === event.keyCode && key.control === event.ctrlKey) &&
-      one.place === null && formOf(one.on ?? "", this.mainForm) === form);
+      one.keys.some((key) => key.code === event.keyCode && key.control === event.ctrlKey && key.shift === event.shiftKey) &&
+      one.place === null && (one.inDialogs || formOf(one.on ?? "", this.mainForm) === form));
   }
 }

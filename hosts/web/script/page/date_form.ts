@@ -10,6 +10,7 @@ export interface DateForm {
   readShort(text: string): string | undefined;
 }
 
+/// A field's text while one types is the page's own; the core takes whole dates.
 const lastShortYear = 29;
 
 function wholeYear(year: string): string {

@@ -1,16 +1,14 @@
-// What stands over the main form: the document's title, the commands that no button of a form has,
-// and words on what was done last.
+// What stands over the main form: the document's title, the commands in menus, the steps that can be
+// taken back, and words on what was done last.
 
 import { make, plainWords } from "./dom.ts";
 import { extraButtons } from "./extra_buttons.ts";
-import type { Command, Standing, Steps } from "./facts.ts";
+import type { Command, CommandMenu, Standing, Steps } from "./facts.ts";
+import { Menu, type MenuHost } from "./menu.ts";
 
 type Step = keyof Steps;
 
-/// What is wanted seldom stands last.
-const seldom = ["showNumbers", "startAgain", "showAbout"];
-
-function isStep(task: string): task is Step {
+function isStep(task: string | undefined): task is Step {
   return task === "takeBack" || task === "doAgain";
 }
 
@@ -21,16 +19,21 @@ export class DeskStrip {
   private readonly buttons = extraButtons();
   private readonly steps = new Map<Step, { button: HTMLButtonElement; command: Command }>();
 
-  constructor(private readonly go: (task: string) => void) {
+  constructor(private readonly host: MenuHost) {
     this.buttons.classList.add("tasks");
     this.element = make("div", { class: "strip" }, [this.title, this.buttons, this.told]);
   }
 
-  showCommands(commands: Command[]): void {
+  showMenus(menus: CommandMenu[]): void {
     this.steps.clear();
-    const tasks = commands.filter((one) => one.task !== undefined);
-    tasks.sort((one, other) => seldom.indexOf(one.task!) - seldom.indexOf(other.task!));
-    this.buttons.replaceChildren(...tasks.map((one) => this.button(one)));
+    const shown: Menu[] = [];
+    for (const { heading, commands } of menus) {
+      const place = shown.length;
+      const others = commands.filter((one) => !isStep(one.task));
+      shown.push(new Menu(heading, others, this.host, (by) => shown.at((place + by) % shown.length)?.open()));
+    }
+    const steps = menus.flatMap((menu) => menu.commands).filter((one) => isStep(one.task));
+    this.buttons.replaceChildren(...shown.map((menu) => menu.element), ...steps.map((one) => this.stepButton(one)));
     this.showSteps({ takeBack: null, doAgain: null });
   }
 
@@ -43,7 +46,7 @@ export class DeskStrip {
   }
 
   showSwitch(task: string, isOn: boolean): void {
-    this.buttons.querySelector(`[data-task="${task}"]`)?.setAttribute("aria-pressed", String(isOn));
+    this.buttons.querySelector(`[data-task="${task}"]`)?.setAttribute("aria-checked", String(isOn));
   }
 
   showStanding(standing: Standing): void {
@@ -61,14 +64,12 @@ export class DeskStrip {
     this.buttons.replaceChildren();
   }
 
-  private button(command: Command): HTMLButtonElement {
-    const task = command.task!;
-    const button = make("button", { type: "button", title: command.tip || undefined, "aria-pressed": command.isOn?.toString() }, [command.words]);
-    button.dataset[isStep(task) ? "step" : "task"] = task;
-    if (isStep(task)) this.steps.set(task, { button, command });
+  private stepButton(command: Command): HTMLButtonElement {
+    const button = make("button", { type: "button", "data-step": command.task });
+    this.steps.set(command.task as Step, { button, command });
     // The focus moves by the model alone.
     button.addEventListener("mousedown", (event) => event.preventDefault());
-    button.addEventListener("click", () => this.go(task));
+    button.addEventListener("click", () => this.host.choose(command));
     return button;
   }
 }

@@ -8,11 +8,13 @@ import { dateForm } from "./date_form.ts";
 import { DeskStrip } from "./desk_strip.ts";
 import { Commands } from "./commands.ts";
 import type {
-  Box, Changes, Closing, Command, ControlFacts, Event as CoreEvent, FormFacts, Packing, Question, Standing, TypedInto, Work,
+  Box, Changes, Closing, Command, CommandMenu, ControlFacts, Event as CoreEvent, FormFacts, Packing, Question, Standing,
+  TypedInto, Work,
 } from "./facts.ts";
 import { extraButtons, firstExtra, isExtra } from "./extra_buttons.ts";
 import type { Host } from "./face.ts";
 import { FormView } from "./form_view.ts";
+import { Guide } from "./guide.ts";
 import { dialogs, mainForm, startPage } from "./layouts.ts";
 import { computerButton, fetchFile, handOut, handOutTable } from "./own_disk.ts";
 import { PackingPane } from "./packing_pane.ts";
@@ -25,8 +27,6 @@ import { TableFace } from "./table_face.ts";
 import { TypingWatch } from "./typing_watch.ts";
 import { WorkBox } from "./work_box.ts";
 
-/// The caption by which the file dialog says that it opens a document.
-const readingMode = "&Wczytaj";
 const mainName = "AwizoWysylki";
 const startName = "StartPage";
 const papersName = "PapersDialog";
@@ -41,9 +41,9 @@ const answers: Record<Box["buttons"], [string, string][]> = {
   YesNo: [["Yes", "Да"], ["No", "Нет"]],
 };
 
-/// A second key of the command that does a step again.
-function isDoAgain(event: KeyboardEvent): boolean {
-  return event.ctrlKey && event.shiftKey && !event.altKey && event.code === "KeyZ";
+/// The page itself shows the guide.
+function isGuide(command: Pick<Command, "task">): boolean {
+  return command.task === "showGuide";
 }
 
 function isStep(command: Command): boolean {
@@ -71,7 +71,17 @@ export class AwizoWysylki extends ControlElement {
   /// What had the focus when the box opened, and keeps it whatever the model says.
   private beforeBox: HTMLElement | null = null;
   private readonly commands = new Commands(mainName);
-  private readonly strip = new DeskStrip((task) => void this.choose({ task }));
+  private readonly strip = new DeskStrip({
+    choose: (command) => void this.choose(command),
+    stateOf: ({ on }) => {
+      const button = on === undefined ? {} : this.kinds[on];
+      if (button?.visible === false) return "hidden";
+      return button?.enabled === false ? "disabled" : "shown";
+    },
+  });
+  private readonly guide = new Guide(this.root, () => this.followModel());
+  /// The form in which a file of the user's computer may be brought.
+  private bringsTo: string | undefined;
   /// The current line in words, below the table of lines.
   private readonly lineWords = make("output", { class: "line" });
   private readonly workBox = new WorkBox(this.root, () => void this.closingOf({ do: "stop" }));
@@ -141,6 +151,8 @@ export class AwizoWysylki extends ControlElement {
     this.beforeBox = null;
     this.strip.clear();
     this.packing.clear();
+    this.guide.close();
+    this.bringsTo = undefined;
     this.lineWords.textContent = "";
     this.workBox.hide();
     this.beginsAfterAnswer = false;
@@ -169,11 +181,12 @@ export class AwizoWysylki extends ControlElement {
     // Work that was gone on with is shown already.
     const showing = core.say({ do: "showUnlessShown" });
     const [menus, ofDialogs, typedInto] = await commands;
-    // It may be the start page's turn.
-    if (this.core !== core || !menus.ok) return;
-    const ofMenus = (menus.value as { commands: Command[] }[]).flatMap((menu) => menu.commands);
-    this.commands.take([...ofMenus, ...(ofDialogs.value as Command[])]);
-    this.strip.showCommands(ofMenus);
+    if (this.core !== core) return;
+    const shownMenus = (menus.value ?? []) as CommandMenu[];
+    this.commands.take([...shownMenus.flatMap((menu) => menu.commands), ...((ofDialogs.value ?? []) as Command[])]);
+    // It may be the start page's turn, which has no dialogs.
+    if (!ofDialogs.ok) return;
+    this.strip.showMenus(shownMenus);
     this.typedInto = typedInto.value as TypedInto;
     await properties;
     const followed = await following;
@@ -215,6 +228,9 @@ export class AwizoWysylki extends ControlElement {
         return handOutTable(event.name, event.text);
       case "showPacking":
         return this.packing.toggle();
+      case "mayBring":
+        this.bringsTo = event.may ? event.form : undefined;
+        return;
       case "chooseDocument":
         return fetchFile(this.strip.element, (name, path) => this.closingOf({ do: "showPapersOf", path, name }));
       case "told":
@@ -330,7 +346,9 @@ export class AwizoWysylki extends ControlElement {
     const view = this.views.get(name);
     if (view === undefined) return;
     if (name === startName) {
-      this.root.replaceChildren(make("main", { lang: "ru" }, [make("h1", {}, [facts.caption ?? ""]), view.element, this.fromComputer()]), this.heard);
+      this.root.replaceChildren(make("main", { lang: "ru" }, [
+        make("h1", {}, [facts.caption ?? ""]), view.element, this.fromComputer([this.guideButton()]),
+      ]), this.heard);
       return this.holdStill();
     }
     if (name === mainName) {
@@ -344,7 +362,7 @@ export class AwizoWysylki extends ControlElement {
     const element = make("dialog", { lang: "ru", "aria-labelledby": `title-${name}` }, [
       make("div", { class: "title" }, [title, closer]), view.element,
     ]);
-    if (this.kinds[`${name}.btnWczytaj`]?.caption === readingMode) element.append(this.fromComputer());
+    if (this.bringsTo === name) element.append(this.fromComputer());
     closer.addEventListener("click", () => void this.closingOf({ do: "close", on: name }));
     element.addEventListener("cancel", (event) => {
       // A file field in the dialog is left so too.
@@ -367,8 +385,20 @@ export class AwizoWysylki extends ControlElement {
     return extraButtons([button]);
   }
 
-  private fromComputer(): HTMLElement {
-    return computerButton((name, from) => this.closingOf({ do: "bring", name, from }));
+  private fromComputer(others: HTMLElement[] = []): HTMLElement {
+    return computerButton((name, from) => this.closingOf({ do: "bring", name, from }), others);
+  }
+
+  private guideButton(): HTMLElement {
+    const button = make("button", { type: "button", title: "F1" }, [deskWords.guideTitle]);
+    button.addEventListener("click", () => void this.openGuide());
+    return button;
+  }
+
+  private async openGuide(): Promise<void> {
+    this.finishTyping();
+    const closing = await this.closingOf({ get: "guideChapter" });
+    await this.guide.open(closing.ok ? String(closing.value) : "");
   }
 
   private closeForm(name: string): void {
@@ -425,6 +455,7 @@ export class AwizoWysylki extends ControlElement {
 
   /// The user has chosen a command.
   private async choose(command: Pick<Command, "on" | "task">): Promise<void> {
+    if (isGuide(command)) return this.openGuide();
     if (this.box !== undefined || this.work !== undefined) return;
     this.finishTyping();
     this.typing.forget();
@@ -473,7 +504,7 @@ export class AwizoWysylki extends ControlElement {
   }
 
   private followModel(): void {
-    if (this.box !== undefined || !this.isConnected || this.keeper() !== null) return;
+    if (this.box !== undefined || this.guide.isOpen || !this.isConnected || this.keeper() !== null) return;
     const top = this.top();
     if (top !== undefined && this.isUnderWay(top)) return;
     const target = this.modelsFocus();
@@ -541,14 +572,14 @@ export class AwizoWysylki extends ControlElement {
 
   private pressKey(event: KeyboardEvent): void {
     const top = this.top();
-    if (this.box !== undefined || this.work !== undefined || top === undefined) return;
+    if (this.guide.isOpen || this.work !== undefined || top === undefined) return;
+    const command = this.commands.at(event, top.name);
+    if (this.box !== undefined && command?.inDialogs !== true) return;
     const isFromExtra = isExtra(event.target as Element);
     if (isWayToExtras(event) || (isFromExtra && event.key === "Escape")) {
       event.preventDefault();
       return this.visitExtras();
     }
-    const command: Command | undefined = top.name === mainName && isDoAgain(event)
-      ? this.commands.task("doAgain") : this.commands.at(event, top.name);
     if (command !== undefined && isStep(command) && this.typing.ownsKey(event)) return;
     if (command !== undefined) {
       event.preventDefault();

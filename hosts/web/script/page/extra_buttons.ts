@@ -4,13 +4,14 @@
 import { make } from "./dom.ts";
 
 const row = "extras";
-const reachable = `.${row} button:not(:disabled)`;
+const enabled = "button:not(:disabled):not([role^=menuitem])";
+const reachable = `.${row} :is(${enabled})`;
 const steps: Record<string, number> = { ArrowLeft: -1, ArrowRight: 1 };
 
 function lead(event: KeyboardEvent): void {
   const step = steps[event.key];
   if (step === undefined) return;
-  const buttons = [...(event.currentTarget as Element).querySelectorAll<HTMLElement>("button:not(:disabled)")];
+  const buttons = [...(event.currentTarget as Element).querySelectorAll<HTMLElement>(enabled)];
   const next = buttons.indexOf((event.target as Element).closest("button")!) + step;
   buttons.at(next % buttons.length)?.focus();
   event.preventDefault();

@@ -87,9 +87,15 @@ export interface Command {
   tip: string;
   on?: string;
   task?: string;
-  keys: { code: number; control: boolean }[];
+  keys: { code: number; control: boolean; shift: boolean }[];
+  /// The first of them in words; empty where it has none.
+  key: string;
+  /// In its menu; there is a line between two groups.
+  group: number;
   /// Its keys work while this has the focus; null: anywhere.
   place: string | null;
+  /// Its keys work in dialogs and boxes too.
+  inDialogs: boolean;
   /// It acts on the current row of that table, which must be seen before.
   onCurrentRow: boolean;
   /// Of a switch alone.
@@ -102,6 +108,11 @@ export interface TypedInto {
   tables: string[];
   /// Tables in which the user types to find a row.
   lists: string[];
+}
+
+export interface CommandMenu {
+  heading: string;
+  commands: Command[];
 }
 
 /// How the document stands.
@@ -165,6 +176,7 @@ export type Event =
   | { event: "sheet"; svg: string }
   | { event: "print"; title: string; sheets: string[] }
   | { event: "file"; name: string; text: string }
+  | { event: "mayBring"; form: string; may: boolean }
   | { event: "chooseDocument" }
   | { event: "showPacking" }
   | { event: "modal" | "hidden"; form: string; caption?: string }

@@ -193,5 +193,5 @@ export const besideTheirHeading = new Set([
   "lblNameSprzedWart", "lblNameKupWart", "lblAdresMiejscaDostawy", "DlgDodaj.lblPackedQuantityValue",
 ]);
 
-/// Fields that are edited in the place of a table's cell.
+/// Fields that are edited in the place of a table's cell: a matter of where things are, as the rest here.
 export const overCells: Record<string, string> = { grdPozycje: "txtEdycja", grdSuma: "txtEdycjaSuma" };

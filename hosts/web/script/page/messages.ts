@@ -6,8 +6,10 @@ export interface Start {
   locale: string;
   /// What is kept for the core, by the names of its values.
   settings: [string, string][];
-  /// Files that must be there: their paths, and the addresses that they come from.
+  /// Files that the page gives into the local folder: their names, and the addresses that they come from.
   files: [string, string][];
+  /// Where they are kept as the page gave them last.
+  given: string;
   /// The local folder.
   folder: string;
   /// Where sessions are recorded.

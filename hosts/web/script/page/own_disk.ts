@@ -49,10 +49,10 @@ export function fetchFile(place: ParentNode, bring: Bring): void {
   input.click();
 }
 
-/// A button that fetches a file of the user's computer.
-export function computerButton(bring: Bring): HTMLElement {
+/// A button that fetches a file of the user's computer, with others beside it.
+export function computerButton(bring: Bring, others: HTMLElement[] = []): HTMLElement {
   const button = make("button", { type: "button" }, ["С компьютера…"]);
-  const element = make("div", { class: "beside" }, [extraButtons([button])]);
+  const element = make("div", { class: "beside" }, [extraButtons([button, ...others])]);
   button.addEventListener("click", () => fetchFile(element, bring));
   return element;
 }

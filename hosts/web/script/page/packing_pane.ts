@@ -48,10 +48,12 @@ export class PackingPane {
     this.places = new PackingRows("tree", words.packingPackages, (row) => this.drawPlace(row));
     this.lines.element.setAttribute("aria-multiselectable", "true");
     const filter = make("label", {}, [this.onlyRest, plainWords(words.packingOnlyRest)]);
+    const closer = make("button", { type: "button", class: "closer", "aria-label": words.closeDialog }, ["×"]);
     this.element = make("section", { class: "packing extras", hidden: true }, [
-      this.summary, filter, this.lines.element, this.places.element, this.button,
+      make("div", { class: "title" }, [this.summary, closer]), filter, this.lines.element, this.places.element, this.button,
     ]);
     this.onlyRest.addEventListener("change", () => this.showLines());
+    closer.addEventListener("click", () => this.hide());
     this.button.addEventListener("click", () => this.packMarked());
     this.listenToLines();
     this.listenToPlaces();
@@ -67,15 +69,16 @@ export class PackingPane {
 
   /// Comes with the focus; where it has the focus already, it goes.
   toggle(): void {
-    if (this.isShown && this.hasFocus) {
-      this.host.leave();
-      this.element.hidden = true;
-      return;
-    }
+    if (this.isShown && this.hasFocus) return this.hide();
     this.element.hidden = false;
     void this.refresh();
     this.lines.element.focus();
     this.element.scrollIntoView({ block: "nearest" });
+  }
+
+  private hide(): void {
+    this.host.leave();
+    this.element.hidden = true;
   }
 
   /// The document has become another.

@@ -36,25 +36,26 @@ function namesSession(element: HTMLElement): boolean {
 
 export function startOf(element: HTMLElement): Start {
   const folder = element.getAttribute("folder") ?? defaultFolder;
-  const given: string[] = [];
+  const words: string[] = [];
   for (const [attribute, property] of Object.entries(properties)) {
     const value = element.getAttribute(attribute);
-    if (value !== null) given.push("--property", `${property}=${value}`);
+    if (value !== null) words.push("--property", `${property}=${value}`);
   }
   if (namesSession(element)) {
     // A "/" in the query would move the base of the service's addresses.
-    given.push("--page-url", location.origin + location.pathname, "--cookie", document.cookie);
+    words.push("--page-url", location.origin + location.pathname, "--cookie", document.cookie);
   }
   const locale = localeOf(element);
-  given.push("--locale", locale);
+  words.push("--locale", locale);
   // What is kept is the browser's, in no file: with the folder alone nothing would outlive the session.
-  given.push("--offline-path", folder, "--settings", "");
+  words.push("--offline-path", folder, "--settings", "");
   const now = element.getAttribute("now");
-  if (now !== null) given.push("--now", now);
+  if (now !== null) words.push("--now", now);
   const files: [string, string][] = [];
   const userInfo = element.getAttribute("user-info");
-  if (userInfo !== null) files.push([`${folder}/userinfo.xml`, new URL(userInfo, document.baseURI).href]);
+  if (userInfo !== null) files.push(["userinfo.xml", new URL(userInfo, document.baseURI).href]);
   return {
-    arguments: given, locale, settings: keptSettings(), files, folder, records: beside(folder, "records"), numbers: beside(folder, "numbers"),
+    arguments: words, locale, settings: keptSettings(), files, folder, given: beside(folder, "given"),
+    records: beside(folder, "records"), numbers: beside(folder, "numbers"),
   };
 }

@@ -9,6 +9,7 @@ const surplus = 10;
 /// At the size of letters that pages have.
 const twipsOfPixel = 11;
 const narrowest = 60;
+/// What a table's model knows: all other keys are left to the browser, at once.
 const keys = new Set([
   "ArrowUp", "ArrowDown", "ArrowLeft", "ArrowRight", "PageUp", "PageDown", "Home", "End", "Enter", "Insert", "Delete",
   "F2", " ",

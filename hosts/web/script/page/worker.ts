@@ -8,7 +8,8 @@ import { exchange } from "./http.ts";
 import type { FromWorker, Start, ToWorker } from "./messages.ts";
 import { answerAboutRecords } from "./records.ts";
 import { answerAboutTurns, answerAboutTurnsEnd } from "./turns.ts";
-import { answerAboutFiles, answerAboutOpenFiles, makeFolders, putFile } from "./opfs.ts";
+import { putGivenFile } from "./given_files.ts";
+import { answerAboutFiles, answerAboutOpenFiles, makeFolders } from "./opfs.ts";
 
 const lines: string[] = [];
 let linesEnded = false;
@@ -103,9 +104,9 @@ async function fetched(address: string): Promise<Uint8Array> {
 
 async function prepareFiles(start: Start): Promise<void> {
   const folders = makeFolders(start.folder);
-  await Promise.all(start.files.map(async ([path, address]) => {
+  await Promise.all(start.files.map(async ([name, address]) => {
     const [bytes] = await Promise.all([fetched(address), folders]);
-    await putFile(path, bytes);
+    await putGivenFile(name, bytes, start);
   }));
   await folders;
 }

@@ -65,7 +65,17 @@ await withPage(async (page) => {
   await user.control("grdOpakowania").press("F6");
   await user.editor.locator("section.packing").getByRole("treeitem").first().waitFor();
   await isSound("packing pane");
-  await user.editor.locator("[data-task=showPacking]").click();
+  await user.editor.locator("section.packing").getByRole("button", { name: "Закрыть" }).click();
+  await user.editor.locator("section.packing").waitFor({ state: "hidden" });
+
+  await user.editor.getByRole("button", { name: "Правка", exact: true }).click();
+  await user.command("addPackages").waitFor();
+  await isSound("menu");
+  await page.keyboard.press("Escape");
+  await page.keyboard.press("F1");
+  await user.editor.locator("dialog.guide h2").nth(1).waitFor();
+  await isSound("guide");
+  await page.keyboard.press("Escape");
 
   await user.control("btnWczytaj").click();
   await user.editor.getByRole("alertdialog").waitFor();

@@ -45,7 +45,7 @@ await withPage(async (page) => {
   await wantingPackage.waitFor({ state: "detached" });
 
   // The range is this browser's own; a part of it may be handed on.
-  await user.editor.locator("[data-task=showNumbers]").click();
+  await user.choose("showNumbers");
   await user.control("NumberRangeDialog.lblPlace").filter({ hasText: /^Эти номера даёт только этот браузер/ }).waitFor();
   await user.field("NumberRangeDialog.txtPartCount").fill("1000");
   await user.field("NumberRangeDialog.txtPartPlace").fill("Склад 2");

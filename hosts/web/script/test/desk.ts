@@ -90,10 +90,11 @@ await withPage(async (page) => {
   await user.addPackage("Паллета 1", "035200010000000016");
 
   // While that is switched on, a scanned product goes into the package, which is one step.
-  const scannerPacks = (on: boolean) => user.editor.locator(`[data-task=scannerPacks][aria-pressed=${on}]`);
+  const scannerPacks = (on: boolean) => user.editor.locator(`[data-task=scannerPacks][aria-checked=${on}]`);
   await user.control("grdOpakowania").locator('[data-row="1"] [data-col="3"]').click();
-  await scannerPacks(false).click();
-  await scannerPacks(true).waitFor();
+  await scannerPacks(false).waitFor({ state: "attached" });
+  await user.choose("scannerPacks");
+  await scannerPacks(true).waitFor({ state: "attached" });
   await page.keyboard.type(code);
   await page.keyboard.press("Enter");
   await line.filter(words("Паллета 1 ← Строка 2")).filter(words("упаковано 1 из")).waitFor();
@@ -128,10 +129,10 @@ await withPage(async (page) => {
   }
 
   // A new beginning: nothing of the old session is offered.
-  await user.editor.locator("[data-task=startAgain]").click();
+  await user.choose("startAgain");
   await user.answer("letGo");
   await user.editor.locator("h1").filter(words("Подтверждение отгрузки")).waitFor();
   assert.equal(await user.question().count(), 0);
-  await scannerPacks(true).waitFor();
+  await scannerPacks(true).waitFor({ state: "attached" });
 });
 console.log("The desk was used in the page.");

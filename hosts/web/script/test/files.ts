@@ -46,7 +46,11 @@ await withPage(async (page) => {
 
   const other = Buffer.from(saved.replaceAll(oldNumber, newNumber));
   await user.control("btnWczytaj").click();
+  await user.editor.getByRole("alertdialog").waitFor();
+  await user.picture("question");
   assert.match(await user.answer("goOn"), /сохранён, но не отправлен/);
+  await fileDialog.waitFor();
+  await user.picture("open");
   await chooseFromComputer("awizo.xml", other);
   await numberIs(newNumber);
   await user.control("grdOpakowania").getByText("Паллета 1").waitFor();

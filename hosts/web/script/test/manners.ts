@@ -37,25 +37,54 @@ await withPage(async (page) => {
   await user.field("txtNrAwiza").click();
   await focusIs("txtNrAwiza");
 
-  // F10 leads to the commands without a key, the arrows along them, Escape back.
-  const goAlongTo = async (words: string) => {
-    for (let steps = 0; steps < 20 && (await focused()) !== words; ++steps) await page.keyboard.press("ArrowRight");
-    assert.equal(await focused(), words);
+  // Who goes on to another field at once isn't led back to the one before.
+  const visited = await user.editor.evaluate(async (element) => {
+    const root = element.shadowRoot!;
+    const names: string[] = [];
+    root.addEventListener("focusin", (event) => names.push((event.target as Element).closest<HTMLElement>("[data-name]")?.dataset["name"] ?? ""));
+    for (const name of ["txtGoodsIdentity", "txtCodeByBuyer", "txtNrAwiza"]) root.querySelector<HTMLElement>(`[data-name=${name}] input`)!.focus();
+    await (element as unknown as { say(line: object): Promise<unknown> }).say({ get: "focus" });
+    await new Promise(requestAnimationFrame);
+    return names;
+  });
+  assert.deepEqual(visited, ["txtGoodsIdentity", "txtCodeByBuyer", "txtNrAwiza"]);
+
+  // F10 leads to the menus, the arrows along and into them, Escape back.
+  const press = async (...keys: string[]) => {
+    for (const key of keys) await page.keyboard.press(key);
   };
-  await page.keyboard.press("F10");
-  await goAlongTo("Разложить по упаковкам");
-  await page.keyboard.press("ArrowLeft");
-  assert.equal(await focused(), "Несколько упаковок");
-  await page.keyboard.press("Escape");
+  await press("F10");
+  assert.equal(await focused(), "Документ");
+  await press("ArrowRight", "ArrowRight");
+  assert.equal(await focused(), "Бумаги");
+  await press("ArrowDown");
+  assert.match(await focused(), /^Этикетки/);
+  await user.picture("menu");
+  await press("ArrowDown");
+  assert.match(await focused(), /^Упаковочный лист/);
+  await press("ArrowUp", "ArrowUp");
+  assert.equal(await focused(), "Номера упаковок");
+  await press("ArrowRight");
+  assert.match(await focused(), /^Руководство пользователя/);
+  await press("Escape");
+  assert.equal(await focused(), "Справка");
+  assert.equal(await user.command("showGuide").isVisible(), false);
+  await press("Escape");
   await focusIs("txtNrAwiza");
-  await page.keyboard.press("F10");
-  await goAlongTo("О программе");
-  await page.keyboard.press("Enter");
+  await press("F10", "ArrowRight", "ArrowRight", "ArrowRight", "Enter", "End", "Enter");
   assert.match(await user.answer("OK"), /Редактор подтверждений отгрузки/);
   await focusIs("txtNrAwiza");
 
+  // A menu has the form's commands too, as their buttons are now; a click elsewhere closes it.
+  const edit = user.editor.locator("[role=menuitem][data-command=btnEdytuj]");
+  await user.editor.getByRole("button", { name: "Правка", exact: true }).click();
+  assert.equal(await edit.isEnabled(), await user.control("btnEdytuj").isEnabled());
+  await user.field("txtGoodsIdentity").click();
+  await edit.waitFor({ state: "hidden" });
+  await focusIs("txtGoodsIdentity");
+
   // A key that no browser takes.
-  assert.match((await user.editor.locator("[data-task=addPackages]").getAttribute("title"))!, /\(F7\)$/);
+  assert.match((await user.command("addPackages").getAttribute("title"))!, /\(F7\)$/);
   await page.keyboard.press("F7");
   await user.dialog("PackagesDialog").waitFor();
   await page.keyboard.press("Escape");

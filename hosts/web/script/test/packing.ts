@@ -77,7 +77,7 @@ await withPage(async (page) => {
   await pane.getByRole("checkbox").check();
   await line(1).getByText("3", { exact: true }).waitFor();
   assert.equal(await marked.count(), 0);
-  assert.ok(await pane.getByRole("button").isDisabled());
+  assert.ok(await pane.getByRole("button", { name: "Положить остаток сюда" }).isDisabled());
   await pane.getByRole("checkbox").uncheck();
 
   // The tree stays at its line when another comes above it.
@@ -103,15 +103,15 @@ await withPage(async (page) => {
   await page.keyboard.press("Enter");
   await table.locator('[data-row="10"][aria-selected="true"]').waitFor();
   await focused(packages);
-  await user.editor.locator("[data-task=scannerPacks]").click();
-  await user.editor.locator("[data-task=scannerPacks][aria-pressed=true]").waitFor();
+  await user.choose("scannerPacks");
+  await user.editor.locator("[data-task=scannerPacks][aria-checked=true]").waitFor({ state: "attached" });
   await packages.focus();
   await page.keyboard.type("9520001010385");
   await page.keyboard.press("Enter");
   await user.editor.locator("output.line").filter({ hasText: /^Паллета ← Строка 10 .*упаковано 1 из/ }).waitFor();
   await focused(packages);
   await packages.press("Control+z");
-  await user.editor.locator("[data-task=scannerPacks]").click();
+  await user.choose("scannerPacks");
   await summary(summaryNow);
 
   // A click brings the keys from the pane to the table.

@@ -197,13 +197,13 @@ await withPage(async (page) => {
 
   const name = await user.field("txtNrAwiza").inputValue();
   const table = await handedOut(page, `Упаковочный_лист${name === "" ? "" : `_${name}`}.csv`, () =>
-    user.editor.locator("[data-task=showPackingCsv]").click(), (text) => text.endsWith("\n"));
+    user.choose("showPackingCsv"), (text) => text.endsWith("\n"));
   assert.ok(table.startsWith("\ufeff"));
   assert.ok(table.includes(numbers[0]!));
 
   // Of another file than a document the user hears by its own name.
   const chooser = page.waitForEvent("filechooser");
-  await user.editor.locator("[data-task=showPapersOfFile]").click();
+  await user.choose("showPapersOfFile");
   await (await chooser).setFiles({ name: "счёт.xml", mimeType: "application/xml", buffer: Buffer.from("<a/>") });
   assert.match(await user.answer("OK"), /^счёт\.xml: /);
 });

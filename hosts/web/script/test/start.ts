@@ -27,10 +27,10 @@ await withPage(async (page) => {
   assert.ok(await user.control("btnOffLine").isDisabled());
   assert.notEqual(await user.control("lblMissing").innerText(), "");
 
-  const bring = async (buffer: Buffer) => {
+  const bring = async (buffer: Buffer, name = partnerFile) => {
     const chooser = page.waitForEvent("filechooser");
     await user.editor.getByRole("button", { name: "С компьютера…" }).click();
-    await (await chooser).setFiles({ name: partnerFile, mimeType: "application/xml", buffer });
+    await (await chooser).setFiles({ name, mimeType: "application/xml", buffer });
   };
   const kept = () => page.evaluate(async (name) => {
     const root = await navigator.storage.getDirectory();
@@ -60,6 +60,25 @@ await withPage(async (page) => {
     await user.field("cboxPartner").elementHandle());
   assert.deepEqual(await kept(), [other, 2, 0]);
 
+  // The seller's file that was brought stays as long as the page gives the same as before.
+  const beginAnew = () => user.editor.evaluate((element) => element.replaceWith(element.cloneNode()));
+  const seller = (name: string) => user.control("lblSeller").filter({ hasText: name }).waitFor();
+  const ours = fs.readFileSync("demo/folder/userinfo.xml", "utf8").replace("Товары каждый день", "Другие товары");
+  await bring(Buffer.from(ours), "userinfo.xml");
+  await user.answer("replace");
+  await seller("Другие товары");
+  await beginAnew();
+  await seller("Другие товары");
+  await page.evaluate(async () => {
+    const given = await (await navigator.storage.getDirectory()).getDirectoryHandle(".ДРУГАЯ.given");
+    const writable = await (await given.getFileHandle("userinfo.xml")).createWritable();
+    await writable.write("<what-the-page-gave-before/>");
+    await writable.close();
+  });
+  await beginAnew();
+  await seller("Товары каждый день");
+  await user.control("btnOffLine").and(page.locator(":enabled")).waitFor();
+
   // Tab stops where something is shown, and nowhere else.
   await user.control("btnOffLine").focus();
   const stops: string[] = [];
@@ -74,12 +93,12 @@ await withPage(async (page) => {
   await user.control("btnOffLine").click();
   await user.isReady();
   assert.equal(await user.control("lblOnLineStatus").innerText(), "Off-Line");
-  await user.editor.locator("[data-task=findLine]").waitFor();
+  await user.command("findLine").waitFor({ state: "attached" });
   await user.field("txtNrAwiza").fill("ТН-1");
   await user.editor.locator("h1").filter({ hasText: "ТН-1 *" }).waitFor();
 
   // A new beginning leads to the start page again, and from there to the choice of a file.
-  await user.editor.locator("[data-task=startAgain]").click();
+  await user.choose("startAgain");
   await user.answer("letGo");
   await user.control("btnOpen").click();
   await user.dialog("DlgWczytajZapisz").waitFor();

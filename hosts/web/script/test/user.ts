@@ -50,6 +50,17 @@ export class User {
     return this.control(name).locator("input");
   }
 
+  /// A command of the menus.
+  command(task: string): Locator {
+    return this.editor.locator(`[role^=menuitem][data-task="${task}"]`);
+  }
+
+  /// Chooses it, as by mouse.
+  async choose(task: string): Promise<void> {
+    await this.editor.locator(".menu").filter({ has: this.page.locator(`[data-task="${task}"]`) }).locator("> button").click();
+    await this.command(task).click();
+  }
+
   dialog(name: string): Locator {
     return this.editor.locator(`dialog[aria-labelledby="title-${name}"]`);
   }
@@ -103,6 +114,8 @@ export class User {
     const lines = this.control("grdPozycje");
     await lines.press("Control+Home");
     await lines.locator('.current[data-row="1"] [data-col="1"]').click();
+    // The rows are drawn anew by the click.
+    await lines.locator('[data-row="1"] .current[data-col="1"]').waitFor();
   }
 
   async packFirstLine(): Promise<void> {
@@ -145,11 +158,11 @@ export class User {
     if (pictures === undefined) return;
     for (const width of [360, 800, 1920]) {
       await this.page.setViewportSize({ width, height: 900 });
-      await this.page.screenshot({ path: `${pictures}/${name}-${width}.png`, fullPage: true });
+      for (const scheme of this.schemes().toReversed()) {
+        await this.useScheme(scheme);
+        await this.page.screenshot({ path: `${pictures}/${name}-${width}-${scheme}.png`, fullPage: true });
+      }
     }
-    await this.useScheme("dark");
-    await this.page.screenshot({ path: `${pictures}/${name}-dark.png` });
-    await this.useScheme("light");
     await this.page.setViewportSize({ width: 1280, height: 900 });
   }
 }
