@@ -62,6 +62,8 @@ TEST_F(CommandsTest, FieldsCopyPasteAndUndoWithoutLatinLettersToo) {
   EXPECT_EQ(form().txtNrAwiza.text(), "АБАБ");
   press(russian(Qt::Key_Z), Qt::ControlModifier);
   EXPECT_EQ(form().txtNrAwiza.text(), "АБ");
+  press(russian(Qt::Key_Z), Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(form().txtNrAwiza.text(), "АБАБ");
   EXPECT_EQ(pressed, "");
 }
 
@@ -157,6 +159,9 @@ TEST_F(CommandsTest, F1ShowsTheUserGuideWithItsPictures) {
   auto* text = guide->findChild<QTextBrowser*>();
   EXPECT_TRUE(text->toPlainText().startsWith("Руководство пользователя\nAwizo"));
   EXPECT_FALSE(text->loadResource(QTextDocument::ImageResource, QUrl("images/line.png")).isNull());
+  window().activateWindow();
+  press(Qt::Key_F1);
+  EXPECT_EQ(window().findChildren<QWidget*>("guide").size(), 1);
 }
 
 TEST_F(CommandsTest, F1InADialogOpensItsChapterBesideIt) {

@@ -41,9 +41,9 @@ bool RussianKeys::eventFilter(QObject* watched, QEvent* event) {
   }
   const auto& key = static_cast<const QKeyEvent&>(*event);
   const Qt::Key latin = beside(key.key(), russianLetters, latinLetters);
-  if (latin == 0 || key.modifiers() != Qt::ControlModifier) return false;
+  if (latin == 0 || (key.modifiers() & ~Qt::ShiftModifier) != Qt::ControlModifier) return false;
   const QWidget& window = *static_cast<QWidget*>(watched)->window();
-  if (isPress && !isFields_ && trigger(window, QKeySequence(Qt::CTRL | latin))) return true;
+  if (isPress && !isFields_ && trigger(window, QKeySequence(key.modifiers() | latin))) return true;
   QKeyEvent same(event->type(), latin, key.modifiers(), key.text(), key.isAutoRepeat());
   QApplication::sendEvent(watched, &same);
   if (!isPress) isFields_ = same.isAccepted();

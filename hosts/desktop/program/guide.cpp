@@ -20,6 +20,7 @@ namespace awizo::desktop {
 namespace {
 
 constexpr int chapterLevel = 2;
+constexpr auto guideName = "guide";
 
 /// The guide's text, its pictures no wider than the window.
 class GuideText : public QTextBrowser {
@@ -67,11 +68,23 @@ void placeBeside(QWidget& guide, const QWidget& owner) {
              screen.top() + (screen.height() - guide.height()) / 2);
 }
 
+/// The one that is open beside the window, or null.
+QWidget* openedGuide(const QWidget& owner) {
+  return owner.findChild<QWidget*>(guideName, Qt::FindDirectChildrenOnly);
+}
+
+void show(QWidget& guide, const QString& chapter) {
+  static_cast<GuideText*>(guide.findChild<QTextBrowser*>())->goTo(chapter);
+  guide.raise();
+  guide.activateWindow();
+}
+
 }  // namespace
 
 void openGuide(QWidget& owner, const QString& chapter) {
+  if (QWidget* guide = openedGuide(owner)) return show(*guide, chapter);
   auto* window = new QDialog(&owner);
-  window->setObjectName("guide");
+  window->setObjectName(guideName);
   window->setAttribute(Qt::WA_DeleteOnClose);
   window->setWindowTitle(fromText(words::guideTitle));
   auto* contents = new QListWidget;
