@@ -34,6 +34,8 @@ const linesTable = "grdPozycje";
 const tables = [linesTable, "grdOpakowania"];
 /// A column of both tables that is always seen: the name.
 const nameColumns: Record<string, number> = { grdPozycje: 2, grdOpakowania: 3 };
+/// Tab, Enter, Escape, Insert, F2.
+const leadingKeys = new Set([9, 13, 27, 45, 113]);
 /// The whole document is looked at for how it stands: not at each key.
 const standingDelay = 100;
 const answers: Record<Box["buttons"], [string, string][]> = {
@@ -53,6 +55,11 @@ function isStep(command: Command): boolean {
 /// It leads to the buttons that no form has.
 function isWayToExtras(event: KeyboardEvent): boolean {
   return event.key === "F10" && !event.ctrlKey && !event.shiftKey && !event.altKey;
+}
+
+/// What is done may bring the focus elsewhere.
+function leads(line: Line): boolean {
+  return line["do"] === "click" || (line["do"] === "key" && leadingKeys.has(Number(line["code"])));
 }
 
 function isCopy(event: KeyboardEvent): boolean {
@@ -107,7 +114,8 @@ export class AwizoWysylki extends ControlElement {
   private typedInto: TypedInto = { fields: [], tables: [], lists: [] };
   private standingTimer: ReturnType<typeof setTimeout> | undefined;
   private readonly typing = new TypingWatch(this.root);
-  private readonly ahead = new KeysAhead(this.root, () => this.closingOf({ get: "focus" }));
+  private readonly ahead = new KeysAhead(
+    this.root, () => this.closingOf({ get: "focus" }), () => this.work !== undefined);
   /// Where the user has gone to another control and the core doesn't know it yet: what it says of the
   /// focus there is old.
   private readonly ways = new Set<{ view: FormView }>();
@@ -254,6 +262,7 @@ export class AwizoWysylki extends ControlElement {
         return this.strip.showSwitch(event.task, event.isOn);
       case "works":
         this.work = event;
+        this.ahead.forget();
         this.workBox.show(event);
         this.holdStill();
         return this.strip.tell(event.what);
@@ -299,7 +308,6 @@ export class AwizoWysylki extends ControlElement {
   /// While work lasts that nothing can stop, what the user does would be lost: nothing can be done.
   private holdStill(): void {
     const isStill = this.work !== undefined && !this.work.mayStop;
-    if (isStill) this.ahead.forget();
     for (const child of this.root.children) {
       (child as HTMLElement).inert = isStill && child !== this.box && child !== this.heard;
     }
@@ -490,9 +498,10 @@ export class AwizoWysylki extends ControlElement {
       act: async (on, line) => {
         if (line["do"] === "click") this.reveal(on);
         this.finishTyping(on);
+        const taken = this.closingOf({ ...line, on });
+        if (leads(line)) void this.ahead.wait();
         // What a user can't do now changes nothing.
-        const closing = await this.closingOf({ ...line, on });
-        if (!closing.ok) this.followModel();
+        if (!(await taken).ok) this.followModel();
       },
     };
   }
@@ -597,7 +606,6 @@ export class AwizoWysylki extends ControlElement {
     if (!isModels || top.focus === "" || isFromExtra) return;
     event.preventDefault();
     void this.host().act(top.focus, { do: "key", code: event.keyCode, shift: event.shiftKey });
-    void this.ahead.wait();
   }
 
   private keep(name: string, value: string): void {

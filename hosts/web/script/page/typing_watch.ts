@@ -6,7 +6,8 @@ export class TypingWatch {
   private lastWasReturn = false;
 
   constructor(root: ShadowRoot) {
-    root.addEventListener("beforeinput", (event) => this.begin(event.target));
+    // What a script types the browser doesn't take back.
+    root.addEventListener("beforeinput", (event) => (event.isTrusted ? this.begin(event.target) : this.forget()));
     root.addEventListener("input", (event) => {
       this.lastWasReturn = (event as InputEvent).inputType?.startsWith("history") ?? false;
     });
