@@ -179,17 +179,18 @@ export class AwizoWysylki extends ControlElement {
 
   /// `opens`: the user is asked for a file to open.
   private async begin(core: CoreClient, opens = false): Promise<void> {
-    // All is said at once: the core goes on while the page makes what it shows.
     const commands = Promise.all([
       core.say({ get: "commands" }), core.say({ get: "dialogCommands" }), core.say({ get: "typedInto" }),
     ]);
     const properties = this.readProperties();
+    const [menus, ofDialogs, typedInto] = await commands;
+    if (this.core !== core) return;
+    // Not sooner: the first changes make the forms, of commands and fields that are known by then. After a
+    // question of the start the core answers all that it was told before at once.
     for (const what of ["followDesk", "followSteps", "followFiles"]) void core.say({ do: what });
     const following = core.say({ do: "subscribe" });
     // Work that was gone on with is shown already.
     const showing = core.say({ do: "showUnlessShown" });
-    const [menus, ofDialogs, typedInto] = await commands;
-    if (this.core !== core) return;
     const shownMenus = (menus.value ?? []) as CommandMenu[];
     this.commands.take([...shownMenus.flatMap((menu) => menu.commands), ...((ofDialogs.value ?? []) as Command[])]);
     // It may be the start page's turn, which has no dialogs.

@@ -15,6 +15,21 @@ async function everythingIsThere(user: User): Promise<void> {
   assert.equal(await user.control("grdPozycje").getAttribute("aria-rowcount"), "26");
 }
 
+/// The words of the form's buttons.
+async function words(user: User): Promise<string[]> {
+  return user.editor.locator("main .form button[data-name]").allInnerTexts();
+}
+
+/// A scanner leads to the line of its product.
+async function scannerLeads(user: User): Promise<void> {
+  const lines = user.control("grdPozycje");
+  const { keyboard } = lines.page();
+  await user.goToFirstLine();
+  await keyboard.type(await lines.locator('[data-row="2"] [data-col="1"]').innerText());
+  await keyboard.press("Enter");
+  await lines.locator('[data-row="2"][aria-selected="true"]').waitFor();
+}
+
 await withPage(async (page) => {
   const user = new User(page);
   await user.open();
@@ -22,6 +37,8 @@ await withPage(async (page) => {
   await user.addPackage("Паллета 1", "035200010000000016");
   await user.packFirstLine();
   const asked = (await requests()).length;
+  const wordsBefore = await words(user);
+  assert.ok(wordsBefore.includes("Отправить"), wordsBefore.join(" | "));
 
   await page.reload();
   await user.question().waitFor();
@@ -39,6 +56,8 @@ await withPage(async (page) => {
 
   assert.match(await user.answer("goOn"), offer);
   await everythingIsThere(user);
+  assert.deepEqual(await words(user), wordsBefore);
+  await scannerLeads(user);
   assert.match(await user.editor.locator(".strip output").innerText(), /^Продолжена работа/);
 
   await user.editor.evaluate((element) => {
