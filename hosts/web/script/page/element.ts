@@ -406,7 +406,10 @@ export class AwizoWysylki extends ControlElement {
 
   private async openGuide(): Promise<void> {
     this.finishTyping();
+    const { core } = this;
     const closing = await this.closingOf({ get: "guideChapter" });
+    // The element may have left the page, and even be back.
+    if (this.core !== core || !this.isConnected) return;
     await this.guide.open(closing.ok ? String(closing.value) : "");
   }
 

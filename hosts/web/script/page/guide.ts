@@ -43,10 +43,11 @@ export class Guide {
       event.preventDefault();
       this.close();
     });
-    this.dialog = dialog;
-    this.before = this.root.activeElement as HTMLElement | null;
+    const before = this.root.activeElement as HTMLElement | null;
     this.root.append(dialog);
     dialog.showModal();
+    this.dialog = dialog;
+    this.before = before;
     text.focus();
     text.append(...(await fetchText().catch(() => [make("p", {}, [words.noGuide])])));
     contents.append(...[...text.querySelectorAll<HTMLElement>(chapters)].map((heading) => {

@@ -94,6 +94,20 @@ await withPage(async (page) => {
   await guide.waitFor();
   await leave();
 
+  // The element is taken out before the guide comes, and put back.
+  await user.editor.evaluate((element) => {
+    const place = element.parentElement!;
+    const button = element.shadowRoot!.querySelector<HTMLButtonElement>("button[title=F1]")!;
+    button.click();
+    element.remove();
+    place.append(element);
+  });
+  await user.editor.getByRole("button", { name: "С компьютера…" }).focus();
+  assert.equal(await guide.count(), 0);
+  await page.keyboard.press("F1");
+  await guide.getByRole("heading", { name: "Первый запуск" }).waitFor();
+  await leave();
+
   const hosts = new Set(fetched.filter((path) => path.includes("/guide/")).map((path) => path.replace(/[^/]*$/, "")));
   assert.deepEqual([...hosts].sort(), ["/vird/page/guide/", "/vird/page/guide/images/"]);
 });
