@@ -147,7 +147,10 @@ Program::Program(Beginning&& beginning, Machine& machine, Conversation& conversa
   };
   tape_.onTrouble = [this](const RunTimeError& error) { tellOfTrouble(error); };
   if (kept_.file() != nullptr) {
-    tape_.summary = [this] { return journal::textsOf(journal::summaryOf(control_, *clock_)); };
+    tape_.summary = [this] {
+      return journal::textsOf(
+          journal::summaryOf(control_, *clock_, [this] { return desk_.wouldBeLost(); }));
+    };
   }
   recording_.onLive = [this, record = std::move(beginning.record), time = beginning.time] {
     tellWhatIsOpen();

@@ -78,6 +78,8 @@ class ServedDesk {
   void serve(protocol::ControlAccess& access);
   /// Words on what was done, until the next thing is done.
   void tell(const std::string& words);
+  /// Whether the user would be asked before the document goes.
+  bool wouldBeLost() const { return watch_.wouldBeLost(); }
   /// Tells the current line, and the words on the package's number, where they aren't as they were
   /// told.
   void tellWords();

@@ -6,9 +6,14 @@ namespace awizo {
 
 std::string unfinishedWords(const journal::UnfinishedWork& work) {
   const journal::WorkSummary& summary = work.summary;
-  const std::string document = summary.number.empty() ? "документ без номера" : summary.number;
-  return joined({document, " от ", summary.time, ", упаковано ",
-                 std::to_string(summary.packedLines), " из ", std::to_string(summary.lines)});
+  const std::string_view nameless = work.orderArrived ? "полученный заказ" : "документ без номера";
+  std::string words = summary.number.empty() ? std::string(nameless) : summary.number;
+  if (!summary.time.empty()) words += joined({" от ", summary.time});
+  if (summary.lines > 0) {
+    words += joined({", упаковано ", std::to_string(summary.packedLines), " из ",
+                     std::to_string(summary.lines)});
+  }
+  return words;
 }
 
 Question unfinishedQuestion(const journal::UnfinishedWork& work) {

@@ -1,9 +1,12 @@
 #include "journal/loading.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
 
 #include "journal/record_file.h"
+#include "journal/tape.h"
+#include "journal/values.h"
 #include "platform/run_time_error.h"
 
 namespace awizo::journal {
@@ -135,9 +138,40 @@ void cutAfter(Records& records, std::size_t mostDeeds) {
   records.erase(tooMuch, records.end());
 }
 
-/// Cuts after the last moment at which the control waited.
+bool isReply(const Record& record) {
+  const bool outcome =
+      record.kind == RecordKind::outcome || record.kind == RecordKind::outcomeBeside;
+  return outcome && record.numbers[0] == static_cast<std::int64_t>(Source::reply) &&
+         record.numbers[1] == endedWell;
+}
+
+/// Whether no act was under way, and no form or box open within one.
+bool isUsersTurn(const Record& record) {
+  return record.kind == RecordKind::ready && !record.numbers.empty() && record.numbers[0] == 0;
+}
+
+/// Whether the reply to a request for the order came, and the act that asked hasn't ended since.
+bool hasOrderOfUnfinishedAct(const Records& records) {
+  bool asked = false;
+  bool arrived = false;
+  for (const Record& record : records) {
+    if (record.kind == RecordKind::request) {
+      asked = !record.numbers.empty() && record.numbers[0] != 0;
+    } else if (isReply(record)) {
+      arrived = arrived || asked;
+    } else if (isUsersTurn(record)) {
+      arrived = false;
+    }
+  }
+  return arrived;
+}
+
+/// Cuts after the last moment at which the control waited. An order is handed out once, so that
+/// what follows its reply stays.
 void cutUnfinished(RecordedSession& session) {
   Records& records = session.records;
+  session.orderArrived = hasOrderOfUnfinishedAct(records);
+  if (session.orderArrived) return;
   const auto unfinished =
       std::find_if(records.rbegin(), records.rend(), [](const Record& record) {
         return record.kind == RecordKind::ready || record.kind == RecordKind::digest;

@@ -15,12 +15,15 @@ namespace awizo::journal {
 struct RecordedSession {
   std::map<std::string, std::string> header;
   /// Up to the last moment at which the control waited for the user, acts that were refused or
-  /// taken back left out.
+  /// taken back left out. Where an order came after that, up to the end.
   std::vector<Record> records;
   std::size_t deeds = 0;
   std::vector<std::string> summary;  ///< the last one
   /// A request went out whose outcome isn't known.
   bool requestUnanswered = false;
+  /// The service handed out an order, and the act that asked for it didn't end: nobody but this
+  /// record has it.
+  bool orderArrived = false;
 };
 
 /// The first record of a file, and what of it is read back.

@@ -17,9 +17,11 @@ enum class RecordKind : std::uint8_t {
   undone = 6,   ///< the act before was refused and changed nothing
   answer = 7,   ///< to a message box
   viewHeight = 8,
-  ready = 9,     ///< the control waits for the user
-  digest = 10,   ///< of the whole state
-  request = 11,  ///< goes out now; without an outcome nobody knows whether it arrived
+  ready = 9,    ///< the control waits for the user
+  digest = 10,  ///< of the whole state
+  /// Goes out now, and whether it asks for the order, which older records don't say; without an
+  /// outcome nobody knows whether it arrived.
+  request = 11,
   summary = 12,  ///< what a person wants to know of the work so far
   closed = 13,   ///< the host hid the modal form that waited, without an act of the user
   /// The state is again what it was after an act, counted over the whole file, acts that were taken

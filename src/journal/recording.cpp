@@ -20,6 +20,7 @@ Recording::Recording(Tape& tape, TapedPlatform& taped, AwizoWysylki& control)
     : tape_(tape), control_(control) {
   control.screen.actObserver = &tape;
   tape.digest = [this] { return stateDigest(control_); };
+  tape.asksForOrder = [this] { return control_.editor.session.RunningExchange == Exchange::order; };
   tape.isRecorded = [this](const Form& form) {
     return std::ranges::any_of(control_.forms(), [&](const Form* own) { return own == &form; });
   };

@@ -12,10 +12,20 @@ namespace {
 
 constexpr std::size_t mostKeptPending = 1 << 16;
 
+/// Whether the control waited for the user after the last of these.
+bool endWaiting(const std::vector<Record>& records) {
+  return records.empty() || records.back().kind == RecordKind::ready ||
+         records.back().kind == RecordKind::digest;
+}
+
 }  // namespace
 
 Tape::Tape(std::vector<Record> replayed, GrowingFile* file, TextsBeside* texts)
-    : replayed_(std::move(replayed)), replaying_(!replayed_.empty()), file_(file), texts_(texts) {}
+    : replayed_(std::move(replayed)),
+      replaying_(!replayed_.empty()),
+      endsWithinAct_(!endWaiting(replayed_)),
+      file_(file),
+      texts_(texts) {}
 
 void Tape::write(const Record& record) {
   if (file_ == nullptr) return;
@@ -70,7 +80,7 @@ void Tape::writeDigest() {
 
 void Tape::request() {
   if (!running_ || replaying_) return;
-  write({RecordKind::request, {}, {}});
+  write({RecordKind::request, {asksForOrder && asksForOrder() ? 1 : 0}, {}});
   commit();
 }
 
@@ -236,8 +246,14 @@ void Tape::absorbReturn(const Record& record) {
          {}});
 }
 
-Record Tape::takeOutcome(Source source) {
+bool Tape::replaysOn() {
+  if (!replaying_) return false;
   absorb();
+  if (endsWithinAct_ && next_ == replayed_.size()) goLive();
+  return replaying_;
+}
+
+Record Tape::takeOutcome(Source source) {
   if (next_ == replayed_.size()) differs("something that wasn't asked before");
   // Moved, since a reply can be large.
   Record record = std::move(replayed_[next_]);
@@ -272,7 +288,12 @@ const Record* Tape::nextDeed() {
 
 void Tape::goLive() {
   replaying_ = false;
-  commit();
+  if (endsWithinAct_ && !running_) {
+    // The act has ended in the replay, so that nobody has written yet that the control waits.
+    ready();
+  } else {
+    commit();
+  }
   if (listener != nullptr) listener->replayEnds();
   // The records stay: the acts that are under way hold their texts.
   if (onLive) onLive();

@@ -76,7 +76,7 @@ class DeedListener {
 
 /// Stands between a control and all that reaches it. It writes down what comes in; and while it has
 /// records to replay, it hands out what they hold instead of asking the surroundings. After the
-/// last record it goes on as if it had only written.
+/// last record it goes on as if it had only written, within an act too where the record ends there.
 class Tape : public ActObserver {
  public:
   /// Nothing is written where `file` is null. Long texts go to `texts`, where there is one.
@@ -89,6 +89,8 @@ class Tape : public ActObserver {
   /// What a person wants to know of the work so far, asked whenever the control waits; none:
   /// nothing.
   std::function<std::vector<std::string>()> summary;
+  /// Whether the request that goes out now asks for the order; none: never.
+  std::function<bool()> asksForOrder;
   /// Told once when the file can't be written any more; the work goes on without it.
   std::function<void(const RunTimeError& error)> onTrouble;
   /// Told when the last record has been replayed and the user's turn comes.
@@ -170,6 +172,8 @@ class Tape : public ActObserver {
   void goLive();
   /// Takes what stands before the next outcome or deed.
   void absorb();
+  /// Whether what is asked now is replayed. It isn't once a record is over that ends within an act.
+  bool replaysOn();
   Record takeOutcome(Source source);
   void absorbReturn(const Record& record);
   void checkDigest(const Record& record) const;
@@ -177,6 +181,7 @@ class Tape : public ActObserver {
   std::vector<Record> replayed_;
   std::size_t next_ = 0;
   bool replaying_;
+  bool endsWithinAct_;  ///< the records end where the control didn't wait for the user
   GrowingFile* file_;
   TextsBeside* texts_;
   std::string pending_;
@@ -201,7 +206,7 @@ template <class Call>
 auto Tape::outcome(Source source, Call&& call, Asked asked) {
   using Value = decltype(call());
   if (!isTaped()) return call();
-  if (replaying_) {
+  if (replaysOn()) {
     const Record record = takeOutcome(source);
     return asked == Asked::asRecorded ? recordedValue<Value>(record, 0) : call();
   }
@@ -217,8 +222,7 @@ auto Tape::fact(Source source, std::string_view about, Call&& call) {
   using Value = decltype(call());
   if (!isTaped()) return call();
   const std::pair key{source, std::string(about)};
-  if (replaying_) {
-    absorb();
+  if (replaysOn()) {
     const auto found = facts_.find(key);
     if (found == facts_.end()) differs("a question that nobody asked before");
     return recordedValue<Value>(found->second, 1);

@@ -14,23 +14,29 @@ class TapedRequest : public HttpRequest {
       : tape_(tape), real_(std::move(real)) {}
 
   void open(std::string_view method, std::string_view url) override {
-    tape_.outcome(Source::openRequest, [&] { real_->open(method, url); });
+    tape_.outcome(Source::openRequest, [&] { real().open(method, url); });
   }
   void setHeader(std::string_view name, std::string_view value) override {
-    tape_.outcome(Source::setHeader, [&] { real_->setHeader(name, value); });
+    tape_.outcome(Source::setHeader, [&] { real().setHeader(name, value); });
   }
   void send(std::string_view body) override {
     tape_.request();
-    tape_.outcome(Source::send, [&] { real_->send(body); });
+    tape_.outcome(Source::send, [&] { real().send(body); });
   }
   /// An order is handed out once, so that its reply must be on the disk at once.
   std::string responseText() override {
-    std::string text = tape_.outcome(Source::reply, [&] { return real_->responseText(); });
+    std::string text = tape_.outcome(Source::reply, [&] { return real().responseText(); });
     tape_.flush();
     return text;
   }
 
  private:
+  /// A replay that ends within an exchange has nothing to go on with.
+  HttpRequest& real() {
+    if (!real_) throw errors::objectNotSet();
+    return *real_;
+  }
+
   Tape& tape_;
   std::unique_ptr<HttpRequest> real_;
 };

@@ -46,7 +46,8 @@ std::uint64_t sizeOf(const std::vector<FoundRecord>& records) {
 
 }  // namespace
 
-WorkSummary summaryOf(const AwizoWysylki& control, const Clock& clock) {
+WorkSummary summaryOf(const AwizoWysylki& control, const Clock& clock,
+                      const std::function<bool()>& wouldBeLost) {
   const AwizoForm& form = control.form;
   WorkSummary summary;
   summary.number = form.txtNrAwiza.text();
@@ -57,7 +58,7 @@ WorkSummary summaryOf(const AwizoWysylki& control, const Clock& clock) {
     if (!form.grdPozycje.cell(row, GRD_POZ_PACK_REFS).empty()) ++summary.packedLines;
   }
   const bool isSent = !form.LastSentNumber.empty() && form.LastSentNumber == summary.number;
-  summary.isUnsent = summary.lines > 0 && !isSent;
+  summary.isUnsent = (summary.lines > 0 && !isSent) || wouldBeLost();
   return summary;
 }
 
@@ -86,8 +87,9 @@ std::optional<UnfinishedWork> unfinishedWork(RecordFolder& folder) {
     try {
       const RecordedSession session = recordedSession(folder.read(record.name));
       const std::optional<WorkSummary> summary = summaryIn(session.summary);
-      if (summary && summary->isUnsent) {
-        return UnfinishedWork{record.name, *summary, session.requestUnanswered};
+      if (session.orderArrived || (summary && summary->isUnsent)) {
+        return UnfinishedWork{record.name, summary.value_or(WorkSummary{}),
+                              session.requestUnanswered, session.orderArrived};
       }
       folder.remove(record.name);
     } catch (const RunTimeError&) {

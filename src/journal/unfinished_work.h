@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,13 +17,18 @@ struct WorkSummary {
   std::string orderNumber;
   std::string time;  ///< of the last act, "23:14"
   int lines = 0;
-  int packedLines = 0;    ///< lines of which something lies in packages
-  bool isUnsent = false;  ///< there are lines, and the service hasn't taken them under this number
+  int packedLines = 0;  ///< lines of which something lies in packages
+  /// There are lines that the service hasn't taken under this number, or the user would be asked
+  /// before the document goes.
+  bool isUnsent = false;
   bool operator==(const WorkSummary&) const = default;
 };
 
-/// Of a control as it is now. Quick enough to be asked after every act.
-WorkSummary summaryOf(const AwizoWysylki& control, const Clock& clock);
+/// Of a control as it is now. Quick enough to be asked after every act: the whole document is
+/// looked at only where the rest doesn't tell. `wouldBeLost`: whether the user would be asked
+/// before the document goes.
+WorkSummary summaryOf(const AwizoWysylki& control, const Clock& clock,
+                      const std::function<bool()>& wouldBeLost);
 
 // A summary as a record has it; none for texts of another form.
 std::vector<std::string> textsOf(const WorkSummary& summary);
@@ -34,6 +40,8 @@ struct UnfinishedWork {
   WorkSummary summary;
   /// A request went out last whose answer never came: the document may have arrived.
   bool mayHaveArrived = false;
+  /// An order had come and wasn't in the tables yet: the work goes on with putting it there.
+  bool orderArrived = false;
 };
 
 /// The work left behind last. Records in use are somebody else's; those without unsent work are

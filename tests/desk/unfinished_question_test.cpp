@@ -20,6 +20,14 @@ TEST(UnfinishedQuestion, KnowsADocumentWithoutANumber) {
   EXPECT_TRUE(unfinishedQuestion(unnamed).text.starts_with("Продолжить документ без номера от "));
 }
 
+TEST(UnfinishedQuestion, CountsNoLinesWhereThereAreNone) {
+  journal::UnfinishedWork order{"a.record", {"", "", "23:14", 0, 0, false}, false, true};
+  EXPECT_TRUE(unfinishedQuestion(order).text.starts_with(
+      "Продолжить полученный заказ от 23:14?\r\n\r\n«Начать"));
+  order.summary.number = "ТН-6";
+  EXPECT_TRUE(unfinishedQuestion(order).text.starts_with("Продолжить ТН-6 от 23:14?"));
+}
+
 TEST(UnfinishedQuestion, SaysWhatMayHaveArrived) {
   EXPECT_EQ(unfinishedQuestion(work()).text.find("мог дойти"), std::string::npos);
   journal::UnfinishedWork sent = work();

@@ -6,6 +6,7 @@
 #include "desk/document_watch.h"
 #include "desktop_program/program_test.h"
 #include "journal/loading.h"
+#include "journal/record_file.h"
 #include "platform/run_time_error.h"
 #include "support/files/files.h"
 #include "support/programs/conversation.h"
@@ -92,6 +93,42 @@ TEST_F(UnfinishedWorkTest, GoesOnInTheDialogInWhichItEnded) {
   open(onLineOptions(service));
   EXPECT_TRUE(seenAgain);
   EXPECT_EQ(control().editor.session.IloscPozycjiOpak, 0);
+}
+
+TEST_F(UnfinishedWorkTest, IsAnOrderThatNoTableHeldWhenTheProgramBrokeOff) {
+  agreeTo(service);
+  open(onLineOptions(service));
+  const fs::path record = path / folder.records()[0].name;
+  crash();
+  const std::vector<journal::Record> whole = journal::wholeRecords(readFile(record)).records;
+  const auto reply = std::ranges::find_if(whole, [](const journal::Record& entry) {
+    return !entry.texts.empty() && entry.texts[0].find("<Document-Order>") != std::string::npos;
+  });
+  ASSERT_NE(reply, whole.end());
+  std::string bytes = journal::fileBeginning();
+  std::for_each(whole.begin(), reply + 1,
+                [&](const journal::Record& entry) { bytes += journal::framed(entry); });
+  writeFile(record, bytes);
+  const std::size_t requests = service.requests().size();
+
+  openAgain("&Продолжить");
+  EXPECT_NE(asked.find("Продолжить полученный заказ от 10:15?"), asked.npos) << asked;
+  EXPECT_EQ(control().editor.session.LineCount, 25);
+  EXPECT_EQ(service.requests().size(), requests);
+  EXPECT_TRUE(widget().watch().wouldBeLost());
+  crash();
+  openAgain("&Продолжить");
+  EXPECT_EQ(control().editor.session.LineCount, 25);
+}
+
+TEST_F(UnfinishedWorkTest, IsWhatAWindowWouldAskAboutWithoutALineToo) {
+  open(offLineOptions());
+  form().txtNrAwiza.userType("ТН-6");
+  crash();
+  answerNext("&Продолжить", &asked);
+  open(offLineOptions());
+  EXPECT_NE(asked.find("Продолжить ТН-6 от 10:15?"), asked.npos) << asked;
+  EXPECT_EQ(form().txtNrAwiza.text(), "ТН-6");
 }
 
 TEST_F(UnfinishedWorkTest, IsGoneWhereItsUserStartsAfresh) {

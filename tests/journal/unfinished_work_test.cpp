@@ -6,6 +6,7 @@
 
 #include "journal/loading.h"
 #include "journal/record_file.h"
+#include "journal/tape.h"
 #include "journal/texts_beside.h"
 #include "platform/run_time_error.h"
 #include "support/control/test_control.h"
@@ -91,6 +92,32 @@ TEST(UnfinishedWork, MayHaveArrivedWhereTheAnswerNeverCame) {
   EXPECT_TRUE(journal::unfinishedWork(folder)->mayHaveArrived);
 }
 
+TEST(UnfinishedWork, IsAnOrderThatNoTableHoldsYet) {
+  using journal::Record;
+  using journal::RecordKind;
+  constexpr auto reply = static_cast<std::int64_t>(journal::Source::reply);
+  const std::string asked = recordOf({}) + journal::framed({RecordKind::request, {1}, {}});
+  const std::string arrived =
+      asked + journal::framed({RecordKind::outcome, {reply, 0}, {"<order/>"}});
+  const std::string asksUser = arrived + journal::framed({RecordKind::ready, {1}, {}});
+  for (const std::string& bytes : {arrived, asksUser}) {
+    MemoryFolder folder;
+    folder.entries = {{"a", {bytes, 10}}};
+    const auto work = journal::unfinishedWork(folder);
+    ASSERT_TRUE(work);
+    EXPECT_TRUE(work->orderArrived);
+    EXPECT_FALSE(work->mayHaveArrived);
+  }
+  const std::string refused =
+      asked + journal::framed({RecordKind::outcome, {reply, 1, 53}, {"File not found"}});
+  const std::string ended = arrived + journal::framed({RecordKind::ready, {0}, {}});
+  for (const std::string& bytes : {refused, ended}) {
+    MemoryFolder folder;
+    folder.entries = {{"a", {bytes, 10}}};
+    EXPECT_FALSE(journal::unfinishedWork(folder));
+  }
+}
+
 TEST(UnfinishedWork, IsNoneWhereAllWasSentAndThenNothingIsKept) {
   MemoryFolder folder;
   folder.entries = {{"a", {recordOf(sent()), 10}}, {"b", {recordOf({}), 20}}};
@@ -155,21 +182,36 @@ TEST(KeptSession, IsWholeOrAnError) {
   EXPECT_EQ(errorNumberOf([&] { journal::keptSession(folder, "a"); }), 13);
 }
 
-TEST(WorkSummary, SaysHowFarTheWorkIs) {
+struct WorkSummaryTest : testing::Test {
   TestControl desk;
-  EXPECT_EQ(journal::summaryOf(desk.control, desk.clock),
-            (WorkSummary{"", "", "10:15", 0, 0, false}));
+  bool wouldBeLost = false;
+
+  WorkSummary summary() const {
+    return journal::summaryOf(desk.control, desk.clock, [this] { return wouldBeLost; });
+  }
+};
+
+TEST_F(WorkSummaryTest, SaysHowFarTheWorkIs) {
+  EXPECT_EQ(summary(), (WorkSummary{"", "", "10:15", 0, 0, false}));
   desk.form.grdPozycje.setRows(3);
   desk.session.LineCount = 2;
   desk.form.grdPozycje.setCell(2, GRD_POZ_PACK_REFS, "2@A@1@1,000");
   desk.form.txtNrAwiza.setText("ТН-6");
   desk.form.txtNrZam.setText("ЗК-1");
-  EXPECT_EQ(journal::summaryOf(desk.control, desk.clock),
-            (WorkSummary{"ТН-6", "ЗК-1", "10:15", 2, 1, true}));
+  EXPECT_EQ(summary(), (WorkSummary{"ТН-6", "ЗК-1", "10:15", 2, 1, true}));
   desk.form.LastSentNumber = "ТН-5";
-  EXPECT_TRUE(journal::summaryOf(desk.control, desk.clock).isUnsent);
+  EXPECT_TRUE(summary().isUnsent);
   desk.form.LastSentNumber = "ТН-6";
-  EXPECT_FALSE(journal::summaryOf(desk.control, desk.clock).isUnsent);
+  EXPECT_FALSE(summary().isUnsent);
+}
+
+TEST_F(WorkSummaryTest, CountsWhatTheUserWouldBeAskedAboutAsUnsent) {
+  wouldBeLost = true;
+  EXPECT_TRUE(summary().isUnsent) << "a document without a line";
+  desk.session.LineCount = 2;
+  desk.form.txtNrAwiza.setText("ТН-6");
+  desk.form.LastSentNumber = "ТН-6";
+  EXPECT_TRUE(summary().isUnsent) << "one that was changed after it had been sent";
 }
 
 TEST(WorkSummary, IsReadBackAndNothingElse) {

@@ -266,7 +266,8 @@ void AwizoWysylkiWidget::connectRecording() {
   Parts& parts = *parts_;
   parts.tape.summary = [&parts] {
     const auto& clock = parts.surroundings.platform.clock;
-    return journal::textsOf(journal::summaryOf(parts.control, clock));
+    return journal::textsOf(
+        journal::summaryOf(parts.control, clock, [&parts] { return parts.watch.wouldBeLost(); }));
   };
   parts.history.onChange = [this] { emit historyChanged(); };
   parts.tape.onTrouble = [this](const RunTimeError& error) { tellOfRecording(diskRefusal(error)); };
