@@ -40,6 +40,11 @@ await withPage(async (page) => {
   await user.control("btnEdytuj").click();
   await user.dialog("DlgDodaj").waitFor();
   await isSound("line dialog");
+  await page.keyboard.press("Control+g");
+  await user.dialog("DlgIsoCodes").waitFor();
+  await isSound("countries");
+  await page.keyboard.press("Escape");
+  await user.dialog("DlgIsoCodes").waitFor({ state: "detached" });
   await user.control("DlgDodaj.Command1").click();
   await user.dialog("DlgdodajPule").waitFor();
   await isSound("quantity dialog");
@@ -77,11 +82,33 @@ await withPage(async (page) => {
   await isSound("guide");
   await page.keyboard.press("Escape");
 
+  const lines = user.control("grdPozycje");
+  for (const [key, form] of [["Control+f", "FindDialog"], ["F8", "FaultList"], ["F7", "PackagesDialog"], ["Control+d", "DistributionDialog"]]) {
+    await lines.press(key!);
+    await user.dialog(form!).waitFor();
+    await isSound(form!);
+    await page.keyboard.press("Escape");
+    await user.dialog(form!).waitFor({ state: "detached" });
+  }
+  await user.choose("showNumbers");
+  await user.dialog("NumberRangeDialog").waitFor();
+  await isSound("number range");
+  await page.keyboard.press("Escape");
+  await user.dialog("NumberRangeDialog").waitFor({ state: "detached" });
+
   await user.control("btnWczytaj").click();
   await user.editor.getByRole("alertdialog").waitFor();
   await isSound("question");
   await user.answer("letGo");
   await user.dialog("DlgWczytajZapisz").waitFor();
   await isSound("file dialog");
+
+  await user.editor.evaluate((element) => {
+    const other = document.createElement("awizo-wysylki");
+    other.setAttribute("folder", "/OTHER");
+    element.replaceWith(other);
+  });
+  await user.control("btnOffLine").waitFor();
+  await isSound("start page");
 });
 console.log("Nothing in the page is closed to those who don't see it.");
