@@ -39,7 +39,15 @@ void NumberOffer::opened() {
   }
 }
 
+void NumberOffer::dropOthers() {
+  if (waiting_.empty()) return;
+  const std::optional<NumberRange> range = numbers_.range();
+  std::erase_if(waiting_,
+                [&](const std::string& number) { return !range || !serialIn(*range, number); });
+}
+
 void NumberOffer::takeFor(std::size_t count) {
+  dropOthers();
   const std::vector<std::string> shown = numbersInTable();
   const std::set<std::string> own(shown.begin(), shown.end());
   std::erase_if(waiting_, [&](const std::string& number) { return own.contains(number); });
@@ -56,13 +64,16 @@ void NumberOffer::prepare(std::size_t count) {
 std::string NumberOffer::wordsFor(std::size_t count) {
   std::string told;
   caughtError([&] {
+    dropOthers();
     const std::optional<NumberRange> range = numbers_.range();
+    const std::vector<HandedPart> handed = numbers_.handedOut();
     if (!range) {
       told = "Номера упаковок не заданы, а без номера упаковку не добавить.";
-    } else if (const std::uint64_t left = numbersLeft(*range) + waiting_.size(); left < count) {
+    } else if (const std::uint64_t left = numbersLeft(*range, handed) + waiting_.size();
+               left < count) {
       told = joined({"Номеров не хватит: осталось ", std::to_string(left), "."});
     } else {
-      told = leftWords(*range);
+      told = leftWords(*range, handed);
     }
   });
   return told;
@@ -116,8 +127,10 @@ std::string NumberOffer::words() {
     const bool isMissed = number.empty() && dialog_.AddMode;
     if (const auto use = numbers_.useElsewhere(number, document())) {
       told = useWords(*use);
-    } else if (range && (isOffered(number) || (isMissed && numbersLeft(*range) == 0))) {
-      told = leftWords(*range);
+    } else if (range && (isMissed || isOffered(number))) {
+      const std::vector<HandedPart> handed = numbers_.handedOut();
+      const bool isEnd = numbersLeft(*range, handed) == 0;
+      if (isEnd || !isMissed) told = leftWords(*range, handed);
     }
   });
   return told;

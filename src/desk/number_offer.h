@@ -52,6 +52,8 @@ class NumberOffer {
   bool isOffered(std::string_view number) const {
     return !waiting_.empty() && waiting_.front() == number;
   }
+  /// Numbers that aren't of the stored range any more wait no longer.
+  void dropOthers();
   /// So many numbers wait to be accepted, fewer where there are no more.
   void takeFor(std::size_t count);
   void offer();

@@ -54,18 +54,20 @@ void NumberRangeDialog::show(std::string sellerILN) {
 }
 
 void NumberRangeDialog::fill() {
-  std::optional<NumberRange> range;
+  stored_.reset();
   handed_.clear();
   caughtError([&] {
-    range = numbers_.range();
-    for (const HandedPart& part : numbers_.handedOut()) handed_ += "\n" + handedWords(part);
+    stored_ = numbers_.range();
+    handed_ = numbers_.handedOut();
   });
+  const std::optional<NumberRange>& range = stored_;
   txtExtension.setText(range ? range->extension : "0");
   txtPrefix.setText(range ? range->prefix : "");
   txtFirst.setText(range ? std::to_string(range->first) : "1");
   txtLast.setText(range ? std::to_string(range->last) : "");
   txtNext.setText(range ? std::to_string(range->next) : "");
   filled_ = fieldTexts();
+  filledNext_ = txtNext.text();
 }
 
 std::string NumberRangeDialog::fieldTexts() const {
@@ -82,17 +84,31 @@ std::optional<NumberRange> NumberRangeDialog::typedRange(std::string& refusal) c
 void NumberRangeDialog::tell() {
   std::string refusal;
   const std::optional<NumberRange> range = typedRange(refusal);
-  const bool hasNext = range && numbersLeft(*range) > 0;
+  const bool hasNext = range && numbersLeft(*range, handed_) > 0;
   lblExample.setCaption(hasNext ? "Следующий номер: " + containerNumber(*range, range->next) : "");
-  lblLeft.setCaption(range ? joined({leftWords(*range), handed_}) : "");
-  lblDoubt.setCaption(range ? prefixDoubt(*range, sellerILN_) : refusal);
+  std::string left = range ? leftWords(*range, handed_) : "";
+  for (const HandedPart& part : handed_) {
+    if (range) left += "\n" + handedWords(part);
+  }
+  lblLeft.setCaption(left);
+  lblDoubt.setCaption(range ? doubt(*range) : refusal);
+}
+
+std::string NumberRangeDialog::doubt(const NumberRange& range) const {
+  const std::string prefix = prefixDoubt(range, sellerILN_);
+  const bool goesBack = stored_ && areAlike(*stored_, range) && range.next < stored_->next;
+  if (!goesBack) return prefix;
+  return joined(
+      {prefix, prefix.empty() ? "" : "\n", "Номера, которые уже выданы, будут пропущены."});
 }
 
 void NumberRangeDialog::btnSave_Click() {
   std::string refusal;
   const std::optional<NumberRange> range = typedRange(refusal);
   if (!range) return lblDoubt.setCaption(refusal);
-  const auto error = caughtError([&] { numbers_.setRange(*range); });
+  // Another window may have taken numbers since the fields were filled.
+  const NextSerial next = isNextChanged() ? NextSerial::asSaid : NextSerial::notBack;
+  const auto error = caughtError([&] { numbers_.setRange(*range, next); });
   if (error) return lblDoubt.setCaption(joined({"Не сохранено: ", diskRefusal(*error), "."}));
   hide();
 }

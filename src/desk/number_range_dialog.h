@@ -28,15 +28,20 @@ class NumberRangeDialog : public Form {
  private:
   void fill();
   std::string fieldTexts() const;
+  bool isNextChanged() const { return txtNext.text() != filledNext_; }
   std::optional<NumberRange> typedRange(std::string& refusal) const;
   void tell();
+  /// What may be wrong with the range; empty where nothing is.
+  std::string doubt(const NumberRange& range) const;
   void btnSave_Click();
   void btnHandOut_Click();
 
   GivenNumbers& numbers_;
   std::string sellerILN_;
   std::string filled_;  ///< the fields' texts, as nobody has changed them yet
-  std::string handed_;  ///< parts that other places have, each on a line of its own
+  std::string filledNext_;
+  std::optional<NumberRange> stored_;  ///< as it was when the fields were filled
+  std::vector<HandedPart> handed_;     ///< parts that other places have
 };
 
 }  // namespace awizo

@@ -17,31 +17,28 @@ std::string wordOf(std::string_view document) {
   return replaceAll(withoutControlCharacters(std::string(document)), " ", "\u00a0");
 }
 
-bool isPartOf(const NumberRange& range, const HandedPart& part) {
-  return part.range.extension == range.extension && part.range.prefix == range.prefix;
-}
-
 /// The part that this serial of the range is in; null for none.
 const HandedPart* partWith(const std::vector<HandedPart>& parts, const NumberRange& range,
                            std::uint64_t serial) {
   const auto found = std::ranges::find_if(parts, [&](const HandedPart& part) {
-    return isPartOf(range, part) && part.range.first <= serial && serial <= part.range.last;
+    return areAlike(part.range, range) && part.range.first <= serial && serial <= part.range.last;
   });
   return found == parts.end() ? nullptr : &*found;
 }
 
 }  // namespace
 
-std::string handedWords(const HandedPart& part) {
-  return joined({"отданы ", std::to_string(part.range.first), "–", std::to_string(part.range.last),
-                 ": ", part.place, ", ", part.date.substr(8), ".", part.date.substr(5, 2), ".",
-                 part.date.substr(0, 4)});
-}
-
 std::optional<NumberRange> GivenNumbers::range() { return rangeInStore(store_.read(rangeName)); }
 
-void GivenNumbers::setRange(const NumberRange& range) {
-  store_.alone([&] { store_.replace(rangeName, storedText(range)); });
+void GivenNumbers::setRange(const NumberRange& range, NextSerial next) {
+  store_.alone([&] {
+    NumberRange fresh = range;
+    const std::optional<NumberRange> stored = this->range();
+    if (next == NextSerial::notBack && stored && areAlike(*stored, fresh)) {
+      fresh.next = std::clamp(stored->next, fresh.next, fresh.last + 1);
+    }
+    store_.replace(rangeName, storedText(fresh));
+  });
 }
 
 std::vector<std::string> GivenNumbers::take(std::size_t count, std::string_view document,
@@ -53,13 +50,14 @@ std::vector<std::string> GivenNumbers::take(std::size_t count, std::string_view 
     catchUp();
     const std::vector<HandedPart> parts = handedOut();
     const std::uint64_t before = stored->next;
-    for (; taken.size() < count && numbersLeft(*stored) > 0; ++stored->next) {
+    for (; taken.size() < count && stored->next <= stored->last; ++stored->next) {
       if (const HandedPart* part = partWith(parts, *stored, stored->next)) {
         stored->next = std::min(part->range.last, stored->last);
         continue;
       }
       std::string number = containerNumber(*stored, stored->next);
-      const bool isFree = !own.contains(number) && !knownElsewhere(number, document);
+      const bool isFree =
+          !own.contains(number) && !wasGiven(number) && !knownElsewhere(number, document);
       if (isFree) taken.push_back(std::move(number));
     }
     // What isn't stored isn't given.
@@ -73,16 +71,19 @@ std::optional<NumberRange> GivenNumbers::handOut(std::uint64_t count, std::strin
   std::optional<NumberRange> part;
   store_.alone([&] {
     std::optional<NumberRange> stored = range();
-    if (!stored || count == 0 || numbersLeft(*stored) == 0) return;
+    if (!stored || count == 0) return;
+    catchUp();
+    const std::uint64_t lowest = afterGiven(*stored);
+    if (lowest > stored->last) return;
     const std::vector<HandedPart> parts = handedOut();
     // A longer range may end in what was handed out before, and have some of it further back.
     while (const HandedPart* given = partWith(parts, *stored, stored->last)) {
-      if (given->range.first <= stored->next) return;
+      if (given->range.first <= lowest) return;
       stored->last = given->range.first - 1;
     }
-    std::uint64_t first = stored->last + 1 - std::min(count, numbersLeft(*stored));
+    std::uint64_t first = stored->last + 1 - std::min(count, stored->last + 1 - lowest);
     for (const HandedPart& given : parts) {
-      const bool isBefore = isPartOf(*stored, given) && given.range.last < stored->last;
+      const bool isBefore = areAlike(*stored, given.range) && given.range.last < stored->last;
       if (isBefore) first = std::max(first, given.range.last + 1);
     }
     part = *stored;
@@ -118,12 +119,9 @@ void GivenNumbers::noteUse(const std::vector<std::string>& numbers, std::string_
     catchUp();
     std::vector<std::string> fresh;
     for (const std::string& number : numbers) {
-      const auto known = entries_.find(number);
-      const bool isKnown =
-          known != entries_.end() && std::ranges::any_of(known->second, [&](const Entry& entry) {
-            return entry.isUsed && entry.use.document == document &&
-                   isWithinTwelveMonths(entry.use.date);
-          });
+      const bool isKnown = lastEntry(number, [&](const Entry& entry) {
+        return entry.isUsed && entry.use.document == document;
+      });
       if (!isKnown) fresh.push_back(number);
     }
     record("used", fresh, document);
@@ -136,16 +134,35 @@ std::optional<NumberUse> GivenNumbers::useElsewhere(std::string_view number,
   return knownElsewhere(std::string(number), document);
 }
 
+template <class Fits>
+const GivenNumbers::Entry* GivenNumbers::lastEntry(const std::string& number,
+                                                   const Fits& fits) const {
+  const auto known = entries_.find(number);
+  if (known == entries_.end()) return nullptr;
+  const auto last = std::find_if(
+      known->second.rbegin(), known->second.rend(),
+      [&](const Entry& entry) { return fits(entry) && isWithinTwelveMonths(entry.use.date); });
+  return last == known->second.rend() ? nullptr : &*last;
+}
+
 std::optional<NumberUse> GivenNumbers::knownElsewhere(const std::string& number,
                                                       std::string_view document) const {
-  const auto known = entries_.find(number);
-  if (known == entries_.end()) return std::nullopt;
-  std::optional<NumberUse> last;
-  for (const Entry& entry : known->second) {
-    const bool isElsewhere = entry.use.document != document;
-    if (entry.isUsed && isElsewhere && isWithinTwelveMonths(entry.use.date)) last = entry.use;
+  const Entry* last = lastEntry(
+      number, [&](const Entry& entry) { return entry.isUsed && entry.use.document != document; });
+  return last == nullptr ? std::nullopt : std::optional(last->use);
+}
+
+bool GivenNumbers::wasGiven(const std::string& number) const {
+  return lastEntry(number, [](const Entry& entry) { return !entry.isUsed; }) != nullptr;
+}
+
+std::uint64_t GivenNumbers::afterGiven(const NumberRange& range) const {
+  std::uint64_t after = range.next;
+  for (const auto& [number, entries] : entries_) {
+    const std::optional<std::uint64_t> serial = serialIn(range, number);
+    if (serial && *serial >= after && wasGiven(number)) after = *serial + 1;
   }
-  return last;
+  return after;
 }
 
 void GivenNumbers::catchUp() {

@@ -38,7 +38,23 @@ std::uint64_t mostOf(std::size_t digits) {
   return most - 1;
 }
 
+/// How many serials from this one to the range's last are in no part.
+std::uint64_t serialsFrom(std::uint64_t serial, const NumberRange& range,
+                          const std::vector<HandedPart>& handed) {
+  std::uint64_t count = range.last + 1 - serial;
+  for (const HandedPart& part : handed) {
+    const std::uint64_t first = std::max(part.range.first, serial);
+    const std::uint64_t last = std::min(part.range.last, range.last);
+    if (areAlike(part.range, range) && first <= last) count -= last + 1 - first;
+  }
+  return count;
+}
+
 }  // namespace
+
+bool areAlike(const NumberRange& one, const NumberRange& other) {
+  return one.extension == other.extension && one.prefix == other.prefix;
+}
 
 std::size_t serialDigits(std::string_view prefix) { return freeDigits - prefix.size(); }
 
@@ -77,19 +93,36 @@ std::string containerNumber(const NumberRange& range, std::uint64_t serial) {
   return digits + std::to_string(containerCheckDigit(digits));
 }
 
-std::uint64_t numbersLeft(const NumberRange& range) { return range.last + 1 - range.next; }
-
-bool isNearlyUsedUp(const NumberRange& range) {
-  const std::uint64_t all = range.last - range.first + 1;
-  return numbersLeft(range) <= all / 10;
+std::optional<std::uint64_t> serialIn(const NumberRange& range, std::string_view number) {
+  const std::string start = range.extension + range.prefix;
+  if (!number.starts_with(start)) return std::nullopt;
+  const auto serial =
+      wholeNumber(number.substr(start.size()).substr(0, serialDigits(range.prefix)));
+  const bool isInside = serial && range.first <= *serial && *serial <= range.last;
+  return isInside && containerNumber(range, *serial) == number ? serial : std::nullopt;
 }
 
-std::string leftWords(const NumberRange& range) {
-  if (numbersLeft(range) == 0) {
+std::uint64_t numbersLeft(const NumberRange& range, const std::vector<HandedPart>& handed) {
+  return serialsFrom(range.next, range, handed);
+}
+
+bool isNearlyUsedUp(const NumberRange& range, const std::vector<HandedPart>& handed) {
+  return numbersLeft(range, handed) <= serialsFrom(range.first, range, handed) / 10;
+}
+
+std::string leftWords(const NumberRange& range, const std::vector<HandedPart>& handed) {
+  const std::uint64_t left = numbersLeft(range, handed);
+  if (left == 0) {
     return "Номера кончились: задайте новый диапазон в «Бумаги → Номера упаковок».";
   }
-  const std::string left = "осталось номеров: " + std::to_string(numbersLeft(range));
-  return isNearlyUsedUp(range) ? "Номера кончаются, " + left : left;
+  const std::string words = "осталось номеров: " + std::to_string(left);
+  return isNearlyUsedUp(range, handed) ? "Номера кончаются, " + words : words;
+}
+
+std::string handedWords(const HandedPart& part) {
+  return joined({"отданы ", std::to_string(part.range.first), "–", std::to_string(part.range.last),
+                 ": ", part.place, ", ", part.date.substr(8), ".", part.date.substr(5, 2), ".",
+                 part.date.substr(0, 4)});
 }
 
 std::string prefixDoubt(const NumberRange& range, std::string_view sellerILN) {

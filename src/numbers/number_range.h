@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace awizo {
 
@@ -19,6 +20,16 @@ struct NumberRange {
   bool operator==(const NumberRange&) const = default;
 };
 
+/// A part of the range whose numbers another place gives.
+struct HandedPart {
+  NumberRange range;
+  std::string date;  ///< "yyyy-mm-dd"
+  std::string place;
+};
+
+/// Whether they can have numbers in common: extension and prefix are the same.
+bool areAlike(const NumberRange& one, const NumberRange& other);
+
 /// How many digits a serial has after such a prefix.
 std::size_t serialDigits(std::string_view prefix);
 
@@ -31,12 +42,19 @@ std::optional<NumberRange> rangeOf(std::string_view extension, std::string_view 
 /// The number with its check digit.
 std::string containerNumber(const NumberRange& range, std::uint64_t serial);
 
-std::uint64_t numbersLeft(const NumberRange& range);
+/// The serial of a number of this range; nothing for another number.
+std::optional<std::uint64_t> serialIn(const NumberRange& range, std::string_view number);
+
+/// So many are still to be given, those of the parts apart, which don't overlap.
+std::uint64_t numbersLeft(const NumberRange& range, const std::vector<HandedPart>& handed = {});
 
 /// What the user should know of it, in Russian: "осталось 9998"; that few or none are left.
-std::string leftWords(const NumberRange& range);
+std::string leftWords(const NumberRange& range, const std::vector<HandedPart>& handed = {});
 /// Whether a tenth of the range or less is left.
-bool isNearlyUsedUp(const NumberRange& range);
+bool isNearlyUsedUp(const NumberRange& range, const std::vector<HandedPart>& handed = {});
+
+/// "отданы 901–1000: Склад 2, 22.11.2026".
+std::string handedWords(const HandedPart& part);
 
 /// What doesn't fit where the firm's own ILN doesn't begin with the prefix; empty where it does.
 /// That may be right: a carrier's numbers have the carrier's prefix.

@@ -117,6 +117,42 @@ TEST_F(NumberOfferTest, TheUsersOwnNumberStandsAndTheOfferedOneWaits) {
   EXPECT_EQ(serialOf(3), number(3)) << "the document has the second already";
 }
 
+TEST_F(NumberOfferTest, ANumberOfAnotherRangeWaitsNoLonger) {
+  adding([this] {
+    EXPECT_EQ(packageDialog.txtSerialNumberN.text(), number(1));
+    leave();
+  });
+  const NumberRange others{"0", "4600001", 5, 9, 5};
+  numbers.setRange(others);
+  adding([&, this] {
+    EXPECT_EQ(packageDialog.txtSerialNumberN.text(), containerNumber(others, 5));
+    leave();
+  });
+  numbers.setRange({"0", "4600001", 7, 9, 7});
+  EXPECT_EQ(offer.wordsFor(4), "Номеров не хватит: осталось 3.");
+  adding([&, this] {
+    EXPECT_EQ(packageDialog.txtSerialNumberN.text(), containerNumber(others, 7));
+    leave();
+  });
+}
+
+TEST_F(NumberOfferTest, WhatAnotherPlaceHasIsNotAmongThoseLeft) {
+  numbers.handOut(10, "Склад 2");
+  numbers.setRange({"3", "9520001", 1, 25, 1});
+  EXPECT_EQ(offer.wordsFor(16), "Номеров не хватит: осталось 15.");
+  adding([this] {
+    EXPECT_EQ(offer.words(), "осталось номеров: 14");
+    leave();
+  });
+  numbers.take(99, "А");
+  offer.prepare(1);
+  add("Коробка 1");
+  adding([this] {
+    EXPECT_THAT(offer.words(), HasSubstr("Номера кончились"));
+    leave();
+  });
+}
+
 TEST_F(NumberOfferTest, WithoutARangeNothingIsTypedOrKept) {
   store.texts.clear();
   adding([this] {
@@ -241,6 +277,55 @@ TEST_F(NumberRangeDialogTest, ShowsAndKeepsTheRange) {
     EXPECT_FALSE(dialog.shown());
   });
   EXPECT_EQ(numbers.range(), (NumberRange{"3", "9520001", 1, 500, 100}));
+}
+
+TEST_F(NumberRangeDialogTest, WhatOthersTookMeanwhileIsNotTakenBack) {
+  shown([this] {
+    numbers.take(5, "ТН-5");
+    dialog.txtLast.userType("30");
+    dialog.btnSave.userClick();
+  });
+  EXPECT_EQ(numbers.range(), (NumberRange{"3", "9520001", 1, 30, 6}));
+  shown([this] {
+    numbers.take(5, "ТН-5");
+    dialog.txtLast.userType("8");
+    dialog.btnSave.userClick();
+  });
+  EXPECT_EQ(numbers.range(), (NumberRange{"3", "9520001", 1, 8, 9})) << "all of it is given";
+}
+
+TEST_F(NumberRangeDialogTest, ANextOneThatTheUserTypedStands) {
+  numbers.take(5, "ТН-5");
+  shown([this] {
+    EXPECT_EQ(dialog.lblDoubt.caption(), "");
+    dialog.txtNext.userType("3");
+    EXPECT_EQ(dialog.lblDoubt.caption(), "Номера, которые уже выданы, будут пропущены.");
+    numbers.take(1, "ТН-5");
+    dialog.btnSave.userClick();
+  });
+  EXPECT_EQ(numbers.range()->next, 3U);
+  EXPECT_THAT(numbers.take(1, "ТН-6"), ElementsAre(number(7)));
+}
+
+TEST_F(NumberRangeDialogTest, AnotherPrefixBeginsWhereItsRangeDoes) {
+  shown([this] {
+    numbers.take(5, "ТН-5");
+    dialog.txtPrefix.userType("9520002");
+    EXPECT_THAT(dialog.lblDoubt.caption(), ::testing::Not(HasSubstr("выданы")));
+    dialog.btnSave.userClick();
+  });
+  EXPECT_EQ(numbers.range(), (NumberRange{"3", "9520002", 1, 20, 1}));
+}
+
+TEST_F(NumberRangeDialogTest, WhatAnotherPlaceHasIsNotAmongThoseLeft) {
+  numbers.handOut(10, "Склад 2");
+  shown([this] {
+    dialog.txtLast.userType("25");
+    EXPECT_THAT(dialog.lblLeft.caption(), ::testing::StartsWith("осталось номеров: 15\n"));
+    dialog.txtLast.userType("20");
+    dialog.txtNext.userType("11");
+    EXPECT_THAT(dialog.lblLeft.caption(), HasSubstr("Номера кончились"));
+  });
 }
 
 TEST_F(NumberRangeDialogTest, SaysWhichPartsOtherPlacesHave) {

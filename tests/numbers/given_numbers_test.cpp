@@ -138,6 +138,33 @@ TEST_F(GivenNumbersTest, WhatWasHandedOutIsNotHandedOutAgain) {
   EXPECT_FALSE(numbers.handOut(4, "Склад 4"));
 }
 
+TEST_F(GivenNumbersTest, WhatWasGivenIsPassedOverWhereTheUserGoesBack) {
+  numbers.setRange(range(1, 20));
+  numbers.take(3, "А");
+  numbers.setRange(range(1, 20));
+  GivenNumbers another(store, clock);
+  EXPECT_THAT(another.take(2, "Б"), ElementsAre(number(4), number(5)));
+  numbers.setRange(range(1, 20));
+  EXPECT_THAT(numbers.take(1, "А"), ElementsAre(number(6))) << "not even to the same document";
+}
+
+TEST_F(GivenNumbersTest, WhatWasGivenIsHandedToNoOtherPlace) {
+  numbers.setRange(range(1, 10));
+  numbers.take(8, "А");
+  numbers.setRange(range(1, 10));
+  EXPECT_EQ(*numbers.handOut(5, "Склад"), (NumberRange{"3", "9520001", 9, 10, 9}));
+  numbers.setRange(range(1, 8));
+  EXPECT_FALSE(numbers.handOut(5, "Склад 2")) << "all of it was given";
+}
+
+TEST_F(GivenNumbersTest, AYearLaterWhatWasGivenIsFreeAgain) {
+  numbers.setRange(range(1, 4));
+  numbers.take(2, "А");
+  numbers.setRange(range(1, 4));
+  const FixedClock later(day(2027, 11, 22));
+  EXPECT_THAT(GivenNumbers(store, later).take(1, "Б"), ElementsAre(number(1)));
+}
+
 TEST_F(GivenNumbersTest, NoMoreIsHandedOutThanIsLeft) {
   EXPECT_FALSE(numbers.handOut(1, "Склад"));
   numbers.setRange(range(1, 4));
