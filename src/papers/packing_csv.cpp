@@ -1,5 +1,7 @@
 #include "papers/packing_csv.h"
 
+#include <utility>
+
 #include "papers/words.h"
 #include "platform/text.h"
 
@@ -15,7 +17,8 @@ const Cells& headings() {
       "Упаковка", "В упаковке",    "Тип",       "SSCC",           "Вес, кг",
       "Длина, м", "Ширина, м",     "Высота, м", "Место доставки", "Уровень",
       "Строка",   "Строка заказа", "EAN",       "Код покупателя", "Код поставщика",
-      "Название", "Количество",    "Ед."};
+      "Название", "Количество",    "Ед.",       "Заказано",       "Отгружено",
+      "Замечание"};
   return all;
 }
 
@@ -25,6 +28,14 @@ std::string text(std::string_view value) {
   const bool isFormula =
       !plain.empty() && std::string_view("=+-@").find(plain[0]) != std::string_view::npos;
   return isFormula ? "'" + plain : plain;
+}
+
+/// Digits that are no quantity: a spreadsheet would round them, or drop a 0 before them, were they
+/// not the text of a formula.
+std::string digits(std::string_view value) {
+  const std::string plain = text(value);
+  const bool areDigits = !plain.empty() && plain.find_first_not_of("0123456789") == plain.npos;
+  return areDigits ? joined({"=\"", plain, "\""}) : plain;
 }
 
 std::string number(std::string_view value) {
@@ -47,21 +58,22 @@ Cells packageCells(const Shipment& shipment, const PackedGoods& packed) {
   return {std::to_string(packed.number),
           packed.parent == 0 ? "" : std::to_string(packed.parent),
           typeWords(package.type),
-          text(package.serialNumber),
+          digits(package.serialNumber),
           number(package.weight),
           number(package.length),
           number(package.width),
           number(package.height),
-          text(placeOf(shipment, package)),
+          digits(placeOf(shipment, package)),
           std::to_string(packed.level)};
 }
 
-Cells with(Cells cells, const Goods& goods) {
+Cells with(Cells cells, const Goods& goods, std::string note = "") {
   const AdviceLine& line = *goods.line;
   for (std::string cell :
-       {text(line.number), text(line.orderLine), text(line.ean), text(line.buyerCode),
-        text(line.supplierCode), text(line.description),
-        goods.amount ? amountText(*goods.amount) : std::string("?"), text(unitWords(line.unit))}) {
+       {text(line.number), text(line.orderLine), digits(line.ean), digits(line.buyerCode),
+        digits(line.supplierCode), text(line.description),
+        goods.amount ? amountText(*goods.amount) : std::string("?"), text(unitWords(line.unit)),
+        number(line.ordered), number(line.despatched), std::move(note)}) {
     cells.push_back(std::move(cell));
   }
   return cells;
@@ -79,7 +91,11 @@ std::string packingCsv(const Shipment& shipment) {
     cells.resize(headings().size());
     addRow(csv, cells);
   }
-  for (const Goods& goods : shipment.unpacked) addRow(csv, with(Cells(packageColumns), goods));
+  const Cells noPackage(packageColumns);
+  for (const Goods& goods : shipment.unpacked) addRow(csv, with(noPackage, goods));
+  for (const Goods& goods : shipment.overpacked) {
+    addRow(csv, with(noPackage, goods, "упаковано больше, чем отгружено"));
+  }
   return csv;
 }
 

@@ -135,6 +135,9 @@ TEST(PackageNumbers, AreNamedByRanges) {
   }
 }
 
+/// As a spreadsheet keeps all of its digits.
+std::string kept(const std::string& digits) { return "\"=\"\"" + digits + "\"\"\""; }
+
 TEST(PackingCsv, HasARowForEachLineInEachPackage) {
   DespatchAdvice advice;
   addPackage(advice, "2", "1", "09").weight = "62.500";
@@ -142,13 +145,35 @@ TEST(PackingCsv, HasARowForEachLineInEachPackage) {
   AdviceLine& line = addLine(advice, "8", {{"3", "5.500"}});
   line.description = "=Сыр; \"весовой\"\n";
   line.buyerCode = "-1";
+  line.ordered = "12.000";
   const std::string csv = packingCsv(shipmentOf(advice));
-  EXPECT_THAT(csv,
-              HasSubstr("\r\n1;;Паллета;" + test::serialNumber(2) + ";62,5;;;;;1;;;;;;;;\r\n"));
-  EXPECT_THAT(csv, HasSubstr("\r\n2;1;Коробка;" + test::serialNumber(3) +
-                             ";;;;;;2;1;;9520001010019;;;\"'=Сыр; \"\"весовой\"\"\";5,5;шт.\r\n"));
-  EXPECT_THAT(csv,
-              HasSubstr("\r\n;;;;;;;;;;1;;9520001010019;;;\"'=Сыр; \"\"весовой\"\"\";2,5;шт.\r\n"));
+  const std::string goods = "1;;" + kept("9520001010019") + ";;;\"'=Сыр; \"\"весовой\"\"\";";
+  EXPECT_THAT(csv, HasSubstr("\r\n1;;Паллета;" + kept(test::serialNumber(2)) +
+                             ";62,5;;;;;1;;;;;;;;;;;\r\n"));
+  EXPECT_THAT(csv, HasSubstr("\r\n2;1;Коробка;" + kept(test::serialNumber(3)) + ";;;;;;2;" + goods +
+                             "5,5;шт.;12;8;\r\n"));
+  EXPECT_THAT(csv, HasSubstr("\r\n;;;;;;;;;;" + goods + "2,5;шт.;12;8;\r\n"));
+}
+
+TEST(PackingCsv, NumbersThatAreNoQuantitiesKeepAllTheirDigits) {
+  DespatchAdvice advice;
+  addPackage(advice, "2").serialNumber = "052000100000000017";
+  AdviceLine& line = addLine(advice, "8", {{"2", "8"}});
+  line.buyerCode = "0042";
+  line.supplierCode = "=1+1";
+  line.ean = "0952\"";
+  const std::string csv = packingCsv(shipmentOf(advice));
+  EXPECT_THAT(csv, HasSubstr(";\"=\"\"052000100000000017\"\"\";"));
+  EXPECT_THAT(csv, HasSubstr(";\"0952\"\"\";\"=\"\"0042\"\"\";'=1+1;"));
+}
+
+TEST(PackingCsv, SaysWhatIsPackedBeyondWhatIsDespatched) {
+  DespatchAdvice advice;
+  addPackage(advice, "2");
+  addLine(advice, "8", {{"2", "9.500"}});
+  EXPECT_THAT(packingCsv(shipmentOf(advice)),
+              HasSubstr(";8;\r\n;;;;;;;;;;1;;" + kept("9520001010019") +
+                        ";;;Молоко;1,5;шт.;;8;упаковано больше, чем отгружено\r\n"));
 }
 
 TEST(PackingCsv, EveryRowHasAllColumns) {
@@ -158,7 +183,7 @@ TEST(PackingCsv, EveryRowHasAllColumns) {
   addLine(advice, "8", {{"3", "5"}});
   const std::string csv = packingCsv(shipmentOf(advice));
   for (const std::string& row : split(csv.substr(0, csv.size() - 2), "\r\n")) {
-    EXPECT_EQ(split(row, ";").size(), 18U) << row;
+    EXPECT_EQ(split(row, ";").size(), 21U) << row;
   }
 }
 
