@@ -34,9 +34,8 @@ std::optional<FoundRow> FindDialog::again() const {
   Table& lines = editor_.form.grdPozycje;
   if (const auto row = findLine(editor_, txtWhat.text())) return rowIn(lines, row);
   const std::string code = withoutScanMarks(txtWhat.text());
-  if (const auto row = findScanned(editor_, code)) return rowIn(lines, row);
   const std::string_view number = packageNumberIn(code);
-  if (number.empty()) return std::nullopt;
+  if (number.empty()) return rowIn(lines, findScanned(editor_, code));
   return rowIn(editor_.form.grdOpakowania, findPackage(editor_, number));
 }
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <functional>
 #include <initializer_list>
+#include <utility>
 
 #include "tables/columns/columns.h"
 
@@ -39,8 +40,28 @@ std::string_view digitsAfter(std::string_view code, std::initializer_list<std::s
   return {};
 }
 
+/// The EAN in a symbol that says after it how many there are: "02", 14 digits, "37" and the count.
+/// Where the kind was cut off, the EAN has lost the zero that fills it up, too.
+std::string_view countedEanIn(std::string_view code) {
+  constexpr std::array<std::pair<std::string_view, std::size_t>, 3> starts{
+      {{"02", 14}, {"102", 14}, {"", 13}}};
+  constexpr std::string_view countSign = "37";
+  constexpr std::size_t longestCount = 8;
+  for (const auto& [sign, digits] : starts) {
+    const std::size_t before = sign.size() + digits + countSign.size();
+    const bool hasCount = code.size() > before && code.size() <= before + longestCount;
+    if (!hasCount || !code.starts_with(sign)) continue;
+    const std::string_view ean = code.substr(sign.size());
+    if (ean.substr(digits).starts_with(countSign)) return ean.substr(0, digits);
+  }
+  return {};
+}
+
 /// The EAN in a scanned code, without the zeros before it.
 std::string_view eanIn(std::string_view code) {
+  if (const std::string_view counted = countedEanIn(code); !counted.empty()) {
+    return withoutZeros(counted);
+  }
   const std::string_view after = digitsAfter(code, {"01", "02", "101", "102"}, 14);
   return withoutZeros(after.empty() ? code : after);
 }

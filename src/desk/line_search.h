@@ -14,7 +14,8 @@ namespace awizo {
 std::optional<int> findLine(const Editor& editor, std::string_view text);
 
 /// The same for a scanned code: a line of this EAN, zeros before it apart. Before 14 digits "01" or
-/// "02" says on the label what they are, after the "1" of "]C1".
+/// "02" says on the label what they are, after the "1" of "]C1"; after "02" the count, behind "37",
+/// may follow.
 std::optional<int> findScanned(const Editor& editor, std::string_view code);
 
 /// All lines of this EAN, the current one first.

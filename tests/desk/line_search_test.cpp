@@ -63,6 +63,17 @@ TEST_F(LineSearch, AScannedEanMayStandAfterTheSignsOfItsKind) {
   EXPECT_EQ(findScanned(test.editor, "00000000"), std::nullopt);
 }
 
+TEST_F(LineSearch, AnEanIsFoundByTheSymbolThatSaysHowManyThereAre) {
+  for (const char* code :
+       {"02046070000001133724", "102046070000001133724", "02046070000001133712345678"}) {
+    EXPECT_EQ(findScanned(test.editor, code), 3) << code;
+  }
+  for (const char* other : {"020460700000011337", "02046070000001133824",
+                            "020460700000011337123456789", "01046070000001133724"}) {
+    EXPECT_EQ(findScanned(test.editor, other), std::nullopt) << other;
+  }
+}
+
 TEST_F(LineSearch, AllLinesOfAScannedEanBeginWithTheCurrentOne) {
   for (int row : {1, 3, 4}) lines.setCell(row, GRD_POZ_EAN, "4607000000116");
   lines.setRow(3);
@@ -112,6 +123,15 @@ TEST_F(FindDialogTest, EnterFindsAndCloses) {
   EXPECT_EQ(found->table, &lines);
   EXPECT_EQ(found->row, 3);
   EXPECT_EQ(dialog.again()->row, 3);
+}
+
+TEST_F(FindDialogTest, FindsByWhateverALabelsSymbolSays) {
+  for (const char* scanned : {"02046070000001133724", "]C102046070000001133724"}) {
+    dialog.txtWhat.setText(scanned);
+    const auto found = dialog.again();
+    ASSERT_TRUE(found) << scanned;
+    EXPECT_EQ(found->row, 3);
+  }
 }
 
 TEST_F(FindDialogTest, SaysThatNothingIsFoundAndStays) {
