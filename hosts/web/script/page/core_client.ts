@@ -1,5 +1,6 @@
 // The element's talk with its core: lines out, closing lines and events in.
 
+import { canSuspend } from "../core.ts";
 import type { Closing, Event, Output } from "./facts.ts";
 import * as words from "#words";
 import { replayDiffers, type FromWorker, type Start } from "./messages.ts";
@@ -33,7 +34,7 @@ function compiledCore(): Promise<WebAssembly.Module> {
 /// The first touch of its files takes a browser a while, in which the worker begins. Whether they can be
 /// had is the worker's to find out.
 function warmFiles(): void {
-  void navigator.storage?.getDirectory().catch(() => undefined);
+  void navigator.storage?.getDirectory?.().catch(() => undefined);
 }
 
 export class CoreClient {
@@ -46,14 +47,15 @@ export class CoreClient {
   /// `startOf` is asked when the browser has begun with what takes it long.
   constructor(startOf: () => Start, private readonly listener: Listener) {
     this.worker = new Worker(new URL("worker.mjs", import.meta.url), { type: "module" });
-    const module = compiledCore();
+    // What the worker says of a browser that can't suspend the core is clearer than why nothing was compiled.
+    const module = canSuspend() ? compiledCore() : undefined;
     warmFiles();
     this.worker.addEventListener("message", (event: MessageEvent<FromWorker>) => this.take(event.data));
     this.worker.addEventListener("error", (event) => {
-      listener.ended(event.message || "Файл worker.mjs не загрузился или не запустился.");
+      if (!this.isOver) listener.ended(event.message || "Файл worker.mjs не загрузился или не запустился.");
     });
     this.worker.postMessage({ start: startOf() });
-    module.then(
+    module?.then(
       (module) => this.worker.postMessage({ module }),
       (error: unknown) => this.isOver || listener.ended(error instanceof Error ? error.message : String(error)),
     );
