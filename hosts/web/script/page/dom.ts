@@ -24,3 +24,19 @@ const sensible = "input, select, button, [tabindex]";
 export function focusable(element: Element): HTMLElement | null {
   return element.matches(sensible) ? (element as HTMLElement) : element.querySelector<HTMLElement>(sensible);
 }
+
+/// `leave` is called when the user wants to leave the dialog; whether it closes is the owner's to say. A browser
+/// asks the page only once for each thing that the user does, and closes it the next time: then it opens again.
+export function holdOpen(dialog: HTMLDialogElement, leave: () => void): void {
+  dialog.addEventListener("cancel", (event) => {
+    // A file field in the dialog is left so too.
+    if (event.target !== dialog) return;
+    event.preventDefault();
+    leave();
+  });
+  dialog.addEventListener("close", () => {
+    if (!dialog.isConnected || dialog.open) return;
+    dialog.showModal();
+    leave();
+  });
+}

@@ -3,7 +3,7 @@
 import * as deskWords from "#words";
 import { ControlElement } from "./control_element.ts";
 import { CoreClient, type Line, type Listener } from "./core_client.ts";
-import { focusable, make, plainWords } from "./dom.ts";
+import { focusable, holdOpen, make, plainWords } from "./dom.ts";
 import { dateForm } from "./date_form.ts";
 import { DeskStrip } from "./desk_strip.ts";
 import { Commands } from "./commands.ts";
@@ -373,12 +373,7 @@ export class AwizoWysylki extends ControlElement {
     ]);
     if (this.bringsTo === name) element.append(this.fromComputer());
     closer.addEventListener("click", () => void this.closingOf({ do: "close", on: name }));
-    element.addEventListener("cancel", (event) => {
-      // A file field in the dialog is left so too.
-      if (event.target !== element) return;
-      event.preventDefault();
-      void this.host().act(view.focus, { do: "key", code: 27, shift: false });
-    });
+    holdOpen(element, () => void this.host().act(view.focus, { do: "key", code: 27, shift: false }));
     this.root.append(element);
     element.showModal();
     this.shown.push({ name, element });
@@ -443,10 +438,7 @@ export class AwizoWysylki extends ControlElement {
       ...(advice === undefined ? [] : [make("p", { id: "box-advice" }, [advice])]),
       make("div", { class: "beside buttons" }, buttons),
     ]);
-    element.addEventListener("cancel", (event) => {
-      event.preventDefault();
-      if (harmless !== undefined) this.answer(harmless);
-    });
+    holdOpen(element, () => harmless !== undefined && this.answer(harmless));
     this.box = element;
     this.ahead.forget();
     this.beforeBox = this.keeper();

@@ -1,7 +1,7 @@
 // The user guide over the page, at the chapter of where the user is. It is fetched when it is first asked for.
 
 import * as words from "#words";
-import { make } from "./dom.ts";
+import { holdOpen, make } from "./dom.ts";
 
 const address = new URL("guide/guide.html", import.meta.url);
 const chapters = "h2";
@@ -39,10 +39,7 @@ export class Guide {
       make("div", { class: "columns" }, [contents, text]),
     ]);
     closer.addEventListener("click", () => this.close());
-    dialog.addEventListener("cancel", (event) => {
-      event.preventDefault();
-      this.close();
-    });
+    holdOpen(dialog, () => this.close());
     const before = this.root.activeElement as HTMLElement | null;
     this.root.append(dialog);
     dialog.showModal();

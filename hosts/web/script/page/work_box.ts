@@ -1,7 +1,7 @@
 // Over the page while work lasts that the user can stop: how far it is, and the button for it.
 
 import * as words from "#words";
-import { make, plainWords } from "./dom.ts";
+import { holdOpen, make, plainWords } from "./dom.ts";
 import type { Work } from "./facts.ts";
 
 export class WorkBox {
@@ -14,10 +14,7 @@ export class WorkBox {
     this.element = make("dialog", { class: "box", lang: "ru", "aria-label": words.boxTitle }, [
       this.text, make("div", { class: "beside buttons" }, [button]),
     ]);
-    this.element.addEventListener("cancel", (event) => {
-      event.preventDefault();
-      stop();
-    });
+    holdOpen(this.element, stop);
   }
 
   get isShown(): boolean {

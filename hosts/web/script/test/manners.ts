@@ -133,6 +133,15 @@ await withPage(async (page) => {
   await number.fill("ТН/5");
   await user.addPackage("Паллета 1", "035200010000000016");
   await number.click();
+  // A question that has no harmless answer stays, as often as one wants to leave it.
+  await user.control("btnPrzeslij").click();
+  const question = user.editor.getByRole("alertdialog");
+  await question.locator("[data-answer=Yes]").waitFor();
+  await press("Escape", "Escape", "Escape");
+  await page.evaluate(() => new Promise(requestAnimationFrame));
+  assert.ok(await question.isVisible());
+  await user.answer("No");
+  await question.waitFor({ state: "detached" });
   const sending = user.send();
   await user.editor.locator("main[inert]").waitFor();
   await user.editor.locator("output.heard:not([inert])", { hasText: /./ }).waitFor({ state: "attached" });
