@@ -12,7 +12,7 @@ function isSeparator(event: KeyboardEvent): boolean {
 }
 
 export class ScannedInput {
-  /// Lines that the core hasn't answered: until then the field isn't as it will be.
+  /// Typed and not answered by the core: until then the field isn't as it will be.
   private unanswered = 0;
   private mayHold = false;
 
@@ -64,9 +64,9 @@ export class ScannedInput {
     return this.say({ text, begins: this.unanswered === 0 });
   }
 
-  /// No more of what may be a scanner's follows.
+  /// No more of what may be a scanner's follows: what is typed next is the field's own.
   private giveBack(): void {
-    if (this.mayHold) void this.say({ text: "" });
+    if (this.mayHold) void this.act({ do: "scan", text: "" });
     this.mayHold = false;
   }
 

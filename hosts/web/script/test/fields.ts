@@ -120,6 +120,17 @@ await withPage(async (page) => {
   await number.selectText();
   await page.keyboard.press("Control+v");
   await scanned(number, "395200010000000011");
+  // What is typed behind a number that is being mended is the field's own.
+  await number.selectText();
+  await page.keyboard.type("123");
+  await scanned(number, "123");
+  assert.ok(await number.evaluate((input) => {
+    const told = { bubbles: true, composed: true, cancelable: true };
+    input.dispatchEvent(new KeyboardEvent("keydown", { ...told, key: "Backspace", keyCode: 8 }));
+    (input as HTMLInputElement).setRangeText("", 2, 3, "end");
+    input.dispatchEvent(new InputEvent("input", { ...told, inputType: "deleteContentBackward" }));
+    return input.dispatchEvent(new InputEvent("beforeinput", { ...told, inputType: "insertText", data: "4" }));
+  }));
   // What is no mark isn't lost.
   await number.selectText();
   await page.keyboard.type("(12");
