@@ -52,6 +52,10 @@ function isStep(command: Command): boolean {
   return command.task === "takeBack" || command.task === "doAgain";
 }
 
+function isSearch(command: Command): boolean {
+  return command.task === "findLine" || command.task === "findAgain";
+}
+
 /// It leads to the buttons that no form has.
 function isWayToExtras(event: KeyboardEvent): boolean {
   return event.key === "F10" && !event.ctrlKey && !event.shiftKey && !event.altKey;
@@ -577,9 +581,15 @@ export class AwizoWysylki extends ControlElement {
 
   private pressKey(event: KeyboardEvent): void {
     const top = this.top();
-    if (this.guide.isOpen || this.work !== undefined || top === undefined) return;
+    if (top === undefined) return;
     const command = this.commands.at(event, top.name);
-    if (this.box !== undefined && command?.inDialogs !== true) return;
+    const isShut = this.guide.isOpen || this.work !== undefined || (this.box !== undefined && command?.inDialogs !== true);
+    if (isShut) {
+      // What the editor can't do now isn't the browser's either, such as its own help and saving. But its
+      // search finds in the guide.
+      if (command !== undefined && !(this.guide.isOpen && isSearch(command))) event.preventDefault();
+      return;
+    }
     const isFromExtra = isExtra(event.target as Element);
     if (isWayToExtras(event) || (isFromExtra && event.key === "Escape")) {
       event.preventDefault();

@@ -49,11 +49,14 @@ export class Guide {
     text.append(...(await fetchText().catch(() => [make("p", {}, [words.noGuide])])));
     contents.append(...[...text.querySelectorAll<HTMLElement>(chapters)].map((heading) => {
       const button = make("button", { type: "button" }, [heading.textContent]);
-      button.addEventListener("click", () => {
+      // A screen reader reads on from there.
+      heading.tabIndex = -1;
+      const show = () => {
         heading.scrollIntoView();
-        text.focus({ preventScroll: true });
-      });
-      if (heading.textContent === chapter) heading.scrollIntoView();
+        heading.focus({ preventScroll: true });
+      };
+      button.addEventListener("click", show);
+      if (heading.textContent === chapter) show();
       return button;
     }));
   }

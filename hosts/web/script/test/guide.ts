@@ -41,6 +41,10 @@ await withPage(async (page) => {
   assert.ok((await text.getByRole("table").count()) > 0);
   // Keys go to the guide alone: they read on in it, and none reaches the form.
   await page.keyboard.type("123");
+  // Not even to the browser, whose own they would be.
+  const kept = await text.evaluate((region) => [[112, false], [83, true], [70, true]].map(([keyCode, ctrlKey]) => !region.dispatchEvent(
+    new KeyboardEvent("keydown", { keyCode: Number(keyCode), ctrlKey: ctrlKey === true, bubbles: true, composed: true, cancelable: true }))));
+  assert.deepEqual(kept, [true, true, false], "the browser's search finds in the guide");
   await page.keyboard.press("End");
   await page.waitForFunction((region) => region!.scrollTop > 0, await text.elementHandle());
   await leave();
@@ -51,8 +55,10 @@ await withPage(async (page) => {
   await page.keyboard.press("F1");
   await guide.getByRole("navigation", { name: "Содержание" }).getByRole("button", { name: "Клавиши" }).click();
   await chapterIs("Клавиши");
-  await page.keyboard.press("Shift+Tab");
-  await page.keyboard.press("Enter");
+  const isAtChapter = (name: string) =>
+    text.getByRole("heading", { name, exact: true }).evaluate((heading) => heading.matches(":focus"));
+  assert.ok(await isAtChapter("Клавиши"), "a screen reader reads on there");
+  await guide.getByRole("navigation").getByRole("button").last().press("Enter");
   // The last chapter is too short to come to the top.
   await page.waitForFunction((region) => region!.scrollTop + region!.clientHeight >= region!.scrollHeight - 2, await text.elementHandle());
   await leave();
@@ -63,6 +69,7 @@ await withPage(async (page) => {
   await user.field("DlgSzczegoly.txtPackageDesc").click();
   await page.keyboard.press("F1");
   await chapterIs("Упаковки");
+  assert.ok(await isAtChapter("Упаковки"));
   await user.picture("guide-chapter");
   await leave();
   assert.equal(await focused(), "DlgSzczegoly.txtPackageDesc");
