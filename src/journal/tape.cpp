@@ -1,5 +1,7 @@
 #include "journal/tape.h"
 
+#include <algorithm>
+
 #include "journal/record_file.h"
 #include "journal/texts_beside.h"
 #include "platform/forms/control.h"
@@ -11,6 +13,7 @@ namespace awizo::journal {
 namespace {
 
 constexpr std::size_t mostKeptPending = 1 << 16;
+constexpr std::size_t mostActsPerDigest = 64;
 
 /// Whether the control waited for the user after the last of these.
 bool endWaiting(const std::vector<Record>& records) {
@@ -176,8 +179,15 @@ void Tape::end(bool whole) {
     hiddenByAct_ = true;
     return commit();
   }
+  if (waiting_.empty()) {
+    ++actsSinceDigest_;
+    if (digestIsDue()) writeDigest();
+  }
   ready();
-  if (waiting_.empty() && ++actsSinceDigest_ >= actsPerDigest) writeDigest();
+}
+
+bool Tape::digestIsDue() const {
+  return actsSinceDigest_ >= std::clamp(place_.deeds / 4, std::size_t{1}, mostActsPerDigest);
 }
 
 void Tape::viewHeightSet(const Control& table, int height) {

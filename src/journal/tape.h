@@ -155,8 +155,9 @@ class Tape : public ActObserver {
  private:
   bool isTaped() const { return running_ && (replaying_ || file_ != nullptr); }
 
-  /// Acts from one digest to the next: it is far dearer than an act.
-  static constexpr int actsPerDigest = 64;
+  /// Whether the state's digest is due: it is far dearer than an act, but of a short session too
+  /// most must be proved by one.
+  bool digestIsDue() const;
 
   /// valueOf; a record that has none is a difference.
   template <class Value>
@@ -195,7 +196,7 @@ class Tape : public ActObserver {
   TapePlace place_;
   TapePlace placeBefore_;    ///< the last deed
   std::size_t written_ = 0;  ///< deeds, those too that were taken back
-  int actsSinceDigest_ = 0;
+  std::size_t actsSinceDigest_ = 0;
   std::vector<std::string> summaryWritten_;
   std::map<std::pair<Source, std::string>, Record> facts_;
   /// The last of each table, by form and name.

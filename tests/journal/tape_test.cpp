@@ -2,12 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "journal/state_digest.h"
 #include "platform/forms/keys.h"
 #include "support/control/taped_control.h"
 
 namespace awizo::test {
 namespace {
+
+bool isDigest(const journal::Record& record) { return record.kind == journal::RecordKind::digest; }
 
 std::uint64_t digestOf(TapedControl& session) { return journal::stateDigest(session.desk.control); }
 
@@ -80,18 +84,48 @@ TEST(Tape, AReplayOfAnotherStateStops) {
     recorded.desk.form.txtNrAwiza.userType(std::to_string(act));
   }
   auto records = sessionIn(record).records;
-  for (journal::Record& act : records) {
-    if (act.kind == journal::RecordKind::act && act.texts.back() == "40") act.texts.back() = "x";
-    if (act.kind == journal::RecordKind::digest) act.numbers.front() ^= 1;
-  }
+  const auto last = std::find_if(records.rbegin(), records.rend(), isDigest);
+  ASSERT_NE(last, records.rend());
+  last->numbers.front() ^= 1;
+  const auto deeds = std::count_if(records.begin(), last.base(), journal::isDeed);
+  EXPECT_GT(deeds, 48);
   TapedControl replayed(nullptr, records);
   try {
     replayed.recording->start();
     FAIL() << "nothing differs";
   } catch (const journal::ReplayDiffers& differs) {
     EXPECT_EQ(differs.what, "another state");
-    EXPECT_EQ(differs.deed, 63U);
+    EXPECT_EQ(differs.deed, static_cast<std::size_t>(deeds));
   }
+}
+
+TEST(Tape, AStartOfAnotherStateStopsToo) {
+  MemoryRecord record;
+  TapedControl recorded(&record);
+  startOffLine(recorded);
+  recorded.desk.form.txtNrAwiza.userType("1");
+  auto records = sessionIn(record).records;
+  const auto kept = std::ranges::find_if(records, [](const journal::Record& outcome) {
+    return !outcome.texts.empty() && outcome.texts[0].find("ООО Поставщик") != std::string::npos;
+  });
+  ASSERT_NE(kept, records.end());
+  kept->texts[0].replace(kept->texts[0].find("7700000001"), 10, "7700000009");
+  TapedControl replayed(nullptr, records);
+  EXPECT_THROW(replayed.recording->start(), journal::ReplayDiffers);
+}
+
+TEST(Tape, ADigestProvesAllButTheLastActs) {
+  MemoryRecord record;
+  TapedControl recorded(&record);
+  startOffLine(recorded);
+  for (int act = 1; act <= 200; ++act) {
+    recorded.desk.form.txtNrAwiza.userType(std::to_string(act));
+    const auto records = sessionIn(record).records;
+    const auto last = std::find_if(records.rbegin(), records.rend(), isDigest);
+    EXPECT_LE(std::count_if(records.rbegin(), last, journal::isDeed), act / 4) << act;
+  }
+  const auto records = sessionIn(record).records;
+  EXPECT_LT(std::ranges::count_if(records, isDigest), 25) << "it is dear";
 }
 
 TEST(Tape, ARecordThatAsksSomethingElseStops) {
