@@ -15,6 +15,7 @@
 #include "adapters/posix/errors.h"
 #include "adapters/posix/posix_growing_file.h"
 #include "adapters/posix/posix_texts_beside.h"
+#include "adapters/posix/replacing.h"
 #include "platform/run_time_error.h"
 
 namespace awizo {
@@ -32,6 +33,9 @@ bool isInUse(const std::string& path) {
     return false;
   }
 }
+
+/// A file that marks a record as tried.
+std::string markOf(const std::string& path) { return path + ".tried"; }
 
 /// A name that hardly any other record has.
 std::string newName() {
@@ -67,7 +71,8 @@ std::vector<FoundRecord> PosixRecordFolder::records() {
       continue;
     }
     found.push_back({at->path().filename().string(), static_cast<std::uint64_t>(status.st_size),
-                     status.st_mtime, isInUse(path), PosixTextsBeside::of(path)});
+                     status.st_mtime, isInUse(path), PosixTextsBeside::of(path),
+                     access(markOf(path).c_str(), F_OK) == 0});
   }
   return found;
 }
@@ -96,8 +101,14 @@ std::string PosixRecordFolder::readBeside(std::string_view record, std::string_v
   return posix::Descriptor(pathBeside(pathOf(record), text), O_RDONLY | O_NOFOLLOW).readAll();
 }
 
+void PosixRecordFolder::markTried(std::string_view name) {
+  posix::replaceFile(markOf(pathOf(name)), "", S_IRUSR | S_IWUSR);
+}
+
 void PosixRecordFolder::remove(std::string_view name) {
   const std::string path = pathOf(name);
+  // Before the record, so that no mark is ever left alone.
+  unlink(markOf(path).c_str());
   if (unlink(path.c_str()) != 0 && errno != ENOENT) throw posix::fileError(errno, path);
   PosixTextsBeside::removeOf(path);
 }

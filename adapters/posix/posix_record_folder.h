@@ -20,6 +20,7 @@ class PosixRecordFolder final : public RecordFolder {
   NewRecord create() override;
   std::string read(std::string_view name) override;
   std::string readBeside(std::string_view record, std::string_view text) override;
+  void markTried(std::string_view name) override;
   void remove(std::string_view name) override;
 
  private:

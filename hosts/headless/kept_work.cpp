@@ -17,6 +17,8 @@ namespace {
 
 Beginning goingOn(const Options& options, RecordFolder& records,
                   const journal::UnfinishedWork& work) {
+  // A replay that fails must not hide other work at each start.
+  caughtError([&] { records.markTried(work.record); });
   Beginning beginning;
   beginning.replayed = journal::keptSession(records, work.record);
   beginning.options = optionsToGoOn(options, beginning.replayed.header);

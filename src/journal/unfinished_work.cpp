@@ -83,13 +83,14 @@ std::optional<UnfinishedWork> unfinishedWork(RecordFolder& folder) {
   std::vector<FoundRecord> records;
   // The session's own record will tell of a folder that nobody can use.
   caughtError([&] { records = leftBehind(folder); });
+  std::ranges::stable_partition(records, [](const FoundRecord& record) { return !record.tried; });
   for (const FoundRecord& record : records) {
     try {
       const RecordedSession session = recordedSession(folder.read(record.name));
       const std::optional<WorkSummary> summary = summaryIn(session.summary);
       if (session.orderArrived || (summary && summary->isUnsent)) {
         return UnfinishedWork{record.name, summary.value_or(WorkSummary{}),
-                              session.requestUnanswered, session.orderArrived};
+                              session.requestUnanswered, session.orderArrived, record.tried};
       }
       folder.remove(record.name);
     } catch (const RunTimeError&) {

@@ -42,9 +42,11 @@ struct UnfinishedWork {
   bool mayHaveArrived = false;
   /// An order had come and wasn't in the tables yet: the work goes on with putting it there.
   bool orderArrived = false;
+  bool tried = false;  ///< somebody has begun to go on with it before
 };
 
-/// The work left behind last. Records in use are somebody else's; those without unsent work are
+/// The work left behind last; what somebody has tried to go on with comes after all other, for it
+/// may fail again. Records in use are somebody else's; those without unsent work are
 /// removed on the way, and one that can't be read is left alone. A folder that can't be used has
 /// none.
 std::optional<UnfinishedWork> unfinishedWork(RecordFolder& folder);

@@ -23,6 +23,7 @@ struct FoundRecord {
   std::int64_t changed = 0;  ///< seconds since 1970
   bool inUse = false;        ///< a program that runs writes it now
   std::vector<TextBeside> texts = {};
+  bool tried = false;  ///< somebody has begun to go on with it, and hasn't come to its end
 };
 
 /// Where a new record's long texts go. Records of one folder share them: texts of the same name are
@@ -49,6 +50,8 @@ class RecordFolder {
   virtual NewRecord create() = 0;
   virtual std::string read(std::string_view name) = 0;
   virtual std::string readBeside(std::string_view record, std::string_view text) = 0;
+  /// Notes that somebody begins to go on with it. A folder that can't keep that notes nothing.
+  virtual void markTried(std::string_view) {}
   /// With the texts beside it. Nothing happens where there is none of that name.
   virtual void remove(std::string_view name) = 0;
 };

@@ -79,6 +79,17 @@ TEST_F(RecordFolderTest, RemovesWhatIsThere) {
   folder.remove("none.record");
 }
 
+TEST_F(RecordFolderTest, KnowsWhichRecordsWereTried) {
+  folder.create();
+  const std::string name = folder.create().name;
+  folder.markTried(name);
+  ASSERT_EQ(folder.records().size(), 2U);
+  for (const FoundRecord& record : folder.records()) EXPECT_EQ(record.tried, record.name == name);
+  folder.remove(name);
+  EXPECT_FALSE(folder.records().at(0).tried);
+  EXPECT_EQ(std::distance(fs::directory_iterator(path), fs::directory_iterator()), 1);
+}
+
 TEST_F(RecordFolderTest, LeavesOtherFilesAlone) {
   folder.create();
   test::writeFile(path / "notes.txt", "mine");

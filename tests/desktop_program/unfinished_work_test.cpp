@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 
 #include "adapters/posix/posix_record_folder.h"
@@ -239,6 +240,42 @@ TEST_F(UnfinishedWorkTest, WithADamagedCatalogueIsToldAndStays) {
   EXPECT_NE(told.find("Запись прежней работы не читается: файл повреждён."), told.npos) << told;
   close();
   EXPECT_EQ(folder.records().size(), 1U);
+}
+
+TEST_F(UnfinishedWorkTest, ThatCantGoOnHidesNoOther) {
+  work();
+  crash();
+  const fs::path older = path / folder.records()[0].name;
+  answerNext("О&тложить", &asked);
+  open(onLineOptions(service));
+  form().txtNrAwiza.userType("ТН-7");
+  crash();
+  // Two records of unsent work: the newer one is damaged.
+  std::string newer;
+  for (const FoundRecord& record : folder.records()) {
+    if (path / record.name != older) newer = record.name;
+  }
+  ASSERT_FALSE(newer.empty());
+  std::vector<journal::Record> entries = journal::wholeRecords(readFile(path / newer)).records;
+  std::string bytes = journal::fileBeginning();
+  for (journal::Record& entry : entries) {
+    if (entry.kind == journal::RecordKind::digest) entry.numbers.at(0) ^= 1;
+    bytes += journal::framed(entry);
+  }
+  writeFile(path / newer, bytes);
+  fs::last_write_time(older, fs::last_write_time(path / newer) - std::chrono::minutes(1));
+
+  answerNext("&Продолжить", &asked);
+  show(onLineOptions(service));
+  StartPage& page = waitForStartPage().page();
+  EXPECT_NE(asked.find("ТН-7"), asked.npos) << asked;
+  EXPECT_TRUE(page.lblUnfinished.caption().starts_with("ТН-6")) << page.lblUnfinished.caption();
+  close();
+  openAgain("&Продолжить");
+  EXPECT_NE(asked.find("ТН-6"), asked.npos) << asked;
+  EXPECT_EQ(form().txtNrAwiza.text(), "ТН-6");
+  close();
+  EXPECT_EQ(folder.records().size(), 1U) << "what failed stays";
 }
 
 TEST_F(UnfinishedWorkTest, IsReplayedByTheHeadlessProgramToo) {

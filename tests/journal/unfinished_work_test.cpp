@@ -24,6 +24,7 @@ struct MemoryFolder : RecordFolder {
     std::int64_t changed = 0;
     bool inUse = false;
     std::vector<TextBeside> texts = {};
+    bool tried = false;
   };
   std::map<std::string, Entry, std::less<>> entries;
   std::map<std::string, std::string, std::less<>> texts;
@@ -31,7 +32,8 @@ struct MemoryFolder : RecordFolder {
   std::vector<FoundRecord> records() override {
     std::vector<FoundRecord> found;
     for (const auto& [name, entry] : entries) {
-      found.push_back({name, entry.bytes.size(), entry.changed, entry.inUse, entry.texts});
+      found.push_back(
+          {name, entry.bytes.size(), entry.changed, entry.inUse, entry.texts, entry.tried});
     }
     return found;
   }
@@ -42,6 +44,7 @@ struct MemoryFolder : RecordFolder {
     if (found == texts.end()) throw errors::fileNotFound();
     return found->second;
   }
+  void markTried(std::string_view name) override { entries.find(name)->second.tried = true; }
   void remove(std::string_view name) override { entries.erase(entries.find(name)); }
 
   std::vector<std::string> names() const {
@@ -84,6 +87,22 @@ TEST(UnfinishedWork, IsTheNewestThatNobodyWritesNow) {
   EXPECT_EQ(work->summary, unsent);
   EXPECT_FALSE(work->mayHaveArrived);
   EXPECT_EQ(folder.names(), (Names{"a", "b", "c"}));
+}
+
+TEST(UnfinishedWork, ThatWasTriedHidesNoOther) {
+  MemoryFolder folder;
+  folder.entries = {
+      {"a", {recordOf(unsent), 10}}, {"b", {recordOf(unsent), 20}}, {"c", {recordOf(unsent), 30}}};
+  folder.markTried("c");
+  EXPECT_EQ(journal::unfinishedWork(folder)->record, "b");
+  folder.markTried("b");
+  EXPECT_EQ(journal::unfinishedWork(folder)->record, "a");
+  EXPECT_FALSE(journal::unfinishedWork(folder)->tried);
+  folder.markTried("a");
+  EXPECT_EQ(journal::unfinishedWork(folder)->record, "c");
+  EXPECT_TRUE(journal::unfinishedWork(folder)->tried);
+  journal::keepWithin(folder, 2 * folder.entries["a"].bytes.size());
+  EXPECT_EQ(folder.names(), (Names{"b", "c"})) << "the oldest goes, tried or not";
 }
 
 TEST(UnfinishedWork, MayHaveArrivedWhereTheAnswerNeverCame) {

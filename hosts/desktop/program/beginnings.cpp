@@ -71,6 +71,8 @@ void MainWindow::giveUp(const std::string& record) {
 }
 
 bool MainWindow::goOnWith(const journal::UnfinishedWork& work) {
+  // A replay that fails must not hide other work at each start.
+  caughtError([&] { records_->markTried(work.record); });
   try {
     replayed_ = journal::keptSession(*records_, work.record);
   } catch (const RunTimeError& error) {
@@ -146,7 +148,9 @@ void MainWindow::showStartPage(const std::string& why) {
     });
   };
   page.onAgain = [this, later] { later([this] { makeSession(); }); };
-  if (!replayHasFailed_) page.offer(workLeftBehind());
+  const auto work = workLeftBehind();
+  // What has just failed would fail again.
+  if (!replayHasFailed_ || (work && !work->tried)) page.offer(work);
   showPart(startPage_);
   setWindowTitle(fromText(page.caption()));
   page.show(why, namesSession(options_));
