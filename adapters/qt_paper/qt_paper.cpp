@@ -30,7 +30,23 @@ QFont fontOf(bool bold) {
 
 QPageLayout layoutOf(const papers::PageSize& size) {
   const QPageSize paper(QSizeF(size.width, size.height), QPageSize::Millimeter);
-  return {paper, QPageLayout::Portrait, QMarginsF()};
+  QPageLayout layout(paper, QPageLayout::Portrait, QMarginsF());
+  // A page begins at the sheet's edge, not within the margins of the printer.
+  layout.setMode(QPageLayout::FullPageMode);
+  return layout;
+}
+
+/// Whether the device prints on such paper. On other paper bars would get another width, or be cut
+/// off.
+bool takesPaper(QPagedPaintDevice& device, const papers::PageSize& size) {
+  if (device.setPageLayout(layoutOf(size))) return true;
+  // It may have its own measures of the same paper, in whole points.
+  constexpr double sameWithin = 1;
+  const QPageLayout layout = device.pageLayout();
+  const QSizeF paper = layout.fullRect(QPageLayout::Millimeter).size();
+  return layout.mode() == QPageLayout::FullPageMode &&
+         std::abs(paper.width() - size.width) <= sameWithin &&
+         std::abs(paper.height() - size.height) <= sameWithin;
 }
 
 }  // namespace
@@ -78,7 +94,7 @@ bool printPages(const papers::Pages& pages, QPagedPaintDevice& device) {
   QPainter painter;
   for (const papers::Page& page : pages) {
     const bool isFirst = &page == pages.data();
-    device.setPageLayout(layoutOf(page.size));
+    if (!takesPaper(device, page.size)) return false;
     if (isFirst ? !painter.begin(&device) : !device.newPage()) return false;
     paintPage(painter, page, device.logicalDpiX() / inch);
   }

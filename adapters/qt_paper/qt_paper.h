@@ -35,6 +35,7 @@ void paintPage(QPainter& painter, const papers::Page& page, double pixelsPerMill
 std::string pdfOf(const papers::Pages& pages, const std::string& title);
 
 /// The same onto a device that can change its paper, such as a printer; answers whether all went.
+/// Nothing does onto other paper.
 bool printPages(const papers::Pages& pages, QPagedPaintDevice& device);
 
 }  // namespace awizo

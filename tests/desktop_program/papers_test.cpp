@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QPdfWriter>
+#include <QPrinter>
 #include <QTimer>
 
 #include "desktop_program/program_test.h"
@@ -124,6 +125,73 @@ TEST_F(PapersTest, PrintsWhatIsShown) {
   maker().hasPrinter = [] { return true; };
   maker().choosePrinter = printingInto(target);
   during([this] { maker().show(Paper::packingList); }, [this] { dialog().btnPrint.userClick(); });
+  EXPECT_TRUE(readFile(target).starts_with("%PDF-"));
+}
+
+/// Tells how the paper was when it went.
+class WatchedPrinter final : public QPrinter {
+ public:
+  WatchedPrinter(const std::string& file, QPageLayout& seen)
+      : QPrinter(QPrinter::HighResolution), seen_(seen) {
+    setOutputFormat(QPrinter::PdfFormat);
+    setOutputFileName(QString::fromStdString(file));
+  }
+  ~WatchedPrinter() override { seen_ = pageLayout(); }
+
+ private:
+  QPageLayout& seen_;
+};
+
+TEST_F(PapersTest, APrinterPrintsFromTheEdgeOfTheSheet) {
+  open(offLineOptions());
+  const std::string target = (place.folder() / "printed.pdf").string();
+  QPageLayout seen;
+  maker().hasPrinter = [] { return true; };
+  maker().choosePrinter = [&](const QString&) {
+    return std::make_unique<WatchedPrinter>(target, seen);
+  };
+  during([this] { maker().show(Paper::packingList); }, [this] { dialog().btnPrint.userClick(); });
+  EXPECT_TRUE(readFile(target).starts_with("%PDF-"));
+  EXPECT_EQ(seen.mode(), QPageLayout::FullPageMode);
+  EXPECT_EQ(seen.paintRectPoints(), QRect(0, 0, 595, 842));
+}
+
+/// A printer with paper of its own measures.
+class OwnPaperWriter final : public QPdfWriter {
+ public:
+  OwnPaperWriter(const std::string& file, const QSizeF& millimetres)
+      : QPdfWriter(QString::fromStdString(file)), own_(millimetres, QPageSize::Millimeter) {}
+  bool setPageLayout(const QPageLayout& layout) override {
+    QPageLayout own = layout;
+    own.setPageSize(own_);
+    QPdfWriter::setPageLayout(own);
+    return false;
+  }
+
+ private:
+  QPageSize own_;
+};
+
+TEST_F(PapersTest, OnOtherPaperNothingIsPrinted) {
+  open(offLineOptions());
+  std::vector<std::string> boxes;
+  QSizeF paper;
+  const std::string target = (place.folder() / "printed.pdf").string();
+  maker().hasPrinter = [] { return true; };
+  maker().choosePrinter = [&](const QString&) {
+    return std::make_unique<OwnPaperWriter>(target, paper);
+  };
+  const auto print = [&, this] {
+    during([this] { maker().show(Paper::packingList); },
+           [&, this] { boxes = answerWithEnter([this] { dialog().btnPrint.userClick(); }); });
+  };
+  paper = {100, 150};
+  print();
+  EXPECT_THAT(boxes, ::testing::ElementsAre(::testing::HasSubstr("Листы не напечатаны")));
+  EXPECT_FALSE(std::filesystem::exists(target) && readFile(target).starts_with("%PDF-"));
+  paper = {209.7, 296.7};
+  print();
+  EXPECT_THAT(boxes, ::testing::IsEmpty()) << "it is A4, as this printer has it";
   EXPECT_TRUE(readFile(target).starts_with("%PDF-"));
 }
 

@@ -42,8 +42,6 @@ PaperMaker::PaperMaker(const Editor& editor, Files& files, SettingsStore& settin
   };
   choosePrinter = [this](const QString& title) -> std::unique_ptr<QPagedPaintDevice> {
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    // A label that is fitted to other paper has bars of another width.
-    printer->setFullPage(true);
     printer->setDocName(title);
     const bool isChosen = QPrintDialog(printer.get(), &window_).exec() == QDialog::Accepted;
     return isChosen ? std::move(printer) : nullptr;
