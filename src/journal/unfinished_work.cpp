@@ -83,7 +83,8 @@ std::optional<UnfinishedWork> unfinishedWork(RecordFolder& folder) {
   std::vector<FoundRecord> records;
   // The session's own record will tell of a folder that nobody can use.
   caughtError([&] { records = leftBehind(folder); });
-  std::ranges::stable_partition(records, [](const FoundRecord& record) { return !record.tried; });
+  std::stable_partition(records.begin(), records.end(),
+                        [](const FoundRecord& record) { return !record.tried; });
   for (const FoundRecord& record : records) {
     try {
       const RecordedSession session = recordedSession(folder.read(record.name));
