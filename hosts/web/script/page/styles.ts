@@ -94,6 +94,8 @@ button:disabled { color: var(--awizo-pale); cursor: default; }
 .over input { padding: 2px 6px; min-height: 30px; }
 dialog { color: inherit; background: var(--awizo-ground); border: 1px solid var(--awizo-line); border-radius: 10px;
   padding: 0 16px 6px; width: min(900px, calc(100vw - 16px)); max-height: calc(100dvh - 16px); }
+/* The buttons that stick to its foot lie over no field that has the focus. */
+dialog:has(> .form > .beside:last-child) { scroll-padding-bottom: 100px; }
 dialog .beside > .field:has(select[size="8"]) { flex-basis: 220px; }
 dialog .form > .beside:last-child { position: sticky; bottom: -6px; z-index: 3; padding: 10px 0; background: var(--awizo-ground); }
 dialog.box { width: min(480px, calc(100vw - 16px)); }

@@ -106,6 +106,22 @@ await withPage(async (page) => {
   await say({ get: "grdPozycje" });
   assert.equal(await user.editor.locator("dialog").count(), 0);
 
+  // The buttons that stick to a dialog's foot lie over no field that has the focus.
+  await page.setViewportSize({ width: 800, height: 420 });
+  await user.control("btnDodaj").click();
+  await user.dialog("DlgDodaj").waitFor();
+  const covered = await user.dialog("DlgDodaj").evaluate((dialog) => [...dialog.querySelectorAll("input")].filter((input) => {
+    if (input.disabled || !input.checkVisibility()) return false;
+    input.focus();
+    const { left, bottom } = input.getBoundingClientRect();
+    return dialog.ownerDocument.querySelector("awizo-wysylki")!.shadowRoot!.elementFromPoint(left + 4, bottom - 4)
+      ?.closest(".form > .beside:last-child") != null;
+  }).map((input) => input.closest<HTMLElement>("[data-name]")!.dataset["name"]));
+  assert.deepEqual(covered, []);
+  await user.control("DlgDodaj.btnZamknij").click();
+  await user.dialog("DlgDodaj").waitFor({ state: "detached" });
+  await page.setViewportSize({ width: 1280, height: 900 });
+
   // A year of two figures.
   const date = user.control("txtEstimatedDeliveryDate").locator("input").first();
   await date.fill("1.12.26");
