@@ -39,6 +39,15 @@ std::vector<Table*> scannedTables(AwizoForm& form) {
   return {&form.grdPozycje, &form.grdOpakowania};
 }
 
+std::vector<Button*> scannedButtons(AwizoForm& form) {
+  std::vector<Button*> buttons;
+  for (Control* control : form.controls()) {
+    auto* button = dynamic_cast<Button*>(control);
+    if (button != nullptr && button->isFocusable()) buttons.push_back(button);
+  }
+  return buttons;
+}
+
 const ScannedField* ScannedTyping::find(const Control* control) const {
   const auto found = std::ranges::find(fields_, control, &ScannedField::control);
   return found == fields_.end() ? nullptr : &*found;

@@ -25,6 +25,9 @@ struct ScannedField {
 std::vector<ScannedField> scannedFields(AwizoWysylki& control);
 /// Tables in which a scanned code leads to its row.
 std::vector<Table*> scannedTables(AwizoForm& form);
+/// Buttons that keep the focus after a click: a code scanned there leads to its row too. Its digits
+/// are nothing to a button, but the Enter behind them would press it.
+std::vector<Button*> scannedButtons(AwizoForm& form);
 
 /// Types into the scanned fields for a client with fields of its own, which hands over what is
 /// typed where nothing else would be in the field: what a scanner types before a number never

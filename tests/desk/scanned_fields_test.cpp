@@ -55,6 +55,14 @@ TEST_F(ScannedFieldsTest, AreThePackagesNumberAndTheProductsEan) {
   EXPECT_EQ(typing.find(nullptr), nullptr);
 }
 
+TEST_F(ScannedFieldsTest, AButtonThatKeepsTheFocusIsScannedOnToo) {
+  const std::vector<Button*> buttons = scannedButtons(form);
+  EXPECT_THAT(buttons, ::testing::Contains(&form.btnUsun));
+  EXPECT_THAT(buttons, ::testing::Contains(&form.btnUsunOpak));
+  EXPECT_THAT(buttons, ::testing::Not(::testing::Contains(&form.btnZapisz)))
+      << "a picture button takes no focus";
+}
+
 TEST_F(ScannedFieldsTest, ThePackagesNumberComesWithoutTheScannersMarks) {
   inPackage([this] {
     for (const char* scanned : {"(00)395200010000000011", "]C100395200010000000011",

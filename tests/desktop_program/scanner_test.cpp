@@ -119,6 +119,20 @@ TEST_F(ScannerTest, AScannedEanPutsAUnitInOnlyWhileTheSwitchIsOn) {
   EXPECT_EQ(packed(1), "1,000");
 }
 
+TEST_F(ScannerTest, ACodeScannedOnAButtonPressesItNot) {
+  open(offLineOptions());
+  addLine("Чай", "2");
+  addLine("Кофе", "2");
+  tabTo(form().btnUsun);
+  type("4607000000116");
+  press(Qt::Key_Return);
+  EXPECT_EQ(control().editor.session.LineCount, 2);
+  EXPECT_EQ(form().focus(), &form().grdPozycje) << "it leads to the line";
+  tabTo(form().btnUsun);
+  press(Qt::Key_Return);
+  EXPECT_EQ(control().editor.session.LineCount, 1) << "Enter alone presses";
+}
+
 TEST_F(ScannerTest, TheSwitchIsKeptForTheNextStart) {
   open(offLineOptions());
   entry("Сканер кладё&т в упаковку")->trigger();

@@ -15,6 +15,7 @@ Finder::Finder(const Editor& editor, FormFace& faces)
   for (const Table* table : scannedTables(editor.form)) {
     listen(*faces.table(*table).view());
   }
+  for (const Button* button : scannedButtons(editor.form)) listen(*faces.widget(*button));
 }
 
 void Finder::find() {
