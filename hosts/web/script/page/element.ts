@@ -16,7 +16,7 @@ import type { Host } from "./face.ts";
 import { FormView } from "./form_view.ts";
 import { Guide } from "./guide.ts";
 import { dialogs, mainForm, startPage } from "./layouts.ts";
-import { computerButton, fetchFile, handOut, handOutTable } from "./own_disk.ts";
+import { askToKeepFiles, computerButton, fetchFile, handOut, handOutTable } from "./own_disk.ts";
 import { PackingPane } from "./packing_pane.ts";
 import { printSheets } from "./sheets.ts";
 import { localeOf, startOf } from "./start.ts";
@@ -30,6 +30,7 @@ import { WorkBox } from "./work_box.ts";
 const mainName = "AwizoWysylki";
 const startName = "StartPage";
 const papersName = "PapersDialog";
+const numbersName = "NumberRangeDialog";
 const linesTable = "grdPozycje";
 const tables = [linesTable, "grdOpakowania"];
 /// A column of both tables that is always seen: the name.
@@ -114,6 +115,7 @@ export class AwizoWysylki extends ControlElement {
   /// Tells what is being done where all else is inert.
   private readonly heard = make("output", { class: "heard", lang: "ru" });
   private isUnsent = false;
+  private hasAskedToKeep = false;
   private startsAgain = false;
   private typedInto: TypedInto = { fields: [], tables: [], lists: [] };
   private standingTimer: ReturnType<typeof setTimeout> | undefined;
@@ -231,6 +233,7 @@ export class AwizoWysylki extends ControlElement {
       case "steps":
         return this.strip.showSteps(event);
       case "saved":
+        this.keepFiles();
         void handOut(event.path);
         return;
       case "sheet":
@@ -412,10 +415,17 @@ export class AwizoWysylki extends ControlElement {
     await this.guide.open(closing.ok ? String(closing.value) : "");
   }
 
+  /// The user has just laid something down there, and knows why a browser asks. Once is enough.
+  private keepFiles(): void {
+    if (!this.hasAskedToKeep) askToKeepFiles();
+    this.hasAskedToKeep = true;
+  }
+
   private closeForm(name: string): void {
     const at = this.shown.findIndex((shown) => shown.name === name);
     if (at < 0) return;
     this.shown.splice(at, 1)[0]!.element.remove();
+    if (name === numbersName) this.keepFiles();
   }
 
   private openBox(box: Box): void {

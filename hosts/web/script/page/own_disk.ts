@@ -34,6 +34,11 @@ async function take(file: File, bring: Bring): Promise<void> {
   }
 }
 
+/// A browser that is short of room clears what it wasn't asked to keep. Firefox asks the user in its turn.
+export function askToKeepFiles(): void {
+  navigator.storage?.persist?.().catch(() => undefined);
+}
+
 /// Lets the user choose a file of the computer. The field for that stands in the place meanwhile, as do
 /// words on a file that couldn't be taken.
 export function fetchFile(place: ParentNode, bring: Bring): void {

@@ -31,7 +31,15 @@ await withPage(async (page) => {
     await page.waitForFunction(([input, wanted]) => input.value === wanted, [field, number] as const);
   };
 
+  // Whether the files are kept when room is short is asked at the first saving, not at the start.
+  await page.addInitScript(() => {
+    const counted = Object.assign(globalThis, { asks: 0 });
+    // An empty page has no files.
+    if ("StorageManager" in globalThis) StorageManager.prototype.persist = async () => ++counted.asks > 0;
+  });
+  const asks = () => page.evaluate(() => (globalThis as unknown as { asks: number }).asks);
   await user.open();
+  assert.equal(await asks(), 0);
   await user.field("txtNrAwiza").fill(oldNumber);
   await user.addPackage("Паллета 1", "035200010000000016");
   const saved = await handedOut(page, "Подтверждение_отгрузки_ТН_8.xml", async () => {
@@ -43,6 +51,7 @@ await withPage(async (page) => {
     await user.control("DlgWczytajZapisz.ImageZapisz").click();
   });
   assert.ok(saved.includes(oldNumber) && saved.includes("035200010000000016"), saved.slice(0, 500));
+  assert.equal(await asks(), 1);
 
   const other = Buffer.from(saved.replaceAll(oldNumber, newNumber));
   await user.control("btnWczytaj").click();
