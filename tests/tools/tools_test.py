@@ -209,6 +209,7 @@ class LastWord(Scripts):
         self.program("tools/build", "")
         (self.place / "hosts/web").mkdir(parents=True)
         self.program("hosts/web/write_words.py", "")
+        self.program("hosts/web/write_guide.py", "")
         (self.place / "hosts/web/package-lock.json").write_text("{}")
         (self.place / "hosts/web/node_modules").mkdir()
         (self.place / "build/wasm").mkdir(parents=True)

@@ -144,7 +144,7 @@ await withPage(async (page) => {
   assert.equal(((await say({ get: "txtEstimatedDeliveryDate" })) as { date: string }).date, "2026-12-03");
 
   // While a document is on its way nothing can be done.
-  await makeFaulty("upload=slow:1500");
+  await makeFaulty("upload=slow:3000");
   const number = user.field("txtNrAwiza");
   await number.fill("ТН/5");
   await user.addPackage("Паллета 1", "035200010000000016");
@@ -158,11 +158,12 @@ await withPage(async (page) => {
   assert.ok(await question.isVisible());
   await user.answer("No");
   await question.waitFor({ state: "detached" });
-  const sending = user.send();
-  await user.editor.locator("main[inert]").waitFor();
-  await user.editor.locator("output.heard:not([inert])", { hasText: /./ }).waitFor({ state: "attached" });
-  await page.keyboard.type("99");
-  await sending;
+  const typing = async () => {
+    await user.editor.locator("main[inert]").waitFor();
+    await user.editor.locator("output.heard:not([inert])", { hasText: /./ }).waitFor({ state: "attached" });
+    await page.keyboard.type("99");
+  };
+  await Promise.all([user.send(), typing()]);
   await user.editor.locator("main:not([inert])").waitFor();
   assert.equal(await number.inputValue(), "ТН/5");
   await focusIs(((await say({ get: "focus" })) as string) ?? "");
