@@ -187,6 +187,8 @@ void Tape::end(bool whole) {
 }
 
 bool Tape::digestIsDue() const {
+  // A control that was only made shows the time of its own making in fields that nobody has seen.
+  if (place_.deeds == 0) return false;
   return actsSinceDigest_ >= std::clamp(place_.deeds / 4, std::size_t{1}, mostActsPerDigest);
 }
 

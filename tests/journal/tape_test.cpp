@@ -114,6 +114,17 @@ TEST(Tape, AStartOfAnotherStateStopsToo) {
   EXPECT_THROW(replayed.recording->start(), journal::ReplayDiffers);
 }
 
+/// Its pickers show the time at which it was made, which a replay can't have.
+TEST(Tape, AControlThatWasOnlyMadeProvesNothing) {
+  MemoryRecord record;
+  TapedControl recorded(&record);
+  recorded.desk.prepareFolder();
+  recorded.recording->start();
+  EXPECT_EQ(std::ranges::count_if(sessionIn(record).records, isDigest), 0);
+  recorded.show();
+  EXPECT_EQ(std::ranges::count_if(sessionIn(record).records, isDigest), 1);
+}
+
 TEST(Tape, ADigestProvesAllButTheLastActs) {
   MemoryRecord record;
   TapedControl recorded(&record);
