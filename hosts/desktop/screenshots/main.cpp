@@ -15,6 +15,7 @@
 #include "hosts/common/machine/machine.h"
 #include "hosts/desktop/screenshots/demo_http.h"
 #include "hosts/desktop/screenshots/demo_user.h"
+#include "hosts/desktop/screenshots/offscreen_screen.h"
 #include "hosts/desktop/window/start_page_widget.h"
 
 namespace {
@@ -115,18 +116,6 @@ QString takeOption(QStringList& given, const QString& name) {
   return value;
 }
 
-/// The screen that isn't there, as Qt is told of it by a file.
-void useScreen(QTemporaryFile& file, QSize size) {
-  if (!file.open()) return;
-  file.write(QString(R"({"screens": [{"name": "desk", "x": 0, "y": 0, "width": %1, "height": %2,
-                         "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
-                 .arg(size.width())
-                 .arg(size.height())
-                 .toUtf8());
-  file.flush();
-  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
-}
-
 void useFont(double points) {
   QFont font = QApplication::font();
   font.setPointSizeF(points);
@@ -141,7 +130,10 @@ int main(int argumentCount, char** arguments) {
   const bool isSized = sides.size() == 2;
   const QSize size = isSized ? QSize(sides[0].toInt(), sides[1].toInt()) : QSize(1024, 700);
   QTemporaryFile screen;
-  useScreen(screen, isSized ? size : QSize(1920, 1080));
+  if (!desktop::useOffscreenScreen(screen, isSized ? size : QSize(1920, 1080))) {
+    std::cerr << "The file that tells the screen's size could not be written.\n";
+    return 1;
+  }
   // What the platform can't do without a screen isn't worth a line each time.
   qputenv("QT_LOGGING_RULES", "default.warning=false");
   QApplication application(argumentCount, arguments);

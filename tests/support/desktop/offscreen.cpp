@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "hosts/desktop/screenshots/offscreen_screen.h"
+
 namespace awizo::test {
 namespace {
 
@@ -18,23 +20,11 @@ void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
   if (type == QtFatalMsg) std::abort();
 }
 
-/// Qt is told of its screens by a file.
-void useScreen(QTemporaryFile& file, QSize size) {
-  if (!file.open()) std::abort();
-  file.write(QString(R"({"screens": [{"name": "test", "x": 0, "y": 0, "width": %1, "height": %2,
-                         "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
-                 .arg(size.width())
-                 .arg(size.height())
-                 .toUtf8());
-  file.flush();
-  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
-}
-
 }  // namespace
 
 int runOffscreen(int count, char** arguments, QSize screen) {
   QTemporaryFile screens;
-  useScreen(screens, screen);
+  if (!desktop::useOffscreenScreen(screens, screen)) std::abort();
   // The user's own style and platform theme would change sizes and colours.
   qputenv("QT_QPA_PLATFORMTHEME", "");
   qInstallMessageHandler(keepQuiet);
